@@ -1,0 +1,40 @@
+#include "calc/ChartNames.h"
+
+#include <cassert>
+
+std::int16_t GetChartTypeNumber(std::string_view name)
+{
+    for (std::size_t i = 0; i < ChartTypeNames.size(); ++i)
+    {
+        if (ChartTypeNames[i] == name)
+        {
+            return static_cast<std::int16_t>(i);
+        }
+    }
+    return 0;
+}
+
+std::string ChartCaption(const ChartKey& chart)
+{
+    assert(chart.ChartType >= 0 && chart.ChartType < 4);
+    std::string caption(ChartTypeNames[static_cast<std::size_t>(chart.ChartType)]);
+    caption.append("(").append(chart.XAxisName).append(",").append(chart.YAxisName).append(")");
+    return caption;
+}
+
+/// Cuts `text` at the first `mark`: returns what stands before it and leaves what follows.
+static std::string_view CutAt(std::string_view& text, char mark)
+{
+    const auto end = std::min(text.find(mark), text.size());
+    const auto head = text.substr(0, end);
+    text.remove_prefix(std::min(end + 1, text.size()));
+    return head;
+}
+
+ChartKey ChartOfCaption(std::string_view caption)
+{
+    const auto type = GetChartTypeNumber(CutAt(caption, '('));
+    const auto xAxisName = CutAt(caption, ',');
+    const auto yAxisName = CutAt(caption, ')');
+    return {type, std::string(xAxisName), std::string(yAxisName)};
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+/// The store of all plotted lines of all chart windows.
+
+#include "calc/ChartRecord.h"
+
+#include <span>
+#include <string_view>
+#include <vector>
+
+/// What tells charts apart: lines that agree in these three belong to the same chart window.
+struct ChartKey
+{
+    std::int16_t ChartType = 0;
+    std::string XAxisName;
+    std::string YAxisName;
+
+    bool operator==(const ChartKey&) const = default;
+};
+
+/// The chart that a line belongs to.
+ChartKey KeyOf(const ChartRecord& record);
+
+/// All plotted lines in the order of plotting. Records 0 to `CurrentChart` - 1 are plotted lines; the
+/// record at `CurrentChart`, where there is one, is the working record of a command under way or empty.
+class ChartStore
+{
+public:
+    /// The records; never fewer than one.
+    std::vector<ChartRecord> ChartData = std::vector<ChartRecord>(1);
+    /// The index at which the next line is written: the number of plotted lines.
+    std::int16_t CurrentChart = 0;
+
+    /// The plotted lines, without the working record.
+    std::span<const ChartRecord> Lines() const;
+    std::span<ChartRecord> Lines();
+
+    /// How many plotted lines the chart has.
+    int CountSameCharts(const ChartKey& key) const;
+
+    /// Grows the store to `CurrentChart` and puts the record there; `CurrentChart` stays.
+    void Write(ChartRecord record);
+
+    /// Empties the working record, as after a refused, cancelled or failed command.
+    void EmptyWorkingRecord();
+
+    /// Removes every line of the chart; the other lines keep their order at lower indices.
+    /// Without lines the store is one empty record. Returns the number of removed lines.
+    int RemoveChart(const ChartKey& key);
+};

@@ -1,0 +1,42 @@
+#pragma once
+
+/// Numbers as the user reads and types them, the same in every locale.
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// Shortest decimal text that reads back to the same single: plain digits while 1e-6 <= |v| < 1e15,
+/// else with an exponent.
+///
+///     NumberText(2.5F)      // "2.5"
+///     NumberText(1e7F)      // "10000000"
+///     NumberText(1.5e-7F)   // "1.5E-07"
+///     NumberText(1e15F)     // "1E+15"
+std::string NumberText(float value);
+
+/// Text of a tick at `value` on an axis that spans `range`: number text of the value rounded to six
+/// significant digits, "0" for what is smaller than a millionth of the range.
+std::string TickText(double value, double range);
+
+/// The number formats of charts, panes and data files. Rounding is half away from zero on the shortest
+/// decimal of the value.
+enum class NumberFormat
+{
+    ScientificTwo,   ///< "0.00E+00": 1.00E+03, -1.50E+01
+    ScientificShort, ///< "#.00E+##": 1.00E+4, 1.25E-1
+    PaneValue,       ///< "##.###": 12.3, 12, .5
+    ReadOut,         ///< "0.###": 12, 0.5
+    WholeTick,       ///< "#####0": 12, 0
+    FractionTick,    ///< "0.#####": 0.00125, 12
+};
+
+/// The value in one of the formats; a single's shortest decimal is what gets rounded.
+std::string FormatNumber(float value, NumberFormat format);
+
+/// The value of an entry, or nothing when it is not numeric.
+///
+/// Numeric is an optional sign, digits, at most one decimal sign and an optional exponent, with blanks
+/// around it. The decimal sign is a point, and a comma as well where `commaIsDecimal`. A number that does
+/// not fit a single is numeric: infinite when too large, zero when too small.
+std::optional<float> ReadEntry(std::string_view text, bool commaIsDecimal = false);

@@ -1,0 +1,45 @@
+#pragma once
+
+/// What a chart is drawn on: a window, a printed page, a picture file.
+
+#include <QColor>
+#include <QPointF>
+#include <QString>
+
+#include <span>
+
+/// The user scale of a surface: the coordinates of its left and top edge, and its extent in user units;
+/// a negative height makes y point upwards.
+struct UserScale
+{
+    double ScaleLeft;
+    double ScaleTop;
+    double ScaleWidth;
+    double ScaleHeight;
+};
+
+/// A surface with a user scale. Positions and extents are in user units throughout.
+class ChartSurface
+{
+public:
+    virtual ~ChartSurface() = default;
+
+    /// A straight line, one device-independent pixel wide.
+    virtual void Line(double x1, double y1, double x2, double y2, const QColor& color) = 0;
+
+    /// A run of connected curve points.
+    virtual void Polyline(std::span<const QPointF> points, const QColor& color) = 0;
+
+    /// One line of text whose upper left corner is at the position.
+    virtual void Text(double x, double y, const QString& text, const QColor& color) = 0;
+
+    /// One line of text that reads upwards, centred on the position.
+    virtual void TextUpwards(double x, double y, const QString& text, const QColor& color) = 0;
+
+    /// Width and height of a line of text, in user units, both positive.
+    virtual double TextWidth(const QString& text) const = 0;
+    virtual double TextHeight() const = 0;
+
+    /// The user scale in force.
+    virtual const UserScale& Scale() const = 0;
+};

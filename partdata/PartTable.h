@@ -1,0 +1,51 @@
+#pragma once
+
+/// The part table: every capacitor of the range, and the ways to look one up.
+
+#include "partdata/KeyedCollection.h"
+#include "partdata/PartRecord.h"
+
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+/// The parts in index-file order with their lookup maps. Filled once, read-only afterwards; movable only,
+/// since all texts are views into the index text that it holds.
+struct PartTable
+{
+    std::vector<PartRecord> PartData;
+    /// Highest index of `PartData`; -1 for an empty range.
+    std::int16_t PartMax = -1;
+    /// `PartIndex[k]` maps `PartNum[k]` to the index in `PartData`.
+    std::array<KeyedCollection<std::int16_t>, PartNumForms> PartIndex;
+    /// `SizeCodeMap[j]` maps the size code of the other naming to the one of naming j.
+    std::array<KeyedCollection<std::string_view>, CodeForms> SizeCodeMap;
+    /// `TccMap[j]` maps the temperature characteristic of the other naming to the one of naming j.
+    std::array<KeyedCollection<std::string_view>, CodeForms> TccMap;
+
+    PartTable() = default;
+    PartTable(PartTable&&) = default;
+    PartTable& operator=(PartTable&&) = default;
+    PartTable(const PartTable&) = delete;
+    PartTable& operator=(const PartTable&) = delete;
+
+    /// Text of the index file, which the views point into.
+    std::unique_ptr<char[]> indexText;
+};
+
+/// The separator between a program folder and a file name: the first character of a path that begins with
+/// a separator, the third of one that begins with a drive letter.
+char PathSepOf(std::string_view programFolder);
+
+/// Reads the first index file and the first data file, in alphabetical order, of the program's folder.
+///
+/// Throws RunTimeError with file, record and field: 53 without an index or data file, 62 for an index
+/// that ends within a record or a quote, 6 for more than 32,767 parts, 457 for a part number that
+/// stands twice in one form, 75 for a file that cannot be read.
+PartTable LoadPartData(const std::string& programFolder);
+
+/// Reads one pair of part files; as `LoadPartData`, for named files.
+PartTable ReadPartPair(const std::filesystem::path& indexFile, const std::filesystem::path& dataFile);

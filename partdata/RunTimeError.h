@@ -1,0 +1,54 @@
+#pragma once
+
+/// The one error type of the program: what went wrong, and where in which file.
+
+#include <exception>
+#include <string>
+
+/// Numbers of the run-time errors that the program raises.
+enum class RunTimeErrorNumber
+{
+    InvalidProcedureCall = 5,
+    Overflow = 6,
+    SubscriptOutOfRange = 9,
+    DivisionByZero = 11,
+    FileNotFound = 53,
+    DeviceIoError = 57,
+    DiskFull = 61,
+    InputPastEndOfFile = 62,
+    PermissionDenied = 70,
+    PathFileAccessError = 75,
+    PathNotFound = 76,
+    DuplicateKey = 457,
+    Cancelled = 65535,
+};
+
+/// The fixed description of an error number, for example 62 "Input past end of file".
+const char* DescriptionOf(RunTimeErrorNumber number);
+
+/// A run-time error: a number, a description and, where known, the place that caused it.
+///
+///     throw RunTimeError(RunTimeErrorNumber::DuplicateKey).At("parts.idx: record 17: PartNum(0)");
+///
+class RunTimeError : public std::exception
+{
+public:
+    explicit RunTimeError(RunTimeErrorNumber number);
+    RunTimeError(RunTimeErrorNumber number, std::string description);
+
+    /// The same error with its place: file, then record and field where known.
+    RunTimeError At(std::string place) const;
+
+    int Number() const { return number; }
+    const std::string& Description() const { return description; }
+    const std::string& Place() const { return place; }
+
+    /// One line: "Run-time error '62': Input past end of file: parts.idx: record 17: field 3".
+    const char* what() const noexcept override { return line.c_str(); }
+
+private:
+    int number;
+    std::string description;
+    std::string place;
+    std::string line;
+};

@@ -1,0 +1,44 @@
+# Shared by ./run and ./test: installing what is missing, formatting, building.
+
+build_packages=(g++ cmake ninja-build ccache qt6-base-dev libqt6svg6-dev qt6-qpa-plugins libgl-dev
+    libgmock-dev fonts-liberation fontconfig)
+test_packages=(clang-format xvfb xdotool)
+
+# Installs the Debian packages of the named groups that are not there yet.
+need() {
+    local wanted=() missing=() group name
+    for group in "$@"; do
+        case $group in
+            build) wanted+=("${build_packages[@]}") ;;
+            test) wanted+=("${test_packages[@]}") ;;
+        esac
+    done
+    for name in "${wanted[@]}"; do
+        dpkg-query -W -f='${Status}' "$name" 2>/dev/null | grep -q 'ok installed' || missing+=("$name")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || {
+            echo "These packages are missing, and there is no sudo to install them: ${missing[*]}" >&2
+            exit 1
+        }
+        as_root=(sudo)
+    fi
+    echo "Installing ${missing[*]}"
+    "${as_root[@]}" apt-get update -qq
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
+        "${missing[@]}" >/dev/null
+}
+
+# Fails, naming the files, when the sources are not formatted.
+check_format() {
+    git ls-files -z '*.cpp' '*.h' | xargs -0 -r clang-format --dry-run --Werror
+}
+
+# Configures and builds one preset; warnings are errors.
+configure_and_build() {
+    [ -f "build/$1/build.ninja" ] || cmake --preset "$1" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache >/dev/null
+    cmake --build --preset "$1" -- --quiet
+}
