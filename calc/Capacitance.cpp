@@ -1,0 +1,228 @@
+#include "calc/Capacitance.h"
+
+#include "calc/CapacitanceAxes.h"
+#include "calc/CheckedMath.h"
+#include "calc/Sweep.h"
+#include "partdata/SpecialParts.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace
+{
+/// Temperature of the coefficients, and the reference of the JIS view, in °C.
+constexpr double measuredAtC = 25;
+constexpr double jisReferenceC = 20;
+
+using PartData = std::array<float, DataValues>;
+
+/// a·x^6 + b·x^5 + ... + f·x, the six coefficients from `first` on; no constant term.
+double SixthDegree(const PartData& data, std::size_t first, double x)
+{
+    double sum = 0;
+    for (std::size_t i = first; i < first + 6; ++i)
+    {
+        sum = (sum + double{data[i]}) * x;
+    }
+    return sum;
+}
+
+/// a·V² + b·V + c, the three coefficients from `first` on.
+double Quadratic(const PartData& data, std::size_t first, double volts)
+{
+    return (data[first] * volts + data[first + 1]) * volts + data[first + 2];
+}
+
+/// Change by the bias alone, in percent.
+double BiasChange(const PartData& data, double volts)
+{
+    return SixthDegree(data, 3, volts);
+}
+
+/// Change by the temperature alone in the polynomial model, in percent.
+double TemperatureChange(const PartData& data, double celsius)
+{
+    return SixthDegree(data, 9, celsius - measuredAtC);
+}
+
+/// Two changes in percent, one upon the other.
+double Combined(double p, double b)
+{
+    return p * b / 100 + b + p;
+}
+
+double CapacitanceAt(double nominal, double change)
+{
+    return nominal * (change / 100 + 1);
+}
+
+/// How fast the bell falls on one side of its peak: exp(-Decay · distance^Exponent).
+struct Flank
+{
+    double Decay;
+    double Exponent;
+
+    double At(double distance) const { return std::exp(-Decay * CheckedPower(distance, Exponent)); }
+};
+
+/// The bell of the peaked model at one bias.
+struct Peak
+{
+    double Amplitude;
+    double Temperature;
+    double Offset;
+    Flank Below;
+    Flank Above;
+
+    double ChangeAt(double celsius) const
+    {
+        const Flank& flank = Temperature <= celsius ? Above : Below;
+        return Amplitude * flank.At(std::abs(celsius - Temperature)) + Offset;
+    }
+};
+
+Peak PeakAt(const PartData& data, double volts)
+{
+    return {.Amplitude = (BiasChange(data, volts) + 100) * data[15] / 100,
+            .Temperature = Quadratic(data, 17, volts),
+            .Offset = data[16],
+            .Below = {Quadratic(data, 20, volts), data[26]},
+            .Above = {Quadratic(data, 23, volts), data[27]}};
+}
+
+/// What the shown capacitance change refers to: the capacitance at 20 °C without bias, or nothing for the
+/// nominal capacitance.
+using Reference = std::optional<double>;
+
+Reference ReferenceOf(const PartData& data, CapacitanceModel model, CodeView view)
+{
+    if (view == CodeView::Eia)
+    {
+        return std::nullopt;
+    }
+    const double change = model == CapacitanceModel::Peaked ? PeakAt(data, 0).ChangeAt(jisReferenceC)
+                                                            : TemperatureChange(data, jisReferenceC);
+    return CheckedFinite(CapacitanceAt(data[1], change));
+}
+
+/// Smallest and largest of the stored values.
+struct Extremes
+{
+    float Largest = 0;
+    float Smallest = 0;
+};
+
+Extremes ExtremesOf(const CurveValues& values)
+{
+    const auto [smallest, largest] = std::ranges::minmax_element(values);
+    return {.Largest = *largest, .Smallest = *smallest};
+}
+
+/// One sweep of either kind: works out every point from the change that `changeAt` gives for its X.
+template <class ChangeAt>
+void StorePoints(Curve& curve, const SweepValues& sweep, double nominal, const Reference& reference,
+                 std::string_view yAxisName, ChangeAt changeAt)
+{
+    const bool isChange = yAxisName == CapacitanceChangeAxis;
+    for (std::size_t i = 0; i < CurvePoints; ++i)
+    {
+        double change = changeAt(sweep[i]);
+        const double capacitance = CheckedFinite(CapacitanceAt(nominal, change));
+        if (reference)
+        {
+            change = CheckedQuotient(capacitance - *reference, *reference) * 100;
+        }
+        curve.XData[i] = StoredSingle(sweep[i]);
+        curve.YData[i] = StoredSingle(isChange ? change : capacitance);
+    }
+    curve.HasPoints = isChange || yAxisName == CapacitanceAxis;
+}
+
+/// The finished curve: default limits around what was stored, or around 0 where nothing was.
+void SetLimits(Curve& curve, float xMax, float xMin, std::string_view yAxisName)
+{
+    const Extremes y = curve.HasPoints ? ExtremesOf(curve.YData) : Extremes{};
+    curve.Limits = SetCapacitanceAxes(xMax, xMin, y.Largest, y.Smallest, yAxisName);
+}
+} // namespace
+
+CapacitanceModel CapacitanceModelOf(const PartRecord& part)
+{
+    const auto tcc = part.Tcc[0];
+    if (IsSpecialPart(part.PartNum[0]) || tcc == "X7R" || tcc == "X5R")
+    {
+        return CapacitanceModel::Polynomial;
+    }
+    return tcc == "Y5V" ? CapacitanceModel::Peaked : CapacitanceModel::None;
+}
+
+TemperatureRange TemperatureRangeOf(std::string_view eiaTcc, CodeView view)
+{
+    const bool isJis = view == CodeView::Jis;
+    if (eiaTcc == "X7R")
+    {
+        return {.MaxC = 125, .MinC = -55};
+    }
+    if (eiaTcc == "X5R")
+    {
+        return {.MaxC = 85, .MinC = isJis ? -25.0F : -55.0F};
+    }
+    if (eiaTcc == "Y5V")
+    {
+        return {.MaxC = 85, .MinC = isJis ? -25.0F : -30.0F};
+    }
+    return {.MaxC = 0, .MinC = 0};
+}
+
+Curve CalcCapTemperature(const PartRecord& part, float biasVolts, std::string_view yAxisName, CodeView view)
+{
+    const auto& data = part.Data;
+    const auto model = CapacitanceModelOf(part);
+    const auto range = TemperatureRangeOf(part.Tcc[0], view);
+    Curve curve;
+    if (model != CapacitanceModel::None)
+    {
+        const auto sweep = LinearSweep(range.MinC, range.MaxC);
+        const auto reference = ReferenceOf(data, model, view);
+        if (model == CapacitanceModel::Peaked)
+        {
+            const Peak peak = PeakAt(data, biasVolts);
+            StorePoints(curve, sweep, data[1], reference, yAxisName,
+                        [&](double celsius) { return peak.ChangeAt(celsius); });
+        }
+        else
+        {
+            const double b = BiasChange(data, biasVolts);
+            StorePoints(curve, sweep, data[1], reference, yAxisName,
+                        [&](double celsius) { return Combined(TemperatureChange(data, celsius), b); });
+        }
+    }
+    SetLimits(curve, range.MaxC, range.MinC, yAxisName);
+    return curve;
+}
+
+Curve CalcCapDCVoltage(const PartRecord& part, float ambientC, std::string_view yAxisName, CodeView view)
+{
+    const auto& data = part.Data;
+    const auto model = CapacitanceModelOf(part);
+    Curve curve;
+    if (model != CapacitanceModel::None)
+    {
+        const auto sweep = LinearSweep(0, CheckedFinite(data[2]));
+        const auto reference = ReferenceOf(data, model, view);
+        if (model == CapacitanceModel::Peaked)
+        {
+            StorePoints(curve, sweep, data[1], reference, yAxisName,
+                        [&](double volts) { return PeakAt(data, volts).ChangeAt(ambientC); });
+        }
+        else
+        {
+            const double p = TemperatureChange(data, ambientC);
+            StorePoints(curve, sweep, data[1], reference, yAxisName,
+                        [&](double volts) { return Combined(p, BiasChange(data, volts)); });
+        }
+    }
+    SetLimits(curve, data[2], 0, yAxisName);
+    return curve;
+}

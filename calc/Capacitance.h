@@ -1,0 +1,44 @@
+#pragma once
+
+/// Capacitance of a part over temperature and over DC bias voltage.
+///
+/// The curves follow one of two models of the capacitance change c in percent, with B(V) the change by the
+/// bias alone. Polynomial: c = P(T - 25) combined with B(V). Peaked: a bell around a peak temperature Tp(V),
+/// c = (B(V) + 100) · A / 100 · exp(-k(V) · |T - Tp(V)|^n) + offset, with its own k and n on either side.
+/// In the JIS view the change refers to the capacitance at 20 °C without bias, else to the nominal one.
+
+#include "calc/Curve.h"
+#include "partdata/PartRecord.h"
+
+#include <string_view>
+
+/// How the capacitance of a part is modelled.
+enum class CapacitanceModel
+{
+    None,
+    Polynomial,
+    Peaked,
+};
+
+/// Polynomial for the special parts and the characteristics X7R and X5R, peaked for Y5V, none for the rest.
+CapacitanceModel CapacitanceModelOf(const PartRecord& part);
+
+/// Ends of the temperature sweep in °C.
+struct TemperatureRange
+{
+    float MaxC;
+    float MinC;
+};
+
+/// The range of a characteristic by its EIA name; 0 to 0 for one that is not listed.
+TemperatureRange TemperatureRangeOf(std::string_view eiaTcc, CodeView view);
+
+/// Capacitance (pF) or capacitance change (%), as `yAxisName` says, over the temperature range of the part's
+/// characteristic at a fixed bias. 200 points, both ends included. A part without a model, or another Y axis
+/// name, has no points, but default limits.
+///
+/// Throws RunTimeError 5, 6 or 11 at the step that goes wrong.
+Curve CalcCapTemperature(const PartRecord& part, float biasVolts, std::string_view yAxisName, CodeView view);
+
+/// As `CalcCapTemperature`, over the bias from 0 to the rated voltage at a fixed temperature.
+Curve CalcCapDCVoltage(const PartRecord& part, float ambientC, std::string_view yAxisName, CodeView view);

@@ -1,0 +1,14 @@
+#pragma once
+
+/// Default axes of the linear temperature-rise charts.
+
+#include "calc/Curve.h"
+
+/// Limits that leave room above the largest values: `XMax` is the next whole number above the largest X,
+/// `YMax` the next multiple of ten above the largest Y, or 100 from a largest Y of 75 on. The minima stay.
+///
+///     SetDefaultAxes(3.0F, 0, 74.9F, 0)   // {.XMax = 4, .YMax = 80, .XMin = 0, .YMin = 0}
+AxisLimits SetDefaultAxes(float largestX, float xMin, float largestY, float yMin);
+
+/// The multiple of ten above a value of zero or more: 10 for 0, 80 for 74.9, 90 for 80.
+float NextTenAbove(float value);

@@ -1,0 +1,107 @@
+#include "calc/PowerModel.h"
+
+#include "calc/CheckedMath.h"
+#include "calc/Log10.h"
+#include "partdata/RunTimeError.h"
+
+#include <cmath>
+#include <cstddef>
+
+namespace
+{
+/// Temperature that the heating was measured at, in °C.
+constexpr double measuredAtC = 20;
+
+/// Rise that is permitted well below the upper operating temperature, in °C.
+constexpr float fullRise = 20;
+
+using PartData = std::array<float, DataValues>;
+
+double QuadraticIn(double t, float constant, float linear, float square)
+{
+    return CheckedFinite(constant + t * linear + t * t * square);
+}
+
+/// a·r² + b·r + c of the three coefficients from `first` on.
+double Group(const PartData& data, std::size_t first, double r)
+{
+    return data[first] * (r * r) + data[first + 1] * r + data[first + 2];
+}
+
+/// Quadratic in t whose coefficients are quadratics in r: nine coefficients from `first` on.
+double Surface(const PartData& data, std::size_t first, double r, double t)
+{
+    return CheckedFinite(Group(data, first + 6, r) + t * Group(data, first + 3, r) +
+                         t * t * Group(data, first, r));
+}
+} // namespace
+
+PowerModel PowerModelOf(const PartRecord& part, float biasVolts, float ambientC, float heatResistance)
+{
+    const auto& data = part.Data;
+    const double r = CheckedQuotient(biasVolts, RatedVoltage(part));
+    const double t = ambientC - measuredAtC;
+    return {.Q1 = QuadraticIn(t, data[28], data[32], data[33]),
+            .Q2 = QuadraticIn(t, data[29], data[34], data[35]),
+            .Q3 = QuadraticIn(t, data[30], data[36], data[37]),
+            .S1 = CheckedPower(10, Surface(data, 38, r, t)),
+            .S2 = Surface(data, 47, r, t),
+            .S3 = Surface(data, 56, r, t),
+            .Rref = data[31],
+            .Rth = heatResistance};
+}
+
+double PowerModel::kI(double frequencyHz) const
+{
+    const double sum = CheckedFinite(CheckedQuotient(Q1, frequencyHz) + Q2 + frequencyHz * Q3);
+    if (sum <= 0)
+    {
+        return 1.0;
+    }
+    const double k = CheckedQuotient(sum * Rth, Rref);
+    return k > 0 ? k : 1.0;
+}
+
+double PowerModel::kVConstant() const
+{
+    return CheckedQuotient(S1 * Rth, Rref);
+}
+
+double PowerModel::kV(double frequencyHz) const
+{
+    if (frequencyHz <= 0)
+    {
+        throw RunTimeError(RunTimeErrorNumber::InvalidProcedureCall);
+    }
+    return CheckedFinite(CheckedPower(Log10(frequencyHz), S2) * kVConstant());
+}
+
+double dTallow(float maxC, float ambientC)
+{
+    const float fullRiseBelow = maxC - fullRise;
+    if (ambientC < fullRiseBelow)
+    {
+        return fullRise;
+    }
+    return ambientC <= maxC ? double{maxC} - double{ambientC} : 0;
+}
+
+BoundedVoltage VoltageOfRise(double rise, double kV, double S3, double bound)
+{
+    const double volts = CheckedPower(CheckedQuotient(rise, kV), CheckedQuotient(1, S3));
+    if (volts < bound)
+    {
+        return {.Volts = volts, .Rise = rise};
+    }
+    return {.Volts = bound, .Rise = CheckedFinite(kV * CheckedPower(bound, S3))};
+}
+
+double CurrentOfRise(double rise, double kI)
+{
+    return std::sqrt(CheckedQuotient(rise, kI));
+}
+
+double ApparentPowerExponent(double S3)
+{
+    return CheckedQuotient(2 * S3, S3 + 2);
+}

@@ -1,0 +1,66 @@
+#pragma once
+
+/// How a part heats up under an AC load: the current law, the voltage law and the load for a given rise.
+
+#include "partdata/PartRecord.h"
+
+/// The heating of one part under given conditions, all in double precision.
+///
+/// Current law: rise = kI·I². Voltage law: rise = kV·V^S3. Effective power law: rise = P·Rth. At an apparent
+/// power X the current and the voltage of that rise have the product X.
+struct PowerModel
+{
+    double Q1;
+    double Q2;
+    double Q3;
+    double S1;
+    double S2;
+    double S3;
+    /// Heat resistance that the coefficients were measured at, in °C/W.
+    double Rref;
+    /// Heat resistance in use, in °C/W.
+    double Rth;
+
+    /// °C per A² at a frequency: (Q1/f + Q2 + f·Q3)·Rth/Rref; 1.0 where that, or the sum, is not positive.
+    double kI(double frequencyHz) const;
+
+    /// The part of kV that does not depend on frequency: S1·Rth/Rref.
+    double kVConstant() const;
+
+    /// °C per V^S3 at a frequency: (log10 f)^S2 · S1·Rth/Rref.
+    double kV(double frequencyHz) const;
+};
+
+/// The model at a bias, ambient temperature and heat resistance: quadratics in t = Ta - 20, and surfaces in t
+/// and r = bias / rated voltage, of which S1 is a power of ten.
+///
+/// Throws RunTimeError 11 without a rated voltage and 6 for a coefficient that is not finite.
+PowerModel PowerModelOf(const PartRecord& part, float biasVolts, float ambientC, float heatResistance);
+
+/// Rated voltage of a part, in V.
+inline double RatedVoltage(const PartRecord& part)
+{
+    return part.Data[2];
+}
+
+/// The permitted temperature rise in °C: 20 below Tmax - 20, from there on what is left up to Tmax, above
+/// Tmax nothing. Tmax - 20 is rounded to single precision before it is compared.
+double dTallow(float maxC, float ambientC);
+
+/// A load at the permitted rise, taken from the voltage law with its bound.
+struct BoundedVoltage
+{
+    /// The voltage of the rise, at most the bound.
+    double Volts;
+    /// The rise at that voltage: the wanted one, or less where the bound holds.
+    double Rise;
+};
+
+/// The voltage whose rise is `rise`, (rise/kV)^(1/S3), but at most `bound`, where the rise is kV·bound^S3.
+BoundedVoltage VoltageOfRise(double rise, double kV, double S3, double bound);
+
+/// The current whose rise is `rise`: (rise/kI)^½.
+double CurrentOfRise(double rise, double kI);
+
+/// The exponent 2·S3/(S3 + 2) of the apparent power law. Throws RunTimeError 11 for S3 = -2.
+double ApparentPowerExponent(double S3);
