@@ -18,6 +18,14 @@ struct UserScale
     double ScaleHeight;
 };
 
+/// The kinds of surface that a chart tells apart.
+enum class SurfaceKind
+{
+    Screen,
+    ColorPrinter,
+    MonochromePrinter,
+};
+
 /// A surface with a user scale. Positions and extents are in user units throughout.
 class ChartSurface
 {
@@ -33,12 +41,17 @@ public:
     /// One line of text whose upper left corner is at the position.
     virtual void Text(double x, double y, const QString& text, const QColor& color) = 0;
 
-    /// One line of text that reads upwards, centred on the position.
+    /// One line of text that reads upwards: its left edge is at x and its middle at y.
     virtual void TextUpwards(double x, double y, const QString& text, const QColor& color) = 0;
 
     /// Width and height of a line of text, in user units, both positive.
     virtual double TextWidth(const QString& text) const = 0;
     virtual double TextHeight() const = 0;
+
+    /// Width that a line of text takes when it reads upwards, in user units, positive.
+    virtual double UpwardsTextWidth() const = 0;
+
+    virtual SurfaceKind Kind() const = 0;
 
     /// The user scale in force.
     virtual const UserScale& Scale() const = 0;

@@ -1,0 +1,103 @@
+#include "chart/drawing/PainterSurface.h"
+
+#include <algorithm>
+#include <cmath>
+
+/// Width of curves in device-independent pixels.
+static constexpr double curveWidth = 1.3;
+
+QFont ChartFont(double pixel)
+{
+    QFont font(QStringLiteral("Arial"));
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(11 * pixel))));
+    return font;
+}
+
+PainterSurface::PainterSurface(QPainter& surfacePainter, const QRectF& targetRect, const UserScale& userScale,
+                               SurfaceKind surfaceKind, double pixelExtent)
+    : painter(surfacePainter)
+    , target(targetRect)
+    , scale(userScale)
+    , kind(surfaceKind)
+    , pixel(pixelExtent)
+    , metrics(ChartFont(pixelExtent), surfacePainter.device())
+    , xFactor(targetRect.width() / userScale.ScaleWidth)
+    , yFactor(targetRect.height() / userScale.ScaleHeight)
+{
+    painter.setFont(ChartFont(pixel));
+}
+
+void PainterSurface::Clear()
+{
+    painter.fillRect(target, Qt::white);
+}
+
+QPointF PainterSurface::ToPainter(double x, double y) const
+{
+    return {target.left() + (x - scale.ScaleLeft) * xFactor, target.top() + (y - scale.ScaleTop) * yFactor};
+}
+
+void PainterSurface::Line(double x1, double y1, double x2, double y2, const QColor& color)
+{
+    const auto from = ToPainter(x1, y1);
+    const auto to = ToPainter(x2, y2);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    if (x1 != x2 && y1 != y2)
+    {
+        painter.setPen(QPen(color, pixel));
+        painter.drawLine(from, to);
+        return;
+    }
+    // A level or upright line is a box of whole device pixels, so that it is equally wide wherever it stands.
+    const auto toDevice = painter.combinedTransform();
+    const auto box = toDevice.mapRect(QRectF(from, to).normalized());
+    const auto width = std::max(1.0, std::round(toDevice.mapRect(QRectF(0, 0, pixel, pixel)).width()));
+    const auto left = std::round(box.left() - width / 2);
+    const auto top = std::round(box.top() - width / 2);
+    const auto right = std::round(box.right() - width / 2) + width;
+    const auto bottom = std::round(box.bottom() - width / 2) + width;
+    painter.fillRect(toDevice.inverted().mapRect(QRectF(left, top, right - left, bottom - top)), color);
+}
+
+void PainterSurface::Polyline(std::span<const QPointF> points, const QColor& color)
+{
+    curve.clear();
+    for (const auto& point : points)
+    {
+        curve.push_back(ToPainter(point.x(), point.y()));
+    }
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    painter.setPen(QPen(color, curveWidth * pixel, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(curve.data(), static_cast<int>(curve.size()));
+}
+
+void PainterSurface::Text(double x, double y, const QString& text, const QColor& color)
+{
+    painter.setPen(color);
+    painter.drawText(ToPainter(x, y) + QPointF(0, metrics.ascent()), text);
+}
+
+void PainterSurface::TextUpwards(double x, double y, const QString& text, const QColor& color)
+{
+    painter.save();
+    painter.translate(ToPainter(x, y));
+    painter.rotate(-90);
+    painter.setPen(color);
+    painter.drawText(QPointF(-metrics.horizontalAdvance(text) / 2, metrics.ascent()), text);
+    painter.restore();
+}
+
+double PainterSurface::TextWidth(const QString& text) const
+{
+    return metrics.horizontalAdvance(text) / std::abs(xFactor);
+}
+
+double PainterSurface::TextHeight() const
+{
+    return metrics.height() / std::abs(yFactor);
+}
+
+double PainterSurface::UpwardsTextWidth() const
+{
+    return metrics.height() / std::abs(xFactor);
+}

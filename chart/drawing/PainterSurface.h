@@ -1,0 +1,56 @@
+#pragma once
+
+/// A chart surface on a painter: a window, an image, a printer page or a vector file.
+
+#include "chart/drawing/ChartSurface.h"
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QRectF>
+
+#include <vector>
+
+/// The font of charts and panes: Arial 8, which is 11 device-independent pixels high.
+///
+/// @param pixel extent of a device-independent pixel in painter units
+QFont ChartFont(double pixel = 1);
+
+/// Draws into a rectangle of a painter. Grid lines are crisp, on whole device pixels; curves are smooth and a
+/// little thicker. The painter keeps the surface's font, pen and render hints.
+class PainterSurface : public ChartSurface
+{
+public:
+    /// @param target the rectangle that the user scale covers, in painter units
+    /// @param pixel extent of a device-independent pixel in painter units: 1 on screen, more on a page whose
+    ///        units are finer
+    PainterSurface(QPainter& painter, const QRectF& target, const UserScale& scale,
+                   SurfaceKind kind = SurfaceKind::Screen, double pixel = 1);
+
+    /// Paints the surface white.
+    void Clear();
+
+    void Line(double x1, double y1, double x2, double y2, const QColor& color) override;
+    void Polyline(std::span<const QPointF> points, const QColor& color) override;
+    void Text(double x, double y, const QString& text, const QColor& color) override;
+    void TextUpwards(double x, double y, const QString& text, const QColor& color) override;
+    double TextWidth(const QString& text) const override;
+    double TextHeight() const override;
+    double UpwardsTextWidth() const override;
+    SurfaceKind Kind() const override { return kind; }
+    const UserScale& Scale() const override { return scale; }
+
+private:
+    QPointF ToPainter(double x, double y) const;
+
+    QPainter& painter;
+    QRectF target;
+    UserScale scale;
+    SurfaceKind kind;
+    double pixel;
+    QFontMetricsF metrics;
+    /// Painter units per user unit, of either sign.
+    double xFactor;
+    double yFactor;
+    std::vector<QPointF> curve;
+};
