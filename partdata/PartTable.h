@@ -3,6 +3,7 @@
 /// The part table: every capacitor of the range, and the ways to look one up.
 
 #include "partdata/KeyedCollection.h"
+#include "partdata/PartFiles.h"
 #include "partdata/PartRecord.h"
 
 #include <array>
@@ -36,16 +37,14 @@ struct PartTable
     std::unique_ptr<char[]> indexText;
 };
 
-/// The separator between a program folder and a file name: the first character of a path that begins with
-/// a separator, the third of one that begins with a drive letter.
-char PathSepOf(std::string_view programFolder);
-
 /// Reads the first index file and the first data file, in alphabetical order, of the program's folder.
 ///
 /// Throws RunTimeError with file, record and field: 53 without an index or data file, 62 for an index
 /// that ends within a record or a quote, 6 for more than 32,767 parts, 457 for a part number that
-/// stands twice in one form, 75 for a file that cannot be read.
+/// stands twice in one form ("parts.idx: record 17: PartNum(0) "ABC"", records counted from 1), 75 for a
+/// file that cannot be read.
 PartTable LoadPartData(const std::string& programFolder);
 
-/// Reads one pair of part files; as `LoadPartData`, for named files.
+/// Reads one pair of part files; as `LoadPartData`, for named files. Parts beyond the last whole record of
+/// the data file keep zeros as `Data`; surplus data records are not read.
 PartTable ReadPartPair(const std::filesystem::path& indexFile, const std::filesystem::path& dataFile);

@@ -1,0 +1,134 @@
+#include "partdata/IndexReader.h"
+
+#include "partdata/RunTimeError.h"
+
+#include <algorithm>
+#include <utility>
+
+static bool IsBlank(char c)
+{
+    return c == ' ' || c == '\t';
+}
+
+static bool IsLineEnd(char c)
+{
+    return c == '\r' || c == '\n';
+}
+
+static bool EndsField(char c)
+{
+    return c == ',' || IsLineEnd(c);
+}
+
+IndexReader::IndexReader(std::string_view indexText, std::string name)
+    : fileName(std::move(name))
+{
+    if (indexText.starts_with("\xEF\xBB\xBF"))
+    {
+        indexText.remove_prefix(3);
+    }
+    if (indexText.ends_with('\x1A'))
+    {
+        indexText.remove_suffix(1);
+    }
+    next = indexText.data();
+    end = next + indexText.size();
+}
+
+bool IndexReader::ReadRecord(PartRecord& part)
+{
+    if (!SkipToRecord())
+    {
+        return false;
+    }
+    int field = 0;
+    for (auto& partNum : part.PartNum)
+    {
+        partNum = ReadField(++field);
+    }
+    for (auto& sizeCode : part.SizeCode)
+    {
+        sizeCode = ReadField(++field);
+    }
+    for (auto& tcc : part.Tcc)
+    {
+        tcc = ReadField(++field);
+    }
+    ++recordCount;
+    return true;
+}
+
+/// Goes past blanks and empty lines; false when nothing follows.
+bool IndexReader::SkipToRecord()
+{
+    next = std::find_if(next, end, [](char c) { return !IsBlank(c) && !IsLineEnd(c); });
+    return next != end;
+}
+
+std::string_view IndexReader::ReadField(int field)
+{
+    SkipBlanks();
+    if (next == end)
+    {
+        FailAt(field);
+    }
+    const auto text = *next == '"' ? ReadQuoted(field) : ReadUnquoted();
+    SkipSeparator();
+    return text;
+}
+
+std::string_view IndexReader::ReadQuoted(int field)
+{
+    const auto* const first = next + 1;
+    const auto* const last = std::find(first, end, '"');
+    if (last == end)
+    {
+        FailAt(field);
+    }
+    next = last + 1;
+    SkipBlanks();
+    return {first, last};
+}
+
+std::string_view IndexReader::ReadUnquoted()
+{
+    const auto* const first = next;
+    while (next != end && !EndsField(*next))
+    {
+        ++next;
+    }
+    const auto* last = next;
+    while (last != first && IsBlank(last[-1]))
+    {
+        --last;
+    }
+    return {first, last};
+}
+
+void IndexReader::SkipBlanks()
+{
+    while (next != end && IsBlank(*next))
+    {
+        ++next;
+    }
+}
+
+/// Goes past one comma or one line end, where there is one.
+void IndexReader::SkipSeparator()
+{
+    if (next == end || !EndsField(*next))
+    {
+        return;
+    }
+    const char separator = *next++;
+    if (separator == '\r' && next != end && *next == '\n')
+    {
+        ++next;
+    }
+}
+
+void IndexReader::FailAt(int field) const
+{
+    throw RunTimeError(RunTimeErrorNumber::InputPastEndOfFile)
+        .At(fileName + ": record " + std::to_string(recordCount + 1) + ": field " + std::to_string(field));
+}
