@@ -13,6 +13,8 @@
 ///     NumberText(1e7F)      // "10000000"
 ///     NumberText(1.5e-7F)   // "1.5E-07"
 ///     NumberText(1e15F)     // "1E+15"
+///
+/// What is not finite reads "inf", "-inf" or "nan", here and in the texts below.
 std::string NumberText(float value);
 
 /// Text of a tick at `value` on an axis that spans `range`: number text of the value rounded to six
@@ -31,7 +33,11 @@ enum class NumberFormat
     FractionTick,    ///< "0.#####": 0.00125, 12
 };
 
-/// The value in one of the formats; a single's shortest decimal is what gets rounded.
+/// The value in one of the formats; a single's shortest decimal is what gets rounded. No text is a negative
+/// zero: -0.001 as a `WholeTick` is "0".
+///
+/// A zero as a `PaneValue` is the empty text, since "#" shows a digit only where there is one; the pane that
+/// shows it puts a "0" there. A zero in the scientific formats is "0.00E+00" and "0.00E+0".
 std::string FormatNumber(float value, NumberFormat format);
 
 /// The value of an entry, or nothing when it is not numeric.
