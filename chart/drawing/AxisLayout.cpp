@@ -7,6 +7,7 @@
 #include "chart/drawing/Mapping.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -18,7 +19,9 @@ constexpr double firstXLabelLeft = -2;
 /// Least distance between neighbouring X labels.
 constexpr double xLabelGap = 0.8;
 /// Distance of Y labels from the axis: they stay clear of the first X label, which begins 2 units left of it.
-constexpr double yLabelGap = 2.2;
+constexpr double yLabelGap = 2.8;
+/// Least distance of Y labels from the title at the left edge; the widest come nearer to the axis for it.
+constexpr double titleGap = 0.5;
 
 /// A label and the stretch of its axis that it takes.
 struct Candidate
@@ -109,7 +112,7 @@ Candidate BelowXAxis(double left, const QString& text, const ChartSurface& surfa
     return {left, left + width, {left, xLabelTop, text}};
 }
 
-/// Places labels left of the Y axis.
+/// Places labels left of the Y axis: right-aligned, each centred on its tick.
 class YLabelPlacer
 {
 public:
@@ -117,35 +120,45 @@ public:
         : surface(chartSurface)
         , height(chartSurface.TextHeight())
         , leftmost(chartSurface.Scale().ScaleLeft)
+        , xLabelsLeft(xLabels.empty() ? 0 : xLabels.front().X)
     {
         if (surface.Kind() == SurfaceKind::Screen)
         {
-            leftmost += surface.UpwardsTextWidth();
-        }
-        if (!xLabels.empty())
-        {
-            xLabelsLeft = xLabels.front().X;
+            leftmost += surface.UpwardsTextWidth() + titleGap;
         }
     }
 
-    /// A label centred on its tick. One that would touch the first X label is raised above it.
-    Candidate At(double at, const QString& text) const
+    void Add(double at, const QString& text, bool yields = false)
     {
         const auto width = surface.TextWidth(text);
-        const auto left = std::max(-yLabelGap - width, leftmost);
-        auto top = at + height / 2;
-        if (left + width > xLabelsLeft)
+        widest = std::max(widest, width);
+        candidates.push_back({at - height / 2, at + height / 2, {-width, at + height / 2, text}, yields});
+    }
+
+    /// The labels that can stand. One that would touch the first X label is raised above it.
+    std::vector<AxisLabel> Place()
+    {
+        const auto right = std::max(-yLabelGap, leftmost + widest);
+        for (auto& candidate : candidates)
         {
-            top = std::max(top, xLabelTop + height);
+            if (right > xLabelsLeft)
+            {
+                candidate.High = std::max(candidate.High, xLabelTop + height);
+                candidate.Low = candidate.High - height;
+            }
+            candidate.Label.X += right;
+            candidate.Label.Y = candidate.High;
         }
-        return {top - height, top, {left, top, text}};
+        return ReadableLabels(std::move(candidates), 0);
     }
 
 private:
     const ChartSurface& surface;
     double height;
     double leftmost;
-    double xLabelsLeft = 0;
+    double xLabelsLeft;
+    double widest = 0;
+    std::vector<Candidate> candidates;
 };
 
 AxisLayout LayOutLogX(const AxisRange& range, float unit, const ChartSurface& surface)
@@ -178,31 +191,28 @@ AxisLayout LayOutLinearX(const ChartView& view, float unit, const ChartSurface& 
     return {LinearGrid(ticks), ReadableLabels(std::move(candidates), xLabelGap)};
 }
 
-AxisLayout LayOutLogY(const AxisRange& range, const YLabelPlacer& placer)
+AxisLayout LayOutLogY(const AxisRange& range, YLabelPlacer placer)
 {
     const auto ticks = LogarithmicTicks(range.YMin, range.YMax);
-    std::vector<Candidate> candidates;
     for (const auto& label : ticks.Labels)
     {
-        candidates.push_back(placer.At(label.At, LabelOfLogTick(label.Value)));
-        candidates.back().Yields = label.RangeEnd;
+        placer.Add(label.At, LabelOfLogTick(label.Value), label.RangeEnd);
     }
-    return {LogGrid(ticks), ReadableLabels(std::move(candidates), 0)};
+    return {LogGrid(ticks), placer.Place()};
 }
 
-AxisLayout LayOutLinearY(const ChartView& view, const YLabelPlacer& placer)
+AxisLayout LayOutLinearY(const ChartView& view, YLabelPlacer placer)
 {
     const auto& range = view.Range;
     const auto divisions = GetYDivisions(view.Chart.ChartType, view.Chart.XAxisName, view.Chart.YAxisName,
                                          range.YMax, range.YMin, view.Rescaled);
     const auto ticks = LinearTicks(range.YMin, range.YMax, divisions);
     const auto texts = LabelsOfYTicks(ticks, range.YMax - range.YMin);
-    std::vector<Candidate> candidates;
     for (std::size_t i = 0; i < ticks.size(); ++i)
     {
-        candidates.push_back(placer.At(ticks[i].At, texts[i]));
+        placer.Add(ticks[i].At, texts[i]);
     }
-    return {LinearGrid(ticks), ReadableLabels(std::move(candidates), 0)};
+    return {LinearGrid(ticks), placer.Place()};
 }
 
 } // namespace
@@ -220,10 +230,10 @@ AxisLayout LayOutXAxis(const ChartView& view, const ChartSurface& surface)
 AxisLayout LayOutYAxis(const ChartView& view, const std::vector<AxisLabel>& xLabels,
                        const ChartSurface& surface)
 {
-    const YLabelPlacer placer(xLabels, surface);
+    YLabelPlacer placer(xLabels, surface);
     if (YAxisKind(view.Chart) == AxisKind::Logarithmic)
     {
-        return LayOutLogY(view.Range, placer);
+        return LayOutLogY(view.Range, std::move(placer));
     }
-    return LayOutLinearY(view, placer);
+    return LayOutLinearY(view, std::move(placer));
 }

@@ -54,23 +54,23 @@ std::vector<QString> LabelsOfYTicks(const std::vector<LinearTick>& ticks, float 
     std::vector<QString> labels;
     qsizetype longest = 0;
     float largest = 0;
-    bool exponentExact = true;
+    bool exponentsExact = true;
     for (const auto& tick : ticks)
     {
         const auto plain = PlainText(tick.Value, range);
         longest = std::max(longest, plain.size());
         largest = std::max(largest, std::abs(tick.Value));
-        exponentExact = exponentExact && FitsExponentText(plain, tick.Value);
+        exponentsExact = exponentsExact && FitsExponentText(plain, tick.Value);
         labels.push_back(plain);
     }
-    const auto longestPlain = exponentExact ? 6 : 7;
-    if (longest <= longestPlain && largest >= 0.1F)
+    if (longest <= 6 && largest >= 0.1F)
     {
         return labels;
     }
     for (std::size_t i = 0; i < ticks.size(); ++i)
     {
-        if (labels[i] != QLatin1String("0"))
+        const bool kept = exponentsExact ? labels[i] == QLatin1String("0") : labels[i].size() <= 7;
+        if (!kept)
         {
             labels[i] = ExponentText(ticks[i].Value);
         }

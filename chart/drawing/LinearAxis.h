@@ -34,6 +34,10 @@ struct XTickLabel
 XTickLabel LabelOfXTick(float value, float range);
 
 /// How the ticks of a Y axis read, all in one form: plain digits while no label is longer than six characters
-/// and the largest is at least 0.1, else "#.00E+##" with a plain "0". Seven characters are allowed where two
-/// decimals would not tell the ticks apart.
+/// and the largest is at least 0.1, else "#.00E+##" with a plain "0". Where that form would round, labels of
+/// up to seven characters stay plain.
+///
+///     0, 2.4, .. 12       -> "0" "2.4" .. "12"
+///     0, 2.4E6, .. 1.2E7  -> "0" "2.40E+6" .. "1.20E+7"
+///     9990000, 9992000, .. 1E7 -> "9990000" "9992000" .. "1.00E+7"
 std::vector<QString> LabelsOfYTicks(const std::vector<LinearTick>& ticks, float range);
