@@ -1,8 +1,8 @@
 #include "calc/AllowablePower.h"
 
 #include "calc/CheckedMath.h"
+#include "calc/FrequencyLaws.h"
 #include "calc/Log10.h"
-#include "calc/Sweep.h"
 
 #include <algorithm>
 #include <cmath>
@@ -22,14 +22,13 @@ void SetLogarithmicAxes(Curve& curve)
     }
 }
 
-/// The curve whose load at each frequency is `loadAt(frequencyHz)`.
+/// The curve whose load at frequency index i is `loadAt(i)`.
 template <class LoadAt> Curve CurveOverFrequency(LoadAt loadAt)
 {
-    const auto& sweep = LogFrequencySweep();
-    Curve curve{.HasPoints = true, .XData = sweep.XData};
+    Curve curve{.HasPoints = true, .XData = LogFrequencySweep().XData};
     for (std::size_t i = 0; i < CurvePoints; ++i)
     {
-        curve.YData[i] = StoredSingle(loadAt(sweep.Hz[i]));
+        curve.YData[i] = StoredSingle(loadAt(i));
     }
     SetLogarithmicAxes(curve);
     return curve;
@@ -44,32 +43,26 @@ double AllowableVoltageBound(double ratedVolts, double biasVolts)
 Curve AllowableLoad(const PowerModel& model, double voltageBound, double permittedRise,
                     std::string_view yAxisName)
 {
-    const auto boundedVoltage = [&](double frequencyHz)
-    { return VoltageOfRise(permittedRise, model.kV(frequencyHz), model.S3, voltageBound); };
-
     if (yAxisName == "Current")
     {
-        return CurveOverFrequency([&](double frequencyHz)
-                                  { return CurrentOfRise(permittedRise, model.kI(frequencyHz)); });
+        const auto kI = kIOverFrequency(model);
+        return CurveOverFrequency([&](std::size_t i) { return CurrentOfRise(permittedRise, kI[i]); });
     }
     if (yAxisName == "Voltage")
     {
-        return CurveOverFrequency([&](double frequencyHz) { return boundedVoltage(frequencyHz).Volts; });
+        const auto volts = VoltageOverFrequency(model, permittedRise);
+        return CurveOverFrequency([&](std::size_t i) { return std::min(volts[i], voltageBound); });
     }
     if (yAxisName == "Apparent Power")
     {
-        return CurveOverFrequency(
-            [&](double frequencyHz)
-            {
-                const double kI = model.kI(frequencyHz);
-                const auto [volts, rise] = boundedVoltage(frequencyHz);
-                return volts * CurrentOfRise(rise, kI);
-            });
+        const auto loads = ApparentPowerOverFrequency(model, permittedRise, voltageBound);
+        return CurveOverFrequency([&](std::size_t i) { return loads[i]; });
     }
     if (yAxisName == "Effective Power")
     {
-        return CurveOverFrequency([&](double frequencyHz)
-                                  { return CheckedQuotient(boundedVoltage(frequencyHz).Rise, model.Rth); });
+        const auto volts = VoltageOverFrequency(model, permittedRise);
+        const auto rises = BoundedRise(model, volts, permittedRise, voltageBound);
+        return CurveOverFrequency([&](std::size_t i) { return CheckedQuotient(rises[i], model.Rth); });
     }
     return {};
 }

@@ -15,33 +15,41 @@ namespace
 constexpr double measuredAtC = 25;
 constexpr double jisReferenceC = 20;
 
-using PartData = std::array<float, DataValues>;
+/// The values of a part, widened once to the precision of the arithmetic.
+using Coefficients = std::array<double, DataValues>;
+
+Coefficients CoefficientsOf(const PartRecord& part)
+{
+    Coefficients data;
+    std::ranges::copy(part.Data, data.begin());
+    return data;
+}
 
 /// a·x^6 + b·x^5 + ... + f·x, the six coefficients from `first` on; no constant term.
-double SixthDegree(const PartData& data, std::size_t first, double x)
+double SixthDegree(const Coefficients& data, std::size_t first, double x)
 {
     double sum = 0;
     for (std::size_t i = first; i < first + 6; ++i)
     {
-        sum = (sum + double{data[i]}) * x;
+        sum = (sum + data[i]) * x;
     }
     return sum;
 }
 
 /// a·V² + b·V + c, the three coefficients from `first` on.
-double Quadratic(const PartData& data, std::size_t first, double volts)
+double Quadratic(const Coefficients& data, std::size_t first, double volts)
 {
     return (data[first] * volts + data[first + 1]) * volts + data[first + 2];
 }
 
 /// Change by the bias alone, in percent.
-double BiasChange(const PartData& data, double volts)
+double BiasChange(const Coefficients& data, double volts)
 {
     return SixthDegree(data, 3, volts);
 }
 
 /// Change by the temperature alone in the polynomial model, in percent.
-double TemperatureChange(const PartData& data, double celsius)
+double TemperatureChange(const Coefficients& data, double celsius)
 {
     return SixthDegree(data, 9, celsius - measuredAtC);
 }
@@ -57,13 +65,19 @@ double CapacitanceAt(double nominal, double change)
     return nominal * (change / 100 + 1);
 }
 
-/// How fast the bell falls on one side of its peak: exp(-Decay · distance^Exponent).
+/// distance^exponent of a distance that is 0 or more.
+double PowerOfDistance(double distance, double exponent)
+{
+    // Above 0 there is a power for every exponent; in base 2 it takes the least time.
+    return distance > 0 ? CheckedFinite(std::exp2(exponent * std::log2(distance)))
+                        : CheckedPower(distance, exponent);
+}
+
+/// How fast the bell falls on one side of its peak: exp(-Decay·distance^Exponent).
 struct Flank
 {
     double Decay;
     double Exponent;
-
-    double At(double distance) const { return std::exp(-Decay * CheckedPower(distance, Exponent)); }
 };
 
 /// The bell of the peaked model at one bias.
@@ -78,11 +92,12 @@ struct Peak
     double ChangeAt(double celsius) const
     {
         const Flank& flank = Temperature <= celsius ? Above : Below;
-        return Amplitude * flank.At(std::abs(celsius - Temperature)) + Offset;
+        const double power = PowerOfDistance(std::abs(celsius - Temperature), flank.Exponent);
+        return Amplitude * std::exp(-flank.Decay * power) + Offset;
     }
 };
 
-Peak PeakAt(const PartData& data, double volts)
+Peak PeakAt(const Coefficients& data, double volts)
 {
     return {.Amplitude = (BiasChange(data, volts) + 100) * data[15] / 100,
             .Temperature = Quadratic(data, 17, volts),
@@ -95,7 +110,7 @@ Peak PeakAt(const PartData& data, double volts)
 /// nominal capacitance.
 using Reference = std::optional<double>;
 
-Reference ReferenceOf(const PartData& data, CapacitanceModel model, CodeView view)
+Reference ReferenceOf(const Coefficients& data, CapacitanceModel model, CodeView view)
 {
     if (view == CodeView::Eia)
     {
@@ -131,7 +146,7 @@ void StorePoints(Curve& curve, const SweepValues& sweep, double nominal, const R
         const double capacitance = CheckedFinite(CapacitanceAt(nominal, change));
         if (reference)
         {
-            change = CheckedQuotient(capacitance - *reference, *reference) * 100;
+            change = (capacitance - *reference) / CheckedDivisor(*reference) * 100;
         }
         curve.XData[i] = StoredSingle(sweep[i]);
         curve.YData[i] = StoredSingle(isChange ? change : capacitance);
@@ -177,7 +192,7 @@ TemperatureRange TemperatureRangeOf(std::string_view eiaTcc, CodeView view)
 
 Curve CalcCapTemperature(const PartRecord& part, float biasVolts, std::string_view yAxisName, CodeView view)
 {
-    const auto& data = part.Data;
+    const auto data = CoefficientsOf(part);
     const auto model = CapacitanceModelOf(part);
     const auto range = TemperatureRangeOf(part.Tcc[0], view);
     Curve curve;
@@ -204,7 +219,7 @@ Curve CalcCapTemperature(const PartRecord& part, float biasVolts, std::string_vi
 
 Curve CalcCapDCVoltage(const PartRecord& part, float ambientC, std::string_view yAxisName, CodeView view)
 {
-    const auto& data = part.Data;
+    const auto data = CoefficientsOf(part);
     const auto model = CapacitanceModelOf(part);
     Curve curve;
     if (model != CapacitanceModel::None)
@@ -223,6 +238,6 @@ Curve CalcCapDCVoltage(const PartRecord& part, float ambientC, std::string_view 
                         [&](double volts) { return Combined(p, BiasChange(data, volts)); });
         }
     }
-    SetLimits(curve, data[2], 0, yAxisName);
+    SetLimits(curve, part.Data[2], 0, yAxisName);
     return curve;
 }

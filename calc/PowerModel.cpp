@@ -1,10 +1,8 @@
 #include "calc/PowerModel.h"
 
-#include "calc/CheckedMath.h"
 #include "calc/Log10.h"
 #include "partdata/RunTimeError.h"
 
-#include <cmath>
 #include <cstddef>
 
 namespace
@@ -51,17 +49,6 @@ PowerModel PowerModelOf(const PartRecord& part, float biasVolts, float ambientC,
             .Rth = heatResistance};
 }
 
-double PowerModel::kI(double frequencyHz) const
-{
-    const double sum = CheckedFinite(CheckedQuotient(Q1, frequencyHz) + Q2 + frequencyHz * Q3);
-    if (sum <= 0)
-    {
-        return 1.0;
-    }
-    const double k = CheckedQuotient(sum * Rth, Rref);
-    return k > 0 ? k : 1.0;
-}
-
 double PowerModel::kVConstant() const
 {
     return CheckedQuotient(S1 * Rth, Rref);
@@ -86,19 +73,9 @@ double dTallow(float maxC, float ambientC)
     return ambientC <= maxC ? double{maxC} - double{ambientC} : 0;
 }
 
-BoundedVoltage VoltageOfRise(double rise, double kV, double S3, double bound)
+double VoltageOfRise(double rise, double kV, double S3)
 {
-    const double volts = CheckedPower(CheckedQuotient(rise, kV), CheckedQuotient(1, S3));
-    if (volts < bound)
-    {
-        return {.Volts = volts, .Rise = rise};
-    }
-    return {.Volts = bound, .Rise = CheckedFinite(kV * CheckedPower(bound, S3))};
-}
-
-double CurrentOfRise(double rise, double kI)
-{
-    return std::sqrt(CheckedQuotient(rise, kI));
+    return CheckedPower(CheckedQuotient(rise, kV), CheckedQuotient(1, S3));
 }
 
 double ApparentPowerExponent(double S3)

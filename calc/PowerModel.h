@@ -2,7 +2,10 @@
 
 /// How a part heats up under an AC load: the current law, the voltage law and the load for a given rise.
 
+#include "calc/CheckedMath.h"
 #include "partdata/PartRecord.h"
+
+#include <cmath>
 
 /// The heating of one part under given conditions, all in double precision.
 ///
@@ -22,7 +25,16 @@ struct PowerModel
     double Rth;
 
     /// °C per A² at a frequency: (Q1/f + Q2 + f·Q3)·Rth/Rref; 1.0 where that, or the sum, is not positive.
-    double kI(double frequencyHz) const;
+    double kI(double frequencyHz) const
+    {
+        const double sum = CheckedFinite(CheckedQuotient(Q1, frequencyHz) + Q2 + frequencyHz * Q3);
+        if (sum <= 0)
+        {
+            return 1.0;
+        }
+        const double k = CheckedQuotient(sum * Rth, Rref);
+        return k > 0 ? k : 1.0;
+    }
 
     /// The part of kV that does not depend on frequency: S1·Rth/Rref.
     double kVConstant() const;
@@ -47,20 +59,14 @@ inline double RatedVoltage(const PartRecord& part)
 /// Tmax nothing. Tmax - 20 is rounded to single precision before it is compared.
 double dTallow(float maxC, float ambientC);
 
-/// A load at the permitted rise, taken from the voltage law with its bound.
-struct BoundedVoltage
-{
-    /// The voltage of the rise, at most the bound.
-    double Volts;
-    /// The rise at that voltage: the wanted one, or less where the bound holds.
-    double Rise;
-};
-
-/// The voltage whose rise is `rise`, (rise/kV)^(1/S3), but at most `bound`, where the rise is kV·bound^S3.
-BoundedVoltage VoltageOfRise(double rise, double kV, double S3, double bound);
+/// The voltage whose rise is `rise`, without a bound: (rise/kV)^(1/S3).
+double VoltageOfRise(double rise, double kV, double S3);
 
 /// The current whose rise is `rise`: (rise/kI)^½.
-double CurrentOfRise(double rise, double kI);
+inline double CurrentOfRise(double rise, double kI)
+{
+    return std::sqrt(CheckedQuotient(rise, kI));
+}
 
 /// The exponent 2·S3/(S3 + 2) of the apparent power law. Throws RunTimeError 11 for S3 = -2.
 double ApparentPowerExponent(double S3);

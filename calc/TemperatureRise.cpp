@@ -2,6 +2,7 @@
 
 #include "calc/CheckedMath.h"
 #include "calc/DefaultAxes.h"
+#include "calc/FrequencyLaws.h"
 #include "calc/ParameterLimit.h"
 #include "calc/Sweep.h"
 
@@ -13,63 +14,66 @@ namespace
 /// Farther above the ceiling than any rounding of a load to a single lifts a rise, and invisible on a chart.
 constexpr double ceilingTolerance = 1e-3;
 
-/// A curve of the form rise = Coefficient · load^Exponent that ends at a load.
-struct PowerLaw
+/// The curve over a load that grows from 0 to `end`; `riseAt(load, i)` is the rise at point i.
+template <class RiseAt> Curve CurveOverLoad(double end, RiseAt riseAt)
 {
-    double End;
-    double Coefficient;
-    double Exponent;
-};
-
-PowerLaw CurrentLaw(const PowerModel& model, double frequencyHz)
-{
-    const double kI = model.kI(frequencyHz);
-    return {.End = CurrentOfRise(RiseCeiling, kI), .Coefficient = kI, .Exponent = 2};
+    Curve curve{.HasPoints = true};
+    const auto loads = LinearSweep(0, end);
+    for (std::size_t i = 0; i < CurvePoints; ++i)
+    {
+        curve.XData[i] = StoredSingle(loads[i]);
+        curve.YData[i] = StoredSingle(riseAt(loads[i], i));
+    }
+    curve.Limits = SetDefaultAxes(std::ranges::max(curve.XData), 0, std::ranges::max(curve.YData), 0);
+    return curve;
 }
 
-PowerLaw VoltageLaw(const PowerModel& model, double ratedVolts, double frequencyHz)
+/// The curve of coefficient·load^exponent: (i/199)^exponent times the rise at the end, one exponential a
+/// point.
+Curve CurveOfPower(double end, double coefficient, double exponent)
+{
+    const double firstRise = coefficient * CheckedPower(0, exponent);
+    const double endRise = CheckedFinite(coefficient * CheckedPower(end, exponent));
+    const auto& ln = LnFractions();
+    return CurveOverLoad(end, [&](double, std::size_t i)
+                         { return i == 0 ? firstRise : endRise * std::exp(exponent * ln[i]); });
+}
+
+Curve CurveOverCurrent(const PowerModel& model, double frequencyHz)
+{
+    const double kI = model.kI(frequencyHz);
+    return CurveOverLoad(CurrentOfRise(RiseCeiling, kI),
+                         [=](double amperes, std::size_t) { return amperes * amperes * kI; });
+}
+
+Curve CurveOverVoltage(const PowerModel& model, double ratedVolts, double frequencyHz)
 {
     const double kV = model.kV(frequencyHz);
     double end = RiseVoltageBound * ratedVolts;
     if (kV * CheckedPower(end, model.S3) > RiseCeiling)
     {
-        end = CheckedPower(RiseCeiling / kV, CheckedQuotient(1, model.S3));
+        end = VoltageOfRise(RiseCeiling, kV, model.S3);
     }
-    return {.End = end, .Coefficient = kV, .Exponent = model.S3};
+    return CurveOfPower(end, kV, model.S3);
 }
 
-PowerLaw ApparentPowerLaw(const PowerModel& model, double ratedVolts, double frequencyHz)
+Curve CurveOverApparentPower(const PowerModel& model, double ratedVolts, double frequencyHz)
 {
     const double kI = model.kI(frequencyHz);
     const double kV = model.kV(frequencyHz);
-    const auto atCeiling = VoltageOfRise(RiseCeiling, kV, model.S3, RiseVoltageBound * ratedVolts);
+    const double bound = RiseVoltageBound * ratedVolts;
+    const double free = VoltageOfRise(RiseCeiling, kV, model.S3);
+    const double endRise = free < bound ? RiseCeiling : kV * CheckedPower(bound, model.S3);
+    const double end = std::min(free, bound) * CurrentOfRise(endRise, kI);
     const double exponent = ApparentPowerExponent(model.S3);
     const double perVoltAmpere = std::sqrt(kI) * CheckedPower(kV, 1 / model.S3);
-    return {.End = atCeiling.Volts * CurrentOfRise(atCeiling.Rise, kI),
-            .Coefficient = CheckedPower(perVoltAmpere, exponent),
-            .Exponent = exponent};
+    return CurveOfPower(end, CheckedPower(perVoltAmpere, exponent), exponent);
 }
 
-PowerLaw EffectivePowerLaw(const PowerModel& model)
+Curve CurveOverEffectivePower(const PowerModel& model)
 {
-    return {.End = CheckedQuotient(RiseCeiling, model.Rth), .Coefficient = model.Rth, .Exponent = 1};
-}
-
-/// The points of a law: X accumulates, Y follows from Y at the end, (i/199)^Exponent times that.
-Curve CurveOf(const PowerLaw& law)
-{
-    Curve curve{.HasPoints = true};
-    const auto sweep = LinearSweep(0, law.End);
-    const double endRise = CheckedFinite(law.Coefficient * CheckedPower(law.End, law.Exponent));
-    curve.XData[0] = 0;
-    curve.YData[0] = StoredSingle(law.Coefficient * CheckedPower(0, law.Exponent));
-    for (std::size_t i = 1; i < CurvePoints; ++i)
-    {
-        curve.XData[i] = StoredSingle(sweep[i]);
-        curve.YData[i] = StoredSingle(endRise * std::exp(law.Exponent * LnFractions()[i]));
-    }
-    curve.Limits = SetDefaultAxes(std::ranges::max(curve.XData), 0, std::ranges::max(curve.YData), 0);
-    return curve;
+    return CurveOverLoad(CheckedQuotient(RiseCeiling, model.Rth),
+                         [&](double watts, std::size_t) { return watts * model.Rth; });
 }
 
 /// The limits of a rise over frequency.
@@ -101,24 +105,6 @@ template <class RiseAt> Curve CurveOverFrequency(RiseAt riseAt)
     return curve;
 }
 
-/// kI at every frequency of the sweep.
-SweepValues kIOverFrequency(const PowerModel& model)
-{
-    SweepValues values;
-    std::ranges::transform(LogFrequencySweep().Hz, values.begin(),
-                           [&](double frequencyHz) { return model.kI(frequencyHz); });
-    return values;
-}
-
-/// kV at every frequency of the sweep.
-SweepValues kVOverFrequency(const PowerModel& model)
-{
-    SweepValues values;
-    std::ranges::transform(LogFrequencySweep().Hz, values.begin(),
-                           [&](double frequencyHz) { return model.kV(frequencyHz); });
-    return values;
-}
-
 using RiseResult = std::variant<Curve, ParameterRefusal>;
 
 RiseResult RiseByCurrent(const PowerModel& model, float amperes)
@@ -134,40 +120,39 @@ RiseResult RiseByCurrent(const PowerModel& model, float amperes)
 
 RiseResult RiseByVoltage(const PowerModel& model, double ratedVolts, float volts)
 {
-    const auto kV = kVOverFrequency(model);
-    double limit = RiseVoltageBound * ratedVolts;
-    for (const double k : kV)
-    {
-        limit = VoltageOfRise(RiseCeiling, k, model.S3, limit).Volts;
-    }
+    // The voltage rises or falls throughout, so that it is smallest at one of the ends.
+    const auto& hz = LogFrequencySweep().Hz;
+    const double limit =
+        std::min({RiseVoltageBound * ratedVolts, VoltageOfRise(RiseCeiling, model.kV(hz.front()), model.S3),
+                  VoltageOfRise(RiseCeiling, model.kV(hz.back()), model.S3)});
     if (auto refusal = RefuseParameter(volts, limit))
     {
         return *refusal;
     }
+    const auto kV = kVOverFrequency(model);
     const double power = CheckedPower(volts, model.S3);
     return CurveOverFrequency([&](std::size_t i) { return power * kV[i]; });
 }
 
 RiseResult RiseByApparentPower(const PowerModel& model, double ratedVolts, float voltAmperes)
 {
-    const auto kI = kIOverFrequency(model);
-    const auto kV = kVOverFrequency(model);
-    double limit = HUGE_VAL;
-    for (std::size_t i = 0; i < CurvePoints; ++i)
-    {
-        const auto atCeiling = VoltageOfRise(RiseCeiling, kV[i], model.S3, RiseVoltageBound * ratedVolts);
-        limit = std::min(limit, atCeiling.Volts * CurrentOfRise(atCeiling.Rise, kI[i]));
-    }
+    const auto loads = ApparentPowerOverFrequency(model, RiseCeiling, RiseVoltageBound * ratedVolts);
     const double exponent = ApparentPowerExponent(model.S3);
-    if (auto refusal = RefuseParameter(voltAmperes, limit))
+    if (auto refusal = RefuseParameter(voltAmperes, std::ranges::min(loads)))
     {
         return *refusal;
     }
+    // (X·kI^½·kV^(1/S3))^exponent, with what depends on frequency under one exponential.
+    const double constant =
+        CheckedPower(voltAmperes * CheckedPower(model.kVConstant(), 1 / model.S3), exponent);
+    const double perLnLog10 = model.S2 / model.S3 * exponent;
+    const auto& lnLog10 = LogFrequencySweep().LnLog10Hz;
     return CurveOverFrequency(
         [&](std::size_t i)
         {
-            const double base = voltAmperes * std::sqrt(kI[i]) * CheckedPower(kV[i], 1 / model.S3);
-            return CheckedPower(base, exponent);
+            const double ln =
+                exponent / 2 * std::log(model.kI(LogFrequencySweep().Hz[i])) + perLnLog10 * lnLog10[i];
+            return constant * std::exp(ln);
         });
 }
 
@@ -185,19 +170,19 @@ Curve RiseOverLoad(const PowerModel& model, double ratedVolts, double frequencyH
 {
     if (xAxisName == "Current")
     {
-        return CurveOf(CurrentLaw(model, frequencyHz));
+        return CurveOverCurrent(model, frequencyHz);
     }
     if (xAxisName == "Voltage")
     {
-        return CurveOf(VoltageLaw(model, ratedVolts, frequencyHz));
+        return CurveOverVoltage(model, ratedVolts, frequencyHz);
     }
     if (xAxisName == "Apparent Power")
     {
-        return CurveOf(ApparentPowerLaw(model, ratedVolts, frequencyHz));
+        return CurveOverApparentPower(model, ratedVolts, frequencyHz);
     }
     if (xAxisName == "Effective Power")
     {
-        return CurveOf(EffectivePowerLaw(model));
+        return CurveOverEffectivePower(model);
     }
     return {};
 }

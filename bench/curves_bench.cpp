@@ -1,0 +1,150 @@
+/// Curves per second of every chart, beside the same points from the plain formulas with a `pow` for every
+/// power at every point. "ratio" tells how many times as fast the calculation is as the plain formulas.
+
+#include "calc/Calculate.h"
+#include "tests/calc/PlainCurves.h"
+
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+#include <cstdint>
+#include <string>
+
+namespace
+{
+/// 1000 pF, 50 V, with coefficients of every kind.
+PartRecord TypicalPart(std::string_view tcc)
+{
+    PartRecord part;
+    part.Tcc[0] = tcc;
+    part.Data = {0,         1000,   50,       -1e-12F,  -2.5e-10F, -1.7e-9F, -3.4e-6F, -7e-4F,   -0.08F,
+                 -1.7e-12F, 2e-11F, -3.2e-8F, -1.3e-5F, -2.1e-3F,  -0.13F,   97.5F,    -94.8F,   4.9e-5F,
+                 -1.9e-3F,  30.9F,  -2.4e-9F, -4.8e-7F, 1.5e-3F,   1.6e-8F,  -1.8e-6F, 1.2e-3F,  1.64F,
+                 1.18F,     1.1e6F, 1.2F,     5.5e-7F,  35,        1.6e2F,   3.1F,     -1.4e-3F, 8.4e-6F,
+                 -1.4e-10F, 4e-12F, -3.6e-6F, -1e-6F,   9.5e-6F,   3.4e-4F,  8.8e-4F,  1.9e-3F,  0.13F,
+                 0.02F,     -7.2F,  -4.8e-6F, 9e-6F,    1.8e-5F,   -7.7e-5F, 5.4e-5F,  -4.6e-4F, 8.6e-3F,
+                 6.8e-3F,   7.4F,   1.6e-7F,  -8e-7F,   -2.7e-6F,  9e-6F,    -1.3e-4F, 3.9e-4F,  0.07F,
+                 -0.13F,    2.24F,  125};
+    return part;
+}
+
+struct Case
+{
+    std::string_view Tcc;
+    ChartType Type;
+    const char* XAxisName;
+    const char* YAxisName;
+    const char* ParameterName = "";
+    float ParameterValue = 0;
+    CodeView View = CodeView::Eia;
+};
+
+ChartRecord RecordOf(const Case& with)
+{
+    ChartRecord record;
+    record.ChartType = static_cast<std::int16_t>(with.Type);
+    record.XAxisName = with.XAxisName;
+    record.YAxisName = with.YAxisName;
+    record.ParameterName = with.ParameterName;
+    record.ParameterValue = with.ParameterValue;
+    record.DCBiasVoltage = 12;
+    record.HeatResistance = 80;
+    record.Frequency = 100;
+    record.AmbientTemp = 40;
+    return record;
+}
+
+void Calculated(const PartRecord& part, ChartRecord& record, CodeView view)
+{
+    if (record.ChartType >= 2)
+    {
+        CalculateDataS(part, record, view);
+    }
+    else if (CalculateDataT(part, record))
+    {
+        throw std::logic_error("the parameter of this benchmark is refused");
+    }
+    benchmark::DoNotOptimize(record.YData);
+}
+
+void Plain(const PartRecord& part, const ChartRecord& record, CodeView view)
+{
+    auto curve = PlainCurveOf(part, record, view);
+    benchmark::DoNotOptimize(curve);
+}
+
+/// Times both, turn about, so that a change of the machine's pace meets both.
+void Curves(benchmark::State& state, const Case& with)
+{
+    using Clock = std::chrono::steady_clock;
+    constexpr int curvesATurn = 20;
+    const auto part = TypicalPart(with.Tcc);
+    auto record = RecordOf(with);
+    std::chrono::duration<double> calculated{};
+    std::chrono::duration<double> plain{};
+    for (auto _ : state)
+    {
+        const auto start = Clock::now();
+        for (int i = 0; i < curvesATurn; ++i)
+        {
+            Calculated(part, record, with.View);
+        }
+        const auto middle = Clock::now();
+        for (int i = 0; i < curvesATurn; ++i)
+        {
+            Plain(part, record, with.View);
+        }
+        const auto end = Clock::now();
+        calculated += middle - start;
+        plain += end - middle;
+        state.SetIterationTime(std::chrono::duration<double>(middle - start).count());
+    }
+    const auto curves = static_cast<double>(state.iterations()) * curvesATurn;
+    state.counters["curves/s"] = curves / calculated.count();
+    state.counters["plain/s"] = curves / plain.count();
+    state.counters["ratio"] = plain.count() / calculated.count();
+}
+
+constexpr auto rise = ChartType::TemperatureRise;
+constexpr auto allowable = ChartType::AllowablePower;
+constexpr auto overTemperature = ChartType::CapacitanceTemperature;
+constexpr auto overBias = ChartType::CapacitanceDCVoltage;
+constexpr auto jis = CodeView::Jis;
+
+const std::pair<const char*, Case> cases[] = {
+    {"polynomial/temperature", {"X7R", overTemperature, "Temperature", "Capacitance Change"}},
+    {"polynomial/temperature/JIS", {"X7R", overTemperature, "Temperature", "Capacitance Change", "", 0, jis}},
+    {"polynomial/bias", {"X7R", overBias, "DC Bias Voltage", "Capacitance"}},
+    {"polynomial/bias/JIS", {"X7R", overBias, "DC Bias Voltage", "Capacitance Change", "", 0, jis}},
+    {"peaked/temperature", {"Y5V", overTemperature, "Temperature", "Capacitance Change"}},
+    {"peaked/temperature/JIS", {"Y5V", overTemperature, "Temperature", "Capacitance Change", "", 0, jis}},
+    {"peaked/bias", {"Y5V", overBias, "DC Bias Voltage", "Capacitance"}},
+    {"peaked/bias/JIS", {"Y5V", overBias, "DC Bias Voltage", "Capacitance Change", "", 0, jis}},
+    {"rise/current", {"X7R", rise, "Current", "Temperature Rise"}},
+    {"rise/voltage", {"X7R", rise, "Voltage", "Temperature Rise"}},
+    {"rise/apparent power", {"X7R", rise, "Apparent Power", "Temperature Rise"}},
+    {"rise/effective power", {"X7R", rise, "Effective Power", "Temperature Rise"}},
+    {"rise/frequency/current", {"X7R", rise, "Frequency", "Temperature Rise", "Current", 0.1F}},
+    {"rise/frequency/voltage", {"X7R", rise, "Frequency", "Temperature Rise", "Voltage", 0.1F}},
+    {"rise/frequency/apparent power",
+     {"X7R", rise, "Frequency", "Temperature Rise", "Apparent Power", 0.001F}},
+    {"rise/frequency/effective power",
+     {"X7R", rise, "Frequency", "Temperature Rise", "Effective Power", 0.1F}},
+    {"allowable/current", {"X7R", allowable, "Frequency", "Current"}},
+    {"allowable/voltage", {"X7R", allowable, "Frequency", "Voltage"}},
+    {"allowable/apparent power", {"X7R", allowable, "Frequency", "Apparent Power"}},
+    {"allowable/effective power", {"X7R", allowable, "Frequency", "Effective Power"}},
+};
+} // namespace
+
+int main(int argc, char** argv)
+{
+    for (const auto& [name, with] : cases)
+    {
+        benchmark::RegisterBenchmark(name, [with = with](benchmark::State& state) { Curves(state, with); })
+            ->UseManualTime();
+    }
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+}

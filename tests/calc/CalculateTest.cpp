@@ -1,0 +1,145 @@
+#include "calc/Calculate.h"
+#include "partdata/RunTimeError.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace
+{
+PartRecord Part()
+{
+    PartRecord part;
+    part.Tcc[0] = "X7R";
+    part.Data[1] = 1000;
+    part.Data[2] = 10;
+    part.Data[14] = 0.5F;
+    part.Data[29] = 1;
+    part.Data[31] = 50;
+    part.Data[64] = 2;
+    part.Data[65] = 125;
+    return part;
+}
+
+/// A record whose curve fields hold what no calculation writes.
+ChartRecord MarkedRecord(ChartType type)
+{
+    ChartRecord record;
+    record.ChartType = static_cast<std::int16_t>(type);
+    record.XAxisName = "Frequency";
+    record.YAxisName = "Current";
+    record.ParameterName = "Current";
+    record.HeatResistance = 50;
+    record.AmbientTemp = 25;
+    record.XData.fill(-7);
+    record.YData.fill(-7);
+    record.XMax = record.YMax = record.XMin = record.YMin = record.ExtraValue = -7;
+    return record;
+}
+
+void ExpectMarked(const ChartRecord& record)
+{
+    for (std::size_t i = 0; i < CurvePoints; ++i)
+    {
+        ASSERT_EQ(record.XData[i], -7);
+        ASSERT_EQ(record.YData[i], -7);
+    }
+    EXPECT_EQ(record.XMax, -7);
+    EXPECT_EQ(record.YMax, -7);
+    EXPECT_EQ(record.XMin, -7);
+    EXPECT_EQ(record.YMin, -7);
+    EXPECT_EQ(record.ExtraValue, -7);
+}
+
+TEST(CalculateDataT, LeavesTheRecordOfARefusedParameter)
+{
+    auto record = MarkedRecord(ChartType::TemperatureRise);
+    record.ParameterValue = 9;
+    const auto refusal = CalculateDataT(Part(), record);
+    ASSERT_TRUE(refusal);
+    EXPECT_FLOAT_EQ(static_cast<float>(refusal->Limit), std::sqrt(80.0F));
+    EXPECT_EQ(refusal->Message, "Parameter is invalid!\r\nPlease enter a Number from 0 to 8.944");
+    ExpectMarked(record);
+}
+
+TEST(CalculateDataT, LeavesTheRecordOnAFault)
+{
+    auto part = Part();
+    part.Data[2] = 0;
+    for (const auto type : {ChartType::TemperatureRise, ChartType::AllowablePower})
+    {
+        auto record = MarkedRecord(type);
+        EXPECT_THROW(CalculateDataT(part, record), RunTimeError);
+        ExpectMarked(record);
+    }
+}
+
+TEST(CalculateDataT, FaultsWithoutARatedVoltageOnEveryAxis)
+{
+    auto part = Part();
+    part.Data[2] = 0;
+    auto record = MarkedRecord(ChartType::TemperatureRise);
+    record.XAxisName = "Effective Power";
+    EXPECT_THROW(CalculateDataT(part, record), RunTimeError);
+}
+
+TEST(CalculateDataT, TakesTheFrequencyInKilohertz)
+{
+    auto part = Part();
+    part.Data[28] = 1000;
+    part.Data[29] = 0;
+    auto record = MarkedRecord(ChartType::TemperatureRise);
+    record.XAxisName = "Current";
+    record.Frequency = 100;
+    ASSERT_FALSE(CalculateDataT(part, record));
+    // kI = 1000 / 100000 Hz
+    EXPECT_FLOAT_EQ(record.XData.back(), static_cast<float>(std::sqrt(8000.0)));
+    EXPECT_EQ(record.YData.back(), 80);
+    EXPECT_EQ(record.XMax, 90);
+    EXPECT_EQ(record.YMax, 100);
+    EXPECT_EQ(record.ExtraValue, 0);
+}
+
+TEST(CalculateDataT, StoresTheLargestAllowableLoad)
+{
+    auto record = MarkedRecord(ChartType::AllowablePower);
+    record.AmbientTemp = 121;
+    ASSERT_FALSE(CalculateDataT(Part(), record));
+    EXPECT_EQ(record.ExtraValue, 2);
+    EXPECT_EQ(record.YMax, 10);
+    EXPECT_EQ(record.YMin, 1);
+}
+
+TEST(CalculateDataS, LeavesTheRecordOnAFault)
+{
+    auto part = Part();
+    part.Data[14] = HUGE_VALF;
+    auto record = MarkedRecord(ChartType::CapacitanceTemperature);
+    record.YAxisName = "Capacitance";
+    EXPECT_THROW(CalculateDataS(part, record, CodeView::Eia), RunTimeError);
+    ExpectMarked(record);
+}
+
+TEST(CalculateDataS, LeavesThePointsOfAnUnlistedCharacteristic)
+{
+    auto part = Part();
+    part.Tcc[0] = "C0G";
+    auto record = MarkedRecord(ChartType::CapacitanceDCVoltage);
+    record.YAxisName = "Capacitance Change";
+    CalculateDataS(part, record, CodeView::Eia);
+    EXPECT_EQ(record.XData.front(), -7);
+    EXPECT_EQ(record.YData.back(), -7);
+    EXPECT_EQ(record.XMax, 10);
+    EXPECT_EQ(record.YMax, 10);
+}
+
+TEST(Calculation, DoesNothingForTheChartTypesOfTheOther)
+{
+    auto rise = MarkedRecord(ChartType::TemperatureRise);
+    CalculateDataS(Part(), rise, CodeView::Eia);
+    ExpectMarked(rise);
+    auto capacitance = MarkedRecord(ChartType::CapacitanceTemperature);
+    EXPECT_FALSE(CalculateDataT(Part(), capacitance));
+    ExpectMarked(capacitance);
+}
+} // namespace

@@ -1,0 +1,255 @@
+#include "calc/Capacitance.h"
+#include "calc/CapacitanceAxes.h"
+#include "partdata/RunTimeError.h"
+#include "tests/calc/NamedRow.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace
+{
+/// 1000 pF, 10 V; 0.1 % per °C and -2 % per volt.
+PartRecord LinearPart(std::string_view tcc = "X7R")
+{
+    PartRecord part;
+    part.PartNum[0] = "HVX0805";
+    part.Tcc[0] = tcc;
+    part.Data[1] = 1000;
+    part.Data[2] = 10;
+    part.Data[8] = -2;
+    part.Data[14] = 0.125F;
+    return part;
+}
+
+/// 1000 pF, 10 V; bell of 100 % at 25 °C over -100 %, falling as exp(-0.2·ΔT) below and exp(-0.01·ΔT²) above.
+PartRecord PeakedPart()
+{
+    auto part = LinearPart("Y5V");
+    part.Data[15] = 100;
+    part.Data[16] = -100;
+    part.Data[19] = 25;
+    part.Data[22] = 0.2F;
+    part.Data[25] = 0.01F;
+    part.Data[26] = 1;
+    part.Data[27] = 2;
+    return part;
+}
+
+float FirstChange(const PartRecord& part, float ambientC, CodeView view)
+{
+    return CalcCapDCVoltage(part, ambientC, CapacitanceChangeAxis, view).YData[0];
+}
+
+template <class Action> int ErrorOf(Action action)
+{
+    try
+    {
+        action();
+    }
+    catch (const RunTimeError& error)
+    {
+        return error.Number();
+    }
+    return 0;
+}
+
+struct RangeRow
+{
+    const char* Name;
+    std::string_view Tcc;
+    CodeView View;
+    float MinC;
+    float MaxC;
+};
+
+class TemperatureSweep : public testing::TestWithParam<RangeRow>
+{
+};
+
+TEST_P(TemperatureSweep, HasBothEndsOfTheRange)
+{
+    const auto& row = GetParam();
+    auto part = PeakedPart();
+    part.Tcc[0] = row.Tcc;
+    const auto curve = CalcCapTemperature(part, 0, CapacitanceChangeAxis, row.View);
+    ASSERT_TRUE(curve.HasPoints);
+    EXPECT_EQ(curve.XData.front(), row.MinC);
+    EXPECT_EQ(curve.XData.back(), row.MaxC);
+    EXPECT_TRUE(std::ranges::is_sorted(curve.XData));
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, TemperatureSweep,
+                         testing::Values(RangeRow{"X7R in EIA", "X7R", CodeView::Eia, -55, 125},
+                                         RangeRow{"X7R in JIS", "X7R", CodeView::Jis, -55, 125},
+                                         RangeRow{"X5R in EIA", "X5R", CodeView::Eia, -55, 85},
+                                         RangeRow{"X5R in JIS", "X5R", CodeView::Jis, -25, 85},
+                                         RangeRow{"Y5V in EIA", "Y5V", CodeView::Eia, -30, 85},
+                                         RangeRow{"Y5V in JIS", "Y5V", CodeView::Jis, -25, 85}),
+                         RowName<RangeRow>);
+
+TEST(PolynomialModel, CombinesTemperatureAndBias)
+{
+    // 10 V: b = -20. -55 °C: p = -10, c = 2 - 20 - 10. 125 °C: p = 12.5, c = -2.5 - 20 + 12.5.
+    const auto curve = CalcCapTemperature(LinearPart(), 10, CapacitanceChangeAxis, CodeView::Eia);
+    EXPECT_FLOAT_EQ(curve.YData.front(), -28);
+    EXPECT_FLOAT_EQ(curve.YData.back(), -10);
+    EXPECT_EQ(curve.Limits, (AxisLimits{.XMax = 125, .YMax = -10, .XMin = -75, .YMin = -30}));
+}
+
+TEST(PolynomialModel, ShowsCapacitanceOfTheCombinedChange)
+{
+    const auto curve = CalcCapTemperature(LinearPart(), 10, CapacitanceAxis, CodeView::Eia);
+    EXPECT_FLOAT_EQ(curve.YData.front(), 720);
+    EXPECT_FLOAT_EQ(curve.YData.back(), 900);
+    EXPECT_EQ(curve.Limits.YMax, 1000);
+    EXPECT_EQ(curve.Limits.YMin, 700);
+}
+
+TEST(PolynomialModel, RefersTo20DegreesInJis)
+{
+    // At 20 °C p = -0.625, C20 = 993.75 pF; at -55 °C and 10 V C = 720 pF.
+    const auto curve = CalcCapTemperature(LinearPart(), 10, CapacitanceChangeAxis, CodeView::Jis);
+    EXPECT_FLOAT_EQ(curve.YData.front(), static_cast<float>((720 - 993.75) / 993.75 * 100));
+    const auto capacitance = CalcCapTemperature(LinearPart(), 10, CapacitanceAxis, CodeView::Jis);
+    EXPECT_FLOAT_EQ(capacitance.YData.front(), 720);
+}
+
+TEST(PolynomialModel, HasAllSixPowers)
+{
+    auto part = LinearPart();
+    for (std::size_t i = 3; i <= 8; ++i)
+    {
+        part.Data[i] = static_cast<float>(i);
+    }
+    part.Data[2] = 2;
+    // 3·64 + 4·32 + 5·16 + 6·8 + 7·4 + 8·2 at 2 V and 25 °C
+    const auto curve = CalcCapDCVoltage(part, 25, CapacitanceChangeAxis, CodeView::Eia);
+    EXPECT_FLOAT_EQ(curve.YData.back(), 492);
+    EXPECT_EQ(curve.XData.back(), 2);
+}
+
+TEST(ReferencePoint, IsAt25DegreesInEiaAndAt20InJis)
+{
+    EXPECT_EQ(FirstChange(LinearPart(), 25, CodeView::Eia), 0);
+    EXPECT_EQ(FirstChange(LinearPart(), 20, CodeView::Jis), 0);
+    EXPECT_EQ(FirstChange(PeakedPart(), 25, CodeView::Eia), 0);
+    EXPECT_EQ(FirstChange(PeakedPart(), 20, CodeView::Jis), 0);
+    EXPECT_NE(FirstChange(LinearPart(), 20, CodeView::Eia), 0);
+    EXPECT_NE(FirstChange(LinearPart(), 25, CodeView::Jis), 0);
+}
+
+TEST(VoltageSweep, RunsFromZeroToTheRatedVoltage)
+{
+    const auto curve = CalcCapDCVoltage(LinearPart(), 25, CapacitanceAxis, CodeView::Eia);
+    EXPECT_EQ(curve.XData.front(), 0);
+    EXPECT_EQ(curve.XData.back(), 10);
+    EXPECT_FLOAT_EQ(curve.YData.front(), 1000);
+    EXPECT_FLOAT_EQ(curve.YData.back(), 800);
+    EXPECT_EQ(curve.Limits, (AxisLimits{.XMax = 10, .YMax = 1100, .XMin = 0, .YMin = 800}));
+}
+
+TEST(PeakedModel, HasItsOwnDecayOnEitherSide)
+{
+    EXPECT_FLOAT_EQ(FirstChange(PeakedPart(), 35, CodeView::Eia),
+                    static_cast<float>(100 * std::exp(-1.0) - 100));
+    EXPECT_FLOAT_EQ(FirstChange(PeakedPart(), 15, CodeView::Eia),
+                    static_cast<float>(100 * std::exp(-2.0) - 100));
+}
+
+TEST(PeakedModel, ScalesThePeakByTheBias)
+{
+    // 10 V: B = -20, so the peak is 80 and the change at 25 °C -20.
+    const auto curve = CalcCapDCVoltage(PeakedPart(), 25, CapacitanceChangeAxis, CodeView::Eia);
+    EXPECT_FLOAT_EQ(curve.YData.back(), -20);
+}
+
+TEST(PeakedModel, MovesThePeakWithTheBias)
+{
+    auto part = PeakedPart();
+    part.Data[8] = 0;
+    part.Data[17] = 0.25F;
+    part.Data[18] = 1;
+    // 10 V: the peak is at 25 + 10 + 25 = 60 °C.
+    EXPECT_NEAR(CalcCapDCVoltage(part, 60, CapacitanceChangeAxis, CodeView::Eia).YData.back(), 0, 1e-9);
+}
+
+TEST(PeakedModel, RefersToItsOwnFlankAt20Degrees)
+{
+    auto part = PeakedPart();
+    part.Data[19] = 20;
+    EXPECT_EQ(FirstChange(part, 20, CodeView::Jis), 0);
+    part.Data[19] = 10;
+    // Peak below 20 °C: p20 = 100·exp(-0.01·100) - 100, C20 = 1000·exp(-1); the peak is e times as high.
+    EXPECT_FLOAT_EQ(FirstChange(part, 10, CodeView::Jis), static_cast<float>((std::exp(1.0) - 1) * 100));
+}
+
+TEST(UnlistedCharacteristic, HasAxesButNoPoints)
+{
+    const auto curve = CalcCapTemperature(LinearPart("X6S"), 0, CapacitanceChangeAxis, CodeView::Eia);
+    EXPECT_FALSE(curve.HasPoints);
+    EXPECT_EQ(curve.Limits, (AxisLimits{.XMax = 0, .YMax = 10, .XMin = 0, .YMin = 0}));
+    const auto overBias = CalcCapDCVoltage(LinearPart("X6S"), 25, CapacitanceAxis, CodeView::Eia);
+    EXPECT_FALSE(overBias.HasPoints);
+    EXPECT_EQ(overBias.Limits, (AxisLimits{.XMax = 10, .YMax = 0, .XMin = 0, .YMin = 0}));
+}
+
+TEST(SpecialPart, OfAnUnlistedCharacteristicHasAllPointsAtZero)
+{
+    auto part = LinearPart("Z5U");
+    part.PartNum[0] = "KTS188F51H102ZA01";
+    const auto curve = CalcCapTemperature(part, 0, CapacitanceChangeAxis, CodeView::Eia);
+    ASSERT_TRUE(curve.HasPoints);
+    EXPECT_TRUE(std::ranges::all_of(curve.XData, [](float x) { return x == 0; }));
+    EXPECT_TRUE(std::ranges::all_of(curve.YData, [](float y) { return y == -3.125F; }));
+}
+
+TEST(SpecialPart, OfY5VFollowsThePolynomial)
+{
+    auto part = PeakedPart();
+    part.PartNum[0] = "KTU155F51H222ZA01";
+    EXPECT_EQ(CapacitanceModelOf(part), CapacitanceModel::Polynomial);
+    EXPECT_FLOAT_EQ(FirstChange(part, 35, CodeView::Eia), 1.25F);
+    part.PartNum[0] = "ktu155f51h222za01";
+    EXPECT_EQ(CapacitanceModelOf(part), CapacitanceModel::Peaked);
+}
+
+TEST(OtherYAxis, StoresNoPoint)
+{
+    EXPECT_FALSE(CalcCapTemperature(LinearPart(), 0, "Current", CodeView::Eia).HasPoints);
+}
+
+TEST(CapacitanceFault, OfAPowerWithoutValueIs5)
+{
+    auto part = PeakedPart();
+    part.Data[27] = -1;
+    EXPECT_EQ(ErrorOf([&] { FirstChange(part, 25, CodeView::Eia); }), 5);
+    EXPECT_EQ(ErrorOf([&] { FirstChange(part, 26, CodeView::Eia); }), 0);
+}
+
+TEST(CapacitanceFault, OfAZeroReferenceIs11InJisOnly)
+{
+    auto part = LinearPart();
+    part.Data[1] = 0;
+    EXPECT_EQ(ErrorOf([&] { FirstChange(part, 25, CodeView::Jis); }), 11);
+    EXPECT_EQ(ErrorOf([&] { FirstChange(part, 25, CodeView::Eia); }), 0);
+}
+
+TEST(CapacitanceFault, OfAValueThatIsNotFiniteIs6)
+{
+    auto part = LinearPart();
+    part.Data[14] = std::numeric_limits<float>::infinity();
+    EXPECT_EQ(ErrorOf([&] { FirstChange(part, 25, CodeView::Eia); }), 6);
+    part = LinearPart();
+    part.Data[1] = 3e38F;
+    part.Data[14] = 10;
+    EXPECT_EQ(ErrorOf([&] { CalcCapDCVoltage(part, 125, CapacitanceAxis, CodeView::Eia); }), 6);
+}
+
+TEST(CapacitanceFault, IsNotRaisedByCoefficientsOutOfReach)
+{
+    auto part = LinearPart();
+    part.Data[15] = std::numeric_limits<float>::quiet_NaN();
+    EXPECT_EQ(ErrorOf([&] { FirstChange(part, 25, CodeView::Jis); }), 0);
+}
+} // namespace

@@ -1,0 +1,464 @@
+#include "calc/AllowablePower.h"
+#include "calc/ParameterLimit.h"
+#include "calc/PowerModel.h"
+#include "calc/TemperatureRise.h"
+#include "partdata/RunTimeError.h"
+#include "tests/calc/NamedRow.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace
+{
+/// 10 V, Tmax 125 °C; at 20 °C and without bias kI = 4·Rth/50 and kV = (log10 f)·0.25·Rth/50, S3 = 2.5.
+PartRecord HeatedPart()
+{
+    PartRecord part;
+    part.Data[2] = 10;
+    part.Data[29] = 4;
+    part.Data[31] = 50;
+    part.Data[46] = static_cast<float>(std::log10(0.25));
+    part.Data[55] = 1;
+    part.Data[64] = 2.5F;
+    part.Data[65] = 125;
+    return part;
+}
+
+PowerModel HeatedModel()
+{
+    return PowerModelOf(HeatedPart(), 0, 20, 50);
+}
+
+/// kI = kV = 1 at every frequency, S3 = 2, Rth = Rref = 50.
+PowerModel UnitModel()
+{
+    return {.Q1 = 0, .Q2 = 1, .Q3 = 0, .S1 = 1, .S2 = 0, .S3 = 2, .Rref = 50, .Rth = 50};
+}
+
+template <class Action> int ErrorOf(Action action)
+{
+    try
+    {
+        action();
+    }
+    catch (const RunTimeError& error)
+    {
+        return error.Number();
+    }
+    return 0;
+}
+
+constexpr double frequencyHz = 1e5;
+
+TEST(PowerModel, WeighsFrequencyAndHeatResistance)
+{
+    auto part = HeatedPart();
+    part.Data[28] = 1000;
+    part.Data[30] = 0.25F;
+    const auto model = PowerModelOf(part, 0, 20, 100);
+    // (1000/2000 + 4 + 2000·0.25)·100/50
+    EXPECT_DOUBLE_EQ(model.kI(2000), 1009);
+    // log10(10000)·0.25·100/50
+    EXPECT_NEAR(model.kV(1e4), 2, 1e-6);
+}
+
+TEST(PowerModel, IsQuadraticInTheTemperature)
+{
+    auto part = HeatedPart();
+    part.Data[28] = 1;
+    part.Data[32] = 2;
+    part.Data[33] = 3;
+    part.Data[34] = 5;
+    part.Data[35] = 6;
+    part.Data[36] = 7;
+    part.Data[37] = 8;
+    const auto model = PowerModelOf(part, 0, 30, 50);
+    EXPECT_DOUBLE_EQ(model.Q1, 1 + 20 + 300);
+    EXPECT_DOUBLE_EQ(model.Q2, 4 + 50 + 600);
+    EXPECT_DOUBLE_EQ(model.Q3, 70 + 800);
+}
+
+TEST(PowerModel, HasSurfacesInBiasAndTemperature)
+{
+    auto part = HeatedPart();
+    for (std::size_t i = 0; i < 9; ++i)
+    {
+        part.Data[47 + i] = static_cast<float>(i + 1);
+    }
+    // r = 0.5, t = 10: groups 1·0.25 + 2·0.5 + 3, 4·0.25 + 5·0.5 + 6, 7·0.25 + 8·0.5 + 9
+    const auto model = PowerModelOf(part, 5, 30, 50);
+    EXPECT_DOUBLE_EQ(model.S2, 14.75 + 10 * 9.5 + 100 * 4.25);
+}
+
+TEST(PowerModel, TakesConstantsOnlyAt20DegreesWithoutBias)
+{
+    auto part = HeatedPart();
+    for (std::size_t i = 32; i <= 43; ++i)
+    {
+        part.Data[i] = 1e3F;
+    }
+    for (const std::size_t i : {44U, 45U, 47U, 48U, 49U, 50U, 51U, 52U, 56U, 57U, 58U, 59U, 60U, 61U})
+    {
+        part.Data[i] = 1e3F;
+    }
+    const auto model = PowerModelOf(part, 0, 20, 50);
+    EXPECT_EQ(model.Q2, 4);
+    EXPECT_NEAR(model.S1, 0.25, 1e-7);
+    EXPECT_EQ(model.S2, 1);
+    EXPECT_EQ(model.S3, 2.5);
+}
+
+TEST(PowerModel, HasACurrentLawOf1WhereItIsNotPositive)
+{
+    auto model = UnitModel();
+    model.Q2 = 0;
+    model.Rref = 0;
+    EXPECT_EQ(model.kI(frequencyHz), 1);
+    model.Q2 = -3;
+    EXPECT_EQ(model.kI(frequencyHz), 1);
+    model.Q2 = 3;
+    model.Rref = -50;
+    EXPECT_EQ(model.kI(frequencyHz), 1);
+}
+
+TEST(PowerModel, FaultsAtTheStepThatGoesWrong)
+{
+    auto part = HeatedPart();
+    part.Data[2] = 0;
+    EXPECT_EQ(ErrorOf([&] { PowerModelOf(part, 0, 20, 50); }), 11);
+    part = HeatedPart();
+    part.Data[46] = 400;
+    EXPECT_EQ(ErrorOf([&] { PowerModelOf(part, 0, 20, 50); }), 6);
+    part = HeatedPart();
+    part.Data[33] = std::numeric_limits<float>::infinity();
+    EXPECT_EQ(ErrorOf([&] { PowerModelOf(part, 0, 20, 50); }), 6);
+    auto model = UnitModel();
+    model.Rref = 0;
+    EXPECT_EQ(ErrorOf([&] { model.kI(frequencyHz); }), 11);
+    EXPECT_EQ(ErrorOf([&] { model.kV(frequencyHz); }), 11);
+    EXPECT_EQ(ErrorOf([&] { UnitModel().kI(0); }), 11);
+    EXPECT_EQ(ErrorOf([&] { UnitModel().kV(0); }), 5);
+}
+
+struct AllowRow
+{
+    const char* Name;
+    float MaxC;
+    float AmbientC;
+    double Rise;
+};
+
+class PermittedRise : public testing::TestWithParam<AllowRow>
+{
+};
+
+TEST_P(PermittedRise, ShrinksTowardsTheUpperTemperature)
+{
+    EXPECT_EQ(dTallow(GetParam().MaxC, GetParam().AmbientC), GetParam().Rise);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, PermittedRise,
+    testing::Values(AllowRow{"well below", 125, 25, 20}, AllowRow{"just below the last 20", 125, 104.9F, 20},
+                    AllowRow{"at the last 20", 125, 105, 20}, AllowRow{"within the last 20", 125, 110, 15},
+                    AllowRow{"at the upper temperature", 125, 125, 0}, AllowRow{"above it", 125, 125.5F, 0},
+                    // 1e-7 - 20 is -20 as a single, so that -20 is not below it.
+                    AllowRow{"compared with a single", 1e-7F, -20, double{1e-7F} + 20}),
+    RowName<AllowRow>);
+
+TEST(RiseOverLoad, OfCurrentEndsAt80Degrees)
+{
+    auto model = UnitModel();
+    model.Q2 = 0;
+    const auto curve = RiseOverLoad(model, 10, frequencyHz, "Current");
+    EXPECT_FLOAT_EQ(curve.XData.back(), std::sqrt(80.0F));
+    EXPECT_EQ(curve.YData.back(), 80);
+    EXPECT_EQ(curve.XData.front(), 0);
+    EXPECT_EQ(curve.YData.front(), 0);
+    EXPECT_EQ(curve.Limits, (AxisLimits{.XMax = 9, .YMax = 100, .XMin = 0, .YMin = 0}));
+}
+
+TEST(RiseOverLoad, OfVoltageEndsAtTheBoundOrAt80Degrees)
+{
+    const auto bounded = RiseOverLoad(UnitModel(), 10, frequencyHz, "Voltage");
+    EXPECT_FLOAT_EQ(bounded.XData.back(), 3.536F);
+    EXPECT_FLOAT_EQ(bounded.YData.back(), 3.536F * 3.536F);
+    EXPECT_EQ(bounded.Limits.YMax, 20);
+    const auto hot = RiseOverLoad(UnitModel(), 100, frequencyHz, "Voltage");
+    EXPECT_FLOAT_EQ(hot.XData.back(), std::sqrt(80.0F));
+    EXPECT_EQ(hot.YData.back(), 80);
+}
+
+TEST(RiseOverLoad, OfApparentPowerFollowsBothLaws)
+{
+    const auto model = HeatedModel();
+    const double kI = model.kI(frequencyHz);
+    const double kV = model.kV(frequencyHz);
+    for (const double ratedVolts : {5.0, 500.0})
+    {
+        const auto curve = RiseOverLoad(model, ratedVolts, frequencyHz, "Apparent Power");
+        for (const std::size_t i : {1U, 50U, 199U})
+        {
+            const double amperes = std::sqrt(curve.YData[i] / kI);
+            const double volts = std::pow(curve.YData[i] / kV, 1 / 2.5);
+            EXPECT_NEAR(amperes * volts, curve.XData[i], 1e-6 * curve.XData[i]);
+        }
+    }
+}
+
+TEST(RiseOverLoad, OfApparentPowerEndsAtTheBoundOrAt80Degrees)
+{
+    // 3.536 V, a rise of 3.536² and a current of 3.536 A
+    const auto bounded = RiseOverLoad(UnitModel(), 10, frequencyHz, "Apparent Power");
+    EXPECT_FLOAT_EQ(bounded.XData.back(), 3.536F * 3.536F);
+    EXPECT_FLOAT_EQ(bounded.YData.back(), 3.536F * 3.536F);
+    const auto hot = RiseOverLoad(UnitModel(), 100, frequencyHz, "Apparent Power");
+    EXPECT_FLOAT_EQ(hot.XData.back(), 80);
+    EXPECT_EQ(hot.YData.back(), 80);
+}
+
+TEST(RiseOverLoad, OfEffectivePowerIsALine)
+{
+    const auto curve = RiseOverLoad(UnitModel(), 10, frequencyHz, "Effective Power");
+    EXPECT_FLOAT_EQ(curve.XData.back(), 1.6F);
+    EXPECT_EQ(curve.YData.back(), 80);
+    EXPECT_FLOAT_EQ(curve.YData[100], 80 * 100 / 199.0F);
+}
+
+TEST(RiseOverLoad, BearsAnUnusedFrequencyOfZero)
+{
+    EXPECT_EQ(ErrorOf([] { RiseOverLoad(UnitModel(), 10, 0, "Effective Power"); }), 0);
+    EXPECT_EQ(ErrorOf([] { RiseOverLoad(UnitModel(), 10, 0, "Current"); }), 11);
+}
+
+TEST(RiseOverLoad, FaultsWhereThePowerHasNoValue)
+{
+    auto model = UnitModel();
+    model.S3 = -2;
+    EXPECT_EQ(ErrorOf([&] { RiseOverLoad(model, 10, frequencyHz, "Voltage"); }), 5);
+    EXPECT_EQ(ErrorOf([&] { RiseOverLoad(model, 10, frequencyHz, "Apparent Power"); }), 11);
+    model.S3 = 0;
+    EXPECT_EQ(ErrorOf([&] { RiseOverLoad(model, 10, frequencyHz, "Apparent Power"); }), 11);
+}
+
+struct LimitRow
+{
+    const char* Name;
+    std::string_view ParameterName;
+    double RatedVolts;
+    double Limit;
+};
+
+class LargestParameter : public testing::TestWithParam<LimitRow>
+{
+protected:
+    static auto RiseAt(float parameter)
+    {
+        return RiseOverFrequency(HeatedModel(), GetParam().RatedVolts, GetParam().ParameterName, parameter);
+    }
+};
+
+TEST_P(LargestParameter, IsPermittedAndTheNextRefused)
+{
+    const auto limit = static_cast<float>(GetParam().Limit);
+    EXPECT_TRUE(std::holds_alternative<Curve>(RiseAt(limit * 0.999999F)));
+    EXPECT_TRUE(std::holds_alternative<Curve>(RiseAt(0)));
+    const auto above = RiseAt(limit * 1.000001F);
+    ASSERT_TRUE(std::holds_alternative<ParameterRefusal>(above));
+    EXPECT_NEAR(std::get<ParameterRefusal>(above).Limit, GetParam().Limit, 1e-6 * GetParam().Limit);
+    EXPECT_TRUE(std::holds_alternative<ParameterRefusal>(RiseAt(-1e-6F)));
+}
+
+TEST_P(LargestParameter, IsShownAsANumberThatIsPermitted)
+{
+    const auto refusal = std::get<ParameterRefusal>(RiseAt(1e9F));
+    EXPECT_LE(refusal.Shown, refusal.Limit * (1 + 1e-7));
+    EXPECT_GT(refusal.Shown, refusal.Limit * 0.999);
+    EXPECT_TRUE(std::holds_alternative<Curve>(RiseAt(refusal.Shown)));
+}
+
+// The hottest frequency is 1 MHz, where log10 f = 6, kI = 4 and kV = 1.5.
+INSTANTIATE_TEST_SUITE_P(Rows, LargestParameter,
+                         testing::Values(LimitRow{"current", "Current", 10, std::sqrt(20)},
+                                         LimitRow{"voltage at the bound", "Voltage", 10, 3.536},
+                                         LimitRow{"voltage below the bound", "Voltage", 100,
+                                                  std::pow(80 / 1.5, 0.4)},
+                                         LimitRow{"apparent power", "Apparent Power", 100,
+                                                  std::sqrt(20) * std::pow(80 / 1.5, 0.4)},
+                                         // at the bound a cooler part carries less current: 10 kHz, kV = 1
+                                         LimitRow{"apparent power at the bound", "Apparent Power", 10,
+                                                  3.536 * std::sqrt(std::pow(3.536, 2.5) / 4)},
+                                         LimitRow{"effective power", "Effective Power", 10, 1.6}),
+                         RowName<LimitRow>);
+
+TEST(RiseOverFrequency, RunsEvenlyInTheLogarithm)
+{
+    const auto curve = std::get<Curve>(RiseOverFrequency(HeatedModel(), 10, "Voltage", 2));
+    EXPECT_EQ(curve.XData.front(), 1e4F);
+    EXPECT_EQ(curve.XData.back(), 1e6F);
+    EXPECT_FLOAT_EQ(curve.XData[1], static_cast<float>(std::exp(std::log(1e4) + std::log(100.0) / 199)));
+    EXPECT_FLOAT_EQ(curve.YData.front(), static_cast<float>(std::pow(2, 2.5)));
+    EXPECT_FLOAT_EQ(curve.YData.back(), static_cast<float>(1.5 * std::pow(2, 2.5)));
+    EXPECT_EQ(curve.Limits, (AxisLimits{.XMax = 1e6F, .YMax = 10, .XMin = 1e4F, .YMin = 0}));
+}
+
+TEST(RiseOverFrequency, EndsTheYAxisAtTheNextTenOrAt80)
+{
+    const auto limits = [](float amperes)
+    { return std::get<Curve>(RiseOverFrequency(UnitModel(), 10, "Current", amperes)).Limits.YMax; };
+    EXPECT_EQ(limits(0), 10);
+    EXPECT_EQ(limits(4), 20);
+    EXPECT_EQ(limits(8.5F), 80);
+    EXPECT_EQ(limits(static_cast<float>(std::sqrt(80.0))), 80);
+}
+
+TEST(RiseOverFrequency, KeepsTheLineOfTheLargestParameterOnTheChart)
+{
+    for (const double rth : {30.0, 49.0, 70.0, 123.0, 333.0})
+    {
+        auto model = UnitModel();
+        model.Rth = rth;
+        const auto limit = static_cast<float>(80 / rth);
+        const auto curve = std::get<Curve>(RiseOverFrequency(model, 10, "Effective Power", limit));
+        EXPECT_LE(std::ranges::max(curve.YData), 80) << rth;
+        EXPECT_NEAR(curve.YData.front(), 80, 1e-4) << rth;
+    }
+}
+
+struct CutRow
+{
+    const char* Name;
+    float Number;
+    float Cut;
+};
+
+class CutNumber : public testing::TestWithParam<CutRow>
+{
+};
+
+TEST_P(CutNumber, KeepsFourDigitsAndIsNeverLarger)
+{
+    EXPECT_EQ(CutToFourDigits(GetParam().Number), GetParam().Cut);
+    EXPECT_LE(CutToFourDigits(GetParam().Number), GetParam().Number);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, CutNumber,
+                         testing::Values(CutRow{"zero", 0, 0}, CutRow{"short stays", 0.3F, 0.3F},
+                                         CutRow{"four digits stay", 9.931F, 9.931F},
+                                         CutRow{"never up", 9.9319F, 9.931F},
+                                         CutRow{"small", 0.00025049F, 0.0002504F},
+                                         CutRow{"large", 123456, 123400},
+                                         CutRow{"tiny", 1.23456e-20F, 1.234e-20F}),
+                         RowName<CutRow>);
+
+TEST(ParameterRefusalMessage, ShowsThePermittedRange)
+{
+    const auto refusal = RefuseParameter(15.49F, 9.9315671);
+    ASSERT_TRUE(refusal);
+    EXPECT_EQ(refusal->Message, "Parameter is invalid!\r\nPlease enter a Number from 0 to 9.931");
+}
+
+struct BoundRow
+{
+    const char* Name;
+    double BiasVolts;
+    double Bound;
+};
+
+class VoltageBound : public testing::TestWithParam<BoundRow>
+{
+};
+
+TEST_P(VoltageBound, KeepsBiasAndSineWithinTheRatedVoltage)
+{
+    EXPECT_DOUBLE_EQ(AllowableVoltageBound(10, GetParam().BiasVolts), GetParam().Bound);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, VoltageBound,
+                         testing::Values(BoundRow{"no bias", 0, 3.54},
+                                         BoundRow{"half the rated voltage", 5, 3.54},
+                                         BoundRow{"above half", 6, 2.828}, BoundRow{"rated voltage", 10, 0}),
+                         RowName<BoundRow>);
+
+TEST(VoltageBound, MeetsAtHalfTheRatedVoltage)
+{
+    EXPECT_NEAR(AllowableVoltageBound(10, std::nextafter(5, 10)), AllowableVoltageBound(10, 5), 0.006);
+}
+
+struct LoadRow
+{
+    const char* Name;
+    double Bound;
+    bool AtBound;
+};
+
+class AllowableLoads : public testing::TestWithParam<LoadRow>
+{
+};
+
+TEST_P(AllowableLoads, HeatThePartByThePermittedRise)
+{
+    const auto model = HeatedModel();
+    const auto load = [&](std::string_view name) { return AllowableLoad(model, GetParam().Bound, 20, name); };
+    const auto current = load("Current");
+    const auto voltage = load("Voltage");
+    const auto apparent = load("Apparent Power");
+    const auto effective = load("Effective Power");
+    for (const std::size_t i : {0U, 1U, 99U, 199U})
+    {
+        const double hz = voltage.XData[i];
+        EXPECT_NEAR(model.kI(hz) * std::pow(current.YData[i], 2), 20, 1e-4);
+        const double rise = model.kV(hz) * std::pow(voltage.YData[i], 2.5);
+        EXPECT_EQ(voltage.YData[i] == static_cast<float>(GetParam().Bound), GetParam().AtBound);
+        EXPECT_EQ(std::abs(rise - 20) > 1e-4, GetParam().AtBound);
+        EXPECT_LT(rise, 20.0001);
+        EXPECT_NEAR(effective.YData[i] * model.Rth, rise, 1e-4);
+        const double amperes = apparent.YData[i] / voltage.YData[i];
+        EXPECT_NEAR(model.kI(hz) * amperes * amperes, rise, 1e-4);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, AllowableLoads,
+                         testing::Values(LoadRow{"free", 1000, false}, LoadRow{"at the bound", 0.5, true}),
+                         RowName<LoadRow>);
+
+TEST(AllowableLoad, OfNoPermittedRiseIsZero)
+{
+    for (const std::string_view name : {"Current", "Voltage", "Apparent Power", "Effective Power"})
+    {
+        const auto curve = AllowableLoad(HeatedModel(), 3.54, 0, name);
+        EXPECT_TRUE(curve.HasPoints);
+        EXPECT_TRUE(std::ranges::all_of(curve.YData, [](float y) { return y == 0; })) << name;
+        EXPECT_EQ(curve.Limits, (AxisLimits{.XMax = 1e6F, .YMax = 1, .XMin = 1e4F, .YMin = 0.1F}));
+        EXPECT_EQ(curve.ExtraValue, 0);
+    }
+}
+
+TEST(AllowableLoad, HasPowersOfTenAroundItAndItsLargestAsExtraValue)
+{
+    // kV = 1 at 10 kHz and 1.5 at 1 MHz: 20^0.4 = 3.314 V down to 2.818 V
+    const auto curve = AllowableLoad(HeatedModel(), 1000, 20, "Voltage");
+    EXPECT_EQ(curve.ExtraValue, curve.YData.front());
+    EXPECT_FLOAT_EQ(curve.ExtraValue, static_cast<float>(std::pow(20, 0.4)));
+    EXPECT_EQ(curve.Limits, (AxisLimits{.XMax = 1e6F, .YMax = 10, .XMin = 1e4F, .YMin = 1}));
+}
+
+TEST(AllowableLoad, OfExactly1000EndsThere)
+{
+    auto model = UnitModel();
+    model.Q2 = 20e-6;
+    const auto curve = AllowableLoad(model, 10, 20, "Current");
+    ASSERT_EQ(curve.ExtraValue, 1000);
+    EXPECT_EQ(curve.Limits.YMax, 1000);
+    EXPECT_EQ(curve.Limits.YMin, 100);
+}
+
+TEST(AllowableLoad, NeedsNoVoltageLawForCurrent)
+{
+    auto model = UnitModel();
+    model.S3 = 0;
+    EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, "Current"); }), 0);
+    EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, "Effective Power"); }), 11);
+}
+} // namespace
