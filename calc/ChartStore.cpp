@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <tuple>
 #include <utility>
 
 ChartKey KeyOf(const ChartRecord& record)
@@ -13,6 +14,17 @@ static bool BelongsTo(const ChartRecord& record, const ChartKey& key)
 {
     return record.ChartType == key.ChartType && record.XAxisName == key.XAxisName &&
            record.YAxisName == key.YAxisName;
+}
+
+bool SameLine(const ChartRecord& a, const ChartRecord& b)
+{
+    const auto identity = [](const ChartRecord& line)
+    {
+        return std::tie(line.ChartType, line.XAxisName, line.YAxisName, line.PartDataIndex,
+                        line.DCBiasVoltage, line.HeatResistance, line.Frequency, line.AmbientTemp,
+                        line.ParameterName, line.ParameterValue);
+    };
+    return identity(a) == identity(b);
 }
 
 std::span<const ChartRecord> ChartStore::Lines() const
@@ -36,11 +48,6 @@ void ChartStore::Write(ChartRecord record)
 {
     ChartData.resize(static_cast<std::size_t>(CurrentChart) + 1);
     ChartData.back() = std::move(record);
-}
-
-void ChartStore::EmptyWorkingRecord()
-{
-    Write(ChartRecord{});
 }
 
 int ChartStore::RemoveChart(const ChartKey& key)

@@ -21,6 +21,9 @@ struct ChartKey
 /// The chart that a line belongs to.
 ChartKey KeyOf(const ChartRecord& record);
 
+/// True when two lines are of the same chart, part, conditions and parameter.
+bool SameLine(const ChartRecord& a, const ChartRecord& b);
+
 /// All plotted lines in the order of plotting. Records 0 to `CurrentChart` - 1 are plotted lines; the
 /// record at `CurrentChart`, where there is one, is the working record of a command under way or empty.
 class ChartStore
@@ -40,9 +43,6 @@ public:
 
     /// Grows the store to `CurrentChart` and puts the record there; `CurrentChart` stays.
     void Write(ChartRecord record);
-
-    /// Empties the working record, as after a refused, cancelled or failed command.
-    void EmptyWorkingRecord();
 
     /// Removes every line of the chart; the other lines keep their order at lower indices.
     /// Without lines the store is one empty record. Returns the number of removed lines.
