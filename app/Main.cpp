@@ -1,0 +1,29 @@
+#include "app/Main.h"
+
+#include "app/Messages.h"
+#include "app/SingleInstance.h"
+#include "app/mdlPublic.h"
+
+#include <filesystem>
+
+static std::int16_t HelpLanguageIn(const std::string& programFolder)
+{
+    std::error_code ignored;
+    const auto book = programFolder + mdlPublic.PathSep + "tavikj.hlp";
+    return std::filesystem::exists(book, ignored) ? 1 : 2;
+}
+
+bool Main(const std::string& programFolder, const std::function<void()>& showMainWindow)
+{
+    if (!ClaimSingleInstance())
+    {
+        ShowCritical(nullptr, QStringLiteral("It is already started."));
+        return false;
+    }
+    mdlPublic.PathSep = PathSepOf(programFolder);
+    mdlPublic.HelpLanguage = HelpLanguageIn(programFolder);
+    mdlPublic.Parts = LoadPartData(programFolder);
+    showMainWindow();
+    mdlPublic.DegreeSign = "\xB0";
+    return true;
+}
