@@ -1,0 +1,66 @@
+#include "selection/PartNumBox.h"
+
+#include "app/Texts.h"
+#include "app/mdlPublic.h"
+
+#include <QLineEdit>
+#include <QListView>
+
+#include <algorithm>
+
+QString PartNumText(std::int16_t part, int form)
+{
+    const PartRecord& record = mdlPublic.Parts.PartData[static_cast<std::size_t>(part)];
+    return FromAnsi(record.PartNum[static_cast<std::size_t>(form)]);
+}
+
+void PartNumModel::SetParts(std::vector<std::int16_t> indices, int partNumForm)
+{
+    beginResetModel();
+    parts = std::move(indices);
+    form = partNumForm;
+    endResetModel();
+}
+
+int PartNumModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(parts.size());
+}
+
+QVariant PartNumModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole))
+    {
+        return {};
+    }
+    return PartNumText(parts[static_cast<std::size_t>(index.row())], form);
+}
+
+bool PartNumModel::Holds(const QString& text) const
+{
+    const auto* part = mdlPublic.Parts.PartIndex[static_cast<std::size_t>(form)].Find(ToAnsi(text));
+    return part != nullptr && PartNumText(*part, form) == text && std::ranges::binary_search(parts, *part);
+}
+
+PartNumBox::PartNumBox(QWidget* parent)
+    : QComboBox(parent)
+    , entries(new PartNumModel(this))
+{
+    setEditable(true);
+    setInsertPolicy(QComboBox::NoInsert);
+    setCompleter(nullptr);
+
+    // A view that measures every entry before it opens takes as long as the list is long.
+    auto* list = new QListView(this);
+    list->setUniformItemSizes(true);
+    list->setLayoutMode(QListView::Batched);
+    setView(list);
+    setModel(entries);
+}
+
+void PartNumBox::SetParts(std::vector<std::int16_t> indices, int partNumForm)
+{
+    entries->SetParts(std::move(indices), partNumForm);
+    setCurrentIndex(-1);
+    clearEditText();
+}

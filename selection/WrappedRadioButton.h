@@ -1,0 +1,25 @@
+#pragma once
+
+/// An option button whose caption wraps onto further lines.
+
+#include <QRadioButton>
+
+/// A radio button for narrow forms: its caption breaks between words where the width ends.
+class WrappedRadioButton : public QRadioButton
+{
+    Q_OBJECT
+
+public:
+    explicit WrappedRadioButton(QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QRect CaptionRect(int width) const;
+};

@@ -1,0 +1,331 @@
+#include "selection/frmLibrary.h"
+
+#include "app/Messages.h"
+#include "app/Texts.h"
+#include "app/Twips.h"
+#include "app/mdlPublic.h"
+#include "calc/ChartNames.h"
+#include "calc/NumberText.h"
+#include "selection/AxisLists.h"
+#include "ui_frmLibrary.h"
+
+#include <QCloseEvent>
+#include <QMdiArea>
+#include <QScrollArea>
+
+static constexpr int FormWidth = Twips(3000);
+
+frmLibrary::frmLibrary(ChartWindows& chartWindows, QWidget* parent)
+    : QMdiSubWindow(parent, Qt::SubWindow | Qt::FramelessWindowHint)
+    , ui(std::make_unique<Ui::frmLibrary>())
+    , windows(chartWindows)
+    , selection(mdlPublic.Parts)
+{
+    setObjectName("frmLibrary");
+    setWindowTitle(ProgramTitle());
+    auto* contents = new QWidget;
+    ui->setupUi(contents);
+    optChartType = {ui->optChartType_0, ui->optChartType_1, ui->optChartType_2, ui->optChartType_3};
+    optParameter = {ui->optParameter_0, ui->optParameter_1, ui->optParameter_2, ui->optParameter_3};
+
+    // A short window scrolls the form; it never takes more than its share of the width.
+    auto* scroller = new QScrollArea;
+    scroller->setFrameShape(QFrame::NoFrame);
+    scroller->setFocusPolicy(Qt::NoFocus);
+    scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroller->setWidgetResizable(true);
+    scroller->setWidget(contents);
+    setWidget(scroller);
+    setFixedWidth(FormWidth);
+    Connect();
+}
+
+frmLibrary::~frmLibrary() = default;
+
+void frmLibrary::Connect()
+{
+    for (int i = 0; i < 4; ++i)
+    {
+        const auto index = static_cast<std::size_t>(i);
+        connect(optChartType[index], &QRadioButton::clicked, this, [this, i] { optChartType_Click(i); });
+        connect(optParameter[index], &QRadioButton::clicked, this, [this, i] { optParameter_Click(i); });
+    }
+    connect(ui->cmbSizeCode, &QComboBox::activated, this, &frmLibrary::cmbSizeCode_Click);
+    connect(ui->cmbTcc, &QComboBox::activated, this, &frmLibrary::cmbTcc_Click);
+    connect(ui->cmbCap, &QComboBox::activated, this, &frmLibrary::cmbCap_Click);
+    connect(ui->cmbRatedVol, &QComboBox::activated, this, &frmLibrary::cmbRatedVol_Click);
+    connect(ui->cmbPartNum, &QComboBox::activated, this, &frmLibrary::cmbPartNum_Click);
+    connect(ui->cmbPartNum->lineEdit(), &QLineEdit::textEdited, this, &frmLibrary::cmbPartNum_Change);
+    connect(ui->cmbXaxis, &QComboBox::activated, this, &frmLibrary::cmbXaxis_Click);
+    connect(ui->cmdPlot, &QPushButton::clicked, this, &frmLibrary::cmdPlot_Click);
+    for (QWidget* control : findChildren<QWidget*>())
+    {
+        control->installEventFilter(this);
+    }
+}
+
+void frmLibrary::Form_Load()
+{
+    SelectChartType(0);
+    mdlPublic.Charts = ChartStore{};
+    if (mdlPublic.HelpLanguage == 1)
+    {
+        windows.SwitchCodeView(1);
+    }
+}
+
+void frmLibrary::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+}
+
+void frmLibrary::SelectChartType(int index)
+{
+    optChartType[static_cast<std::size_t>(index)]->setChecked(true);
+    ComeToFront(optChartType[static_cast<std::size_t>(index)]);
+    optChartType_Click(index);
+}
+
+void frmLibrary::ComeToFront(QWidget* control)
+{
+    if (mdiArea() != nullptr)
+    {
+        mdiArea()->setActiveSubWindow(this);
+    }
+    control->setFocus();
+}
+
+// ---- The selection cascade ----
+
+static void ShowList(QComboBox* box, const QStringList& entries, int chosen)
+{
+    box->clear();
+    box->addItems(entries);
+    box->setCurrentIndex(chosen);
+}
+
+static void ShowTexts(QComboBox* box, const std::vector<std::string_view>& texts,
+                      const std::optional<std::string_view>& choice)
+{
+    QStringList entries;
+    for (const auto text : texts)
+    {
+        entries << FromAnsi(text);
+    }
+    ShowList(box, entries, choice ? static_cast<int>(entries.indexOf(FromAnsi(*choice))) : -1);
+}
+
+static void ShowNumbers(QComboBox* box, const std::vector<float>& numbers, const std::optional<float>& choice)
+{
+    QStringList entries;
+    for (const float number : numbers)
+    {
+        entries << QString::fromStdString(NumberText(number));
+    }
+    const auto chosen = choice ? std::find(numbers.begin(), numbers.end(), *choice) : numbers.end();
+    ShowList(box, entries, chosen != numbers.end() ? static_cast<int>(chosen - numbers.begin()) : -1);
+}
+
+/// Shows the upper four lists and their choices; the part-number box is filled by its own callers.
+void frmLibrary::ShowSelection()
+{
+    const UpdatingScope updating;
+    const PartChoice& choice = selection.Choice();
+    ShowTexts(ui->cmbSizeCode, selection.SizeCodes(), choice.SizeCode);
+    ShowTexts(ui->cmbTcc, selection.Tccs(), choice.Tcc);
+    ShowNumbers(ui->cmbCap, selection.Capacitances(), choice.Capacitance);
+    ShowNumbers(ui->cmbRatedVol, selection.RatedVoltages(), choice.RatedVoltage);
+}
+
+void frmLibrary::AllClear()
+{
+    selection.AllClear();
+    ShowSelection();
+    ui->cmbPartNum->SetParts({}, GetPartNumForm());
+    ui->cmbXaxis->clear();
+    ui->cmbYaxis->clear();
+    IncompletePart();
+}
+
+void frmLibrary::AddPartNum(int chartType)
+{
+    selection.AddPartNum(static_cast<std::int16_t>(chartType), GetCodeView());
+    ShowSelection();
+    ui->cmbPartNum->SetParts(selection.PartNums(), GetPartNumForm());
+}
+
+/// The entry of a list that its box shows as chosen.
+template <class Item> static const Item& ChosenOf(const std::vector<Item>& list, const QComboBox* box)
+{
+    return list[static_cast<std::size_t>(box->currentIndex())];
+}
+
+void frmLibrary::FillTccList()
+{
+    selection.FillTccList(ChosenOf(selection.SizeCodes(), ui->cmbSizeCode));
+    ShowStep();
+}
+
+void frmLibrary::FillCapList()
+{
+    selection.FillCapList(ChosenOf(selection.Tccs(), ui->cmbTcc));
+    ShowStep();
+}
+
+void frmLibrary::FillRatedVolList()
+{
+    selection.FillRatedVolList(ChosenOf(selection.Capacitances(), ui->cmbCap));
+    ShowStep();
+}
+
+void frmLibrary::FillPartNumList()
+{
+    selection.FillPartNumList(ChosenOf(selection.RatedVoltages(), ui->cmbRatedVol));
+    ShowStep();
+    // The box shows the last part that is left: with the rated voltage chosen the selection is complete.
+    if (!selection.PartNums().empty())
+    {
+        ui->cmbPartNum->setEditText(PartNumText(selection.PartNums().back(), GetPartNumForm()));
+    }
+}
+
+/// Shows the lists after a choice at one of the upper four levels.
+void frmLibrary::ShowStep()
+{
+    ShowSelection();
+    ui->cmbPartNum->SetParts(selection.PartNums(), GetPartNumForm());
+}
+
+static bool IsChosen(const QComboBox* box)
+{
+    return !mdlPublic.Updating && !box->currentText().isEmpty();
+}
+
+void frmLibrary::cmbSizeCode_Click()
+{
+    if (IsChosen(ui->cmbSizeCode))
+    {
+        FillTccList();
+        IncompletePart();
+    }
+}
+
+void frmLibrary::cmbTcc_Click()
+{
+    if (IsChosen(ui->cmbTcc))
+    {
+        FillCapList();
+        IncompletePart();
+    }
+}
+
+void frmLibrary::cmbCap_Click()
+{
+    if (IsChosen(ui->cmbCap))
+    {
+        FillRatedVolList();
+        IncompletePart();
+    }
+}
+
+void frmLibrary::cmbRatedVol_Click()
+{
+    if (IsChosen(ui->cmbRatedVol))
+    {
+        const UpdatingScope updating;
+        FillPartNumList();
+        CompletePart();
+    }
+}
+
+void frmLibrary::cmbPartNum_Click()
+{
+    if (mdlPublic.Updating)
+    {
+        return;
+    }
+    if (!ui->cmbPartNum->Holds(ui->cmbPartNum->currentText()))
+    {
+        IncompletePart();
+        return;
+    }
+    const UpdatingScope updating;
+    selection.ShowPart(GetSelectedPart());
+    ShowSelection();
+    CompletePart();
+}
+
+void frmLibrary::cmbPartNum_Change()
+{
+    if (mdlPublic.Updating)
+    {
+        return;
+    }
+    IncompletePart();
+    if (ui->cmbPartNum->Holds(ui->cmbPartNum->currentText()))
+    {
+        cmbPartNum_Click();
+    }
+}
+
+std::int16_t frmLibrary::GetSelectedPart() const
+{
+    const auto form = static_cast<std::size_t>(GetPartNumForm());
+    const auto* part = mdlPublic.Parts.PartIndex[form].Find(ToAnsi(ui->cmbPartNum->currentText()));
+    return part != nullptr ? *part : std::int16_t{-1};
+}
+
+const PartRecord& frmLibrary::SelectedPart() const
+{
+    static const PartRecord none;
+    const auto part = GetSelectedPart();
+    return part >= 0 ? mdlPublic.Parts.PartData[static_cast<std::size_t>(part)] : none;
+}
+
+void frmLibrary::IncompletePart()
+{
+    SetPlotEnabled(false);
+    DisableConditions();
+}
+
+void frmLibrary::CompletePart()
+{
+    SetPlotEnabled(true);
+    EnableConditions(GetChartType());
+}
+
+void frmLibrary::SetPlotEnabled(bool enabled)
+{
+    ui->cmdPlot->setEnabled(enabled);
+    Q_EMIT CanPlotChanged(enabled);
+}
+
+bool frmLibrary::CanPlot() const
+{
+    return ui->cmdPlot->isEnabled();
+}
+
+// ---- The naming on display ----
+
+void frmLibrary::ChangePartNum(int partNumForm)
+{
+    const auto selected = GetSelectedPart();
+    const UpdatingScope updating;
+    selection.ChangeNaming(static_cast<CodeView>(partNumForm % 2));
+    ui->cmbPartNum->SetParts(selection.PartNums(), partNumForm);
+    if (selected >= 0)
+    {
+        ui->cmbPartNum->setEditText(PartNumText(selected, partNumForm));
+    }
+}
+
+void frmLibrary::ChangeSize()
+{
+    const UpdatingScope updating;
+    ShowTexts(ui->cmbSizeCode, selection.SizeCodes(), selection.Choice().SizeCode);
+}
+
+void frmLibrary::ChangeTcc()
+{
+    ShowSelection();
+}

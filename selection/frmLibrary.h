@@ -1,0 +1,164 @@
+#pragma once
+
+/// The selection form: one part out of the range, the conditions it works under, and Plot.
+
+#include "calc/Calculate.h"
+#include "calc/ChartRecord.h"
+#include "calc/ChartStore.h"
+#include "selection/ConditionRules.h"
+#include "selection/PartSelection.h"
+
+#include <QMdiSubWindow>
+
+#include <memory>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QRadioButton;
+
+namespace Ui
+{
+class frmLibrary;
+}
+
+/// What the selection form asks of the main window.
+class ChartWindows
+{
+public:
+    virtual ~ChartWindows() = default;
+
+    /// Opens a new chart window for the line just written.
+    virtual void ShowNewChart() = 0;
+    /// Draws the open chart window of this caption again and gives it the focus; false without one.
+    virtual bool ShowSameChart(const QString& caption) = 0;
+    /// Switches the code view as the menu entry of that index does.
+    virtual void SwitchCodeView(int index) = 0;
+};
+
+/// The selection form. Its caption is the main window's; it stands at the left edge and stays open.
+class frmLibrary : public QMdiSubWindow
+{
+    Q_OBJECT
+
+public:
+    explicit frmLibrary(ChartWindows& chartWindows, QWidget* parent = nullptr);
+    ~frmLibrary() override;
+
+    /// Start state: chart type 0, an empty chart store, and the JIS view with the Japanese help book.
+    void Form_Load();
+
+    // The selection cascade.
+    void AllClear();
+    void AddPartNum(int chartType);
+    void FillTccList();
+    void FillCapList();
+    void FillRatedVolList();
+    void FillPartNumList();
+    /// Shows the part-number list in the given form, and names the selection in its code;
+    /// `GetPartNumForm` is still the form shown before.
+    void ChangePartNum(int partNumForm);
+    /// Show the list of sizes, of characteristics, in the naming of the last `ChangePartNum`.
+    void ChangeSize();
+    void ChangeTcc();
+    /// Index of the part whose number is shown, or -1.
+    std::int16_t GetSelectedPart() const;
+
+    // Chart type, axes and parameter.
+    std::int16_t GetChartType() const;
+    std::int16_t GetParameterType() const;
+    std::string_view GetChartTypeName() const;
+    std::string_view GetParameterName() const;
+    void SelectChartType(int index);
+
+    // Conditions. Each check sets its flag and, when it refuses, shows its message and puts the focus back.
+    void CheckDCBiasVol(bool& ok);
+    void CheckFrequency(bool& ok);
+    void CheckHeatResistance(bool& ok);
+    void CheckAmbientTemp1(bool& ok);
+    void CheckAmbientTemp2(bool& ok);
+    void CheckParameter1(bool& ok);
+    /// The checks that the chart type needs, up to the first that fails.
+    bool CheckChartConditions();
+    void DisableConditions();
+    void EnableConditions(int chartType);
+    /// "25" in the EIA view, "20" in the JIS view: the reference temperature of the view.
+    void ResetAmbientTemp(int codeForm);
+
+    // The line that the form describes.
+    /// A record without its curve: part, axes, conditions and parameter as the form shows them. A disabled
+    /// or empty box is 0.
+    ChartRecord WriteChartData(std::int16_t part, std::int16_t chartType) const;
+    void IsNewChart(bool& isNew) const;
+    int CountSameCharts() const;
+    void ShowSameChart();
+    /// Computes the curve of a written record, or tells why its parameter is refused. Throws RunTimeError
+    /// when the curve cannot be computed.
+    static std::optional<ParameterRefusal> Calculate(ChartRecord& record);
+    /// Shows why a parameter is refused and puts the focus into its box.
+    void ReportParameter(const ParameterRefusal& refusal);
+
+    /// Plot is enabled: a complete part is selected.
+    bool CanPlot() const;
+
+Q_SIGNALS:
+    /// Plot has become enabled or disabled.
+    void CanPlotChanged(bool canPlot);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    using Check = void (frmLibrary::*)(bool&);
+
+    void Connect();
+    bool Passes(Check check);
+    void optChartType_Click(int index);
+    void optParameter_Click(int index);
+    void cmbSizeCode_Click();
+    void cmbTcc_Click();
+    void cmbCap_Click();
+    void cmbRatedVol_Click();
+    void cmbPartNum_Click();
+    void cmbPartNum_Change();
+    void cmbXaxis_Click();
+    void cmdPlot_Click();
+    void Plot(int lines);
+
+    // Leaving a box: false when its entry is refused.
+    bool txtDCBiasVol_LostFocus();
+    bool txtFrequency_LostFocus();
+    bool txtHeatResistance_LostFocus();
+    bool txtAmbientTemp_LostFocus();
+    bool txtParameter_LostFocus();
+    bool LostFocus(const QLineEdit* box);
+    bool IsCauseToCheck(const QLineEdit* box, Qt::FocusReason reason) const;
+    bool ActsOnBox(const QWidget* control, const QLineEdit* box) const;
+
+    void FillAxisLists(int chartType);
+    void ShowSelection();
+    void ShowStep();
+    void IncompletePart();
+    void CompletePart();
+    void SetPlotEnabled(bool enabled);
+    void SetParameterEnabled(bool enabled);
+    void SetFrequencyEnabled(bool enabled);
+    void ResetParameter();
+    bool IsFrequencySweep() const;
+    const PartRecord& SelectedPart() const;
+    void Report(QLineEdit* box, const Refusal& refusal, bool& ok);
+    void ComeToFront(QWidget* control);
+    ChartKey ShownChart() const;
+
+    std::unique_ptr<Ui::frmLibrary> ui;
+    ChartWindows& windows;
+    PartSelection selection;
+    std::vector<QRadioButton*> optChartType;
+    std::vector<QRadioButton*> optParameter;
+    /// A click moved the focus and the box it left was refused: the click itself is to have no effect.
+    bool swallowPress = false;
+};

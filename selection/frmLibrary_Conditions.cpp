@@ -1,0 +1,302 @@
+#include "selection/frmLibrary.h"
+
+#include "app/Messages.h"
+#include "app/Texts.h"
+#include "app/mdlPublic.h"
+#include "calc/NumberText.h"
+#include "ui_frmLibrary.h"
+
+#include <QApplication>
+#include <QFocusEvent>
+#include <QLocale>
+#include <QTimer>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+/// Entries as the user's locale writes them.
+static EntryLocale UserLocale()
+{
+    return {.CommaIsDecimal = QLocale().decimalPoint() == QStringLiteral(",")};
+}
+
+static std::string EntryOf(const QLineEdit* box)
+{
+    return box->text().toStdString();
+}
+
+// ---- The checks ----
+
+/// Shows what is wrong with a box and puts the focus back into it.
+void frmLibrary::Report(QLineEdit* box, const Refusal& refusal, bool& ok)
+{
+    ok = !refusal;
+    if (refusal)
+    {
+        ShowExclamation(this, QString::fromStdString(*refusal));
+        ComeToFront(box);
+    }
+}
+
+void frmLibrary::CheckDCBiasVol(bool& ok)
+{
+    Report(ui->txtDCBiasVol,
+           RefuseDCBiasVol(EntryOf(ui->txtDCBiasVol), SelectedPart(), GetChartType(), UserLocale()), ok);
+}
+
+void frmLibrary::CheckFrequency(bool& ok)
+{
+    Report(ui->txtFrequency, RefuseFrequency(EntryOf(ui->txtFrequency), UserLocale()), ok);
+}
+
+void frmLibrary::CheckHeatResistance(bool& ok)
+{
+    Report(ui->txtHeatResistance, RefuseHeatResistance(EntryOf(ui->txtHeatResistance), UserLocale()), ok);
+}
+
+void frmLibrary::CheckAmbientTemp1(bool& ok)
+{
+    Report(ui->txtAmbientTemp, RefuseAmbientTemp1(EntryOf(ui->txtAmbientTemp), SelectedPart(), UserLocale()),
+           ok);
+}
+
+void frmLibrary::CheckAmbientTemp2(bool& ok)
+{
+    Report(ui->txtAmbientTemp,
+           RefuseAmbientTemp2(EntryOf(ui->txtAmbientTemp), SelectedPart(), GetCodeView(), UserLocale()), ok);
+}
+
+void frmLibrary::CheckParameter1(bool& ok)
+{
+    Report(ui->txtParameter, RefuseParameter(EntryOf(ui->txtParameter), UserLocale()), ok);
+}
+
+/// Runs one check; false when it refuses.
+bool frmLibrary::Passes(Check check)
+{
+    bool ok = true;
+    (this->*check)(ok);
+    return ok;
+}
+
+bool frmLibrary::CheckChartConditions()
+{
+    std::vector<Check> checks;
+    switch (GetChartType())
+    {
+    case 0:
+        checks = {&frmLibrary::CheckDCBiasVol, &frmLibrary::CheckHeatResistance,
+                  &frmLibrary::CheckAmbientTemp1,
+                  IsFrequencySweep() ? &frmLibrary::CheckParameter1 : &frmLibrary::CheckFrequency};
+        break;
+    case 1:
+        checks = {&frmLibrary::CheckDCBiasVol, &frmLibrary::CheckHeatResistance,
+                  &frmLibrary::CheckAmbientTemp1};
+        break;
+    case 2:
+        checks = {&frmLibrary::CheckDCBiasVol};
+        break;
+    default:
+        checks = {&frmLibrary::CheckAmbientTemp2};
+        break;
+    }
+    return std::ranges::all_of(checks, [this](Check check) { return Passes(check); });
+}
+
+// ---- Leaving and entering a box ----
+
+bool frmLibrary::txtDCBiasVol_LostFocus()
+{
+    return Passes(&frmLibrary::CheckDCBiasVol);
+}
+
+bool frmLibrary::txtFrequency_LostFocus()
+{
+    return Passes(&frmLibrary::CheckFrequency);
+}
+
+bool frmLibrary::txtHeatResistance_LostFocus()
+{
+    return Passes(&frmLibrary::CheckHeatResistance);
+}
+
+bool frmLibrary::txtAmbientTemp_LostFocus()
+{
+    return Passes(GetChartType() <= 1 ? &frmLibrary::CheckAmbientTemp1 : &frmLibrary::CheckAmbientTemp2);
+}
+
+bool frmLibrary::txtParameter_LostFocus()
+{
+    return Passes(&frmLibrary::CheckParameter1);
+}
+
+/// True for a control whose action empties, refills or disables the box.
+bool frmLibrary::ActsOnBox(const QWidget* control, const QLineEdit* box) const
+{
+    const auto is = [control](const QWidget* other)
+    { return control == other || other->isAncestorOf(control); };
+    const std::array<const QWidget*, 6> restarting = {ui->fraChartType, ui->cmbSizeCode, ui->cmbTcc,
+                                                      ui->cmbCap,       ui->cmbRatedVol, ui->cmbPartNum};
+    if (std::ranges::any_of(restarting, is))
+    {
+        return true;
+    }
+    const bool fixesLoad = box == ui->txtFrequency || box == ui->txtParameter;
+    return (fixesLoad && is(ui->cmbXaxis)) ||
+           (box == ui->txtParameter && std::ranges::any_of(optParameter, is));
+}
+
+/// A box is checked when the user leaves it for another control of this form, by key or by click, unless
+/// the click itself is going to change the box.
+bool frmLibrary::IsCauseToCheck(const QLineEdit* box, Qt::FocusReason reason) const
+{
+    const QWidget* next = QApplication::focusWidget();
+    if (!box->isEnabled() || next == nullptr || next == box || !isAncestorOf(next))
+    {
+        return false;
+    }
+    switch (reason)
+    {
+    case Qt::TabFocusReason:
+    case Qt::BacktabFocusReason:
+    case Qt::ShortcutFocusReason:
+        return true;
+    case Qt::MouseFocusReason:
+        return !ActsOnBox(next, box);
+    default:
+        return false;
+    }
+}
+
+bool frmLibrary::LostFocus(const QLineEdit* box)
+{
+    if (box == ui->txtDCBiasVol)
+    {
+        return txtDCBiasVol_LostFocus();
+    }
+    if (box == ui->txtFrequency)
+    {
+        return txtFrequency_LostFocus();
+    }
+    if (box == ui->txtHeatResistance)
+    {
+        return txtHeatResistance_LostFocus();
+    }
+    if (box == ui->txtAmbientTemp)
+    {
+        return txtAmbientTemp_LostFocus();
+    }
+    return txtParameter_LostFocus();
+}
+
+bool frmLibrary::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonPress && std::exchange(swallowPress, false))
+    {
+        return true;
+    }
+    auto* box = qobject_cast<QLineEdit*>(watched);
+    if (box == nullptr || box == ui->cmbPartNum->lineEdit())
+    {
+        return QMdiSubWindow::eventFilter(watched, event);
+    }
+    if (event->type() == QEvent::FocusIn)
+    {
+        // The click that brings the focus would otherwise put the cursor into the text just selected.
+        QTimer::singleShot(0, box, &QLineEdit::selectAll);
+    }
+    if (event->type() == QEvent::FocusOut)
+    {
+        const auto reason = static_cast<QFocusEvent*>(event)->reason();
+        if (IsCauseToCheck(box, reason) && !LostFocus(box) && reason == Qt::MouseFocusReason)
+        {
+            swallowPress = true;
+            QTimer::singleShot(0, this, [this] { swallowPress = false; });
+        }
+    }
+    return QMdiSubWindow::eventFilter(watched, event);
+}
+
+// ---- Which conditions the chart needs ----
+
+static void SetConditionEnabled(QLabel* label, QLineEdit* box, bool enabled)
+{
+    label->setEnabled(enabled);
+    box->setEnabled(enabled);
+}
+
+void frmLibrary::SetFrequencyEnabled(bool enabled)
+{
+    SetConditionEnabled(ui->lblFrequency, ui->txtFrequency, enabled);
+}
+
+void frmLibrary::SetParameterEnabled(bool enabled)
+{
+    ui->fraParameter->setEnabled(enabled);
+    for (QRadioButton* button : optParameter)
+    {
+        button->setEnabled(enabled);
+    }
+    SetConditionEnabled(ui->lblParameter, ui->txtParameter, enabled);
+}
+
+void frmLibrary::ResetParameter()
+{
+    optParameter.front()->setChecked(true);
+    optParameter_Click(0);
+}
+
+void frmLibrary::optParameter_Click(int index)
+{
+    static constexpr std::array<const char*, 4> Units = {"[Arms]", "[Vrms]", "[W]", "[VA]"};
+    ui->txtParameter->clear();
+    ui->lblParameter->setText(QString::fromLatin1(Units[static_cast<std::size_t>(index)]));
+}
+
+void frmLibrary::ResetAmbientTemp(int codeForm)
+{
+    ui->txtAmbientTemp->setText(codeForm == 0 ? QStringLiteral("25") : QStringLiteral("20"));
+}
+
+void frmLibrary::DisableConditions()
+{
+    ui->fraCondition->setEnabled(false);
+    SetConditionEnabled(ui->lblDCBiasVol, ui->txtDCBiasVol, false);
+    SetConditionEnabled(ui->lblFrequency, ui->txtFrequency, false);
+    SetConditionEnabled(ui->lblHeatResistance, ui->txtHeatResistance, false);
+    SetConditionEnabled(ui->lblAmbientTemp, ui->txtAmbientTemp, false);
+    ui->txtDCBiasVol->clear();
+    ui->txtFrequency->clear();
+    ui->txtHeatResistance->clear();
+    ResetAmbientTemp(GetCodeForm());
+    ResetParameter();
+    SetParameterEnabled(false);
+}
+
+void frmLibrary::EnableConditions(int chartType)
+{
+    ui->fraCondition->setEnabled(true);
+    const bool power = chartType == 0 || chartType == 1;
+    if (power || chartType == 2)
+    {
+        SetConditionEnabled(ui->lblDCBiasVol, ui->txtDCBiasVol, true);
+    }
+    if (power || chartType == 3)
+    {
+        SetConditionEnabled(ui->lblAmbientTemp, ui->txtAmbientTemp, true);
+    }
+    if (power)
+    {
+        SetConditionEnabled(ui->lblHeatResistance, ui->txtHeatResistance, true);
+        ui->txtHeatResistance->setText(QString::fromStdString(NumberText(SelectedPart().Data[31])));
+    }
+    if (chartType == 0)
+    {
+        SetFrequencyEnabled(!IsFrequencySweep());
+        if (IsFrequencySweep())
+        {
+            SetParameterEnabled(true);
+        }
+    }
+}

@@ -1,0 +1,217 @@
+#include "selection/frmLibrary.h"
+
+#include "app/HourglassScope.h"
+#include "app/Messages.h"
+#include "app/mdlPublic.h"
+#include "calc/Calculate.h"
+#include "calc/ChartNames.h"
+#include "calc/NumberText.h"
+#include "selection/AxisLists.h"
+#include "ui_frmLibrary.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <utility>
+
+/// Six lines per chart, matching its six panes.
+static constexpr int MaximumLines = 6;
+
+// ---- Chart type, axes and parameter ----
+
+/// Index of the first button that is on; 0 when none is.
+static std::int16_t CheckedIndex(const std::vector<QRadioButton*>& buttons)
+{
+    const auto on = std::ranges::find_if(buttons, &QRadioButton::isChecked);
+    return on != buttons.end() ? static_cast<std::int16_t>(on - buttons.begin()) : std::int16_t{0};
+}
+
+std::int16_t frmLibrary::GetChartType() const
+{
+    return CheckedIndex(optChartType);
+}
+
+std::int16_t frmLibrary::GetParameterType() const
+{
+    return CheckedIndex(optParameter);
+}
+
+std::string_view frmLibrary::GetChartTypeName() const
+{
+    return ChartTypeNames[static_cast<std::size_t>(GetChartType())];
+}
+
+std::string_view frmLibrary::GetParameterName() const
+{
+    return ParameterNames[static_cast<std::size_t>(GetParameterType())];
+}
+
+bool frmLibrary::IsFrequencySweep() const
+{
+    return GetChartType() == 0 && ui->cmbXaxis->currentText() == QStringLiteral("Frequency");
+}
+
+static void ShowAxes(QComboBox* box, std::span<const std::string_view> names)
+{
+    box->clear();
+    for (const auto name : names)
+    {
+        box->addItem(QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size())));
+    }
+}
+
+void frmLibrary::FillAxisLists(int chartType)
+{
+    const AxisLists lists = AxisListsOf(static_cast<std::int16_t>(chartType));
+    ShowAxes(ui->cmbXaxis, lists.XAxes);
+    ShowAxes(ui->cmbYaxis, lists.YAxes);
+}
+
+void frmLibrary::optChartType_Click(int index)
+{
+    const QString remembered = ui->cmbPartNum->currentText();
+    AllClear();
+    AddPartNum(index);
+    FillAxisLists(index);
+    if (ui->cmbPartNum->Holds(remembered))
+    {
+        ui->cmbPartNum->setEditText(remembered);
+        cmbPartNum_Change();
+    }
+}
+
+void frmLibrary::cmbXaxis_Click()
+{
+    if (GetChartType() != 0)
+    {
+        return;
+    }
+    if (IsFrequencySweep())
+    {
+        SetParameterEnabled(true);
+        SetFrequencyEnabled(false);
+        return;
+    }
+    ResetParameter();
+    SetParameterEnabled(false);
+    if (CanPlot())
+    {
+        SetFrequencyEnabled(true);
+    }
+}
+
+// ---- The line that the form describes ----
+
+/// The number in a box; a disabled or empty box is 0.
+static float ValueOf(const QLineEdit* box)
+{
+    const bool commaIsDecimal = QLocale().decimalPoint() == QStringLiteral(",");
+    return box->isEnabled() ? ReadEntry(box->text().toStdString(), commaIsDecimal).value_or(0.0F) : 0.0F;
+}
+
+ChartKey frmLibrary::ShownChart() const
+{
+    return {GetChartType(), ui->cmbXaxis->currentText().toStdString(),
+            ui->cmbYaxis->currentText().toStdString()};
+}
+
+ChartRecord frmLibrary::WriteChartData(std::int16_t part, std::int16_t chartType) const
+{
+    const ChartKey chart = ShownChart();
+    ChartRecord record;
+    record.ChartType = chartType;
+    record.XAxisName = chart.XAxisName;
+    record.YAxisName = chart.YAxisName;
+    record.PartDataIndex = part;
+    record.DCBiasVoltage = ValueOf(ui->txtDCBiasVol);
+    record.HeatResistance = ValueOf(ui->txtHeatResistance);
+    record.Frequency = ValueOf(ui->txtFrequency);
+    record.AmbientTemp = ValueOf(ui->txtAmbientTemp);
+    record.ParameterName = GetParameterName();
+    record.ParameterValue = ValueOf(ui->txtParameter);
+    return record;
+}
+
+void frmLibrary::IsNewChart(bool& isNew) const
+{
+    const ChartRecord shown = WriteChartData(GetSelectedPart(), GetChartType());
+    const auto lines = std::as_const(mdlPublic.Charts).Lines();
+    isNew = std::ranges::none_of(lines, [&](const ChartRecord& line) { return SameLine(line, shown); });
+}
+
+int frmLibrary::CountSameCharts() const
+{
+    return mdlPublic.Charts.CountSameCharts(ShownChart());
+}
+
+void frmLibrary::ShowSameChart()
+{
+    if (!windows.ShowSameChart(QString::fromStdString(ChartCaption(ShownChart()))))
+    {
+        windows.ShowNewChart();
+    }
+}
+
+std::optional<ParameterRefusal> frmLibrary::Calculate(ChartRecord& record)
+{
+    const PartRecord& part = mdlPublic.Parts.PartData[static_cast<std::size_t>(record.PartDataIndex)];
+    if (record.ChartType <= 1)
+    {
+        return CalculateDataT(part, record);
+    }
+    CalculateDataS(part, record, GetCodeView());
+    return std::nullopt;
+}
+
+void frmLibrary::ReportParameter(const ParameterRefusal& refusal)
+{
+    ShowExclamation(this, QString::fromStdString(refusal.Message));
+    ComeToFront(ui->txtParameter);
+}
+
+void frmLibrary::cmdPlot_Click()
+{
+    if (!CheckChartConditions())
+    {
+        return;
+    }
+    bool isNew = true;
+    IsNewChart(isNew);
+    if (!isNew)
+    {
+        ShowExclamation(this, QStringLiteral("This Chart is already opened!"));
+        return;
+    }
+    const int lines = CountSameCharts();
+    if (lines >= MaximumLines)
+    {
+        ShowExclamation(this, QStringLiteral("Maximum Numbers of this Chart Type open!"));
+        return;
+    }
+    Plot(lines);
+}
+
+/// Computes the line that the form describes and shows it in a window that holds so many lines already.
+void frmLibrary::Plot(int lines)
+{
+    std::optional<ParameterRefusal> refusal;
+    try
+    {
+        const HourglassScope hourglass;
+        ChartRecord record = WriteChartData(GetSelectedPart(), GetChartType());
+        refusal = Calculate(record);
+        if (!refusal)
+        {
+            mdlPublic.Charts.Write(std::move(record));
+            lines == 0 ? windows.ShowNewChart() : ShowSameChart();
+        }
+    }
+    catch (const RunTimeError& error)
+    {
+        ShowUnexpectedError(this, error);
+    }
+    if (refusal)
+    {
+        ReportParameter(*refusal);
+    }
+}
