@@ -1,0 +1,25 @@
+#pragma once
+
+/// What a chart window asks of the main window.
+
+class QWidget;
+
+/// The main window as its chart windows know it: the commands that they forward, and the loaded forms.
+class ChartHost
+{
+public:
+    virtual ~ChartHost() = default;
+
+    /// The loaded forms: main window, selection form, chart windows, and the about box while it is shown.
+    virtual int OpenForms() const = 0;
+    /// A chart window is gone from the screen and its lines from the store.
+    virtual void ChartUnloaded(QWidget* chart) = 0;
+
+    /// A complete part is selected, so that its data can be saved or printed.
+    virtual bool CanPlot() const = 0;
+    virtual void mnuResetSelction_Click() = 0;
+    virtual void mnuViewCode_Click(int index) = 0;
+    virtual void mnuPartNum_Click(int index) = 0;
+    virtual void mnuCloseAllChartWindows_Click() = 0;
+    virtual void mnuExit_Click() = 0;
+};

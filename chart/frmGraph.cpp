@@ -1,0 +1,229 @@
+#include "chart/frmGraph.h"
+
+#include "app/Texts.h"
+#include "app/Twips.h"
+#include "app/mdlPublic.h"
+#include "calc/ChartNames.h"
+#include "chart/drawing/Colors.h"
+#include "chart/drawing/PaneText.h"
+#include "ui_frmGraph.h"
+
+#include <QCloseEvent>
+#include <QMdiArea>
+
+static constexpr int WindowLeft = Twips(3000);
+static constexpr int WindowWidth = Twips(10995);
+static constexpr int WindowHeight = Twips(4425);
+static constexpr int PanesBottom = 248;
+
+/// Chart and panes are light on every desktop, so that the line colours can be told apart.
+static QPalette LightPalette()
+{
+    return QPalette(QColor(240, 240, 240));
+}
+
+frmGraph::frmGraph(ChartHost& chartHost, QWidget* parent)
+    : QMdiSubWindow(parent, Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                                Qt::WindowCloseButtonHint)
+    , ui(std::make_unique<Ui::frmGraph>())
+    , host(chartHost)
+{
+    setObjectName("frmGraph");
+    setAttribute(Qt::WA_DeleteOnClose);
+    auto* contents = new QMainWindow;
+    ui->setupUi(contents);
+    ui->mnuBar->hide();
+    setWidget(contents);
+
+    fraStatus = {ui->fraStatus_0, ui->fraStatus_1, ui->fraStatus_2,
+                 ui->fraStatus_3, ui->fraStatus_4, ui->fraStatus_5};
+    lblStatus = {ui->lblStatus_0, ui->lblStatus_1, ui->lblStatus_2,
+                 ui->lblStatus_3, ui->lblStatus_4, ui->lblStatus_5};
+    lblPara = {ui->lblPara_0, ui->lblPara_1, ui->lblPara_2, ui->lblPara_3, ui->lblPara_4, ui->lblPara_5};
+    ui->grpChart->setPalette(LightPalette());
+    for (std::size_t i = 0; i < panels.size(); ++i)
+    {
+        panels[i] = new QLabel;
+        panels[i]->setObjectName(QStringLiteral("sbr1_%1").arg(i + 1));
+        ui->sbr1->addWidget(panels[i], 1);
+    }
+    Connect();
+}
+
+frmGraph::~frmGraph() = default;
+
+void frmGraph::Connect()
+{
+    connect(ui->mnuFile, &QMenu::aboutToShow, this, &frmGraph::mnuFile_Click);
+    connect(ui->mnuView, &QMenu::aboutToShow, this, &frmGraph::mnuView_Click);
+    connect(ui->mnuFileReset, &QAction::triggered, this, [this] { host.mnuResetSelction_Click(); });
+    connect(ui->mnuFileExit, &QAction::triggered, this, [this] { host.mnuExit_Click(); });
+    connect(ui->mnuViewCode_0, &QAction::triggered, this, [this] { host.mnuViewCode_Click(0); });
+    connect(ui->mnuViewCode_1, &QAction::triggered, this, [this] { host.mnuViewCode_Click(1); });
+    connect(ui->mnuViewPart_0, &QAction::triggered, this, [this] { host.mnuPartNum_Click(0); });
+    connect(ui->mnuViewPart_1, &QAction::triggered, this, [this] { host.mnuPartNum_Click(1); });
+    connect(ui->mnuWindowClose, &QAction::triggered, this, [this] { host.mnuCloseAllChartWindows_Click(); });
+}
+
+QList<QAction*> frmGraph::Menus() const
+{
+    return ui->mnuBar->actions();
+}
+
+void frmGraph::mnuFile_Click()
+{
+    ui->mnuOutPut->setEnabled(false);
+    ui->mnuOutPut->setEnabled(host.CanPlot());
+}
+
+void frmGraph::mnuView_Click()
+{
+    const ViewMarks& marks = mdlPublic.Marks;
+    ui->mnuViewCode_0->setChecked(marks.mnuViewCode(0));
+    ui->mnuViewCode_1->setChecked(marks.mnuViewCode(1));
+    ui->mnuViewPart_0->setChecked(marks.mnuPartNum(0));
+    ui->mnuViewPart_1->setChecked(marks.mnuPartNum(1));
+}
+
+// ---- Drawing ----
+
+void frmGraph::Form_Load()
+{
+    ChartStore& store = mdlPublic.Charts;
+    const ChartKey chart = KeyOf(store.ChartData[static_cast<std::size_t>(store.CurrentChart)]);
+    ++store.CurrentChart;
+    if (isMinimized())
+    {
+        showNormal();
+    }
+    rescaled = false;
+    ClearReadOut();
+    InitChartWindow(chart);
+    Draw(DefaultRange(chart, store.Lines()));
+}
+
+void frmGraph::WriteMagnification(float xMax, float yMax, float xMin, float yMin, int notRescaled)
+{
+    rescaled = notRescaled != 1;
+    ClearReadOut();
+    InitChartWindow(ChartOfCaption(windowTitle().toStdString()));
+    Draw({.XMax = xMax, .YMax = yMax, .XMin = xMin, .YMin = yMin});
+}
+
+/// Names, places and colours the window. A window with a range of the user's stays where it is.
+void frmGraph::InitChartWindow(const ChartKey& chart)
+{
+    setWindowTitle(QString::fromStdString(ChartCaption(chart)));
+    const int top = rescaled ? y() : Twips((host.OpenForms() - 3) * 300 + 50);
+    setGeometry(WindowLeft, top, WindowWidth, WindowHeight);
+    for (std::size_t i = 0; i < MaximumLines; ++i)
+    {
+        QPalette palette = fraStatus[i]->palette();
+        palette.setColor(QPalette::WindowText, GetPaneColor(static_cast<int>(i)));
+        fraStatus[i]->setPalette(palette);
+        lblStatus[i]->setPalette(palette);
+        lblPara[i]->setPalette(palette);
+    }
+}
+
+void frmGraph::Draw(const AxisRange& range)
+{
+    axisRange = range;
+    const ChartView view{.Chart = ChartOfCaption(windowTitle().toStdString()),
+                         .Range = range,
+                         .Rescaled = rescaled,
+                         .DegreeSign = FromAnsi(mdlPublic.DegreeSign)};
+    PlaceCurves(view, mdlPublic.Charts.Lines());
+    ui->picGraph->Show(view);
+    FillStatusPanes();
+}
+
+void frmGraph::FillStatusPanes()
+{
+    const ChartKey chart = ChartOfCaption(windowTitle().toStdString());
+    std::size_t position = 0;
+    for (const ChartRecord& line : std::as_const(mdlPublic.Charts).Lines())
+    {
+        if (KeyOf(line) == chart && position < MaximumLines)
+        {
+            const PartRecord& part = mdlPublic.Parts.PartData[static_cast<std::size_t>(line.PartDataIndex)];
+            lblStatus[position]->setText(FromAnsi(part.PartNum[static_cast<std::size_t>(GetPartNumForm())]));
+            lblPara[position]->setText(PaneText(line, FromAnsi(mdlPublic.DegreeSign)));
+            ++position;
+        }
+    }
+}
+
+void frmGraph::RelabelParts(int fromForm, int toForm)
+{
+    const auto& former = mdlPublic.Parts.PartIndex[static_cast<std::size_t>(fromForm)];
+    for (ElidedLabel* label : lblStatus)
+    {
+        if (label->text().isEmpty())
+        {
+            break;
+        }
+        if (const auto* part = former.Find(ToAnsi(label->text())))
+        {
+            const PartRecord& record = mdlPublic.Parts.PartData[static_cast<std::size_t>(*part)];
+            label->setText(FromAnsi(record.PartNum[static_cast<std::size_t>(toForm)]));
+        }
+    }
+}
+
+void frmGraph::ClearReadOut()
+{
+    for (QLabel* panel : panels)
+    {
+        panel->clear();
+    }
+}
+
+// ---- The window's size and end ----
+
+void frmGraph::Form_Resize()
+{
+    if (isMinimized())
+    {
+        ClearReadOut();
+    }
+    else if (size() != QSize(WindowWidth, WindowHeight))
+    {
+        resize(WindowWidth, WindowHeight);
+    }
+}
+
+void frmGraph::resizeEvent(QResizeEvent* event)
+{
+    QMdiSubWindow::resizeEvent(event);
+    ui->sbr1->setFixedHeight(std::max(contentsRect().height() - PanesBottom, 1));
+    Form_Resize();
+}
+
+void frmGraph::changeEvent(QEvent* event)
+{
+    QMdiSubWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange)
+    {
+        Form_Resize();
+    }
+}
+
+/// Takes the window's lines out of the store, once.
+void frmGraph::Form_Unload()
+{
+    if (std::exchange(unloaded, true))
+    {
+        return;
+    }
+    mdlPublic.Charts.RemoveChart(ChartOfCaption(windowTitle().toStdString()));
+    host.ChartUnloaded(this);
+}
+
+void frmGraph::closeEvent(QCloseEvent* event)
+{
+    Form_Unload();
+    QMdiSubWindow::closeEvent(event);
+    event->accept();
+}

@@ -1,0 +1,79 @@
+#pragma once
+
+/// A chart window: one chart, up to six lines, and a pane for each.
+
+#include "chart/ChartHost.h"
+#include "chart/drawing/ChartDrawing.h"
+
+#include <QMdiSubWindow>
+
+#include <array>
+#include <cstdint>
+#include <memory>
+
+class ElidedLabel;
+class QGroupBox;
+class QMenu;
+class QLabel;
+
+namespace Ui
+{
+class frmGraph;
+}
+
+inline constexpr std::size_t MaximumLines = 6;
+
+/// A chart window of fixed size. It belongs to all lines of the store whose chart its caption names, and
+/// takes them along when it closes.
+class frmGraph : public QMdiSubWindow
+{
+    Q_OBJECT
+
+public:
+    explicit frmGraph(ChartHost& chartHost, QWidget* parent = nullptr);
+    ~frmGraph() override;
+
+    /// Draws the window afresh for the record at `CurrentChart`, in ranges that cover all lines of its chart,
+    /// and counts that record as plotted.
+    void Form_Load();
+
+    /// Draws the window in these ranges instead. They count as the user's, with five divisions on linear
+    /// axes, unless `notRescaled` is 1.
+    void WriteMagnification(float xMax, float yMax, float xMin, float yMin, int notRescaled = 0);
+
+    /// The ranges in force.
+    const AxisRange& Range() const { return axisRange; }
+
+    /// Renames the parts in the panes from one part-number form to another, up to the first empty pane.
+    void RelabelParts(int fromForm, int toForm);
+
+    /// The window's menus, which stand in the main window's place while it is active.
+    QList<QAction*> Menus() const;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void Connect();
+    void mnuFile_Click();
+    void mnuView_Click();
+    void InitChartWindow(const ChartKey& chart);
+    void Draw(const AxisRange& range);
+    void FillStatusPanes();
+    void ClearReadOut();
+    void Form_Resize();
+    void Form_Unload();
+
+    std::unique_ptr<Ui::frmGraph> ui;
+    ChartHost& host;
+    std::array<QGroupBox*, MaximumLines> fraStatus;
+    std::array<ElidedLabel*, MaximumLines> lblStatus;
+    std::array<ElidedLabel*, MaximumLines> lblPara;
+    std::array<QLabel*, 2> panels;
+
+    AxisRange axisRange{};
+    bool rescaled = false;
+    bool unloaded = false;
+};
