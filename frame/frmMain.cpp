@@ -1,0 +1,245 @@
+#include "frame/frmMain.h"
+
+#include "app/HourglassScope.h"
+#include "app/Messages.h"
+#include "app/mdlPublic.h"
+#include "chart/frmGraph.h"
+#include "ui_frmMain.h"
+
+#include <algorithm>
+#include <array>
+
+/// Room for the selection form and one column of chart windows beside it.
+static constexpr QSize FirstSize(1010, 700);
+/// Main window and selection form: the forms that stay while the program runs.
+static constexpr std::size_t LastingForms = 2;
+
+frmMain::frmMain(QWidget* parent)
+    : QMainWindow(parent)
+    , ui(std::make_unique<Ui::frmMain>())
+{
+    ui->setupUi(this);
+    resize(FirstSize);
+    mainMenus = ui->mnuBar->actions();
+
+    const std::array<QAction*, 2> mnuViewCode = {ui->mnuViewCode_0, ui->mnuViewCode_1};
+    const std::array<QAction*, 2> mnuPartNum = {ui->mnuPartNum_0, ui->mnuPartNum_1};
+    mdlPublic.Marks.mnuViewCode = [=](int i)
+    { return mnuViewCode[static_cast<std::size_t>(i)]->isChecked(); };
+    mdlPublic.Marks.mnuPartNum = [=](int i) { return mnuPartNum[static_cast<std::size_t>(i)]->isChecked(); };
+
+    library = new frmLibrary(*this);
+    ui->mdiArea->addSubWindow(library);
+    forms = {this, library};
+    Connect();
+    PlaceSelectionForm();
+    library->show();
+    library->Form_Load();
+}
+
+frmMain::~frmMain()
+{
+    // The check marks go with the menus.
+    mdlPublic.Marks = {};
+}
+
+/// The desktop has moved a check mark by the time a command runs; the command itself decides where it stands.
+static void UndoToggle(QAction* action)
+{
+    action->setChecked(!action->isChecked());
+}
+
+void frmMain::Connect()
+{
+    connect(ui->mnuFile, &QMenu::aboutToShow, this, &frmMain::mnuFile_Click);
+    connect(ui->mnuResetSelction, &QAction::triggered, this, &frmMain::mnuResetSelction_Click);
+    connect(ui->mnuExit, &QAction::triggered, this, &frmMain::mnuExit_Click);
+    connect(ui->mnuCloseAllChartWindows, &QAction::triggered, this, &frmMain::mnuCloseAllChartWindows_Click);
+
+    const auto connectMark = [this](QAction* action, int index, void (frmMain::*command)(int))
+    {
+        connect(action, &QAction::triggered, this,
+                [=, this]
+                {
+                    UndoToggle(action);
+                    (this->*command)(index);
+                });
+    };
+    connectMark(ui->mnuViewCode_0, 0, &frmMain::mnuViewCode_Click);
+    connectMark(ui->mnuViewCode_1, 1, &frmMain::mnuViewCode_Click);
+    connectMark(ui->mnuPartNum_0, 0, &frmMain::mnuPartNum_Click);
+    connectMark(ui->mnuPartNum_1, 1, &frmMain::mnuPartNum_Click);
+
+    connect(ui->mdiArea, &QMdiArea::subWindowActivated, this,
+            [this] { ShowMenusOf(ui->mdiArea->currentSubWindow()); });
+}
+
+bool frmMain::GetPartNewOld() const
+{
+    return ui->mnuPartNum_0->isChecked();
+}
+
+// ---- Forms ----
+
+int frmMain::OpenForms() const
+{
+    return static_cast<int>(forms.size());
+}
+
+std::vector<frmGraph*> frmMain::Charts() const
+{
+    std::vector<frmGraph*> charts;
+    for (QWidget* form : forms)
+    {
+        if (auto* chart = qobject_cast<frmGraph*>(form))
+        {
+            charts.push_back(chart);
+        }
+    }
+    return charts;
+}
+
+void frmMain::ShowNewChart()
+{
+    auto* chart = new frmGraph(*this);
+    ui->mdiArea->addSubWindow(chart);
+    forms.push_back(chart);
+    chart->Form_Load();
+    chart->show();
+}
+
+bool frmMain::ShowSameChart(const QString& caption)
+{
+    const auto charts = Charts();
+    const auto same =
+        std::ranges::find_if(charts, [&](const frmGraph* chart) { return chart->windowTitle() == caption; });
+    if (same == charts.end())
+    {
+        return false;
+    }
+    (*same)->Form_Load();
+    ui->mdiArea->setActiveSubWindow(*same);
+    (*same)->setFocus();
+    return true;
+}
+
+void frmMain::ChartUnloaded(QWidget* chart)
+{
+    std::erase(forms, chart);
+}
+
+bool frmMain::CanPlot() const
+{
+    return library->CanPlot();
+}
+
+void frmMain::SwitchCodeView(int index)
+{
+    mnuViewCode_Click(index);
+}
+
+/// The active chart's menus stand in the place of the main window's.
+void frmMain::ShowMenusOf(QMdiSubWindow* window)
+{
+    const auto* chart = qobject_cast<frmGraph*>(window);
+    const auto menus = chart != nullptr ? chart->Menus() : mainMenus;
+    if (ui->mnuBar->actions() != menus)
+    {
+        ui->mnuBar->clear();
+        ui->mnuBar->addActions(menus);
+    }
+}
+
+/// The selection form stands at the left edge, as high as the child area.
+void frmMain::PlaceSelectionForm()
+{
+    library->setGeometry(0, 0, library->width(), ui->mdiArea->viewport()->height());
+}
+
+void frmMain::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    PlaceSelectionForm();
+}
+
+void frmMain::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    PlaceSelectionForm();
+}
+
+// ---- The commands of the menus ----
+
+void frmMain::mnuFile_Click()
+{
+    ui->mnuOutPut->setEnabled(false);
+    ui->mnuOutPut->setEnabled(CanPlot());
+}
+
+void frmMain::mnuResetSelction_Click()
+{
+    library->AllClear();
+    library->SelectChartType(0);
+}
+
+void frmMain::mnuExit_Click()
+{
+    close();
+}
+
+void frmMain::mnuViewCode_Click(int index)
+{
+    const std::array<QAction*, 2> mnuViewCode = {ui->mnuViewCode_0, ui->mnuViewCode_1};
+    if (mnuViewCode[static_cast<std::size_t>(index)]->isChecked())
+    {
+        return;
+    }
+    const UpdatingScope updating;
+    const HourglassScope hourglass;
+    library->ChangePartNum(GetNumberingOffset() + index);
+    library->ChangeSize();
+    library->ChangeTcc();
+    mnuViewCode[0]->setChecked(index == 0);
+    mnuViewCode[1]->setChecked(index == 1);
+    library->ResetAmbientTemp(index);
+    if (forms.size() > LastingForms)
+    {
+        // The conditions of open charts were entered under the other reference temperature.
+        ShowInformation(this, QStringLiteral("Close all chart windows"));
+        mnuCloseAllChartWindows_Click();
+    }
+}
+
+void frmMain::mnuPartNum_Click(int index)
+{
+    const std::array<QAction*, 2> mnuPartNum = {ui->mnuPartNum_0, ui->mnuPartNum_1};
+    if (mnuPartNum[static_cast<std::size_t>(index)]->isChecked())
+    {
+        return;
+    }
+    const UpdatingScope updating;
+    const HourglassScope hourglass;
+    const int newForm = GetCodeForm() + 2 * index;
+    library->ChangePartNum(newForm);
+    UpdateChartPartLabels(newForm);
+    mnuPartNum[0]->setChecked(index == 0);
+    mnuPartNum[1]->setChecked(index == 1);
+}
+
+void frmMain::UpdateChartPartLabels(int newForm)
+{
+    for (frmGraph* chart : Charts())
+    {
+        chart->RelabelParts(GetPartNumForm(), newForm);
+    }
+}
+
+void frmMain::mnuCloseAllChartWindows_Click()
+{
+    while (forms.size() > LastingForms)
+    {
+        QWidget* last = forms.back();
+        last->close();
+        std::erase(forms, last);
+    }
+}

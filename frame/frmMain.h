@@ -1,0 +1,66 @@
+#pragma once
+
+/// The main window: the selection form, the chart windows, and the menus over both.
+
+#include "chart/ChartHost.h"
+#include "selection/frmLibrary.h"
+
+#include <QMainWindow>
+
+#include <memory>
+#include <vector>
+
+class frmGraph;
+class QMdiSubWindow;
+
+namespace Ui
+{
+class frmMain;
+}
+
+/// The main window. The check marks of its View menu are the only store of the code system and the
+/// part-number generation on display.
+class frmMain : public QMainWindow, public ChartHost, public ChartWindows
+{
+    Q_OBJECT
+
+public:
+    explicit frmMain(QWidget* parent = nullptr);
+    ~frmMain() override;
+
+    /// True while global part numbers are shown.
+    bool GetPartNewOld() const;
+
+    // What chart windows and the selection form ask for.
+    int OpenForms() const override;
+    void ChartUnloaded(QWidget* chart) override;
+    bool CanPlot() const override;
+    void ShowNewChart() override;
+    bool ShowSameChart(const QString& caption) override;
+    void SwitchCodeView(int index) override;
+
+    // The commands of the menus.
+    void mnuFile_Click();
+    void mnuResetSelction_Click() override;
+    void mnuExit_Click() override;
+    void mnuViewCode_Click(int index) override;
+    void mnuPartNum_Click(int index) override;
+    void mnuCloseAllChartWindows_Click() override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void Connect();
+    void ShowMenusOf(QMdiSubWindow* window);
+    void PlaceSelectionForm();
+    void UpdateChartPartLabels(int newForm);
+    std::vector<frmGraph*> Charts() const;
+
+    std::unique_ptr<Ui::frmMain> ui;
+    frmLibrary* library;
+    /// The loaded forms in the order of loading: this window, the selection form, then chart windows.
+    std::vector<QWidget*> forms;
+    QList<QAction*> mainMenus;
+};

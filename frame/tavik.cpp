@@ -1,0 +1,39 @@
+/// The program: the desktop application around the start-up order.
+
+#include "app/Main.h"
+#include "app/Messages.h"
+#include "frame/frmMain.h"
+#include "partdata/RunTimeError.h"
+
+#include <QApplication>
+
+#include <iostream>
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("tavik");
+    QApplication::setApplicationVersion(TAVIK_VERSION);
+
+    std::unique_ptr<frmMain> mainWindow;
+    try
+    {
+        const auto folder = QApplication::applicationDirPath().toStdString();
+        const auto showMainWindow = [&]
+        {
+            mainWindow = std::make_unique<frmMain>();
+            mainWindow->show();
+        };
+        if (!Main(folder, showMainWindow))
+        {
+            return 0;
+        }
+    }
+    catch (const RunTimeError& error)
+    {
+        std::cerr << error.what() << '\n';
+        ShowCritical(nullptr, QString::fromLocal8Bit(error.what()));
+        return 1;
+    }
+    return QApplication::exec();
+}
