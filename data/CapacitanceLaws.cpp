@@ -3,7 +3,6 @@
 #include "data/Fitting.h"
 #include "data/PlainMath.h"
 
-#include <cmath>
 #include <vector>
 
 namespace
@@ -85,12 +84,12 @@ void WriteBiasLaw(const PartDesign& part, PartValues& data)
         const double r = static_cast<double>(i) / steps;
         samples.push_back({r, 100 * BiasLoss(part, r)});
     }
-    const auto loss = FitRising(samples, 0.1 * samples.back().Y);
+    const auto loss = FitRising(samples, 0.08 * samples.back().Y);
     double scale = 1;
     for (std::size_t j = 0; j < loss.size(); ++j)
     {
         scale *= part.Volts;
-        data[8 - j] = -loss[j] / scale;
+        data[8 - j] = 0 - loss[j] / scale;
     }
 }
 
@@ -134,7 +133,7 @@ struct PeakedModel
 PeakedModel PeakedModelOf(const PartDesign& part)
 {
     const double thin = Thinness(part);
-    const double peakC = 12 + 8 * thin;
+    const double peakC = 16 + 5 * thin;
     const double hotExponent = 1.75 - 0.15 * thin;
     const double coldExponent = 1.6 - 0.1 * thin;
     const double hotChange = -79 + 6 * thin;
@@ -165,11 +164,11 @@ void WritePeakedModel(const PartDesign& part, PartValues& data)
     data[15] = model.Amplitude;
     data[16] = FarOffset;
     // Bias moves the peak to warmer and rounds it off, the more the more capacitance it takes away.
-    data[17] = 2.5 * loss / voltsSquare;
+    data[17] = 1.6 * loss / voltsSquare;
     data[19] = model.PeakC;
-    data[20] = -0.04 * loss * model.ColdDecay / voltsSquare;
+    data[20] = -0.02 * loss * model.ColdDecay / voltsSquare;
     data[22] = model.ColdDecay;
-    data[23] = -0.04 * loss * model.HotDecay / voltsSquare;
+    data[23] = -0.02 * loss * model.HotDecay / voltsSquare;
     data[25] = model.HotDecay;
     data[26] = model.ColdExponent;
     data[27] = model.HotExponent;
@@ -201,7 +200,8 @@ double BiasedCapacitance(const PartValues& data, double volts)
     {
         change = (change + data[j]) * volts;
     }
-    // The peaked model leaves its far offset out of the fall; the middle of both serves either reading.
-    const double peaked = data[16] == 0 ? change : change * -data[16] / 100;
-    return std::sqrt((1 + change / 100) * (1 + peaked / 100));
+    // The peaked model keeps its far offset out of the fall, so its curves fall a little less than the
+    // polynomial; the heating laws take two thirds of the difference.
+    const double share = data[16] == 0 ? 1 : (1 + 2 * -data[16] / 100) / 3;
+    return 1 + share * change / 100;
 }

@@ -22,5 +22,6 @@ void WritePeakedModel(const PartDesign& part, PartValues& data);
 /// Capacitance at a temperature without bias, relative to the one at 20 °C.
 double RelativeCapacitance(const PartDesign& part, double temperatureC);
 
-/// Capacitance at a bias in volts, relative to the one without bias, as the written bias polynomial has it.
+/// Capacitance at a bias in volts, relative to the one without bias, at 25 °C and by the written
+/// coefficients.
 double BiasedCapacitance(const PartValues& data, double volts);

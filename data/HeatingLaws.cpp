@@ -18,7 +18,7 @@ constexpr double ReferenceC = 20;
 /// Capacitance at which so many electrodes lie side by side that they resist half as much.
 constexpr double ManyLayersFarads = 47e-6;
 /// The voltage law keeps this common logarithm below the current law, to the safe side.
-constexpr double SafeSide = 0.018;
+constexpr double SafeSide = 0.021;
 
 /// A value that changes with temperature: value·(1 + Linear·t + Square·t²), t = T - 20.
 struct TemperatureFactor

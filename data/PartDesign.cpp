@@ -19,8 +19,8 @@ constexpr double ActiveThickness = 0.8;
 constexpr double ElectrodeUm = 0.8;
 constexpr std::array<std::pair<std::string_view, Ceramic>, 3> Ceramics = {{
     {"X7R", {2500, 4.4, 1.7, 0.10, 0.8, 0.7, 0.62, 0.80, 0.020, 0.035}},
-    {"X5R", {3200, 3.7, 1.9, 0.12, 0.7, 0.9, 0.62, 0.845, 0.030, 0.100}},
-    {"Y5V", {11000, 1.1, 1.5, 0.14, 0.2, 2.15, 0.66, 0.74, 0.050, 0.120}},
+    {"X5R", {3200, 3.35, 1.9, 0.12, 0.7, 0.9, 0.62, 0.845, 0.030, 0.100}},
+    {"Y5V", {11000, 1.1, 1.5, 0.14, 0.2, 1.95, 0.66, 0.70, 0.050, 0.120}},
 }};
 
 /// The layer thickness in µm at which layers and electrodes fill the case: layer·(layer + electrode) =
@@ -39,6 +39,12 @@ double StrainOfLoss(const Ceramic& ceramic, double loss)
     return PlainPower(loss / (1 - ceramic.FirmShare - loss), 1 / ceramic.FallExponent);
 }
 
+/// The grades for high voltages yield at higher fields.
+double HalfField(const Ceramic& ceramic, double volts)
+{
+    return ceramic.HalfField * (1 + volts / 500);
+}
+
 /// A part in the thinnest case that does not strain the ceramic, else in the thickest.
 PartDesign FillCase(const CaseSize& size, const Family& family, const Ceramic& ceramic,
                     std::int64_t picofarads)
@@ -51,12 +57,12 @@ PartDesign FillCase(const CaseSize& size, const Family& family, const Ceramic& c
         const double easy = family.Volts / ceramic.EasyField;
         part.ThicknessMm = thickness;
         part.LayerUm = 1 / std::sqrt(1 / (filling * filling) + 1 / (easy * easy));
-        if (family.Volts / filling < ceramic.EasyStrain * ceramic.HalfField)
+        if (family.Volts / filling < ceramic.EasyStrain * HalfField(ceramic, family.Volts))
         {
             break;
         }
     }
-    part.RatedStrain = family.Volts / part.LayerUm / ceramic.HalfField;
+    part.RatedStrain = family.Volts / part.LayerUm / HalfField(ceramic, family.Volts);
     return part;
 }
 

@@ -8,22 +8,16 @@
 namespace
 {
 
-/// Cuts `text` at the first `mark`: returns what stands before it and leaves what follows.
-std::string_view CutAt(std::string_view& text, char mark)
-{
-    const auto end = std::min(text.find(mark), text.size());
-    const auto head = text.substr(0, end);
-    text.remove_prefix(std::min(end + 1, text.size()));
-    return head;
-}
-
+/// The fields between marks; a mark at the end is followed by an empty field.
 std::vector<std::string_view> Split(std::string_view text, char mark)
 {
     std::vector<std::string_view> fields;
-    while (!text.empty())
+    for (auto end = text.find(mark); end != std::string_view::npos; end = text.find(mark))
     {
-        fields.push_back(CutAt(text, mark));
+        fields.push_back(text.substr(0, end));
+        text.remove_prefix(end + 1);
     }
+    fields.push_back(text);
     return fields;
 }
 
