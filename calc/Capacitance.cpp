@@ -3,10 +3,12 @@
 #include "calc/CapacitanceAxes.h"
 #include "calc/CheckedMath.h"
 #include "calc/Sweep.h"
+#include "partdata/RunTimeError.h"
 #include "partdata/SpecialParts.h"
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <optional>
 
 namespace
@@ -134,24 +136,49 @@ Extremes ExtremesOf(const CurveValues& values)
     return {.Largest = *largest, .Smallest = *smallest};
 }
 
-/// One sweep of either kind: works out every point from the change that `changeAt` gives for its X.
+/// The values as they are stored.
+CurveValues StoredSingles(const SweepValues& values)
+{
+    CurveValues stored;
+    bool allFit = true;
+    for (std::size_t i = 0; i < CurvePoints; ++i)
+    {
+        stored[i] = static_cast<float>(values[i]);
+        allFit &= std::abs(stored[i]) <= std::numeric_limits<float>::max();
+    }
+    if (!allFit)
+    {
+        throw RunTimeError(RunTimeErrorNumber::Overflow);
+    }
+    return stored;
+}
+
+/// One sweep of either kind: works out every point from the change that `changeAt` gives for its X. Each loop
+/// does one simple thing to all points, so that it can work on several at a time.
 template <class ChangeAt>
 void StorePoints(Curve& curve, const SweepValues& sweep, double nominal, const Reference& reference,
                  std::string_view yAxisName, ChangeAt changeAt)
 {
-    const bool isChange = yAxisName == CapacitanceChangeAxis;
-    for (std::size_t i = 0; i < CurvePoints; ++i)
+    // A fault of the first point comes before that of a reference of zero.
+    CheckedFinite(CapacitanceAt(nominal, changeAt(sweep[0])));
+    const double divisor = reference ? CheckedDivisor(*reference) : 1;
+
+    SweepValues values;
+    std::ranges::transform(sweep, values.begin(), changeAt);
+    const bool isCapacitance = yAxisName == CapacitanceAxis;
+    if (isCapacitance || reference)
     {
-        double change = changeAt(sweep[i]);
-        const double capacitance = CheckedFinite(CapacitanceAt(nominal, change));
-        if (reference)
-        {
-            change = (capacitance - *reference) / CheckedDivisor(*reference) * 100;
-        }
-        curve.XData[i] = StoredSingle(sweep[i]);
-        curve.YData[i] = StoredSingle(isChange ? change : capacitance);
+        std::ranges::transform(values, values.begin(),
+                               [=](double change) { return CapacitanceAt(nominal, change); });
     }
-    curve.HasPoints = isChange || yAxisName == CapacitanceAxis;
+    if (!isCapacitance && reference)
+    {
+        std::ranges::transform(values, values.begin(),
+                               [=](double capacitance) { return (capacitance - divisor) / divisor * 100; });
+    }
+    curve.XData = StoredSingles(sweep);
+    curve.YData = StoredSingles(values);
+    curve.HasPoints = isCapacitance || yAxisName == CapacitanceChangeAxis;
 }
 
 /// The finished curve: default limits around what was stored, or around 0 where nothing was.
