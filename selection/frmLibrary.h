@@ -136,6 +136,7 @@ private:
     bool txtAmbientTemp_LostFocus();
     bool txtParameter_LostFocus();
     bool LostFocus(const QLineEdit* box);
+    void GotFocus(QLineEdit* box, Qt::FocusReason reason);
     bool IsCauseToCheck(const QLineEdit* box, Qt::FocusReason reason) const;
     bool ActsOnBox(const QWidget* control, const QLineEdit* box) const;
 
@@ -161,4 +162,6 @@ private:
     std::vector<QRadioButton*> optParameter;
     /// A click moved the focus and the box it left was refused: the click itself is to have no effect.
     bool swallowPress = false;
+    /// The box that the focus came to by a click whose button is still down.
+    const QLineEdit* enteredByClick = nullptr;
 };

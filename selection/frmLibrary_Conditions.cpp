@@ -190,6 +190,14 @@ bool frmLibrary::LostFocus(const QLineEdit* box)
     return txtParameter_LostFocus();
 }
 
+/// Selects the whole text, so that typing replaces it. A click takes the selection away again until its
+/// button is released.
+void frmLibrary::GotFocus(QLineEdit* box, Qt::FocusReason reason)
+{
+    box->selectAll();
+    enteredByClick = reason == Qt::MouseFocusReason ? box : nullptr;
+}
+
 bool frmLibrary::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::MouseButtonPress && std::exchange(swallowPress, false))
@@ -203,8 +211,12 @@ bool frmLibrary::eventFilter(QObject* watched, QEvent* event)
     }
     if (event->type() == QEvent::FocusIn)
     {
-        // The click that brings the focus would otherwise put the cursor into the text just selected.
-        QTimer::singleShot(0, box, &QLineEdit::selectAll);
+        GotFocus(box, static_cast<QFocusEvent*>(event)->reason());
+    }
+    if (event->type() == QEvent::MouseButtonRelease && std::exchange(enteredByClick, nullptr) == box &&
+        !box->hasSelectedText())
+    {
+        box->selectAll();
     }
     if (event->type() == QEvent::FocusOut)
     {

@@ -1,0 +1,168 @@
+/// The tour: drives the real forms through the main job without a display and saves what the user would see.
+///
+///     tour FOLDER
+///
+/// A designer has a 12 V rail with 1.5 A of ripple at 300 kHz and compares three parts of 10 µF.
+
+#include "app/mdlPublic.h"
+#include "frame/frmMain.h"
+#include "partdata/RunTimeError.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+
+#include <array>
+#include <iostream>
+
+namespace
+{
+
+constexpr std::array<const char*, 3> ComparedParts = {"KTS21JB51E106MA01", "KTS31NB51E106MA01",
+                                                      "KTS32XR71E106KA01"};
+
+/// A user at the main window: finds controls by name and works them with keys and clicks.
+class User
+{
+public:
+    User(frmMain& mainWindow, QDir pictureFolder)
+        : window(mainWindow)
+        , folder(std::move(pictureFolder))
+    {
+    }
+
+    void ChooseChartType(int index)
+    {
+        QTest::mouseClick(Find<QRadioButton>(QStringLiteral("optChartType_%1").arg(index)), Qt::LeftButton,
+                          {}, QPoint(8, 8));
+    }
+
+    void TypePart(const char* partNum)
+    {
+        auto* box = Find<QComboBox>(QStringLiteral("cmbPartNum"));
+        box->lineEdit()->selectAll();
+        QTest::keyClicks(box, QString::fromLatin1(partNum));
+    }
+
+    void Enter(const char* box, const char* entry)
+    {
+        auto* line = Find<QLineEdit>(QString::fromLatin1(box));
+        line->setFocus();
+        line->selectAll();
+        QTest::keyClicks(line, QString::fromLatin1(entry));
+    }
+
+    void Plot() { QTest::mouseClick(Find<QPushButton>(QStringLiteral("cmdPlot")), Qt::LeftButton); }
+
+    /// The whole window, as it stands.
+    void SaveWindow(const char* name) { Save(window, name); }
+
+    /// The chart window in front, alone.
+    void SaveChart(const char* name) { Save(*window.findChild<QMdiArea*>()->activeSubWindow(), name); }
+
+    bool AllSaved() const { return allSaved; }
+
+private:
+    template <class Control> Control* Find(const QString& name) const
+    {
+        auto* control = window.findChild<Control*>(name);
+        Q_ASSERT(control != nullptr);
+        return control;
+    }
+
+    void Save(QWidget& widget, const char* name)
+    {
+        QApplication::processEvents();
+        const QString file = folder.filePath(QString::fromLatin1(name) + QStringLiteral(".png"));
+        const bool saved = widget.grab().save(file);
+        allSaved = allSaved && saved;
+        std::cout << (saved ? "saved " : "cannot write ") << file.toStdString() << '\n';
+    }
+
+    frmMain& window;
+    QDir folder;
+    bool allSaved = true;
+};
+
+void CompareTemperatureRise(User& user)
+{
+    for (const char* part : ComparedParts)
+    {
+        user.TypePart(part);
+        user.Enter("txtDCBiasVol", "12");
+        user.Enter("txtFrequency", "300");
+        if (part == ComparedParts.front())
+        {
+            user.SaveWindow("selection-form");
+        }
+        user.Plot();
+    }
+    user.SaveWindow("main-window");
+    user.SaveChart("temperature-rise");
+}
+
+void CompareAllowablePower(User& user)
+{
+    user.ChooseChartType(1);
+    for (const char* part : ComparedParts)
+    {
+        user.TypePart(part);
+        user.Enter("txtDCBiasVol", "12");
+        user.Plot();
+    }
+    user.SaveChart("allowable-power");
+}
+
+void CompareCapacitance(User& user)
+{
+    user.ChooseChartType(2);
+    for (const char* part : ComparedParts)
+    {
+        user.TypePart(part);
+        user.Enter("txtDCBiasVol", "12");
+        user.Plot();
+    }
+    user.SaveChart("capacitance-temperature");
+
+    user.ChooseChartType(3);
+    for (const char* part : ComparedParts)
+    {
+        user.TypePart(part);
+        user.Plot();
+    }
+    user.SaveChart("capacitance-dc-voltage");
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1])))
+    {
+        std::cerr << "usage: tour FOLDER\n";
+        return 2;
+    }
+    try
+    {
+        mdlPublic.Parts = LoadPartData(QApplication::applicationDirPath().toStdString());
+        mdlPublic.DegreeSign = "\xB0";
+        frmMain mainWindow;
+        mainWindow.show();
+        User user(mainWindow, QDir(QString::fromLocal8Bit(argv[1])));
+        CompareTemperatureRise(user);
+        CompareAllowablePower(user);
+        CompareCapacitance(user);
+        return user.AllSaved() ? 0 : 1;
+    }
+    catch (const RunTimeError& error)
+    {
+        std::cerr << error.what() << '\n';
+        return 1;
+    }
+}
