@@ -17,7 +17,8 @@ static bool IsLineEnd(char c)
 
 static bool EndsField(char c)
 {
-    return c == ',' || IsLineEnd(c);
+    // Nearly all characters of a part name are above the comma, so one comparison settles most of them.
+    return c <= ',' && (c == ',' || IsLineEnd(c));
 }
 
 IndexReader::IndexReader(std::string_view indexText, std::string name)
@@ -35,34 +36,18 @@ IndexReader::IndexReader(std::string_view indexText, std::string name)
     end = next + indexText.size();
 }
 
-bool IndexReader::ReadRecord(PartRecord& part)
-{
-    if (!SkipToRecord())
-    {
-        return false;
-    }
-    int field = 0;
-    for (auto& partNum : part.PartNum)
-    {
-        partNum = ReadField(++field);
-    }
-    for (auto& sizeCode : part.SizeCode)
-    {
-        sizeCode = ReadField(++field);
-    }
-    for (auto& tcc : part.Tcc)
-    {
-        tcc = ReadField(++field);
-    }
-    ++recordCount;
-    return true;
-}
-
-/// Goes past blanks and empty lines; false when nothing follows.
-bool IndexReader::SkipToRecord()
+bool IndexReader::FindRecord()
 {
     next = std::find_if(next, end, [](char c) { return !IsBlank(c) && !IsLineEnd(c); });
     return next != end;
+}
+
+void IndexReader::ReadRecord(PartRecord& part)
+{
+    part.PartNum = {ReadField(1), ReadField(2), ReadField(3), ReadField(4)};
+    part.SizeCode = {ReadField(5), ReadField(6)};
+    part.Tcc = {ReadField(7), ReadField(8)};
+    ++recordCount;
 }
 
 std::string_view IndexReader::ReadField(int field)
@@ -93,10 +78,7 @@ std::string_view IndexReader::ReadQuoted(int field)
 std::string_view IndexReader::ReadUnquoted()
 {
     const auto* const first = next;
-    while (next != end && !EndsField(*next))
-    {
-        ++next;
-    }
+    next = std::find_if(next, end, EndsField);
     const auto* last = next;
     while (last != first && IsBlank(last[-1]))
     {

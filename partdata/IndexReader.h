@@ -24,17 +24,16 @@ public:
     /// `name` is the file's name for messages.
     IndexReader(std::string_view indexText, std::string name);
 
-    /// Reads the next record into the names of `part`; false, with `part` as it was, at the end.
+    /// Goes past blanks and empty lines to the next record; false at the end of the text.
+    bool FindRecord();
+
+    /// Reads the names of the record that has been found.
     ///
     /// Throws RunTimeError 62 "parts.idx: record 17: field 3", both counted from 1, for an end within the
     /// record or an unclosed quote. An end right behind a comma is an end within the record.
-    bool ReadRecord(PartRecord& part);
-
-    /// How many records have been read.
-    std::size_t RecordCount() const { return recordCount; }
+    void ReadRecord(PartRecord& part);
 
 private:
-    bool SkipToRecord();
     std::string_view ReadField(int field);
     std::string_view ReadQuoted(int field);
     std::string_view ReadUnquoted();

@@ -14,26 +14,55 @@ char FoldCase(char c)
 
 bool EqualKeys(std::string_view a, std::string_view b)
 {
-    return std::ranges::equal(a, b, [](char x, char y) { return x == y || FoldCase(x) == FoldCase(y); });
+    return a == b || std::ranges::equal(a, b, [](char x, char y) { return FoldCase(x) == FoldCase(y); });
 }
 
-std::uint64_t HashKey(std::string_view key)
+/// The first bytes at `bytes` as a number.
+template <class Number> static std::uint64_t Load(const char* bytes)
+{
+    Number number;
+    std::memcpy(&number, bytes, sizeof number);
+    return number;
+}
+
+/// All bytes of a key shorter than eight; some bytes of it may show twice.
+static std::uint64_t LoadShort(std::string_view key)
+{
+    const auto* const bytes = key.data();
+    if (key.size() >= 4)
+    {
+        return Load<std::uint32_t>(bytes) << 32 | Load<std::uint32_t>(bytes + key.size() - 4);
+    }
+    if (key.size() >= 2)
+    {
+        return Load<std::uint16_t>(bytes) << 16 | Load<std::uint16_t>(bytes + key.size() - 2);
+    }
+    return key.empty() ? 0 : Load<std::uint8_t>(bytes);
+}
+
+/// Stirs eight more bytes into a hash.
+static std::uint64_t Mix(std::uint64_t hash, std::uint64_t block)
 {
     // Upper and lower case of every ASCII and Latin-1 letter differ in this bit alone, so setting it in all
     // bytes folds eight of them at once. The few other characters that it makes alike only share a hash.
     constexpr std::uint64_t caseBits = 0x2020202020202020;
     constexpr std::uint64_t multiplier = 0x9E3779B97F4A7C15;
 
+    hash = (hash ^ (block | caseBits)) * multiplier;
+    return hash ^ (hash >> 32);
+}
+
+std::uint64_t HashKey(std::string_view key)
+{
     std::uint64_t hash = key.size();
-    while (!key.empty())
+    if (key.size() < 8)
     {
-        const auto count = std::min(key.size(), sizeof(std::uint64_t));
-        std::uint64_t block = 0;
-        std::memcpy(&block, key.data(), count);
-        hash = (hash ^ (block | caseBits)) * multiplier;
-        hash ^= hash >> 32;
-        key.remove_prefix(count);
+        return Mix(Mix(hash, LoadShort(key)), 0);
     }
-    hash *= multiplier;
-    return hash ^ (hash >> 29);
+    for (std::size_t at = 0; at + 8 < key.size(); at += 8)
+    {
+        hash = Mix(hash, Load<std::uint64_t>(key.data() + at));
+    }
+    // The last eight bytes may overlap the block before them.
+    return Mix(Mix(hash, Load<std::uint64_t>(key.data() + key.size() - 8)), 0);
 }

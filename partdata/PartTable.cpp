@@ -28,15 +28,14 @@ static void ReadNames(PartTable& table, InputFile& file, std::size_t dataRecords
     table.PartData.reserve(std::min({dataRecords, size / LeastIndexRecordBytes + 1, MostParts}));
 
     IndexReader index({table.indexText.get(), size}, file.Name());
-    PartRecord part;
-    while (index.ReadRecord(part))
+    while (index.FindRecord())
     {
-        if (index.RecordCount() > MostParts)
+        if (table.PartData.size() == MostParts)
         {
             throw RunTimeError(RunTimeErrorNumber::Overflow)
-                .At(file.Name() + ": record " + std::to_string(index.RecordCount()));
+                .At(file.Name() + ": record " + std::to_string(MostParts + 1));
         }
-        table.PartData.push_back(part);
+        index.ReadRecord(table.PartData.emplace_back());
     }
     table.PartMax = static_cast<std::int16_t>(static_cast<int>(table.PartData.size()) - 1);
 }
@@ -60,16 +59,22 @@ static void IndexPartNumbers(PartTable& table, const std::string& fileName)
     }
 }
 
-/// Pairs the two namings of sizes and characteristics; the first part that names a pair wins.
-static void PairNamings(PartTable& table)
+/// Pairs two namings; the first part that names a pair wins.
+static void PairNamings(std::array<KeyedCollection<std::string_view>, CodeForms>& maps,
+                        const std::vector<PartRecord>& parts,
+                        std::array<std::string_view, CodeForms> PartRecord::*names)
 {
-    for (const auto& part : table.PartData)
+    const PartRecord* previous = nullptr;
+    for (const auto& part : parts)
     {
-        for (std::size_t form = 0; form < CodeForms; ++form)
+        const auto& pair = part.*names;
+        // Neighbours in the range mostly bear the same names, which need no second attempt.
+        if (previous == nullptr || pair != previous->*names)
         {
-            table.SizeCodeMap[form].Add(part.SizeCode[form], part.SizeCode[1 - form]);
-            table.TccMap[form].Add(part.Tcc[form], part.Tcc[1 - form]);
+            maps[0].Add(pair[0], pair[1]);
+            maps[1].Add(pair[1], pair[0]);
         }
+        previous = &part;
     }
 }
 
@@ -82,7 +87,8 @@ PartTable ReadPartPair(const std::filesystem::path& indexFile, const std::filesy
     ReadNames(table, index, static_cast<std::size_t>(data.Size() / DataRecordBytes));
     ReadPartValues(data, table.PartData);
     IndexPartNumbers(table, index.Name());
-    PairNamings(table);
+    PairNamings(table.SizeCodeMap, table.PartData, &PartRecord::SizeCode);
+    PairNamings(table.TccMap, table.PartData, &PartRecord::Tcc);
     return table;
 }
 
