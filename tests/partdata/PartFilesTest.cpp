@@ -1,0 +1,95 @@
+#include "partdata/PartFiles.h"
+#include "partdata/PartTable.h"
+#include "partdata/RunTimeError.h"
+#include "tests/partdata/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+/// The error's line, or "" when nothing is thrown.
+std::string FaultOf(auto&& work)
+{
+    try
+    {
+        work();
+    }
+    catch (const RunTimeError& error)
+    {
+        return error.what();
+    }
+    return "";
+}
+
+TEST(PathSep, ComesFromTheProgramFolder)
+{
+    EXPECT_EQ(PathSepOf("/opt/tavik"), '/');
+    EXPECT_EQ(PathSepOf("/"), '/');
+    EXPECT_EQ(PathSepOf("\\\\server\\share"), '\\');
+    EXPECT_EQ(PathSepOf("//server/share"), '/');
+    EXPECT_EQ(PathSepOf("C:\\tavik"), '\\');
+    EXPECT_EQ(PathSepOf("C:/tavik"), '/');
+    EXPECT_EQ(PathSepOf(""), '/');
+}
+
+TEST(PartFiles, AreFoundInAnyLetterCaseOfTheExtension)
+{
+    const TemporaryFolder folder;
+    folder.Write("parts.IdX", "");
+    folder.Write("parts.idx.bak", "");
+    folder.Write("idx", "");
+    EXPECT_EQ(FindPartFile(folder.Path(), ".idx"), folder.Path() + "/parts.IdX");
+}
+
+TEST(PartFiles, AreTheFirstInAlphabeticalOrder)
+{
+    const TemporaryFolder folder;
+    folder.Write("c.idx", "");
+    folder.Write("B.idx", "");
+    folder.Write("a2.IDX", "");
+    folder.Write("a10.idx", "");
+    EXPECT_EQ(FindPartFile(folder.Path(), ".idx"), folder.Path() + "/a10.idx");
+}
+
+TEST(PartFiles, ThatAreMissingAreNotFound)
+{
+    const TemporaryFolder folder;
+    folder.Write("parts.idx", "");
+    EXPECT_EQ(FaultOf([&] { LoadPartData(folder.Path()); }), "Run-time error '53': File not found: *.dat");
+    EXPECT_EQ(FaultOf([&] { LoadPartData(folder.Path() + "/none"); }),
+              "Run-time error '53': File not found: *.idx");
+    EXPECT_EQ(FaultOf([&] { ReadPartPair(folder.Path() + "/x.idx", folder.Path() + "/x.dat"); }),
+              "Run-time error '53': File not found: x.idx");
+}
+
+TEST(PartFiles, ThatAreFoldersCannotBeRead)
+{
+    const TemporaryFolder folder;
+    folder.Write("parts.idx", "");
+    std::filesystem::create_directory(folder.Path() + "/parts.dat");
+    EXPECT_EQ(FaultOf([&] { LoadPartData(folder.Path()); }),
+              "Run-time error '75': Path/File access error: parts.dat");
+}
+
+TEST(PartFiles, ThatMayNotBeReadCannotBeRead)
+{
+    const TemporaryFolder folder;
+    const auto index = folder.Write("parts.idx", "");
+    folder.Write("parts.dat", "");
+    std::filesystem::permissions(index, std::filesystem::perms::none);
+    if (std::ifstream(index).is_open())
+    {
+        GTEST_SKIP() << "this user may read every file";
+    }
+    EXPECT_EQ(FaultOf([&] { LoadPartData(folder.Path()); }),
+              "Run-time error '75': Path/File access error: parts.idx");
+}
+
+TEST(PartFiles, LargerThanAnyIndexAreNotTakenIntoMemory)
+{
+    const TemporaryFolder folder;
+    std::filesystem::resize_file(folder.Write("parts.idx", ""), 1ULL << 40);
+    folder.Write("parts.dat", "");
+    EXPECT_EQ(FaultOf([&] { LoadPartData(folder.Path()); }), "Run-time error '6': Overflow: parts.idx");
+}
+} // namespace
