@@ -201,7 +201,7 @@ double BiasedCapacitance(const PartValues& data, double volts)
         change = (change + data[j]) * volts;
     }
     // The peaked model keeps its far offset out of the fall, so its curves fall a little less than the
-    // polynomial; the heating laws take two thirds of the difference.
-    const double share = data[16] == 0 ? 1 : (1 + 2 * -data[16] / 100) / 3;
+    // polynomial; the heating laws take four fifths of the difference.
+    const double share = data[16] == 0 ? 1 : (1 + 4 * -data[16] / 100) / 5;
     return 1 + share * change / 100;
 }

@@ -13,12 +13,13 @@ constexpr double Pi = 3.14159265358979323846;
 /// The rise at which current and voltage law agree.
 constexpr double AgreedRise = 20;
 /// Frequency at which the skin effect has doubled the resistance of the electrodes.
-constexpr double SkinHz = 20e6;
+constexpr double SkinHz = 50e6;
 constexpr double ReferenceC = 20;
+constexpr double RoomC = 25;
 /// Capacitance at which so many electrodes lie side by side that they resist half as much.
 constexpr double ManyLayersFarads = 47e-6;
 /// The voltage law keeps this common logarithm below the current law, to the safe side.
-constexpr double SafeSide = 0.021;
+constexpr double SafeSide = 0.0245;
 
 /// A value that changes with temperature: value·(1 + Linear·t + Square·t²), t = T - 20.
 struct TemperatureFactor
@@ -29,7 +30,7 @@ struct TemperatureFactor
     double At(double t) const { return 1 + t * Linear + t * t * Square; }
 };
 
-/// Of the loss in the ceramic, and of the nickel of the electrodes.
+/// Of the loss in the ceramic, and of the metal of the electrodes.
 TemperatureFactor LossFactorChange(const PartDesign& part)
 {
     if (part.Characteristic == "X7R")
@@ -39,7 +40,7 @@ TemperatureFactor LossFactorChange(const PartDesign& part)
     return part.Characteristic == "X5R" ? TemperatureFactor{-0.0090, 5.5e-5}
                                         : TemperatureFactor{-0.0110, 6.5e-5};
 }
-constexpr TemperatureFactor ElectrodeChange{0.0048, 0};
+constexpr TemperatureFactor ElectrodeChange{0.0039, 0};
 
 double HighestOperatingC(const PartDesign& part)
 {
@@ -119,21 +120,27 @@ std::vector<double> FitBias(const PartDesign& part, const PartValues& data)
     return FitSmallestDeviation(samples, 3);
 }
 
-/// c[0] + c[1]·t + c[2]·t²: common logarithm of the voltage of 20 °C rise at 100 kHz, relative to 20 °C.
-std::vector<double> FitTemperature(const PartDesign& part, const SeriesResistance& resistance)
+/// Linear·t + Square·t²: common logarithm of the voltage of 20 °C rise at 100 kHz, relative to 20 °C.
+struct Warmth
 {
-    constexpr int steps = 20;
+    double Linear;
+    double Square;
+};
+
+/// The parabola that is right at 20 °C, at room temperature, where most charts are asked for, and at the
+/// highest operating temperature.
+Warmth WarmthOf(const PartDesign& part, const SeriesResistance& resistance)
+{
     constexpr double hz = 1e5;
-    const double span = HighestOperatingC(part) - ReferenceC;
-    std::vector<Sample> samples;
-    for (int i = 0; i <= steps; ++i)
+    const auto voltage = [&](double t)
     {
-        const double t = span * i / steps;
         const double current = -PlainLog10(resistance.At(hz, t) / resistance.At(hz, 0)) / 2;
-        samples.push_back({t / span, current - PlainLog10(RelativeCapacitance(part, ReferenceC + t))});
-    }
-    const auto fit = FitSmallestDeviation(samples, 3);
-    return {fit[0], fit[1] / span, fit[2] / span / span};
+        return current - PlainLog10(RelativeCapacitance(part, ReferenceC + t));
+    };
+    const double room = RoomC - ReferenceC;
+    const double hot = HighestOperatingC(part) - ReferenceC;
+    const double square = (voltage(hot) / hot - voltage(room) / room) / (hot - room);
+    return {voltage(room) / room - square * room, square};
 }
 
 /// The exponent of the voltage law: AtRest + r·WithBias + t·WithTemperature.
@@ -163,18 +170,18 @@ void WriteHeatingLaws(const PartDesign& part, PartValues& data)
     // S2 = S3·Slope and E = log10 20 - S3·(Constant - bias + warmth), up to squares of r and t.
     const auto voltage = FitVoltage(part, resistance);
     const auto bias = FitBias(part, data);
-    const auto warmth = FitTemperature(part, resistance);
+    const auto warmth = WarmthOf(part, resistance);
     const auto exponent = ExponentOf(part);
 
-    const double constant = voltage.Constant - bias[0] + warmth[0] - SafeSide;
+    const double constant = voltage.Constant - bias[0] - SafeSide;
     data[46] = PlainLog10(AgreedRise) - exponent.AtRest * constant;
     data[45] = exponent.AtRest * bias[1] - exponent.WithBias * constant;
     data[44] = exponent.AtRest * bias[2] + exponent.WithBias * bias[1];
-    data[43] = -exponent.AtRest * warmth[1] - exponent.WithTemperature * constant;
-    data[42] = -exponent.WithBias * warmth[1] + exponent.WithTemperature * bias[1];
+    data[43] = -exponent.AtRest * warmth.Linear - exponent.WithTemperature * constant;
+    data[42] = -exponent.WithBias * warmth.Linear + exponent.WithTemperature * bias[1];
     data[41] = exponent.WithTemperature * bias[2];
-    data[40] = -exponent.AtRest * warmth[2] - exponent.WithTemperature * warmth[1];
-    data[39] = -exponent.WithBias * warmth[2];
+    data[40] = -exponent.AtRest * warmth.Square - exponent.WithTemperature * warmth.Linear;
+    data[39] = -exponent.WithBias * warmth.Square;
 
     data[55] = exponent.AtRest * voltage.Slope;
     data[54] = exponent.WithBias * voltage.Slope;

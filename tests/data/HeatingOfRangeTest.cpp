@@ -5,7 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <initializer_list>
 #include <map>
 #include <numbers>
 
@@ -88,49 +91,62 @@ TEST(Heating, IsLimitedByTheHighestOperatingTemperature)
 
 static constexpr std::array Kilohertz = {10.0F, 18.0F, 32.0F, 56.0F, 100.0F, 180.0F, 320.0F, 560.0F, 1000.0F};
 
-/// Voltage and current of 20 °C rise, their ratio times 2πfC: 1 when both laws agree fully.
-static double Agreement(const PartRecord& part, float biasVolts, float kilohertz, double picofarads)
+/// Conditions under which the laws of voltage and current are compared.
+struct Load
 {
-    const double volts = LoadOfRise(RiseOver("Voltage", part, biasVolts, 20, kilohertz));
-    const double amperes = LoadOfRise(RiseOver("Current", part, biasVolts, 20, kilohertz));
-    return volts / amperes * 2 * std::numbers::pi * kilohertz * 1e3 * picofarads * 1e-12;
+    float BiasVolts;
+    float AmbientC;
+};
+
+/// Voltage and current of 20 °C rise: their ratio times 2πfC is 1 when both laws agree fully.
+static void ExpectAgreement(const PartRecord& part, const Load& load,
+                            std::initializer_list<double> picofarads)
+{
+    for (const float kilohertz : Kilohertz)
+    {
+        const double volts = LoadOfRise(RiseOver("Voltage", part, load.BiasVolts, load.AmbientC, kilohertz));
+        const double amperes =
+            LoadOfRise(RiseOver("Current", part, load.BiasVolts, load.AmbientC, kilohertz));
+        for (const double capacitance : picofarads)
+        {
+            const double susceptance = 2 * std::numbers::pi * kilohertz * 1e3 * capacitance * 1e-12;
+            const double agreement = volts / amperes * susceptance;
+            EXPECT_GT(agreement, 0.7) << part.PartNum[0] << " at " << kilohertz << " kHz, " << load.BiasVolts;
+            EXPECT_LT(agreement, 1.3) << part.PartNum[0] << " at " << kilohertz << " kHz, " << load.BiasVolts;
+        }
+    }
 }
 
 TEST(Heating, ByVoltageAndByCurrentAgreeWithoutBias)
 {
     for (const PartRecord* part : PartsWithPower())
     {
-        for (const float kilohertz : Kilohertz)
-        {
-            const double agreement = Agreement(*part, 0, kilohertz, part->Data[1]);
-            EXPECT_GT(agreement, 0.7) << part->PartNum[0] << " at " << kilohertz;
-            EXPECT_LT(agreement, 1.3) << part->PartNum[0] << " at " << kilohertz;
-        }
+        ExpectAgreement(*part, {.BiasVolts = 0, .AmbientC = 20}, {part->Data[1]});
     }
 }
 
-TEST(Heating, ByVoltageAndByCurrentAgreeAtTheCapacitanceUnderBias)
+class AgreementUnderBias : public testing::TestWithParam<float>
 {
+};
+
+TEST_P(AgreementUnderBias, HoldsForTheCapacitanceOnTheChartAndForThePolynomial)
+{
+    const float ambient = GetParam();
     for (const PartRecord* part : PartsWithPower())
     {
         if (BiasPolynomial(*part, part->Data[2]) == 0)
         {
             continue; // nothing measured under bias
         }
-        const auto capacitance = OverBias(*part, "Capacitance", 20);
+        const auto chart = OverBias(*part, "Capacitance", ambient);
         for (const std::size_t point : {0U, 25U, 50U, 100U, 150U, 199U})
         {
-            const float bias = std::min(capacitance.XData[point], part->Data[2]);
+            const float bias = std::min(chart.XData[point], part->Data[2]);
             const double byPolynomial = part->Data[1] * (1 + BiasPolynomial(*part, bias) / 100);
-            for (const float kilohertz : Kilohertz)
-            {
-                for (const double picofarads : {static_cast<double>(capacitance.YData[point]), byPolynomial})
-                {
-                    const double agreement = Agreement(*part, bias, kilohertz, picofarads);
-                    EXPECT_GT(agreement, 0.7) << part->PartNum[0] << " at " << bias << ' ' << kilohertz;
-                    EXPECT_LT(agreement, 1.3) << part->PartNum[0] << " at " << bias << ' ' << kilohertz;
-                }
-            }
+            ExpectAgreement(*part, {bias, ambient}, {chart.YData[point], byPolynomial});
         }
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(Heating, AgreementUnderBias, testing::Values(20.0F, 25.0F),
+                         [](const auto& row) { return "At" + std::to_string(std::lround(row.param)); });
