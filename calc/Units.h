@@ -1,0 +1,12 @@
+#pragma once
+
+/// The unit texts behind axis and parameter names.
+
+#include <string>
+#include <string_view>
+
+/// Unit text that follows an axis or parameter name in titles and tables: "Current" has "[Arms]". The degree
+/// sign stands in the unit of temperatures; without one it is the plain "[C]" of data files and messages.
+///
+/// Throws RunTimeError 5 that tells the name when no quantity is called so.
+std::string UnitOf(std::string_view name, std::string_view degreeSign = {});
