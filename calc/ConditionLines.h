@@ -1,0 +1,33 @@
+#pragma once
+
+/// Which conditions a curve was computed under, as the saved file and the printed pages tell them.
+
+#include "calc/ChartRecord.h"
+
+#include <string>
+#include <vector>
+
+/// One condition of a line: "DC Bias Voltage", "2.5", "[V]".
+struct ConditionLine
+{
+    std::string Name;
+    /// Number text of the value.
+    std::string Value;
+    /// "[V]", "[C/W]", "[kHz]" or "[C]"; of the parameter "[Arms]", "[Vrms]", "[W]" or "[VA]".
+    std::string Unit;
+
+    bool operator==(const ConditionLine&) const = default;
+};
+
+/// The conditions that the line's chart type uses, in the order in which they are told; the others do not
+/// bear on the curve and are left out:
+///
+///     temperature rise over "Frequency"   bias, heat resistance, ambient temperature, parameter
+///     temperature rise over a load        bias, heat resistance, frequency, ambient temperature
+///     allowable power                     bias, heat resistance, ambient temperature
+///     capacitance over temperature        bias
+///     capacitance over DC voltage         ambient temperature
+///
+/// Throws RunTimeError 5 for a chart type outside 0 to 3 and, where the parameter counts, for a parameter
+/// name that no parameter bears.
+std::vector<ConditionLine> ConditionLines(const ChartRecord& line);
