@@ -77,17 +77,38 @@ TEST(ChartStore, DoesNotCountTheWorkingRecord)
     EXPECT_EQ(store.CountSameCharts({}), 0);
 }
 
-TEST(ChartStore, EmptiesTheWorkingRecordAlone)
+TEST(ChartStore, TellsLinesApartByEveryCondition)
 {
-    ChartStore store;
-    Plot(store, Rise, 1);
-    ChartRecord working;
-    working.PartDataIndex = 9;
-    store.Write(working);
-    store.EmptyWorkingRecord();
-    ASSERT_EQ(store.ChartData.size(), 2U);
-    EXPECT_TRUE(IsEmpty(store.ChartData[1]));
-    EXPECT_THAT(PartsOf(store), ElementsAre(1));
+    ChartRecord line;
+    line.XAxisName = "Current";
+    line.ParameterName = "Current";
+    const auto differs = [&line](auto change)
+    {
+        ChartRecord other = line;
+        change(other);
+        return !SameLine(line, other);
+    };
+    EXPECT_TRUE(SameLine(line, line));
+    EXPECT_TRUE(differs([](ChartRecord& other) { other.ChartType = 1; }));
+    EXPECT_TRUE(differs([](ChartRecord& other) { other.XAxisName = "Voltage"; }));
+    EXPECT_TRUE(differs([](ChartRecord& other) { other.YAxisName = "Voltage"; }));
+    EXPECT_TRUE(differs([](ChartRecord& other) { other.PartDataIndex = 1; }));
+    EXPECT_TRUE(differs([](ChartRecord& other) { other.DCBiasVoltage = 1; }));
+    EXPECT_TRUE(differs([](ChartRecord& other) { other.HeatResistance = 1; }));
+    EXPECT_TRUE(differs([](ChartRecord& other) { other.Frequency = 1; }));
+    EXPECT_TRUE(differs([](ChartRecord& other) { other.AmbientTemp = 1; }));
+    EXPECT_TRUE(differs([](ChartRecord& other) { other.ParameterName = "Voltage"; }));
+    EXPECT_TRUE(differs([](ChartRecord& other) { other.ParameterValue = 1; }));
+}
+
+TEST(ChartStore, FindsLinesTheSameWhateverTheirCurve)
+{
+    ChartRecord line;
+    ChartRecord computed = line;
+    computed.YData[7] = 3;
+    computed.XPos[7] = 3;
+    computed.YMax = 3;
+    EXPECT_TRUE(SameLine(line, computed));
 }
 
 TEST(ChartStore, KeepsTheOrderOfTheOtherLinesWhenAChartGoes)
