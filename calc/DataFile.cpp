@@ -1,0 +1,48 @@
+#include "calc/DataFile.h"
+
+#include "calc/ChartNames.h"
+#include "calc/ConditionLines.h"
+#include "calc/NumberText.h"
+#include "calc/Units.h"
+
+static constexpr std::string_view Title = "Halvex Chip Capacitor Characteristics Data Library  ";
+static constexpr std::string_view ColumnGap = "            ";
+static constexpr std::string_view LineEnd = "\r\n";
+
+std::string DataXText(const ChartRecord& line, std::size_t point)
+{
+    const float hzPerShown = line.XAxisName == "Frequency" ? 1000.0F : 1.0F;
+    return FormatNumber(line.XData[point] / hzPerShown, NumberFormat::ScientificTwo);
+}
+
+std::string DataYText(const ChartRecord& line, std::size_t point)
+{
+    return FormatNumber(line.YData[point], NumberFormat::ScientificTwo);
+}
+
+/// Appends one line made of pieces.
+template <class... Pieces> static void AddLine(std::string& text, const Pieces&... pieces)
+{
+    (text.append(pieces), ...);
+    text.append(LineEnd);
+}
+
+std::string DataFileText(const ChartRecord& line, const PartRecord& part, CodeView view,
+                         std::string_view date)
+{
+    const auto code = static_cast<std::size_t>(view);
+    std::string text;
+    AddLine(text, "!", Title, date);
+    AddLine(text, "!ChartType-> ", ChartTypeNames[static_cast<std::size_t>(line.ChartType)]);
+    AddLine(text, "!Halvex Part Number-> ", part.PartNum[code], " (", part.PartNum[code + 2], ")");
+    for (const ConditionLine& condition : ConditionLines(line))
+    {
+        AddLine(text, "!", condition.Name, "-> ", condition.Value, " ", condition.Unit);
+    }
+    AddLine(text, line.XAxisName, UnitOf(line.XAxisName), "  ", line.YAxisName, UnitOf(line.YAxisName));
+    for (std::size_t point = 0; point < CurvePoints; ++point)
+    {
+        AddLine(text, DataXText(line, point), ColumnGap, DataYText(line, point));
+    }
+    return text;
+}
