@@ -39,3 +39,13 @@ double AxisMapping::Position(double value) const
     }
     return ((kind == AxisKind::Logarithmic ? Log10(value) : value) - origin) * factor;
 }
+
+double AxisMapping::Value(double position) const
+{
+    if (!HasExtent())
+    {
+        return minimum;
+    }
+    const double scaled = origin + position / factor;
+    return kind == AxisKind::Logarithmic ? std::pow(10.0, scaled) : scaled;
+}

@@ -33,6 +33,9 @@ public:
     /// without a logarithm.
     double Position(double value) const;
 
+    /// The value at a position, the inverse of `Position`; the minimum for a range without extent.
+    double Value(double position) const;
+
 private:
     AxisKind kind;
     float minimum;
