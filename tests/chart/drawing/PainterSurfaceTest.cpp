@@ -49,7 +49,7 @@ class PainterSurfaceTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void LinesAreCrisp_data();
     void LinesAreCrisp();
     void CurvesAreSmooth();
