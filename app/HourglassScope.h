@@ -2,6 +2,7 @@
 
 /// The hourglass pointer of long commands.
 
+#include <QCursor>
 #include <QGuiApplication>
 
 /// Shows the hourglass for its lifetime, whichever way the command ends.

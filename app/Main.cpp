@@ -10,7 +10,7 @@ static std::int16_t HelpLanguageIn(const std::string& programFolder)
 {
     std::error_code ignored;
     const auto book = programFolder + mdlPublic.PathSep + "tavikj.hlp";
-    return std::filesystem::exists(book, ignored) ? 1 : 2;
+    return std::filesystem::is_regular_file(book, ignored) ? 1 : 2;
 }
 
 bool Main(const std::string& programFolder, const std::function<void()>& showMainWindow)

@@ -1,11 +1,23 @@
 #include "app/Messages.h"
 
+#include <QCursor>
+#include <QGuiApplication>
 #include <QMessageBox>
 
 QString ProgramTitle()
 {
     return QStringLiteral("Halvex Chip Capacitor Characteristics Data Library");
 }
+
+/// Shows the normal pointer while a box waits for the user, even if a long command is under way.
+class PointerPause
+{
+public:
+    PointerPause() { QGuiApplication::setOverrideCursor(Qt::ArrowCursor); }
+    ~PointerPause() { QGuiApplication::restoreOverrideCursor(); }
+    PointerPause(const PointerPause&) = delete;
+    PointerPause& operator=(const PointerPause&) = delete;
+};
 
 static int Show(QWidget* parent, QMessageBox::Icon icon, QString text,
                 QMessageBox::StandardButtons buttons = QMessageBox::Ok)
@@ -14,6 +26,7 @@ static int Show(QWidget* parent, QMessageBox::Icon icon, QString text,
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     QMessageBox box(icon, ProgramTitle(), text, buttons, parent);
     box.setTextFormat(Qt::PlainText);
+    const PointerPause pause;
     return box.exec();
 }
 

@@ -1,0 +1,133 @@
+/// The start-up order: one instance, path separator, help language, part data, main window, degree sign.
+
+#include "app/Main.h"
+#include "app/mdlPublic.h"
+#include "partdata/RunTimeError.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+class StartTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanupTestCase();
+    void StepsStandInOrder();
+    void HelpLanguageFollowsTheBooks_data();
+    void HelpLanguageFollowsTheBooks();
+    void MissingPartFilesShowNoWindow();
+
+private:
+    static QString FreshFolder();
+
+    QByteArray session;
+    int starts = 0;
+};
+
+/// Each start is one of a login of its own, since this very process holds the former ones.
+void StartTest::init()
+{
+    if (starts == 0)
+    {
+        session = qgetenv("XDG_SESSION_ID");
+    }
+    qputenv("XDG_SESSION_ID", QByteArray("start-test-") +
+                                  QByteArray::number(QCoreApplication::applicationPid()) + "-" +
+                                  QByteArray::number(++starts));
+    mdlPublic = PublicModule{};
+}
+
+void StartTest::cleanupTestCase()
+{
+    qputenv("XDG_SESSION_ID", session);
+}
+
+static void CopyRange(const QString& folder)
+{
+    for (const char* name : {"halvex.idx", "halvex.dat"})
+    {
+        QVERIFY(QFile::copy(QStringLiteral(SAMPLE_RANGE "/%1").arg(name), folder + "/" + name));
+    }
+}
+
+static void WriteFile(const QString& path)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+}
+
+void StartTest::StepsStandInOrder()
+{
+    const QTemporaryDir folder;
+    CopyRange(folder.path());
+    bool shown = false;
+    const bool started = Main(folder.path().toStdString(),
+                              [&]
+                              {
+                                  shown = true;
+                                  // All is there for the main window but the degree sign, which is settled
+                                  // last.
+                                  QCOMPARE(mdlPublic.PathSep, std::string("/"));
+                                  QCOMPARE(mdlPublic.HelpLanguage, std::int16_t{2});
+                                  QVERIFY(!mdlPublic.Parts.PartData.empty());
+                                  QCOMPARE(mdlPublic.DegreeSign, std::string());
+                              });
+    QVERIFY(started);
+    QVERIFY(shown);
+    QCOMPARE(mdlPublic.DegreeSign, std::string(1, static_cast<char>(176)));
+    QVERIFY(!mdlPublic.Updating);
+}
+
+void StartTest::HelpLanguageFollowsTheBooks_data()
+{
+    QTest::addColumn<QStringList>("files");
+    QTest::addColumn<QStringList>("folders");
+    QTest::addColumn<int>("language");
+    QTest::newRow("no book") << QStringList() << QStringList() << 2;
+    QTest::newRow("English book") << QStringList("tavike.hlp") << QStringList() << 2;
+    QTest::newRow("Japanese book") << QStringList("tavikj.hlp") << QStringList() << 1;
+    QTest::newRow("both books") << QStringList({"tavike.hlp", "tavikj.hlp"}) << QStringList() << 1;
+    QTest::newRow("longer name") << QStringList("tavikj.hlp.old") << QStringList() << 2;
+    QTest::newRow("folder of that name") << QStringList() << QStringList("tavikj.hlp") << 2;
+}
+
+void StartTest::HelpLanguageFollowsTheBooks()
+{
+    QFETCH(QStringList, files);
+    QFETCH(QStringList, folders);
+    const QTemporaryDir folder;
+    CopyRange(folder.path());
+    for (const QString& name : files)
+    {
+        WriteFile(folder.filePath(name));
+    }
+    for (const QString& name : folders)
+    {
+        QVERIFY(QDir(folder.path()).mkdir(name));
+    }
+    QVERIFY(Main(folder.path().toStdString(), [] {}));
+    QTEST(static_cast<int>(mdlPublic.HelpLanguage), "language");
+}
+
+void StartTest::MissingPartFilesShowNoWindow()
+{
+    const QTemporaryDir folder;
+    bool shown = false;
+    try
+    {
+        Main(folder.path().toStdString(), [&] { shown = true; });
+        QFAIL("started without part files");
+    }
+    catch (const RunTimeError& error)
+    {
+        QCOMPARE(error.Number(), 53);
+    }
+    QVERIFY(!shown);
+}
+
+QTEST_MAIN(StartTest)
+#include "StartTest.moc"
