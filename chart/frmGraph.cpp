@@ -22,6 +22,18 @@ static QPalette LightPalette()
     return QPalette(QColor(240, 240, 240));
 }
 
+/// Takes the offer to resize out of a window menu.
+static void RemoveSizeEntry(QMenu* windowMenu)
+{
+    for (QAction* entry : windowMenu->actions())
+    {
+        if (entry->text() == QMdiSubWindow::tr("&Size"))
+        {
+            windowMenu->removeAction(entry);
+        }
+    }
+}
+
 frmGraph::frmGraph(ChartHost& chartHost, QWidget* parent)
     : QMdiSubWindow(parent, Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                 Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
@@ -31,6 +43,7 @@ frmGraph::frmGraph(ChartHost& chartHost, QWidget* parent)
 {
     setObjectName("frmGraph");
     setAttribute(Qt::WA_DeleteOnClose);
+    RemoveSizeEntry(systemMenu());
     auto* contents = new QMainWindow;
     ui->setupUi(contents);
     ui->mnuBar->hide();
@@ -93,10 +106,6 @@ void frmGraph::Form_Load()
     ChartStore& store = mdlPublic.Charts;
     const ChartKey chart = KeyOf(store.ChartData[static_cast<std::size_t>(store.CurrentChart)]);
     ++store.CurrentChart;
-    if (isMinimized())
-    {
-        showNormal();
-    }
     rescaled = false;
     ClearReadOut();
     InitChartWindow(chart);
@@ -111,9 +120,14 @@ void frmGraph::WriteMagnification(float xMax, float yMax, float xMin, float yMin
     Draw({.XMax = xMax, .YMax = yMax, .XMin = xMin, .YMin = yMin});
 }
 
-/// Names, places and colours the window. A window with a range of the user's stays where it is.
+/// Names, places and colours the window, which comes up from its icon. A window with a range of the user's
+/// stays where it is.
 void frmGraph::InitChartWindow(const ChartKey& chart)
 {
+    if (isMinimized())
+    {
+        showNormal();
+    }
     setWindowTitle(QString::fromStdString(ChartCaption(chart)));
     const int top = rescaled ? y() : Twips((host.OpenForms() - 3) * 300 + 50);
     setGeometry(WindowLeft, top, WindowWidth, WindowHeight);
@@ -187,6 +201,10 @@ void frmGraph::Form_Resize()
     if (isMinimized())
     {
         ClearReadOut();
+    }
+    else if (isMaximized() || isFullScreen())
+    {
+        showNormal();
     }
     else if (size() != QSize(WindowWidth, WindowHeight))
     {

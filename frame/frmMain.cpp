@@ -6,6 +6,8 @@
 #include "chart/frmGraph.h"
 #include "ui_frmMain.h"
 
+#include <QScrollBar>
+
 #include <algorithm>
 #include <array>
 
@@ -32,6 +34,7 @@ frmMain::frmMain(QWidget* parent)
     ui->mdiArea->addSubWindow(library);
     forms = {this, library};
     Connect();
+    WatchChildArea();
     PlaceSelectionForm();
     library->show();
     library->Form_Load();
@@ -150,22 +153,36 @@ void frmMain::ShowMenusOf(QMdiSubWindow* window)
     }
 }
 
-/// The selection form stands at the left edge, as high as the child area.
+/// The selection form stands at the left edge, as high as what is seen of the child area.
 void frmMain::PlaceSelectionForm()
 {
     library->setGeometry(0, 0, library->width(), ui->mdiArea->viewport()->height());
 }
 
-void frmMain::resizeEvent(QResizeEvent* event)
+/// Keeps the selection form in its place while the child area is resized or scrolled.
+void frmMain::WatchChildArea()
 {
-    QMainWindow::resizeEvent(event);
-    PlaceSelectionForm();
+    QWidget* viewport = ui->mdiArea->viewport();
+    viewport->installEventFilter(this);
+    for (const QScrollBar* bar : {ui->mdiArea->horizontalScrollBar(), ui->mdiArea->verticalScrollBar()})
+    {
+        connect(bar, &QScrollBar::valueChanged, this, &frmMain::PlaceSelectionForm);
+    }
+    // The area reckons its scroll ranges from the places of its children. With the form held back, this
+    // mark alone shows how far the rest has been scrolled.
+    auto* origin = new QWidget(viewport);
+    origin->setAttribute(Qt::WA_TransparentForMouseEvents);
+    origin->resize(1, 1);
+    origin->show();
 }
 
-void frmMain::showEvent(QShowEvent* event)
+bool frmMain::eventFilter(QObject* watched, QEvent* event)
 {
-    QMainWindow::showEvent(event);
-    PlaceSelectionForm();
+    if (event->type() == QEvent::Resize && watched == ui->mdiArea->viewport())
+    {
+        PlaceSelectionForm();
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 // ---- The commands of the menus ----

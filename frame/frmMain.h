@@ -48,13 +48,13 @@ public:
     void mnuCloseAllChartWindows_Click() override;
 
 protected:
-    void resizeEvent(QResizeEvent* event) override;
-    void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void Connect();
     void ShowMenusOf(QMdiSubWindow* window);
     void PlaceSelectionForm();
+    void WatchChildArea();
     void UpdateChartPartLabels(int newForm);
     std::vector<frmGraph*> Charts() const;
 

@@ -1,0 +1,399 @@
+/// A chart window's caption, place, fixed size, panes and menus' neighbours: what users see of its frame.
+
+#include "app/mdlPublic.h"
+#include "chart/ChartPicture.h"
+#include "chart/frmGraph.h"
+#include "tests/frame/Desk.h"
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMenu>
+#include <QScrollBar>
+#include <QStatusBar>
+#include <QTest>
+
+class ChartWindowTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void CaptionNamesTypeAndAxes_data();
+    void CaptionNamesTypeAndAxes();
+    void WindowsCascadeFromLeft3000Top50();
+    void AddedLineMovesToTopOfPresentCount();
+    void UserRangeKeepsTopButResetsLeftAndSize();
+    void UserRangeRestoresMinimisedWindow();
+    void SizeStaysWhateverIsTried();
+    void BorderCannotBeDragged();
+    void TitleDoubleClickDoesNotMaximise();
+    void NobodyIsOfferedToMaximise();
+    void MinimisingClearsTheReadOut();
+    void AddedLineRestoresMinimisedWindow();
+    void AddedLineClearsTheReadOut();
+    void LayoutIsFixedInTwips();
+    void PanesBearCaptionsAndColours();
+    void EveryPaneStandsAboveTheStatusBar_data();
+    void EveryPaneStandsAboveTheStatusBar();
+    void DarkDesktopKeepsChartLight();
+    void SelectionFormStaysAtTheLeftEdge();
+    void SelectionFormStaysWhenTheAreaIsScrolled();
+};
+
+static const QRect FirstPlace(200, 3, 733, 295);
+
+static frmGraph* OnlyChart(const Desk& desk)
+{
+    return desk.Charts().size() == 1 ? desk.Charts().front() : nullptr;
+}
+
+static void PlotFirst(Desk& desk)
+{
+    desk.ClickChartType(2);
+    desk.PlotCapacitance(ListedPart(desk, 0), "0");
+}
+
+void ChartWindowTest::CaptionNamesTypeAndAxes_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("x");
+    QTest::addColumn<QString>("y");
+    QTest::addColumn<QString>("caption");
+    QTest::newRow("temperature rise") << 0 << "Apparent Power"
+                                      << "Temperature Rise"
+                                      << "Temperature Rise Characteristics(Apparent Power,Temperature Rise)";
+    QTest::newRow("allowable power") << 1 << "Frequency"
+                                     << "Effective Power"
+                                     << "Allowable power(Frequency,Effective Power)";
+    QTest::newRow("over temperature")
+        << 2 << "Temperature"
+        << "Capacitance Change"
+        << "Capacitance-Temperature Characteristics(Temperature,Capacitance Change)";
+    QTest::newRow("over DC voltage") << 3 << "DC Bias Voltage"
+                                     << "Capacitance"
+                                     << "Capacitance-DC Voltage Characteristics(DC Bias Voltage,Capacitance)";
+}
+
+void ChartWindowTest::CaptionNamesTypeAndAxes()
+{
+    QFETCH(int, type);
+    QFETCH(QString, x);
+    QFETCH(QString, y);
+    Desk desk;
+    desk.ClickChartType(type);
+    desk.PickXAxis(x);
+    desk.PickYAxis(y);
+    desk.TypePart(ListedPart(desk, 0));
+    desk.Type("txtDCBiasVol", "0");
+    desk.Type("txtFrequency", "100");
+    desk.ClickPlot();
+    QVERIFY(OnlyChart(desk) != nullptr);
+    QTEST(OnlyChart(desk)->windowTitle(), "caption");
+}
+
+void ChartWindowTest::WindowsCascadeFromLeft3000Top50()
+{
+    Desk desk;
+    PlotFirst(desk);
+    QCOMPARE(OnlyChart(desk)->geometry(), FirstPlace);
+    desk.PlotCapacitance(ListedPart(desk, 0), "0", "Capacitance Change");
+    QCOMPARE(desk.Charts()[0]->geometry(), FirstPlace);
+    // 350 twips are 23 pixels and a third.
+    QCOMPARE(desk.Charts()[1]->geometry(), QRect(200, 23, 733, 295));
+    desk.ClickCloseBox(desk.Charts()[0]);
+    desk.PlotRise(0, "25");
+    QCOMPARE(desk.Charts()[1]->geometry(), QRect(200, 23, 733, 295));
+}
+
+void ChartWindowTest::AddedLineMovesToTopOfPresentCount()
+{
+    Desk desk;
+    PlotFirst(desk);
+    desk.PlotCapacitance(ListedPart(desk, 1), "0");
+    QCOMPARE(OnlyChart(desk)->geometry(), FirstPlace);
+    desk.PlotCapacitance(ListedPart(desk, 0), "0", "Capacitance Change");
+    desk.Charts()[0]->move(20, 40);
+    desk.PlotCapacitance(ListedPart(desk, 2), "0");
+    QCOMPARE(desk.Charts()[0]->geometry(), QRect(200, 23, 733, 295));
+    QCOMPARE(desk.Area()->activeSubWindow(), desk.Charts()[0]);
+}
+
+void ChartWindowTest::UserRangeKeepsTopButResetsLeftAndSize()
+{
+    Desk desk;
+    PlotFirst(desk);
+    frmGraph* chart = OnlyChart(desk);
+    chart->move(40, 90);
+    chart->findChild<QLabel*>("sbr1_1")->setText("x");
+    chart->WriteMagnification(100, 5000, -10, 1000);
+    QCOMPARE(chart->geometry(), QRect(200, 90, 733, 295));
+    QCOMPARE(chart->findChild<QLabel*>("sbr1_1")->text(), QString());
+    QCOMPARE(chart->Range().XMax, 100.0F);
+    QCOMPARE(chart->Range().YMax, 5000.0F);
+    QCOMPARE(chart->Range().XMin, -10.0F);
+    QCOMPARE(chart->Range().YMin, 1000.0F);
+    QVERIFY(chart->findChild<ChartPicture*>("picGraph")->View().Rescaled);
+    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{1});
+    chart->WriteMagnification(100, 5000, -10, 1000, 1);
+    QCOMPARE(chart->geometry(), FirstPlace);
+    QVERIFY(!chart->findChild<ChartPicture*>("picGraph")->View().Rescaled);
+}
+
+void ChartWindowTest::UserRangeRestoresMinimisedWindow()
+{
+    Desk desk;
+    PlotFirst(desk);
+    frmGraph* chart = OnlyChart(desk);
+    chart->move(40, 90);
+    chart->showMinimized();
+    chart->WriteMagnification(100, 5000, -10, 1000);
+    Settle();
+    QVERIFY(!chart->isMinimized());
+    QCOMPARE(chart->geometry(), QRect(200, 90, 733, 295));
+}
+
+void ChartWindowTest::SizeStaysWhateverIsTried()
+{
+    Desk desk;
+    PlotFirst(desk);
+    frmGraph* chart = OnlyChart(desk);
+    chart->resize(1000, 500);
+    Settle();
+    QCOMPARE(chart->size(), FirstPlace.size());
+    chart->resize(100, 100);
+    Settle();
+    QCOMPARE(chart->size(), FirstPlace.size());
+    chart->showMaximized();
+    Settle();
+    QCOMPARE(chart->size(), FirstPlace.size());
+    QVERIFY(!chart->isMaximized());
+    chart->showFullScreen();
+    Settle();
+    QCOMPARE(chart->size(), FirstPlace.size());
+    chart->showMinimized();
+    chart->showNormal();
+    Settle();
+    QCOMPARE(chart->geometry(), FirstPlace);
+    desk.main->resize(600, 400);
+    Settle();
+    QCOMPARE(chart->geometry(), FirstPlace);
+    desk.main->showMaximized();
+    Settle();
+    QCOMPARE(chart->geometry(), FirstPlace);
+}
+
+void ChartWindowTest::BorderCannotBeDragged()
+{
+    Desk desk;
+    PlotFirst(desk);
+    frmGraph* chart = OnlyChart(desk);
+    for (const QPoint& grip : {QPoint(732, 150), QPoint(400, 294), QPoint(732, 294), QPoint(0, 150)})
+    {
+        MoveMouse(chart, grip);
+        QTest::mousePress(chart, Qt::LeftButton, {}, grip);
+        MoveMouse(chart, grip + QPoint(60, 40), Qt::LeftButton);
+        QTest::mouseRelease(chart, Qt::LeftButton, {}, grip + QPoint(60, 40));
+        Settle();
+        QCOMPARE(chart->size(), FirstPlace.size());
+    }
+}
+
+void ChartWindowTest::TitleDoubleClickDoesNotMaximise()
+{
+    Desk desk;
+    PlotFirst(desk);
+    frmGraph* chart = OnlyChart(desk);
+    MoveMouse(chart, QPoint(300, 8));
+    QTest::mouseDClick(chart, Qt::LeftButton, {}, QPoint(300, 8));
+    Settle();
+    QVERIFY(!chart->isMaximized());
+    QVERIFY(!chart->isMinimized());
+    QCOMPARE(chart->geometry(), FirstPlace);
+}
+
+void ChartWindowTest::NobodyIsOfferedToMaximise()
+{
+    Desk desk;
+    PlotFirst(desk);
+    frmGraph* chart = OnlyChart(desk);
+    QVERIFY(!(chart->windowFlags() & Qt::WindowMaximizeButtonHint));
+    QVERIFY(chart->windowFlags() & Qt::WindowMinimizeButtonHint);
+    for (const QAction* action : chart->systemMenu()->actions())
+    {
+        const bool offered = action->isVisible() && action->isEnabled();
+        const QString text = QString(action->text()).remove('&');
+        QVERIFY2(!(offered && (text == "Maximize" || text == "Size")), qPrintable(text));
+    }
+}
+
+void ChartWindowTest::MinimisingClearsTheReadOut()
+{
+    Desk desk;
+    PlotFirst(desk);
+    frmGraph* chart = OnlyChart(desk);
+    chart->findChild<QLabel*>("sbr1_1")->setText("Temperature 20");
+    chart->findChild<QLabel*>("sbr1_2")->setText("Capacitance 100");
+    chart->showMinimized();
+    QCOMPARE(chart->findChild<QLabel*>("sbr1_1")->text(), QString());
+    QCOMPARE(chart->findChild<QLabel*>("sbr1_2")->text(), QString());
+    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{1});
+}
+
+void ChartWindowTest::AddedLineRestoresMinimisedWindow()
+{
+    Desk desk;
+    PlotFirst(desk);
+    frmGraph* chart = OnlyChart(desk);
+    chart->showMinimized();
+    Settle();
+    QVERIFY(chart->isMinimized());
+    desk.PlotCapacitance(ListedPart(desk, 1), "0");
+    QCOMPARE(OnlyChart(desk), chart);
+    QVERIFY(!chart->isMinimized());
+    QVERIFY(chart->widget()->isVisible());
+    QCOMPARE(chart->geometry(), FirstPlace);
+    QCOMPARE(desk.Area()->activeSubWindow(), chart);
+}
+
+void ChartWindowTest::AddedLineClearsTheReadOut()
+{
+    Desk desk;
+    PlotFirst(desk);
+    OnlyChart(desk)->findChild<QLabel*>("sbr1_1")->setText("Temperature 20");
+    desk.PlotCapacitance(ListedPart(desk, 1), "0");
+    QCOMPARE(OnlyChart(desk)->findChild<QLabel*>("sbr1_1")->text(), QString());
+}
+
+/// Twips as whole pixels, lowered.
+static int Pixels(int twips)
+{
+    return twips / 15;
+}
+
+void ChartWindowTest::LayoutIsFixedInTwips()
+{
+    Desk desk;
+    PlotFirst(desk);
+    const frmGraph* chart = OnlyChart(desk);
+    QCOMPARE(chart->findChild<QWidget*>("picGraph")->geometry(),
+             QRect(0, Pixels(60), Pixels(5600), Pixels(3650)));
+    for (int i = 0; i < 6; ++i)
+    {
+        const auto* pane = chart->findChild<QGroupBox*>(QStringLiteral("fraStatus_%1").arg(i));
+        QCOMPARE(pane->x(), 377); // 5650 twips are 376.7 pixels
+        QCOMPARE(pane->width(), Pixels(5000));
+        QCOMPARE(pane->height(), Pixels(615));
+        const auto* number = chart->findChild<QLabel*>(QStringLiteral("lblStatus_%1").arg(i));
+        QCOMPARE(number->pos(), QPoint(Pixels(120), Pixels(240)));
+        const auto* conditions = chart->findChild<QLabel*>(QStringLiteral("lblPara_%1").arg(i));
+        QCOMPARE(conditions->geometry(), QRect(Pixels(2280), Pixels(240), Pixels(2655), Pixels(255)));
+    }
+    QCOMPARE(chart->findChild<QGroupBox*>("fraStatus_0")->y(), 0);
+    QVERIFY(qAbs(chart->findChild<QGroupBox*>("fraStatus_5")->y() - 3100.0 / 15) < 1);
+}
+
+void ChartWindowTest::PanesBearCaptionsAndColours()
+{
+    Desk desk;
+    PlotFirst(desk);
+    const std::array<QColor, 6> colours = {QColor(0, 0, 255),   QColor(255, 0, 0), QColor(0, 0, 0),
+                                           QColor(255, 0, 255), QColor(0, 128, 0), QColor(128, 0, 0)};
+    for (int i = 0; i < 6; ++i)
+    {
+        const auto* pane = OnlyChart(desk)->findChild<QGroupBox*>(QStringLiteral("fraStatus_%1").arg(i));
+        QCOMPARE(pane->title(), QStringLiteral("No.%1").arg(i + 1));
+        const auto colour = colours[static_cast<std::size_t>(i)];
+        QCOMPARE(pane->palette().color(QPalette::WindowText), colour);
+        for (const auto* label : pane->findChildren<QLabel*>())
+        {
+            QCOMPARE(label->palette().color(QPalette::WindowText), colour);
+        }
+    }
+}
+
+void ChartWindowTest::EveryPaneStandsAboveTheStatusBar_data()
+{
+    QTest::addColumn<QString>("style");
+    QTest::newRow("fusion") << "Fusion";
+    QTest::newRow("windows") << "Windows";
+}
+
+void ChartWindowTest::EveryPaneStandsAboveTheStatusBar()
+{
+    QFETCH(QString, style);
+    QApplication::setStyle(style);
+    Desk desk;
+    PlotFirst(desk);
+    const frmGraph* chart = OnlyChart(desk);
+    const auto* last = chart->findChild<QGroupBox*>("fraStatus_5");
+    const auto* bar = chart->findChild<QStatusBar*>("sbr1");
+    const int paneBottom = last->mapTo(chart, QPoint(0, last->height())).y();
+    const int barTop = bar->mapTo(chart, QPoint(0, 0)).y();
+    QVERIFY2(paneBottom <= barTop, qPrintable(QStringLiteral("%1 > %2").arg(paneBottom).arg(barTop)));
+    // Both panels can be read, and the panes are not cut at the right.
+    QVERIFY2(bar->height() >= 12, qPrintable(QString::number(bar->height())));
+    QVERIFY(bar->mapTo(chart, QPoint(0, bar->height())).y() <= chart->height());
+    QVERIFY(last->mapTo(chart, QPoint(last->width(), 0)).x() <= chart->width());
+    QApplication::setStyle("Fusion");
+}
+
+void ChartWindowTest::DarkDesktopKeepsChartLight()
+{
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(40, 40, 40)));
+    {
+        Desk desk;
+        PlotFirst(desk);
+        const frmGraph* chart = OnlyChart(desk);
+        const QImage picture = chart->findChild<QWidget*>("grpChart")->grab().toImage();
+        QVERIFY(picture.pixelColor(2, 6).lightness() > 200);
+        QVERIFY(picture.pixelColor(500, 60).lightness() > 200);
+    }
+    QApplication::setPalette(before);
+}
+
+void ChartWindowTest::SelectionFormStaysAtTheLeftEdge()
+{
+    Desk desk;
+    const auto* form = desk.Find<frmLibrary>("frmLibrary");
+    for (const QSize& size : {QSize(1010, 700), QSize(500, 300), QSize(1600, 900)})
+    {
+        desk.main->resize(size);
+        Settle();
+        QCOMPARE(form->pos(), QPoint(0, 0));
+        QCOMPARE(form->width(), 200);
+        QCOMPARE(form->height(), desk.Area()->viewport()->height());
+    }
+}
+
+void ChartWindowTest::SelectionFormStaysWhenTheAreaIsScrolled()
+{
+    Desk desk;
+    PlotFirst(desk);
+    auto* chart = OnlyChart(desk);
+    chart->move(600, 600);
+    Settle();
+    QScrollBar* across = desk.Area()->horizontalScrollBar();
+    QScrollBar* down = desk.Area()->verticalScrollBar();
+    QVERIFY(across->maximum() > 0);
+    QVERIFY(down->maximum() > 0);
+    across->setValue(across->maximum());
+    down->setValue(down->maximum());
+    Settle();
+    const auto* form = desk.Find<frmLibrary>("frmLibrary");
+    QCOMPARE(form->pos(), QPoint(0, 0));
+    QCOMPARE(form->height(), desk.Area()->viewport()->height());
+    // The chart came into view, and goes back to its place.
+    QVERIFY(chart->geometry().right() < desk.Area()->viewport()->width());
+    QVERIFY(chart->geometry().bottom() < desk.Area()->viewport()->height());
+    across->setValue(across->minimum());
+    down->setValue(down->minimum());
+    Settle();
+    QCOMPARE(chart->pos(), QPoint(600, 600));
+    QCOMPARE(form->pos(), QPoint(0, 0));
+}
+
+QTEST_MAIN(ChartWindowTest)
+#include "ChartWindowTest.moc"
