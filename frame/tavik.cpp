@@ -9,6 +9,13 @@
 
 #include <iostream>
 
+/// Whether somebody can see a box and answer it.
+static bool HasDisplay()
+{
+    const QString platform = QGuiApplication::platformName();
+    return platform != QStringLiteral("offscreen") && platform != QStringLiteral("minimal");
+}
+
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
@@ -32,7 +39,10 @@ int main(int argc, char* argv[])
     catch (const RunTimeError& error)
     {
         std::cerr << error.what() << '\n';
-        ShowCritical(nullptr, QString::fromLocal8Bit(error.what()));
+        if (HasDisplay())
+        {
+            ShowCritical(nullptr, QString::fromLocal8Bit(error.what()));
+        }
         return 1;
     }
     return QApplication::exec();

@@ -1,13 +1,17 @@
 /// The start-up order: one instance, path separator, help language, part data, main window, degree sign.
 
 #include "app/Main.h"
+#include "app/SingleInstance.h"
 #include "app/mdlPublic.h"
 #include "partdata/RunTimeError.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 class StartTest : public QObject
 {
@@ -20,6 +24,7 @@ private Q_SLOTS:
     void HelpLanguageFollowsTheBooks_data();
     void HelpLanguageFollowsTheBooks();
     void MissingPartFilesShowNoWindow();
+    void SecondStartIsRefusedBeforeAnythingElse();
 
 private:
     static QString FreshFolder();
@@ -127,6 +132,33 @@ void StartTest::MissingPartFilesShowNoWindow()
         QCOMPARE(error.Number(), 53);
     }
     QVERIFY(!shown);
+}
+
+void StartTest::SecondStartIsRefusedBeforeAnythingElse()
+{
+    QVERIFY(ClaimSingleInstance());
+    QString title;
+    QString text;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    QTimer::singleShot(0, this,
+                       [&]
+                       {
+                           auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                           title = box->windowTitle();
+                           text = box->text();
+                           icon = box->icon();
+                           QTest::keyClick(box, Qt::Key_Return);
+                       });
+    // The folder has no part files, and nobody finds out.
+    const QTemporaryDir folder;
+    bool shown = false;
+    QVERIFY(!Main(folder.path().toStdString(), [&] { shown = true; }));
+    QVERIFY(!shown);
+    QCOMPARE(text, QString("It is already started."));
+    QCOMPARE(icon, QMessageBox::Critical);
+    QCOMPARE(title, QString("Halvex Chip Capacitor Characteristics Data Library"));
+    QCOMPARE(mdlPublic.PathSep, std::string());
+    QVERIFY(mdlPublic.Parts.PartData.empty());
 }
 
 QTEST_MAIN(StartTest)

@@ -1,0 +1,71 @@
+#include "tests/e2e/Display.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+
+Display::Display()
+{
+    // The server finds a free number itself and writes it down once it is ready.
+    server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"});
+    if (server.waitForReadyRead(20000))
+    {
+        name = ":" + QString::fromLatin1(server.readAllStandardOutput()).trimmed();
+    }
+}
+
+Display::~Display()
+{
+    server.terminate();
+    server.waitForFinished(5000);
+}
+
+QProcessEnvironment Display::Environment(const QString& session) const
+{
+    QProcessEnvironment environment;
+    environment.insert("PATH", qEnvironmentVariable("PATH"));
+    environment.insert("HOME", home.path());
+    environment.insert("XDG_RUNTIME_DIR", home.path());
+    environment.insert("LC_ALL", "C.UTF-8");
+    environment.insert("DISPLAY", name);
+    environment.insert("QT_QPA_PLATFORM", "xcb");
+    environment.insert("XDG_SESSION_ID", session);
+    // The sanitizers of a checked build judge the program, not the libraries it rests on.
+    environment.insert("ASAN_OPTIONS", "detect_leaks=0");
+    return environment;
+}
+
+QString Display::Ask(const QStringList& command) const
+{
+    QProcess hands;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("DISPLAY", name);
+    hands.setProcessEnvironment(environment);
+    hands.start("xdotool", command);
+    hands.waitForFinished(5000);
+    return QString::fromUtf8(hands.readAllStandardOutput()).trimmed();
+}
+
+QStringList Display::WindowsOf(const QProcess& program, int count) const
+{
+    QElapsedTimer waited;
+    waited.start();
+    QStringList windows;
+    do
+    {
+        QTest::qWait(50);
+        windows = Ask({"search", "--all", "--onlyvisible", "--pid", QString::number(program.processId()),
+                       "--name", "."})
+                      .split('\n', Qt::SkipEmptyParts);
+    } while (windows.size() != count && waited.elapsed() < 15000);
+    return windows;
+}
+
+void Display::Press(const QString& window, const QString& key) const
+{
+    Ask({"windowfocus", "--sync", window, "key", key});
+}
+
+QString Display::TitleOf(const QString& window) const
+{
+    return Ask({"getwindowname", window});
+}

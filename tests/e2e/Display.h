@@ -1,0 +1,36 @@
+#pragma once
+
+/// A display without a screen, and the user's hands on it.
+
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QStringList>
+#include <QTemporaryDir>
+
+/// An X server of its own for one test program.
+class Display
+{
+public:
+    Display();
+    ~Display();
+    Display(const Display&) = delete;
+    Display& operator=(const Display&) = delete;
+
+    bool IsUp() const { return !name.isEmpty(); }
+
+    /// What a program on this display sees: nothing of the tester's own settings or login.
+    QProcessEnvironment Environment(const QString& session) const;
+
+    /// The windows of a process that are to be seen, waiting until there are as many.
+    QStringList WindowsOf(const QProcess& program, int count) const;
+    /// Gives a window the keyboard and presses a key there.
+    void Press(const QString& window, const QString& key) const;
+    QString TitleOf(const QString& window) const;
+
+private:
+    QString Ask(const QStringList& command) const;
+
+    QTemporaryDir home;
+    QProcess server;
+    QString name;
+};
