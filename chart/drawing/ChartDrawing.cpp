@@ -143,18 +143,27 @@ static void DrawCurve(const ChartRecord& line, const AxisMapping& xAxis, const A
     finishRun();
 }
 
+CurveLook LookOfCurve(SurfaceKind kind, int position)
+{
+    if (kind == SurfaceKind::MonochromePrinter)
+    {
+        return {ButtonTextColor(), position};
+    }
+    return {GetLineColor(position), 0};
+}
+
 void DrawCurves(const ChartView& view, std::span<const ChartRecord> lines, ChartSurface& surface)
 {
     const AxisMapping xAxis(XAxisKind(view.Chart), view.Range.XMin, view.Range.XMax);
     const AxisMapping yAxis(YAxisKind(view.Chart), view.Range.YMin, view.Range.YMax);
-    const bool oneColor = surface.Kind() == SurfaceKind::MonochromePrinter;
     int position = 0;
     for (const auto& line : lines)
     {
         if (BelongsTo(line, view.Chart))
         {
-            const auto color = oneColor ? ButtonTextColor() : GetLineColor(position);
-            DrawCurve(line, xAxis, yAxis, color, surface);
+            const auto look = LookOfCurve(surface.Kind(), position);
+            surface.SetCurveDashes(look.Dashes);
+            DrawCurve(line, xAxis, yAxis, look.Color, surface);
             ++position;
         }
     }

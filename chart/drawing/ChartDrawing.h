@@ -48,6 +48,17 @@ void DrawAxes(const ChartView& view, ChartSurface& surface);
 /// outside the range as well.
 void PlaceCurves(const ChartView& view, std::span<ChartRecord> lines);
 
+/// How the curve at a position 0 to 5 of its chart looks.
+struct CurveLook
+{
+    QColor Color;
+    int Dashes;
+};
+
+/// Each curve has its own colour and is a whole line; on a monochrome printer all have the colour of button
+/// texts, and each its own dashes.
+CurveLook LookOfCurve(SurfaceKind kind, int position);
+
 /// The curves of the chart's lines, in store order, from their placed points. A segment with an end outside
-/// the range is left out whole. On a monochrome printer all have the colour of button texts.
+/// the range is left out whole.
 void DrawCurves(const ChartView& view, std::span<const ChartRecord> lines, ChartSurface& surface);

@@ -35,6 +35,10 @@ public:
     /// A straight line, one device-independent pixel wide.
     virtual void Line(double x1, double y1, double x2, double y2, const QColor& color) = 0;
 
+    /// Chooses the dashes of the curves that follow; 0, at first, is a whole line. A surface that cannot draw
+    /// dashes passes over it.
+    virtual void SetCurveDashes(int /*dashes*/) {}
+
     /// A run of connected curve points.
     virtual void Polyline(std::span<const QPointF> points, const QColor& color) = 0;
 

@@ -1,10 +1,25 @@
 #include "chart/drawing/PainterSurface.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 /// Width of curves in device-independent pixels.
 static constexpr double curveWidth = 1.3;
+
+/// Dashes and gaps in curve widths; the first curve is a whole line.
+static QList<qreal> DashPattern(int dashes)
+{
+    static const std::array<QList<qreal>, 6> patterns = {{
+        {},
+        {7, 4},
+        {2, 3},
+        {12, 3, 2, 3},
+        {15, 4},
+        {9, 3, 2, 3, 2, 3},
+    }};
+    return patterns.at(static_cast<std::size_t>(dashes));
+}
 
 QFont ChartFont(double pixel)
 {
@@ -68,7 +83,13 @@ void PainterSurface::Polyline(std::span<const QPointF> points, const QColor& col
     }
     painter.setRenderHint(QPainter::Antialiasing, true);
     // Round joins look the same on lines as fine as these, and take twice as long.
-    painter.setPen(QPen(color, curveWidth * pixel, Qt::SolidLine, Qt::RoundCap, Qt::BevelJoin));
+    QPen pen(color, curveWidth * pixel, Qt::SolidLine, Qt::RoundCap, Qt::BevelJoin);
+    if (curveDashes > 0)
+    {
+        pen.setCapStyle(Qt::FlatCap);
+        pen.setDashPattern(DashPattern(curveDashes));
+    }
+    painter.setPen(pen);
     painter.drawPolyline(curve.data(), static_cast<int>(curve.size()));
 }
 

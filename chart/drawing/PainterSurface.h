@@ -31,6 +31,8 @@ public:
     void Clear();
 
     void Line(double x1, double y1, double x2, double y2, const QColor& color) override;
+    /// 0 to 5, each told apart at a glance.
+    void SetCurveDashes(int dashes) override { curveDashes = dashes; }
     void Polyline(std::span<const QPointF> points, const QColor& color) override;
     void Text(double x, double y, const QString& text, const QColor& color) override;
     void TextUpwards(double x, double y, const QString& text, const QColor& color) override;
@@ -53,4 +55,5 @@ private:
     double xFactor;
     double yFactor;
     std::vector<QPointF> curve;
+    int curveDashes = 0;
 };

@@ -9,8 +9,7 @@ static QString Number(float value)
     return QString::fromStdString(NumberText(value));
 }
 
-/// The largest value of a curve, at most three decimals; a zero, also a rounded one, reads "0".
-static QString LargestValue(float value)
+QString LargestValueText(float value)
 {
     const auto text = FormatNumber(value, NumberFormat::PaneValue);
     const bool anyDigit = std::ranges::any_of(text, [](char c) { return c >= '0' && c <= '9'; });
@@ -36,8 +35,9 @@ static QString Conditions(const ChartRecord& line, const QString& degreeSign)
         }
         return BiasAndResistance(line, degreeSign) + Number(line.Frequency) + "[kHz]," + ambient;
     case ChartType::AllowablePower:
-        return LargestValue(line.ExtraValue) + GetUnit(QString::fromStdString(line.YAxisName), degreeSign) +
-               ',' + BiasAndResistance(line, degreeSign) + ambient;
+        return LargestValueText(line.ExtraValue) +
+               GetUnit(QString::fromStdString(line.YAxisName), degreeSign) + ',' +
+               BiasAndResistance(line, degreeSign) + ambient;
     case ChartType::CapacitanceTemperature:
         return Number(line.DCBiasVoltage) + "[V] ";
     case ChartType::CapacitanceDCVoltage:

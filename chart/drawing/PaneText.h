@@ -11,3 +11,7 @@
 /// A temperature rise over frequency ends with parameter value and unit; allowable power begins with the
 /// largest value of the curve and its unit. Throws RunTimeError 5 for a name without a unit.
 QString PaneText(const ChartRecord& line, const QString& degreeSign = defaultDegreeSign);
+
+/// The largest value of a curve as panes and pages show it, at most three decimals; a zero, also a rounded
+/// one, reads "0".
+QString LargestValueText(float value);
