@@ -103,10 +103,16 @@ void PartSelection::FillPartNums()
     ForEachPart(choice, [this](auto index, const auto&) { partNums.push_back(index); });
 }
 
+void PartSelection::ForgetPart()
+{
+    completePart.reset();
+    chosenByNumber = false;
+}
+
 void PartSelection::AllClear()
 {
     chartType.reset();
-    shownPart.reset();
+    ForgetPart();
     ownLists = 0;
     choice = {};
     sizeCodes.clear();
@@ -127,7 +133,7 @@ void PartSelection::AddPartNum(std::int16_t type, CodeView codeView)
 
 void PartSelection::FillTccList(std::string_view chosen)
 {
-    shownPart.reset();
+    ForgetPart();
     ownLists = 0;
     choice = {.SizeCode = chosen};
     FillTccs();
@@ -138,7 +144,7 @@ void PartSelection::FillTccList(std::string_view chosen)
 
 void PartSelection::FillCapList(std::string_view chosen)
 {
-    shownPart.reset();
+    ForgetPart();
     ownLists = std::min(ownLists, 1);
     choice = {.SizeCode = choice.SizeCode, .Tcc = chosen};
     FillCapacitances();
@@ -148,7 +154,7 @@ void PartSelection::FillCapList(std::string_view chosen)
 
 void PartSelection::FillRatedVolList(float chosen)
 {
-    shownPart.reset();
+    ForgetPart();
     ownLists = std::min(ownLists, 2);
     choice.Capacitance = chosen;
     choice.RatedVoltage.reset();
@@ -158,15 +164,20 @@ void PartSelection::FillRatedVolList(float chosen)
 
 void PartSelection::FillPartNumList(float chosen)
 {
-    shownPart.reset();
+    ForgetPart();
     choice.RatedVoltage = chosen;
     FillPartNums();
+    if (!partNums.empty())
+    {
+        completePart = partNums.back();
+    }
 }
 
 void PartSelection::ShowPart(std::int16_t index)
 {
     const PartRecord& part = parts.PartData[static_cast<std::size_t>(index)];
-    shownPart = index;
+    completePart = index;
+    chosenByNumber = true;
     ownLists = 3;
     choice = {SizeCodeOf(part), TccOf(part), part.Data[0], part.Data[2]};
     tccs = {TccOf(part)};
@@ -182,14 +193,24 @@ void PartSelection::ChangeNaming(CodeView codeView)
     }
     view = codeView;
     FillSizeCodes();
-    if (shownPart)
+    if (completePart)
     {
-        ShowPart(*shownPart);
-        return;
+        const PartRecord& part = parts.PartData[static_cast<std::size_t>(*completePart)];
+        choice.SizeCode = SizeCodeOf(part);
+        choice.Tcc = TccOf(part);
     }
-    const auto j = static_cast<std::size_t>(view);
-    choice.SizeCode = Translated(choice.SizeCode, parts.SizeCodeMap[j]);
-    choice.Tcc = Translated(choice.Tcc, parts.TccMap[j]);
+    else
+    {
+        const auto j = static_cast<std::size_t>(view);
+        choice.SizeCode = Translated(choice.SizeCode, parts.SizeCodeMap[j]);
+        choice.Tcc = Translated(choice.Tcc, parts.TccMap[j]);
+    }
+    RefillLists();
+}
+
+/// Lists for the choices as they stand, except those that a part chosen by number has for itself.
+void PartSelection::RefillLists()
+{
     // Where names of the two codes do not pair off one to one, the lists below hold other parts than before.
     if (ownLists >= 1)
     {
@@ -207,5 +228,8 @@ void PartSelection::ChangeNaming(CodeView codeView)
     {
         FillRatedVoltages();
     }
-    FillPartNums();
+    if (!chosenByNumber)
+    {
+        FillPartNums();
+    }
 }

@@ -45,7 +45,7 @@ public:
     void ShowPart(std::int16_t part);
 
     /// Names size codes and characteristics in the other code. Where two entries would read the same one is
-    /// kept; the choices follow their names, and the lists hold what agrees with them. A shown part stays.
+    /// kept; the choices follow their names, and the lists hold what agrees with them. A complete part stays.
     void ChangeNaming(CodeView view);
 
     const std::vector<std::string_view>& SizeCodes() const { return sizeCodes; }
@@ -62,18 +62,21 @@ private:
     std::string_view TccOf(const PartRecord& part) const;
     bool Agrees(const PartRecord& part, const PartChoice& with) const;
     template <class AddItem> void ForEachPart(const PartChoice& agreeing, AddItem addItem) const;
+    void ForgetPart();
     void FillSizeCodes();
     void FillTccs();
     void FillCapacitances();
     void FillRatedVoltages();
     void FillPartNums();
+    void RefillLists();
 
     const PartTable& parts;
     std::optional<std::int16_t> chartType;
     CodeView view = CodeView::Eia;
     PartChoice choice;
-    /// The part chosen by number, until a choice at another level.
-    std::optional<std::int16_t> shownPart;
+    /// The complete part, chosen by number or left over last by the four choices.
+    std::optional<std::int16_t> completePart;
+    bool chosenByNumber = false;
     /// How many of the lower three lists, from the top, hold only the value of a part chosen by number.
     int ownLists = 0;
 
