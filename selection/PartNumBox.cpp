@@ -36,10 +36,15 @@ QVariant PartNumModel::data(const QModelIndex& index, int role) const
     return PartNumText(parts[static_cast<std::size_t>(index.row())], form);
 }
 
-bool PartNumModel::Holds(const QString& text) const
+int PartNumModel::RowOf(const QString& text) const
 {
     const auto* part = mdlPublic.Parts.PartIndex[static_cast<std::size_t>(form)].Find(ToAnsi(text));
-    return part != nullptr && PartNumText(*part, form) == text && std::ranges::binary_search(parts, *part);
+    if (part == nullptr || PartNumText(*part, form) != text)
+    {
+        return -1;
+    }
+    const auto place = std::ranges::lower_bound(parts, *part);
+    return place != parts.end() && *place == *part ? static_cast<int>(place - parts.begin()) : -1;
 }
 
 PartNumBox::PartNumBox(QWidget* parent)
@@ -49,6 +54,8 @@ PartNumBox::PartNumBox(QWidget* parent)
     setEditable(true);
     setInsertPolicy(QComboBox::NoInsert);
     setCompleter(nullptr);
+    // On Enter and on leaving, a box otherwise picks the entry that its text equals once more.
+    disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
 
     // A view that measures every entry before it opens takes as long as the list is long.
     auto* list = new QListView(this);
@@ -63,4 +70,26 @@ void PartNumBox::SetParts(std::vector<std::int16_t> indices, int partNumForm)
     entries->SetParts(std::move(indices), partNumForm);
     setCurrentIndex(-1);
     clearEditText();
+}
+
+/// List and arrow keys start from the part that is shown, also where it was typed.
+void PartNumBox::GoToShownEntry()
+{
+    const int row = entries->RowOf(currentText());
+    if (row >= 0)
+    {
+        setCurrentIndex(row);
+    }
+}
+
+void PartNumBox::showPopup()
+{
+    GoToShownEntry();
+    QComboBox::showPopup();
+}
+
+void PartNumBox::keyPressEvent(QKeyEvent* event)
+{
+    GoToShownEntry();
+    QComboBox::keyPressEvent(event);
 }

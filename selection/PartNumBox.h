@@ -25,8 +25,8 @@ public:
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
-    /// True when a text equals an entry, letter case included.
-    bool Holds(const QString& text) const;
+    /// The row of the entry that equals a text, letter case included; -1 without one.
+    int RowOf(const QString& text) const;
 
 private:
     std::vector<std::int16_t> parts;
@@ -45,8 +45,15 @@ public:
     /// Fills the list with these parts, given in table order; no entry is selected and the text is empty.
     void SetParts(std::vector<std::int16_t> indices, int partNumForm);
     /// True when a text equals an entry, letter case included.
-    bool Holds(const QString& text) const { return entries->Holds(text); }
+    bool Holds(const QString& text) const { return entries->RowOf(text) >= 0; }
+
+    void showPopup() override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void GoToShownEntry();
+
     PartNumModel* entries;
 };

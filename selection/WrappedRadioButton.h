@@ -19,6 +19,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    bool hitButton(const QPoint& place) const override { return rect().contains(place); }
 
 private:
     QRect CaptionRect(int width) const;

@@ -37,6 +37,9 @@ frmLibrary::frmLibrary(ChartWindows& chartWindows, QWidget* parent)
     scroller->setWidget(contents);
     setWidget(scroller);
     setFixedWidth(FormWidth);
+    // A click on empty ground leaves the focus in its box, and no menu moves the form from its place.
+    setFocusPolicy(Qt::NoFocus);
+    setSystemMenu(nullptr);
     Connect();
 }
 

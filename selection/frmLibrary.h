@@ -137,6 +137,8 @@ private:
     bool txtParameter_LostFocus();
     bool LostFocus(const QLineEdit* box);
     void GotFocus(QLineEdit* box, Qt::FocusReason reason);
+    bool MayLeave(const QLineEdit* box, Qt::FocusReason reason);
+    QLineEdit* ConditionBox(QObject* watched) const;
     bool IsCauseToCheck(const QLineEdit* box, Qt::FocusReason reason) const;
     bool ActsOnBox(const QWidget* control, const QLineEdit* box) const;
 
@@ -152,6 +154,8 @@ private:
     bool IsFrequencySweep() const;
     const PartRecord& SelectedPart() const;
     void Report(QLineEdit* box, const Refusal& refusal, bool& ok);
+    /// Puts the focus into a refused box, with its text ready to be replaced.
+    void OfferForCorrection(QLineEdit* box);
     void ComeToFront(QWidget* control);
     ChartKey ShownChart() const;
 

@@ -35,8 +35,14 @@ void frmLibrary::Report(QLineEdit* box, const Refusal& refusal, bool& ok)
     if (refusal)
     {
         ShowExclamation(this, QString::fromStdString(*refusal));
-        ComeToFront(box);
+        OfferForCorrection(box);
     }
+}
+
+void frmLibrary::OfferForCorrection(QLineEdit* box)
+{
+    ComeToFront(box);
+    box->selectAll();
 }
 
 void frmLibrary::CheckDCBiasVol(bool& ok)
@@ -191,41 +197,86 @@ bool frmLibrary::LostFocus(const QLineEdit* box)
 }
 
 /// Selects the whole text, so that typing replaces it. A click takes the selection away again until its
-/// button is released.
+/// button is released. Coming back from a menu or another window leaves the text as it was.
 void frmLibrary::GotFocus(QLineEdit* box, Qt::FocusReason reason)
 {
-    box->selectAll();
-    enteredByClick = reason == Qt::MouseFocusReason ? box : nullptr;
+    if (reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason &&
+        reason != Qt::ActiveWindowFocusReason)
+    {
+        box->selectAll();
+        enteredByClick = reason == Qt::MouseFocusReason ? box : nullptr;
+    }
+}
+
+/// Runs the check of a box that is left, if this way of leaving asks for it; false when the box is refused
+/// and has the focus again.
+bool frmLibrary::MayLeave(const QLineEdit* box, Qt::FocusReason reason)
+{
+    if (!IsCauseToCheck(box, reason) || LostFocus(box))
+    {
+        return true;
+    }
+    if (reason == Qt::MouseFocusReason)
+    {
+        swallowPress = true;
+        QTimer::singleShot(0, this, [this] { swallowPress = false; });
+    }
+    return false;
+}
+
+/// The condition box or parameter box that an event is for, or null.
+QLineEdit* frmLibrary::ConditionBox(QObject* watched) const
+{
+    auto* box = qobject_cast<QLineEdit*>(watched);
+    return box != ui->cmbPartNum->lineEdit() ? box : nullptr;
+}
+
+/// True for a list that the wheel is not to change, since it only lies in the way of scrolling.
+static bool IsListWithoutFocus(const QObject* watched)
+{
+    const auto* list = qobject_cast<const QComboBox*>(watched);
+    return list != nullptr && !list->hasFocus();
 }
 
 bool frmLibrary::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::MouseButtonPress && std::exchange(swallowPress, false))
+    QLineEdit* box = ConditionBox(watched);
+    switch (event->type())
     {
-        return true;
-    }
-    auto* box = qobject_cast<QLineEdit*>(watched);
-    if (box == nullptr || box == ui->cmbPartNum->lineEdit())
-    {
-        return QMdiSubWindow::eventFilter(watched, event);
-    }
-    if (event->type() == QEvent::FocusIn)
-    {
-        GotFocus(box, static_cast<QFocusEvent*>(event)->reason());
-    }
-    if (event->type() == QEvent::MouseButtonRelease && std::exchange(enteredByClick, nullptr) == box &&
-        !box->hasSelectedText())
-    {
-        box->selectAll();
-    }
-    if (event->type() == QEvent::FocusOut)
-    {
-        const auto reason = static_cast<QFocusEvent*>(event)->reason();
-        if (IsCauseToCheck(box, reason) && !LostFocus(box) && reason == Qt::MouseFocusReason)
+    case QEvent::MouseButtonPress:
+        if (std::exchange(swallowPress, false))
         {
-            swallowPress = true;
-            QTimer::singleShot(0, this, [this] { swallowPress = false; });
+            return true;
         }
+        break;
+    case QEvent::MouseButtonRelease:
+        if (box != nullptr && std::exchange(enteredByClick, nullptr) == box && !box->hasSelectedText())
+        {
+            box->selectAll();
+        }
+        break;
+    case QEvent::Wheel:
+        if (IsListWithoutFocus(watched))
+        {
+            event->ignore();
+            return true;
+        }
+        break;
+    case QEvent::FocusIn:
+        if (box != nullptr)
+        {
+            GotFocus(box, static_cast<QFocusEvent*>(event)->reason());
+        }
+        break;
+    case QEvent::FocusOut:
+        // A refused box has the focus again by now, and is not to hear that it lost it.
+        if (box != nullptr && !MayLeave(box, static_cast<QFocusEvent*>(event)->reason()))
+        {
+            return true;
+        }
+        break;
+    default:
+        break;
     }
     return QMdiSubWindow::eventFilter(watched, event);
 }

@@ -166,7 +166,7 @@ std::optional<ParameterRefusal> frmLibrary::Calculate(ChartRecord& record)
 void frmLibrary::ReportParameter(const ParameterRefusal& refusal)
 {
     ShowExclamation(this, QString::fromStdString(refusal.Message));
-    ComeToFront(ui->txtParameter);
+    OfferForCorrection(ui->txtParameter);
 }
 
 void frmLibrary::cmdPlot_Click()
