@@ -42,6 +42,13 @@ frmMain::frmMain(QWidget* parent)
 
 frmMain::~frmMain()
 {
+    // The child area tells of its windows until the last one is gone, when this window is no longer whole.
+    const std::array<QObject*, 3> tellers = {ui->mdiArea, ui->mdiArea->horizontalScrollBar(),
+                                             ui->mdiArea->verticalScrollBar()};
+    for (QObject* teller : tellers)
+    {
+        teller->disconnect(this);
+    }
     // The check marks go with the menus.
     mdlPublic.Marks = {};
 }

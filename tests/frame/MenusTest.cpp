@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QRadioButton>
+#include <QStatusBar>
 #include <QTest>
 
 class MenusTest : public QObject
@@ -24,6 +25,8 @@ private Q_SLOTS:
     void MainMenusComeBackAfterLastChart();
     void MenusFollowMinimisedChart();
     void MenusStayWhenProgramLosesFocus();
+    void AccessKeysOpenTheMenusOnShow();
+    void EntriesExplainThemselvesInTheMainStatusBar();
     void OutputIsOfferedWithPlotOnly();
     void OutputOfChartIsOfferedWithPlotOnly();
     void ResetSelectionReturnsToStart();
@@ -182,6 +185,45 @@ void MenusTest::MenusStayWhenProgramLosesFocus()
     Settle();
     QCOMPARE(desk.MenuTitles(), ChartTitles);
     QCOMPARE(desk.Area()->activeSubWindow(), desk.Charts().front());
+}
+
+void MenusTest::AccessKeysOpenTheMenusOnShow()
+{
+    Desk desk;
+    QTest::keyClick(desk.main.get(), Qt::Key_W, Qt::AltModifier);
+    auto* opened = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    QVERIFY(opened != nullptr);
+    QCOMPARE(opened->actions().front()->objectName(), QString("mnuCloseAllChartWindows"));
+    opened->close();
+
+    // With two charts open, each with menus of the same keys, those of the active one answer.
+    desk.ClickChartType(2);
+    desk.PlotCapacitance(ListedPart(desk, 0), "0");
+    desk.PlotCapacitance(ListedPart(desk, 0), "0", "Capacitance Change");
+    for (frmGraph* chart : desk.Charts())
+    {
+        // Without a window manager nobody makes the window active again after a menu.
+        QApplication::setActiveWindow(desk.main.get());
+        desk.Area()->setActiveSubWindow(chart);
+        QTest::keyClick(chart, Qt::Key_W, Qt::AltModifier);
+        opened = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        QVERIFY(opened != nullptr);
+        QVERIFY(chart->isAncestorOf(opened->parentWidget()));
+        opened->close();
+    }
+}
+
+void MenusTest::EntriesExplainThemselvesInTheMainStatusBar()
+{
+    Desk desk;
+    desk.ClickChartType(2);
+    desk.PlotCapacitance(ListedPart(desk, 0), "0");
+    QMenu* window = desk.OpenMenuOf("mnuWindowClose");
+    MoveMouse(window, window->actionGeometry(desk.Entry("mnuWindowClose")).center());
+    QCOMPARE(desk.main->statusBar()->currentMessage(), QString("Close every chart window"));
+    // The chart's own bar stays free for the read-out.
+    QCOMPARE(desk.Charts().front()->findChild<QStatusBar*>("sbr1")->currentMessage(), QString());
+    window->close();
 }
 
 void MenusTest::OutputIsOfferedWithPlotOnly()
