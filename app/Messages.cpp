@@ -40,6 +40,11 @@ void ShowInformation(QWidget* parent, const QString& text)
     Show(parent, QMessageBox::Information, text);
 }
 
+void ShowPlain(QWidget* parent, const QString& text)
+{
+    Show(parent, QMessageBox::NoIcon, text);
+}
+
 void ShowCritical(QWidget* parent, const QString& text)
 {
     Show(parent, QMessageBox::Critical, text);

@@ -15,6 +15,8 @@ QString ProgramTitle();
 void ShowExclamation(QWidget* parent, const QString& text);
 /// A notice.
 void ShowInformation(QWidget* parent, const QString& text);
+/// A plain text, without an icon.
+void ShowPlain(QWidget* parent, const QString& text);
 /// A failure.
 void ShowCritical(QWidget* parent, const QString& text);
 /// "Unexpected Error ", the number, a line break and the description.

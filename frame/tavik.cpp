@@ -2,6 +2,7 @@
 
 #include "app/Main.h"
 #include "app/Messages.h"
+#include "frame/ProgramIcon.h"
 #include "frame/frmMain.h"
 #include "partdata/RunTimeError.h"
 
@@ -21,6 +22,7 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     QApplication::setApplicationName("tavik");
     QApplication::setApplicationVersion(TAVIK_VERSION);
+    QApplication::setWindowIcon(ProgramIcon());
 
     std::unique_ptr<frmMain> mainWindow;
     try

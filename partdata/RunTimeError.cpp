@@ -30,6 +30,12 @@ const char* DescriptionOf(RunTimeErrorNumber number)
         return "Path not found";
     case RunTimeErrorNumber::DuplicateKey:
         return "This key is already associated with an element of this collection";
+    case RunTimeErrorNumber::ActionNotSupported:
+        return "This action is not supported.";
+    case RunTimeErrorNumber::DialogFailed:
+        return "Error raised with common dialog.";
+    case RunTimeErrorNumber::NoPrinter:
+        return "There is no printer in this system.";
     case RunTimeErrorNumber::Cancelled:
         return "Cancel button is clicked.";
     }

@@ -20,6 +20,9 @@ enum class RunTimeErrorNumber
     PathFileAccessError = 75,
     PathNotFound = 76,
     DuplicateKey = 457,
+    ActionNotSupported = 65532,
+    DialogFailed = 65533,
+    NoPrinter = 65534,
     Cancelled = 65535,
 };
 

@@ -1,0 +1,233 @@
+#include "frame/frmHelp.h"
+
+#include "app/Messages.h"
+#include "frame/HelpBook.h"
+#include "frame/clsComdlg.h"
+#include "partdata/RunTimeError.h"
+#include "ui_frmHelp.h"
+
+#include <QKeyEvent>
+#include <QPointer>
+#include <QPrinter>
+#include <QShortcut>
+
+static QPointer<frmHelp> viewer;
+
+void OpenHelp(const QString& bookFile, QWidget* owner, const QString& searchFor)
+{
+    const auto html = ReadHelpBook(bookFile);
+    if (viewer.isNull())
+    {
+        viewer = new frmHelp;
+    }
+    viewer->ShowBook(bookFile, html);
+    viewer->SearchFor(searchFor);
+    if (owner != nullptr)
+    {
+        viewer->CloseWith(owner->window());
+    }
+    viewer->show();
+    viewer->raise();
+    viewer->activateWindow();
+}
+
+void CloseHelp()
+{
+    delete viewer.data();
+}
+
+static constexpr int ContentsWidth = 240;
+static constexpr int PageWidth = 660;
+static constexpr int TopicRole = Qt::UserRole;
+
+frmHelp::frmHelp()
+    : ui(std::make_unique<Ui::frmHelp>())
+{
+    ui->setupUi(this);
+    // The program ends with its main window, also while help is open.
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    ui->splPages->setSizes({ContentsWidth, PageWidth});
+    ui->splPages->setStretchFactor(1, 1);
+    ui->tbrHelp->insertWidget(ui->mnuFindPrevious, ui->txtFind);
+    ui->tbrHelp->addWidget(ui->lblFound);
+    Connect();
+}
+
+frmHelp::~frmHelp() = default;
+
+void frmHelp::Connect()
+{
+    auto* const page = ui->txtBook;
+    connect(ui->mnuBack, &QAction::triggered, page, &QTextBrowser::backward);
+    connect(ui->mnuForward, &QAction::triggered, page, &QTextBrowser::forward);
+    connect(page, &QTextBrowser::backwardAvailable, ui->mnuBack, &QAction::setEnabled);
+    connect(page, &QTextBrowser::forwardAvailable, ui->mnuForward, &QAction::setEnabled);
+    connect(ui->mnuHome, &QAction::triggered, this, &frmHelp::GoHome);
+    connect(ui->mnuZoomIn, &QAction::triggered, page, [page] { page->ZoomBy(1); });
+    connect(ui->mnuZoomOut, &QAction::triggered, page, [page] { page->ZoomBy(-1); });
+    connect(ui->mnuZoomReset, &QAction::triggered, page, &HelpBrowser::ResetZoom);
+    connect(ui->mnuPrint, &QAction::triggered, this, &frmHelp::Print);
+    connect(ui->mnuFindNext, &QAction::triggered, this, &frmHelp::FindNext);
+    connect(ui->mnuFindPrevious, &QAction::triggered, this, &frmHelp::FindPrevious);
+    connect(ui->treContents, &QTreeWidget::itemActivated, this, &frmHelp::ShowTopicOf);
+    connect(ui->treContents, &QTreeWidget::itemClicked, this, &frmHelp::ShowTopicOf);
+
+    connect(ui->txtFind, &QLineEdit::textEdited, this,
+            [this](const QString& text) { TellPlaces(ui->txtBook->FindTyped(text)); });
+    connect(ui->txtFind, &QLineEdit::returnPressed, this, &frmHelp::FindNext);
+    ui->txtFind->installEventFilter(this);
+
+    const auto onKey = [this](const QKeySequence& keys, auto command)
+    { connect(new QShortcut(keys, this), &QShortcut::activated, this, command); };
+    onKey(QKeySequence::Find,
+          [this]
+          {
+              ui->txtFind->setFocus(Qt::ShortcutFocusReason);
+              ui->txtFind->selectAll();
+          });
+    onKey(Qt::Key_Escape, [this] { Escape(); });
+    // The plus sign shares its key with the equals sign on many keyboards.
+    onKey(Qt::CTRL | Qt::Key_Equal, [page] { page->ZoomBy(1); });
+}
+
+void frmHelp::ShowBook(const QString& file, const QString& html)
+{
+    ui->txtBook->ShowBook(file, html);
+    const auto title = ui->txtBook->documentTitle();
+    setWindowTitle(title.isEmpty() ? ProgramTitle() : title);
+    FillContents();
+    ui->txtFind->clear();
+    ui->lblFound->clear();
+    ui->txtBook->setFocus();
+}
+
+void frmHelp::SearchFor(const QString& text)
+{
+    ui->txtFind->setText(text);
+    if (!text.isEmpty())
+    {
+        FindNext();
+    }
+}
+
+void frmHelp::FillContents()
+{
+    ui->treContents->clear();
+    topics = ui->txtBook->Topics();
+    QTreeWidgetItem* chapter = nullptr;
+    for (std::size_t i = 0; i < topics.size(); ++i)
+    {
+        auto* const item = new QTreeWidgetItem({topics[i].title});
+        item->setData(0, TopicRole, static_cast<int>(i));
+        item->setToolTip(0, topics[i].title);
+        if (topics[i].level == 2 || chapter == nullptr)
+        {
+            ui->treContents->addTopLevelItem(item);
+            chapter = item;
+        }
+        else
+        {
+            chapter->addChild(item);
+        }
+    }
+    ui->treContents->expandAll();
+}
+
+void frmHelp::ShowTopicOf(const QTreeWidgetItem* item)
+{
+    const auto topic = static_cast<std::size_t>(item->data(0, TopicRole).toInt());
+    ui->txtBook->ShowTopic(topics.at(topic));
+}
+
+void frmHelp::GoHome()
+{
+    ui->txtBook->moveCursor(QTextCursor::Start);
+    ui->txtBook->home();
+    ui->txtBook->setFocus();
+}
+
+// Search.
+
+void frmHelp::FindNext()
+{
+    TellPlaces(ui->txtBook->Find(ui->txtFind->text(), {}));
+}
+
+void frmHelp::FindPrevious()
+{
+    TellPlaces(ui->txtBook->Find(ui->txtFind->text(), QTextDocument::FindBackward));
+}
+
+void frmHelp::TellPlaces(int count)
+{
+    const auto text = ui->txtFind->text();
+    if (count == 0)
+    {
+        ui->txtBook->ClearMarks();
+    }
+    ui->lblFound->setText(text.isEmpty() ? QString()
+                          : count == 0   ? QStringLiteral("Not found")
+                          : count == 1   ? QStringLiteral("Found once")
+                                         : QStringLiteral("Found %1 times").arg(count));
+}
+
+/// Leaves the search first, then the viewer.
+void frmHelp::Escape()
+{
+    if (ui->txtFind->hasFocus() || !ui->txtFind->text().isEmpty())
+    {
+        ui->txtFind->clear();
+        TellPlaces(0);
+        ui->txtBook->setFocus();
+        return;
+    }
+    close();
+}
+
+void frmHelp::Print()
+{
+    try
+    {
+        QPrinter printer;
+        clsComdlg dialog(&printer);
+        dialog.hWndOwner = this;
+        dialog.ShowPrinter();
+        ui->txtBook->print(&printer);
+    }
+    catch (const RunTimeError& error)
+    {
+        if (error.Number() != static_cast<int>(RunTimeErrorNumber::Cancelled))
+        {
+            ShowUnexpectedError(this, error);
+        }
+    }
+}
+
+// The window.
+
+void frmHelp::CloseWith(QWidget* window)
+{
+    window->installEventFilter(this);
+    connect(window, &QObject::destroyed, this, [this] { delete this; });
+}
+
+bool frmHelp::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == ui->txtFind)
+    {
+        const auto* const key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event) : nullptr;
+        const bool isReturn = key != nullptr && (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter);
+        if (isReturn && key->modifiers().testFlag(Qt::ShiftModifier))
+        {
+            FindPrevious();
+            return true;
+        }
+    }
+    else if (event->type() == QEvent::Hide && !event->spontaneous())
+    {
+        // The owner is closed, not just put away by the desktop.
+        close();
+    }
+    return QMainWindow::eventFilter(watched, event);
+}

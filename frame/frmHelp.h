@@ -1,0 +1,58 @@
+#pragma once
+
+/// The help viewer: a book, its contents and a search through it.
+
+#include "frame/HelpBrowser.h"
+
+#include <QMainWindow>
+
+#include <memory>
+#include <vector>
+
+class QTreeWidgetItem;
+
+namespace Ui
+{
+class frmHelp;
+}
+
+/// Opens a book in the help viewer, at `searchFor` where it is given. There is one viewer: a second call
+/// shows its book in the same window. It does not block its owner, and closes when the owner closes.
+///
+/// Throws RunTimeError, with the viewer as it was, when the book cannot be read: see `ReadHelpBook`.
+void OpenHelp(const QString& bookFile, QWidget* owner = nullptr, const QString& searchFor = {});
+
+/// Closes the viewer where it is open.
+void CloseHelp();
+
+/// The viewer's window; use `OpenHelp`.
+class frmHelp : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    frmHelp();
+    ~frmHelp() override;
+
+    void ShowBook(const QString& file, const QString& html);
+    void SearchFor(const QString& text);
+    /// Closes this window together with `window`.
+    void CloseWith(QWidget* window);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void Connect();
+    void FillContents();
+    void ShowTopicOf(const QTreeWidgetItem* item);
+    void GoHome();
+    void FindNext();
+    void FindPrevious();
+    void TellPlaces(int count);
+    void Escape();
+    void Print();
+
+    std::unique_ptr<Ui::frmHelp> ui;
+    std::vector<HelpTopic> topics;
+};

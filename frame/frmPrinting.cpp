@@ -1,0 +1,40 @@
+#include "frame/frmPrinting.h"
+
+#include "app/Messages.h"
+#include "ui_frmPrinting.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QWindow>
+
+static constexpr int LongestWaitMs = 500;
+
+frmPrinting::frmPrinting(QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint)
+    , ui(std::make_unique<Ui::frmPrinting>())
+{
+    ui->setupUi(this);
+    setWindowTitle(ProgramTitle());
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+    show();
+    PaintNow();
+}
+
+frmPrinting::~frmPrinting() = default;
+
+void frmPrinting::reject()
+{
+}
+
+/// Printing keeps the event loop from painting, so the notice waits for its place on the screen here.
+void frmPrinting::PaintNow()
+{
+    QElapsedTimer waited;
+    waited.start();
+    while (!windowHandle()->isExposed() && waited.elapsed() < LongestWaitMs)
+    {
+        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 10);
+    }
+    repaint();
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+/// The notice that stands on the screen while the program prints.
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui
+{
+class frmPrinting;
+}
+
+/// Shows "Now Printing..." for its lifetime, without taking control from the caller.
+///
+///     const frmPrinting notice(this);   // shown and painted
+///     PrintDataHeader(printer);         // however this ends, the notice goes
+///
+class frmPrinting : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// Returns when the notice is painted, or after half a second where nothing shows it.
+    explicit frmPrinting(QWidget* parent = nullptr);
+    ~frmPrinting() override;
+
+    /// Escape is no way to end a print.
+    void reject() override;
+
+private:
+    void PaintNow();
+
+    std::unique_ptr<Ui::frmPrinting> ui;
+};
