@@ -57,10 +57,10 @@ PartNumBox::PartNumBox(QWidget* parent)
     // On Enter and on leaving, a box otherwise picks the entry that its text equals once more.
     disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
 
-    // A view that measures every entry before it opens takes as long as the list is long.
+    // A view that measures every entry before it opens takes as long as the list is long; one that lays them
+    // out bit by bit does not find the entry to open at.
     auto* list = new QListView(this);
     list->setUniformItemSizes(true);
-    list->setLayoutMode(QListView::Batched);
     setView(list);
     setModel(entries);
 }
