@@ -114,6 +114,7 @@ void frmMain::ShowNewChart()
     auto* chart = new frmGraph(*this);
     ui->mdiArea->addSubWindow(chart);
     forms.push_back(chart);
+    connect(chart, &frmGraph::windowStateChanged, this, &frmMain::ArrangeIcons, Qt::QueuedConnection);
     chart->Form_Load();
     chart->show();
 }
@@ -136,6 +137,7 @@ bool frmMain::ShowSameChart(const QString& caption)
 void frmMain::ChartUnloaded(QWidget* chart)
 {
     std::erase(forms, chart);
+    QMetaObject::invokeMethod(this, &frmMain::ArrangeIcons, Qt::QueuedConnection);
 }
 
 bool frmMain::CanPlot() const
@@ -166,6 +168,28 @@ void frmMain::PlaceSelectionForm()
     library->setGeometry(0, 0, library->width(), ui->mdiArea->viewport()->height());
 }
 
+/// Lines up minimised charts along the bottom edge, row upon row, beside the selection form. The child area
+/// itself would put them under the form; so this runs when the area is through with them.
+void frmMain::ArrangeIcons()
+{
+    const QSize area = ui->mdiArea->viewport()->size();
+    const int left = library->width();
+    QPoint corner(left, area.height());
+    for (frmGraph* chart : Charts())
+    {
+        if (!chart->isMinimized())
+        {
+            continue;
+        }
+        if (corner.x() > left && corner.x() + chart->width() > area.width())
+        {
+            corner = QPoint(left, corner.y() - chart->height());
+        }
+        chart->move(corner.x(), corner.y() - chart->height());
+        corner.rx() += chart->width();
+    }
+}
+
 /// Keeps the selection form in its place while the child area is resized or scrolled.
 void frmMain::WatchChildArea()
 {
@@ -174,6 +198,7 @@ void frmMain::WatchChildArea()
     for (const QScrollBar* bar : {ui->mdiArea->horizontalScrollBar(), ui->mdiArea->verticalScrollBar()})
     {
         connect(bar, &QScrollBar::valueChanged, this, &frmMain::PlaceSelectionForm);
+        connect(bar, &QScrollBar::valueChanged, this, &frmMain::ArrangeIcons, Qt::QueuedConnection);
     }
     // The area reckons its scroll ranges from the places of its children. With the form held back, this
     // mark alone shows how far the rest has been scrolled.
@@ -188,6 +213,7 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::Resize && watched == ui->mdiArea->viewport())
     {
         PlaceSelectionForm();
+        QMetaObject::invokeMethod(this, &frmMain::ArrangeIcons, Qt::QueuedConnection);
     }
     return QMainWindow::eventFilter(watched, event);
 }

@@ -54,6 +54,7 @@ private:
     void Connect();
     void ShowMenusOf(QMdiSubWindow* window);
     void PlaceSelectionForm();
+    void ArrangeIcons();
     void WatchChildArea();
     void UpdateChartPartLabels(int newForm);
     std::vector<frmGraph*> Charts() const;

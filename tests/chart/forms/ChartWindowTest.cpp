@@ -40,6 +40,7 @@ private Q_SLOTS:
     void DarkDesktopKeepsChartLight();
     void SelectionFormStaysAtTheLeftEdge();
     void SelectionFormStaysWhenTheAreaIsScrolled();
+    void MinimisedWindowsStandBesideTheSelectionForm();
 };
 
 static const QRect FirstPlace(200, 3, 733, 295);
@@ -393,6 +394,59 @@ void ChartWindowTest::SelectionFormStaysWhenTheAreaIsScrolled()
     Settle();
     QCOMPARE(chart->pos(), QPoint(600, 600));
     QCOMPARE(form->pos(), QPoint(0, 0));
+}
+
+/// True when each minimised chart is whole in the child area, and free of the form and of the others.
+static bool IconsAreInSight(const Desk& desk)
+{
+    QList<QRect> taken = {desk.Find<frmLibrary>("frmLibrary")->geometry()};
+    for (const frmGraph* chart : desk.Charts())
+    {
+        if (chart->isMinimized())
+        {
+            const QRect icon = chart->geometry();
+            const bool isFree = std::none_of(taken.begin(), taken.end(),
+                                             [&](const QRect& other) { return other.intersects(icon); });
+            if (!isFree || !desk.Area()->viewport()->rect().contains(icon))
+            {
+                return false;
+            }
+            taken << icon;
+        }
+    }
+    return true;
+}
+
+void ChartWindowTest::MinimisedWindowsStandBesideTheSelectionForm()
+{
+    Desk desk;
+    PlotFirst(desk);
+    desk.PlotCapacitance(ListedPart(desk, 0), "0", "Capacitance Change");
+    for (const char* axis : {"Current", "Voltage", "Apparent Power", "Effective Power", "Frequency"})
+    {
+        desk.PlotRise(0, "25", axis);
+    }
+    QCOMPARE(desk.Charts().size(), std::size_t{7});
+    for (frmGraph* chart : desk.Charts())
+    {
+        chart->showMinimized();
+        Settle();
+        QVERIFY(IconsAreInSight(desk));
+    }
+    desk.main->resize(700, 500);
+    Settle();
+    QVERIFY(IconsAreInSight(desk));
+    desk.Charts()[2]->close();
+    Settle();
+    QVERIFY(IconsAreInSight(desk));
+    desk.Charts()[0]->showNormal();
+    Settle();
+    QCOMPARE(desk.Charts()[0]->geometry(), FirstPlace);
+    QVERIFY(IconsAreInSight(desk));
+    QVERIFY(desk.Area()->horizontalScrollBar()->maximum() > 0);
+    desk.Area()->horizontalScrollBar()->setValue(desk.Area()->horizontalScrollBar()->maximum());
+    Settle();
+    QVERIFY(IconsAreInSight(desk));
 }
 
 QTEST_MAIN(ChartWindowTest)
