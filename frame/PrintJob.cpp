@@ -70,7 +70,7 @@ void CheckPrinter(const QPrinter& printer)
     // Without a printer the toolkit falls back to a PDF file without a name.
     if (printer.outputFormat() != QPrinter::NativeFormat || QPrinterInfo::availablePrinterNames().isEmpty())
     {
-        throw RunTimeError(RunTimeErrorNumber::DeviceIoError, "There is no printer in this system.");
+        throw RunTimeError(RunTimeErrorNumber::NoPrinter);
     }
     const auto queue = QPrinterInfo::printerInfo(printer.printerName());
     if (queue.isNull() || queue.state() == QPrinter::Error || queue.state() == QPrinter::Aborted)

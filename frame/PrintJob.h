@@ -16,9 +16,9 @@ using DrawPage = std::function<void(QPainter&, const PageArea&)>;
 /// printer with an output file writes that file.
 ///
 /// However the job ends, orientation and margins of the printer are as before; a font set while drawing ends
-/// with the job. Throws RunTimeError: "There is no printer in this system." before anything is drawn, 57
-/// "Device I/O error" with the printer's name or file where the job cannot be started or finished, 61 for a
-/// full disk below an output file, and whatever `drawPage` throws, after the job is taken back.
+/// with the job. Throws RunTimeError: 65534 "There is no printer in this system." before anything is drawn,
+/// 57 "Device I/O error" with the printer's name or file where the job cannot be started or finished, 61 for
+/// a full disk below an output file, and whatever `drawPage` throws, after the job is taken back.
 void PrintPage(QPrinter& printer, const DrawPage& drawPage);
 
 /// The kind of surface that a page of this printer is.

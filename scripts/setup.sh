@@ -2,7 +2,7 @@
 
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev libqt6svg6-dev qt6-qpa-plugins libgl-dev
     libgmock-dev fonts-liberation fontconfig)
-test_packages=(clang-format xvfb xdotool nlohmann-json3-dev)
+test_packages=(clang-format xvfb xdotool nlohmann-json3-dev poppler-utils cups)
 
 # Installs the Debian packages of the named groups that are not there yet.
 need() {
