@@ -82,6 +82,15 @@ void frmLibrary::closeEvent(QCloseEvent* event)
     event->ignore();
 }
 
+/// A click on empty ground brings the form to the front.
+void frmLibrary::mousePressEvent(QMouseEvent*)
+{
+    if (mdiArea() != nullptr)
+    {
+        mdiArea()->setActiveSubWindow(this);
+    }
+}
+
 void frmLibrary::SelectChartType(int index)
 {
     optChartType[static_cast<std::size_t>(index)]->setChecked(true);
@@ -287,20 +296,14 @@ const PartRecord& frmLibrary::SelectedPart() const
 
 void frmLibrary::IncompletePart()
 {
-    SetPlotEnabled(false);
+    ui->cmdPlot->setEnabled(false);
     DisableConditions();
 }
 
 void frmLibrary::CompletePart()
 {
-    SetPlotEnabled(true);
+    ui->cmdPlot->setEnabled(true);
     EnableConditions(GetChartType());
-}
-
-void frmLibrary::SetPlotEnabled(bool enabled)
-{
-    ui->cmdPlot->setEnabled(enabled);
-    Q_EMIT CanPlotChanged(enabled);
 }
 
 bool frmLibrary::CanPlot() const

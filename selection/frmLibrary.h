@@ -104,12 +104,9 @@ public:
     /// Plot is enabled: a complete part is selected.
     bool CanPlot() const;
 
-Q_SIGNALS:
-    /// Plot has become enabled or disabled.
-    void CanPlotChanged(bool canPlot);
-
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -147,7 +144,6 @@ private:
     void ShowStep();
     void IncompletePart();
     void CompletePart();
-    void SetPlotEnabled(bool enabled);
     void SetParameterEnabled(bool enabled);
     void SetFrequencyEnabled(bool enabled);
     void ResetParameter();

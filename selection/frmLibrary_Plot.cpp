@@ -208,6 +208,8 @@ void frmLibrary::Plot(int lines)
     }
     catch (const RunTimeError& error)
     {
+        // A line that could not be shown is not kept.
+        mdlPublic.Charts.Write({});
         ShowUnexpectedError(this, error);
     }
     if (refusal)

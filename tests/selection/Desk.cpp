@@ -1,6 +1,7 @@
 #include "tests/selection/Desk.h"
 
 #include "app/mdlPublic.h"
+#include "partdata/RunTimeError.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -34,6 +35,10 @@ Desk::~Desk()
 
 void Desk::ShowNewChart()
 {
+    if (chartsFail)
+    {
+        throw RunTimeError(RunTimeErrorNumber::DeviceIoError);
+    }
     ++newCharts;
     ++mdlPublic.Charts.CurrentChart;
 }

@@ -58,6 +58,8 @@ public:
     QMainWindow window;
     frmLibrary* form = nullptr;
     MessageWatch messages;
+    /// Charts cannot be shown.
+    bool chartsFail = false;
     int newCharts = 0;
     int redrawnCharts = 0;
     int code = 0;

@@ -485,6 +485,48 @@ private Q_SLOTS:
         QVERIFY(QGuiApplication::overrideCursor() == nullptr);
     }
 
+    void KeepsNoLineThatCouldNotBeShown()
+    {
+        desk->ChooseChartType(2);
+        desk->Pick("cmbPartNum", "P0-0");
+        desk->Enter("txtDCBiasVol", "1");
+        desk->chartsFail = true;
+        desk->Click("cmdPlot");
+        QCOMPARE(desk->messages.Taken(), QStringList{"other icon: Unexpected Error 57|Device I/O error"});
+        QCOMPARE(mdlPublic.Charts.CurrentChart, 0);
+        QCOMPARE(mdlPublic.Charts.ChartData.size(), std::size_t{1});
+        QCOMPARE(mdlPublic.Charts.ChartData[0].XAxisName, std::string());
+        QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+        desk->chartsFail = false;
+        desk->Click("cmdPlot");
+        QCOMPARE(desk->newCharts, 1);
+    }
+
+    void RefusesAParameterAboveTheLimitAndTakesTheLimitItself()
+    {
+        desk.reset();
+        desk = std::make_unique<Desk>(SampleRange());
+        desk->Pick("cmbPartNum", "KTS188R71H224KA01");
+        desk->Pick("cmbXaxis", "Frequency");
+        desk->Enter("txtDCBiasVol", "0");
+        desk->Enter("txtParameter", "1e9");
+        desk->Click("cmdPlot");
+        const auto shown = desk->messages.Taken();
+        QCOMPARE(shown.size(), 1);
+        const QString opening = "Parameter is invalid!|Please enter a Number from 0 to ";
+        QVERIFY2(shown.front().startsWith(opening), qPrintable(shown.front()));
+        QCOMPARE(desk->Focus(), "txtParameter");
+        QCOMPARE(desk->Box("txtParameter")->selectedText(), "1e9");
+        QCOMPARE(desk->newCharts, 0);
+        QCOMPARE(mdlPublic.Charts.ChartData[0].XAxisName, std::string());
+        desk->Enter("txtParameter", "-1");
+        desk->Click("cmdPlot");
+        QCOMPARE(desk->messages.Taken(), shown);
+        desk->Enter("txtParameter", shown.front().mid(opening.size()));
+        desk->Click("cmdPlot");
+        QCOMPARE(desk->newCharts, 1);
+    }
+
     void WritesWhatTheFormShowsAndZeroForDisabledBoxes()
     {
         desk->Pick("cmbPartNum", "P1-0");

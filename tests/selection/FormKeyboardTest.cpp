@@ -140,6 +140,25 @@ private Q_SLOTS:
         QCOMPARE(Focus(), "txtDCBiasVol");
     }
 
+    void ComesToTheFrontByAClickOnAnyPartOfIt()
+    {
+        PlotOneLine();
+        auto* area = window->findChild<QMdiArea*>();
+        auto* chart = area->subWindowList().back();
+        auto* bias = Find<QLineEdit>("txtDCBiasVol");
+        QTest::mouseClick(bias, Qt::LeftButton);
+        QTest::mouseClick(chart->widget(), Qt::LeftButton);
+        QCOMPARE(area->activeSubWindow(), chart);
+        QTest::mouseClick(Find<QWidget>("frmLibraryContents"), Qt::LeftButton, {}, QPoint(1, 1));
+        QCOMPARE(area->activeSubWindow(), form);
+        QVERIFY(form->isAncestorOf(QApplication::focusWidget()));
+        area->setActiveSubWindow(chart);
+        QTest::mouseClick(Find<QComboBox>("cmbYaxis"), Qt::LeftButton);
+        QCOMPARE(area->activeSubWindow(), form);
+        Find<QComboBox>("cmbYaxis")->hidePopup();
+        QCOMPARE(Focus(), "cmbYaxis");
+    }
+
     void StaysWhereItIs()
     {
         const QPoint place = form->pos();
