@@ -18,7 +18,8 @@ HelpBrowser::HelpBrowser(QWidget* parent)
     , firstPointSize(font().pointSizeF())
 {
     setOpenLinks(false);
-    connect(this, &QTextBrowser::anchorClicked, this, &HelpBrowser::FollowLink);
+    // Later, since the page still brings a link that was chosen by key into view.
+    connect(this, &QTextBrowser::anchorClicked, this, &HelpBrowser::FollowLink, Qt::QueuedConnection);
 }
 
 void HelpBrowser::ShowBook(const QString& file, const QString& html)
@@ -45,12 +46,19 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name)
                                                           : QVariant();
 }
 
+/// The cursor goes along, so that a search goes on from there and the way back leads there again.
+void HelpBrowser::GoTo(const QUrl& place)
+{
+    setSource(place, QTextDocument::HtmlResource);
+    setTextCursor(cursorForPosition(QPoint(0, 0)));
+}
+
 void HelpBrowser::FollowLink(const QUrl& link)
 {
     const auto url = book.resolved(link);
     if (url.adjusted(QUrl::RemoveFragment) == book)
     {
-        setSource(url, QTextDocument::HtmlResource);
+        GoTo(url);
     }
     else if (url.scheme() == u"http" || url.scheme() == u"https" || url.scheme() == u"mailto")
     {
@@ -94,7 +102,7 @@ void HelpBrowser::ShowTopic(const HelpTopic& topic)
     {
         auto url = book;
         url.setFragment(topic.anchor);
-        setSource(url, QTextDocument::HtmlResource);
+        GoTo(url);
         return;
     }
     // From the end upwards, the heading becomes the first line on the page.

@@ -48,6 +48,7 @@ protected:
     QVariant loadResource(int type, const QUrl& name) override;
 
 private:
+    void GoTo(const QUrl& place);
     void FollowLink(const QUrl& link);
     int MarkAll(const QString& text);
 

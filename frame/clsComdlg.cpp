@@ -13,6 +13,7 @@
 #include <QPrinterInfo>
 
 #include <cmath>
+#include <optional>
 
 static constexpr const char* DialogsPlace = "COMDLG32.DLL";
 static constexpr int NameDoesNotFit = 12291;
@@ -147,6 +148,19 @@ QString clsComdlg::RunFileDialog(QFileDialog& dialog)
     return {};
 }
 
+/// Number of the chosen filter, from 1. The dialog names it with or without the patterns behind it.
+static std::optional<std::int32_t> ChosenFilter(const QStringList& filters, const QString& chosen)
+{
+    for (qsizetype i = 0; i < filters.size(); ++i)
+    {
+        if (filters.at(i) == chosen || filters.at(i).startsWith(chosen + QStringLiteral(" (")))
+        {
+            return static_cast<std::int32_t>(i + 1);
+        }
+    }
+    return std::nullopt;
+}
+
 void clsComdlg::TakeFile(QFileDialog& dialog, const QString& path)
 {
     if (path.isEmpty())
@@ -160,11 +174,7 @@ void clsComdlg::TakeFile(QFileDialog& dialog, const QString& path)
     }
     FileName = fullPath;
     FileTitle = QFileInfo(path).fileName();
-    const auto filter = NameFilters(filterNulls).indexOf(dialog.selectedNameFilter());
-    if (filter >= 0)
-    {
-        FilterIndex = static_cast<std::int32_t>(filter + 1);
-    }
+    FilterIndex = ChosenFilter(NameFilters(filterNulls), dialog.selectedNameFilter()).value_or(FilterIndex);
 }
 
 void clsComdlg::ShowOpen()

@@ -49,8 +49,6 @@ frmHelp::frmHelp()
     setAttribute(Qt::WA_QuitOnClose, false);
     ui->splPages->setSizes({ContentsWidth, PageWidth});
     ui->splPages->setStretchFactor(1, 1);
-    ui->tbrHelp->insertWidget(ui->mnuFindPrevious, ui->txtFind);
-    ui->tbrHelp->addWidget(ui->lblFound);
     Connect();
 }
 

@@ -5,12 +5,13 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QLayout>
 #include <QWindow>
 
 static constexpr int LongestWaitMs = 500;
 
 frmPrinting::frmPrinting(QWidget* parent)
-    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint)
+    : QWidget(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint)
     , ui(std::make_unique<Ui::frmPrinting>())
 {
     ui->setupUi(this);
@@ -21,10 +22,6 @@ frmPrinting::frmPrinting(QWidget* parent)
 }
 
 frmPrinting::~frmPrinting() = default;
-
-void frmPrinting::reject()
-{
-}
 
 /// Printing keeps the event loop from painting, so the notice waits for its place on the screen here.
 void frmPrinting::PaintNow()

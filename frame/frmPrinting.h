@@ -2,7 +2,7 @@
 
 /// The notice that stands on the screen while the program prints.
 
-#include <QDialog>
+#include <QWidget>
 
 #include <memory>
 
@@ -16,7 +16,7 @@ class frmPrinting;
 ///     const frmPrinting notice(this);   // shown and painted
 ///     PrintDataHeader(printer);         // however this ends, the notice goes
 ///
-class frmPrinting : public QDialog
+class frmPrinting : public QWidget
 {
     Q_OBJECT
 
@@ -24,9 +24,6 @@ public:
     /// Returns when the notice is painted, or after half a second where nothing shows it.
     explicit frmPrinting(QWidget* parent = nullptr);
     ~frmPrinting() override;
-
-    /// Escape is no way to end a print.
-    void reject() override;
 
 private:
     void PaintNow();

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QObject>
+
+/// About box, printing notice and the program's icon.
+class NoticesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void AboutTellsTitleAndVersion();
+    void AboutClosesByItsButton();
+    void AboutCannotBeResized();
+    void PrintingNoticeIsShownWhileItLives();
+    void PrintingNoticeStaysOnEscape();
+    void IconIsDrawnAtEverySize();
+};
