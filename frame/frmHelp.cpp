@@ -49,6 +49,9 @@ frmHelp::frmHelp()
     setAttribute(Qt::WA_QuitOnClose, false);
     ui->splPages->setSizes({ContentsWidth, PageWidth});
     ui->splPages->setStretchFactor(1, 1);
+    // Search box and answer stand behind the buttons, which then stay where they are.
+    const auto searchBox = ui->tbrHelp->actions().first(2);
+    ui->tbrHelp->addActions(searchBox);
     Connect();
 }
 
