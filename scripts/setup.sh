@@ -3,6 +3,7 @@
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev libqt6svg6-dev qt6-qpa-plugins libgl-dev
     libgmock-dev fonts-liberation fontconfig)
 test_packages=(clang-format xvfb xdotool nlohmann-json3-dev poppler-utils cups)
+bench_packages=(libbenchmark-dev)
 
 # Installs the Debian packages of the named groups that are not there yet.
 need() {
@@ -11,6 +12,7 @@ need() {
         case $group in
             build) wanted+=("${build_packages[@]}") ;;
             test) wanted+=("${test_packages[@]}") ;;
+            bench) wanted+=("${bench_packages[@]}") ;;
         esac
     done
     for name in "${wanted[@]}"; do
@@ -37,8 +39,14 @@ check_format() {
     git ls-files -z '*.cpp' '*.h' | xargs -0 -r clang-format --dry-run --Werror
 }
 
-# Configures and builds one preset; warnings are errors.
+# Configures one preset and builds it, or only the named targets of it; warnings are errors.
+#   configure_and_build PRESET [TARGET...]
 configure_and_build() {
-    [ -f "build/$1/build.ninja" ] || cmake --preset "$1" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache >/dev/null
-    cmake --build --preset "$1" -- --quiet
+    local preset=$1
+    shift
+    if [ ! -f "build/$preset/build.ninja" ] || [ ${#configure_options[@]} -gt 0 ]; then
+        cmake --preset "$preset" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "${configure_options[@]}" >/dev/null
+    fi
+    cmake --build --preset "$preset" ${1:+--target "$@"} -- --quiet
 }
+configure_options=()
