@@ -12,15 +12,23 @@ class ChartPicture : public QWidget
     Q_OBJECT
 
 public:
-    using QWidget::QWidget;
+    explicit ChartPicture(QWidget* parent = nullptr);
 
     /// Shows this chart in these ranges from now on.
     void Show(const ChartView& shown);
     /// The chart and ranges in force.
     const ChartView& View() const { return view; }
 
+Q_SIGNALS:
+    /// The pointer is over the plot area, at a position of 0 to 100 in both directions.
+    void PointerMoved(double xPosition, double yPosition);
+    /// The pointer has left the plot area.
+    void PointerLeft();
+
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
 
 private:
     ChartView view{};

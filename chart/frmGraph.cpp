@@ -72,6 +72,16 @@ void frmGraph::Connect()
     connect(ui->mnuView, &QMenu::aboutToShow, this, &frmGraph::mnuView_Click);
     connect(ui->mnuFileReset, &QAction::triggered, this, [this] { host.mnuResetSelction_Click(); });
     connect(ui->mnuFileExit, &QAction::triggered, this, [this] { host.mnuExit_Click(); });
+    connect(ui->mnuFilePageSetup, &QAction::triggered, this, [this] { host.mnuFilePageSetup_Click(); });
+    connect(ui->mnuFilePrint, &QAction::triggered, this, &frmGraph::mnuFilePrint_Click);
+    connect(ui->mnuFileSaveData, &QAction::triggered, this, [this] { host.mnuSaveDataToFile_Click(); });
+    connect(ui->mnuPrintData, &QAction::triggered, this, [this] { host.mnuPrintData_Click(); });
+    connect(ui->mnuChartExpand, &QAction::triggered, this, &frmGraph::mnuChartExpand_Click);
+    connect(ui->mnuChartClipboard, &QAction::triggered, this, &frmGraph::mnuChartClipboard_Click);
+    connect(ui->mnuHelpContents, &QAction::triggered, this, [this] { host.mnuContents_Click(); });
+    connect(ui->mnuHelpAbout, &QAction::triggered, this, [this] { host.mnuAbout_Click(); });
+    connect(ui->picGraph, &ChartPicture::PointerMoved, this, &frmGraph::picGraph_MouseMove);
+    connect(ui->picGraph, &ChartPicture::PointerLeft, this, &frmGraph::picGraph_MouseLeave);
     connect(ui->mnuViewCode_0, &QAction::triggered, this, [this] { host.mnuViewCode_Click(0); });
     connect(ui->mnuViewCode_1, &QAction::triggered, this, [this] { host.mnuViewCode_Click(1); });
     connect(ui->mnuViewPart_0, &QAction::triggered, this, [this] { host.mnuPartNum_Click(0); });
@@ -88,6 +98,11 @@ void frmGraph::mnuFile_Click()
 {
     ui->mnuOutPut->setEnabled(false);
     ui->mnuOutPut->setEnabled(host.CanPlot());
+}
+
+void frmGraph::EnableOutput(bool enabled)
+{
+    ui->mnuOutPut->setEnabled(enabled);
 }
 
 void frmGraph::mnuView_Click()
@@ -116,7 +131,7 @@ void frmGraph::WriteMagnification(float xMax, float yMax, float xMin, float yMin
 {
     rescaled = notRescaled != 1;
     ClearReadOut();
-    InitChartWindow(ChartOfCaption(windowTitle().toStdString()));
+    InitChartWindow(Chart());
     Draw({.XMax = xMax, .YMax = yMax, .XMin = xMin, .YMin = yMin});
 }
 
@@ -144,28 +159,55 @@ void frmGraph::InitChartWindow(const ChartKey& chart)
 void frmGraph::Draw(const AxisRange& range)
 {
     axisRange = range;
-    const ChartView view{.Chart = ChartOfCaption(windowTitle().toStdString()),
-                         .Range = range,
-                         .Rescaled = rescaled,
-                         .DegreeSign = FromAnsi(mdlPublic.DegreeSign)};
+    const ChartView view{
+        .Chart = Chart(), .Range = range, .Rescaled = rescaled, .DegreeSign = FromAnsi(mdlPublic.DegreeSign)};
     PlaceCurves(view, mdlPublic.Charts.Lines());
     ui->picGraph->Show(view);
     FillStatusPanes();
 }
 
-void frmGraph::FillStatusPanes()
+/// The chart that the window shows: its caption names it.
+ChartKey frmGraph::Chart() const
 {
-    const ChartKey chart = ChartOfCaption(windowTitle().toStdString());
-    std::size_t position = 0;
+    return ChartOfCaption(windowTitle().toStdString());
+}
+
+/// The window's lines in store order.
+std::vector<const ChartRecord*> frmGraph::Lines() const
+{
+    std::vector<const ChartRecord*> lines;
+    const ChartKey chart = Chart();
     for (const ChartRecord& line : std::as_const(mdlPublic.Charts).Lines())
     {
-        if (KeyOf(line) == chart && position < MaximumLines)
+        if (KeyOf(line) == chart)
         {
-            const PartRecord& part = mdlPublic.Parts.PartData[static_cast<std::size_t>(line.PartDataIndex)];
-            lblStatus[position]->setText(FromAnsi(part.PartNum[static_cast<std::size_t>(GetPartNumForm())]));
-            lblPara[position]->setText(PaneText(line, FromAnsi(mdlPublic.DegreeSign)));
-            ++position;
+            lines.push_back(&line);
         }
+    }
+    return lines;
+}
+
+/// The part numbers of the window's lines, in the form on display.
+std::vector<QString> frmGraph::PartNums() const
+{
+    const auto form = static_cast<std::size_t>(GetPartNumForm());
+    std::vector<QString> partNums;
+    for (const ChartRecord* line : Lines())
+    {
+        const auto part = static_cast<std::size_t>(line->PartDataIndex);
+        partNums.push_back(FromAnsi(mdlPublic.Parts.PartData[part].PartNum[form]));
+    }
+    return partNums;
+}
+
+void frmGraph::FillStatusPanes()
+{
+    const auto lines = Lines();
+    const auto partNums = PartNums();
+    for (std::size_t p = 0; p < std::min(lines.size(), MaximumLines); ++p)
+    {
+        lblStatus[p]->setText(partNums[p]);
+        lblPara[p]->setText(PaneText(*lines[p], FromAnsi(mdlPublic.DegreeSign)));
     }
 }
 
@@ -235,7 +277,7 @@ void frmGraph::Form_Unload()
     {
         return;
     }
-    mdlPublic.Charts.RemoveChart(ChartOfCaption(windowTitle().toStdString()));
+    mdlPublic.Charts.RemoveChart(Chart());
     host.ChartUnloaded(this);
 }
 

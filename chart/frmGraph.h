@@ -10,6 +10,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 class ElidedLabel;
 class QGroupBox;
@@ -41,6 +42,9 @@ public:
     /// axes, unless `notRescaled` is 1.
     void WriteMagnification(float xMax, float yMax, float xMin, float yMin, int notRescaled = 0);
 
+    /// Offers the output commands or not.
+    void EnableOutput(bool enabled);
+
     /// The ranges in force.
     const AxisRange& Range() const { return axisRange; }
 
@@ -59,9 +63,17 @@ private:
     void Connect();
     void mnuFile_Click();
     void mnuView_Click();
+    void mnuFilePrint_Click();
+    void mnuChartExpand_Click();
+    void mnuChartClipboard_Click();
+    void picGraph_MouseMove(double xPosition, double yPosition);
+    void picGraph_MouseLeave();
     void InitChartWindow(const ChartKey& chart);
     void Draw(const AxisRange& range);
     void FillStatusPanes();
+    ChartKey Chart() const;
+    std::vector<const ChartRecord*> Lines() const;
+    std::vector<QString> PartNums() const;
     void ClearReadOut();
     void Form_Resize();
     void Form_Unload();

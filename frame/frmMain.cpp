@@ -4,8 +4,11 @@
 #include "app/Messages.h"
 #include "app/mdlPublic.h"
 #include "chart/frmGraph.h"
+#include "frame/HelpCommand.h"
+#include "frame/frmAbout.h"
 #include "ui_frmMain.h"
 
+#include <QPrinter>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -63,8 +66,13 @@ void frmMain::Connect()
 {
     connect(ui->mnuFile, &QMenu::aboutToShow, this, &frmMain::mnuFile_Click);
     connect(ui->mnuResetSelction, &QAction::triggered, this, &frmMain::mnuResetSelction_Click);
+    connect(ui->mnuSaveDataToFile, &QAction::triggered, this, &frmMain::mnuSaveDataToFile_Click);
+    connect(ui->mnuPrintData, &QAction::triggered, this, &frmMain::mnuPrintData_Click);
     connect(ui->mnuExit, &QAction::triggered, this, &frmMain::mnuExit_Click);
     connect(ui->mnuCloseAllChartWindows, &QAction::triggered, this, &frmMain::mnuCloseAllChartWindows_Click);
+    connect(ui->mnuContents, &QAction::triggered, this, &frmMain::mnuContents_Click);
+    connect(ui->mnuAbout, &QAction::triggered, this, &frmMain::mnuAbout_Click);
+    connect(library, &frmLibrary::CanPlotChanged, this, &frmMain::EnableOutput);
 
     const auto connectMark = [this](QAction* action, int index, void (frmMain::*command)(int))
     {
@@ -115,6 +123,7 @@ void frmMain::ShowNewChart()
     ui->mdiArea->addSubWindow(chart);
     forms.push_back(chart);
     connect(chart, &frmGraph::windowStateChanged, this, &frmMain::ArrangeIcons, Qt::QueuedConnection);
+    chart->EnableOutput(CanPlot());
     chart->Form_Load();
     chart->show();
 }
@@ -226,6 +235,16 @@ void frmMain::mnuFile_Click()
     ui->mnuOutPut->setEnabled(CanPlot());
 }
 
+/// Keeps the output commands in step with Plot, for shortcuts that open no menu.
+void frmMain::EnableOutput(bool enabled)
+{
+    ui->mnuOutPut->setEnabled(enabled);
+    for (frmGraph* chart : Charts())
+    {
+        chart->EnableOutput(enabled);
+    }
+}
+
 void frmMain::mnuResetSelction_Click()
 {
     library->AllClear();
@@ -292,4 +311,17 @@ void frmMain::mnuCloseAllChartWindows_Click()
         last->close();
         std::erase(forms, last);
     }
+}
+
+void frmMain::mnuContents_Click()
+{
+    ShowHelpContents(this);
+}
+
+void frmMain::mnuAbout_Click()
+{
+    frmAbout box(this);
+    forms.push_back(&box);
+    box.exec();
+    std::erase(forms, &box);
 }

@@ -3,13 +3,16 @@
 /// The main window: the selection form, the chart windows, and the menus over both.
 
 #include "chart/ChartHost.h"
+#include "frame/PrintJob.h"
 #include "selection/frmLibrary.h"
 
 #include <QMainWindow>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
+class QPrinter;
 class frmGraph;
 class QMdiSubWindow;
 
@@ -38,10 +41,16 @@ public:
     void ShowNewChart() override;
     bool ShowSameChart(const QString& caption) override;
     void SwitchCodeView(int index) override;
+    void PrintChart(const ChartPage& page) override;
 
     // The commands of the menus.
     void mnuFile_Click();
     void mnuResetSelction_Click() override;
+    void mnuSaveDataToFile_Click() override;
+    void mnuPrintData_Click() override;
+    void mnuFilePageSetup_Click() override;
+    void mnuContents_Click() override;
+    void mnuAbout_Click() override;
     void mnuExit_Click() override;
     void mnuViewCode_Click(int index) override;
     void mnuPartNum_Click(int index) override;
@@ -58,10 +67,17 @@ private:
     void WatchChildArea();
     void UpdateChartPartLabels(int newForm);
     std::vector<frmGraph*> Charts() const;
+    void EnableOutput(bool enabled);
+    std::optional<ChartRecord> CurrentCurve();
+    void SaveData(const ChartRecord& line);
+    void PrintData(const ChartRecord& line);
+    QPrinter& Printer();
+    void PrintWithNotice(const DrawPage& drawPage);
 
     std::unique_ptr<Ui::frmMain> ui;
     frmLibrary* library;
     /// The loaded forms in the order of loading: this window, the selection form, then chart windows.
     std::vector<QWidget*> forms;
     QList<QAction*> mainMenus;
+    std::unique_ptr<QPrinter> printer;
 };

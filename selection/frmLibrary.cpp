@@ -287,6 +287,11 @@ std::int16_t frmLibrary::GetSelectedPart() const
     return part != nullptr ? *part : std::int16_t{-1};
 }
 
+QString frmLibrary::ShownPartNum() const
+{
+    return ui->cmbPartNum->currentText();
+}
+
 const PartRecord& frmLibrary::SelectedPart() const
 {
     static const PartRecord none;
@@ -297,12 +302,14 @@ const PartRecord& frmLibrary::SelectedPart() const
 void frmLibrary::IncompletePart()
 {
     ui->cmdPlot->setEnabled(false);
+    Q_EMIT CanPlotChanged(false);
     DisableConditions();
 }
 
 void frmLibrary::CompletePart()
 {
     ui->cmdPlot->setEnabled(true);
+    Q_EMIT CanPlotChanged(true);
     EnableConditions(GetChartType());
 }
 

@@ -66,6 +66,8 @@ public:
     void ChangeTcc();
     /// Index of the part whose number is shown, or -1.
     std::int16_t GetSelectedPart() const;
+    /// The text of the part-number box.
+    QString ShownPartNum() const;
 
     // Chart type, axes and parameter.
     std::int16_t GetChartType() const;
@@ -103,6 +105,10 @@ public:
 
     /// Plot is enabled: a complete part is selected.
     bool CanPlot() const;
+
+Q_SIGNALS:
+    /// A part has become complete or incomplete, and Plot with it.
+    void CanPlotChanged(bool canPlot);
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -1,0 +1,87 @@
+#include "chart/frmGraph.h"
+
+#include "app/Messages.h"
+#include "app/Texts.h"
+#include "app/mdlPublic.h"
+#include "calc/ChartNames.h"
+#include "chart/ElidedLabel.h"
+#include "chart/drawing/ChartSheet.h"
+#include "chart/drawing/PaneText.h"
+#include "chart/drawing/ReadOut.h"
+#include "chart/frmSetAxis.h"
+#include "ui_frmGraph.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QPainter>
+
+// ---- Mouse read-out ----
+
+void frmGraph::picGraph_MouseMove(double xPosition, double yPosition)
+{
+    const ChartView& view = ui->picGraph->View();
+    const auto lines = Lines();
+    if (lines.empty())
+    {
+        return;
+    }
+    panels[0]->setText(XReadOut(view, xPosition));
+    panels[1]->setText(YReadOut(view, yPosition));
+    for (std::size_t p = 0; p < std::min(lines.size(), MaximumLines); ++p)
+    {
+        lblPara[p]->setText(LineReadOut(view, *lines[p], xPosition));
+    }
+}
+
+void frmGraph::picGraph_MouseLeave()
+{
+    ClearReadOut();
+    FillStatusPanes();
+}
+
+// ---- The Chart menu ----
+
+void frmGraph::mnuChartExpand_Click()
+{
+    const AxisRange defaults = DefaultRange(Chart(), mdlPublic.Charts.Lines());
+    frmSetAxis dialog(ui->picGraph->View(), defaults, this);
+    if (dialog.exec() == QDialog::Accepted)
+    {
+        const AxisRange& range = dialog.Range();
+        WriteMagnification(range.XMax, range.YMax, range.XMin, range.YMin);
+    }
+}
+
+/// Puts a picture of chart and panes on the clipboard, at twice the screen's resolution.
+void frmGraph::mnuChartClipboard_Click()
+{
+    const double scale = 2 * devicePixelRatioF();
+    QImage picture((sheetSize * scale).toSize(), QImage::Format_RGB32);
+    picture.setDevicePixelRatio(scale);
+    QPainter painter(&picture);
+    DrawChartSheet(ui->picGraph->View(), std::as_const(mdlPublic.Charts).Lines(), PartNums(), painter);
+    painter.end();
+    QGuiApplication::clipboard()->setImage(picture);
+}
+
+// ---- Printing ----
+
+void frmGraph::mnuFilePrint_Click()
+{
+    const ChartKey chart = Chart();
+    const auto name = ChartTypeNames[static_cast<std::size_t>(chart.ChartType)];
+    const auto question = QStringLiteral("Would you print %1 Chart ?").arg(FromAnsi(name));
+    if (!AskOkCancel(this, question))
+    {
+        return;
+    }
+    const auto partNumber = [](std::int32_t part)
+    {
+        const auto form = static_cast<std::size_t>(GetPartNumForm());
+        return FromAnsi(mdlPublic.Parts.PartData[static_cast<std::size_t>(part)].PartNum[form]);
+    };
+    host.PrintChart({.View = ui->picGraph->View(),
+                     .Lines = std::as_const(mdlPublic.Charts).Lines(),
+                     .Title = windowTitle(),
+                     .PartNumber = partNumber});
+}

@@ -1,0 +1,141 @@
+#include "chart/frmSetAxis.h"
+
+#include "app/Entries.h"
+#include "app/Messages.h"
+#include "calc/NumberText.h"
+#include "chart/drawing/AxisLimits.h"
+#include "ui_frmSetAxis.h"
+
+#include <QFocusEvent>
+#include <QLineEdit>
+
+/// Frequencies are kept in Hz and shown in kHz; every other quantity is shown as it is kept.
+static float ShownFactor(const std::string& quantity)
+{
+    return quantity == "Frequency" ? 1000.0F : 1.0F;
+}
+
+static QString ShownText(float value, const std::string& quantity)
+{
+    return QString::fromStdString(NumberText(value / ShownFactor(quantity)));
+}
+
+frmSetAxis::frmSetAxis(const ChartView& shown, const AxisRange& chartDefaults, QWidget* parent)
+    : QDialog(parent)
+    , ui(std::make_unique<Ui::frmSetAxis>())
+    , view(shown)
+    , defaults(chartDefaults)
+{
+    ui->setupUi(this);
+    txtX = {ui->txtX_0, ui->txtX_1};
+    txtY = {ui->txtY_0, ui->txtY_1};
+    const std::string& xName = view.Chart.XAxisName;
+    const std::string& yName = view.Chart.YAxisName;
+    txtX[0]->setText(ShownText(view.Range.XMin, xName));
+    txtX[1]->setText(ShownText(view.Range.XMax, xName));
+    txtY[0]->setText(ShownText(view.Range.YMin, yName));
+    txtY[1]->setText(ShownText(view.Range.YMax, yName));
+    ui->lblXunit->setText(GetUnit(QString::fromStdString(xName), view.DegreeSign));
+    ui->lblYunit->setText(GetUnit(QString::fromStdString(yName), view.DegreeSign));
+    for (QLineEdit* box : {txtX[0], txtX[1], txtY[0], txtY[1]})
+    {
+        box->installEventFilter(this);
+    }
+    connect(ui->cmdOK, &QPushButton::clicked, this, &frmSetAxis::cmdOK_Click);
+    connect(ui->cmdCancel, &QPushButton::clicked, this, &frmSetAxis::cmdCancel_Click);
+}
+
+frmSetAxis::~frmSetAxis() = default;
+
+/// Centres the dialog over the main window.
+void frmSetAxis::Form_Load()
+{
+    if (const QWidget* mainWindow = parentWidget() != nullptr ? parentWidget()->window() : nullptr)
+    {
+        const QRect over = mainWindow->frameGeometry();
+        move(over.left() + (over.width() - frameGeometry().width()) / 2,
+             over.top() + (over.height() - frameGeometry().height()) / 2);
+    }
+}
+
+void frmSetAxis::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    Form_Load();
+}
+
+/// A box selects its whole text as it gets the focus, so that typing replaces it.
+bool frmSetAxis::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FocusIn)
+    {
+        qobject_cast<QLineEdit*>(watched)->selectAll();
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void frmSetAxis::cmdCancel_Click()
+{
+    reject();
+}
+
+void frmSetAxis::cmdOK_Click()
+{
+    if (!AreEntriesNumeric() || !CheckAxisRange())
+    {
+        return;
+    }
+    const float xFactor = ShownFactor(view.Chart.XAxisName);
+    const float yFactor = ShownFactor(view.Chart.YAxisName);
+    range = {.XMax = *EntryOf(txtX[1]) * xFactor,
+             .YMax = *EntryOf(txtY[1]) * yFactor,
+             .XMin = *EntryOf(txtX[0]) * xFactor,
+             .YMin = *EntryOf(txtY[0]) * yFactor};
+    accept();
+}
+
+void frmSetAxis::Refuse(QLineEdit* box, const QString& message)
+{
+    ShowExclamation(this, message);
+    box->setFocus();
+    box->selectAll();
+}
+
+bool frmSetAxis::AreEntriesNumeric()
+{
+    for (QLineEdit* box : {txtX[0], txtX[1], txtY[0], txtY[1]})
+    {
+        if (!EntryOf(box))
+        {
+            Refuse(box, QStringLiteral("A Non-numerical value exits where numerical value should be in."));
+            return false;
+        }
+    }
+    return true;
+}
+
+bool frmSetAxis::CheckAxisRange()
+{
+    return CheckAxis("X", view.Chart.XAxisName, txtX, PermittedXRange(view.Chart, defaults)) &&
+           CheckAxis("Y", view.Chart.YAxisName, txtY, PermittedYRange(view.Chart, defaults));
+}
+
+/// Both entries of an axis must be permitted, and the first below the second.
+bool frmSetAxis::CheckAxis(const char* axis, const std::string& quantity,
+                           const std::array<QLineEdit*, 2>& boxes, const PermittedRange& permitted)
+{
+    const float from = *EntryOf(boxes[0]);
+    const float to = *EntryOf(boxes[1]);
+    if (permitted.Contains(from) && permitted.Contains(to) && from < to)
+    {
+        return true;
+    }
+    // Messages show units without the degree sign.
+    const auto name = QString::fromStdString(quantity);
+    const auto message =
+        QStringLiteral("Set %1 Range of %2 from %3 to %4 %5")
+            .arg(QString::fromLatin1(axis), name, QString::fromStdString(NumberText(permitted.Lowest)),
+                 QString::fromStdString(NumberText(permitted.Highest)), GetUnit(name, {}));
+    Refuse(permitted.Contains(from) ? boxes[1] : boxes[0], message);
+    return false;
+}

@@ -1,0 +1,187 @@
+#include "frame/frmMain.h"
+
+#include "app/HourglassScope.h"
+#include "app/Messages.h"
+#include "app/Texts.h"
+#include "app/WholeFile.h"
+#include "app/mdlPublic.h"
+#include "calc/DataFile.h"
+#include "frame/DataPage.h"
+#include "frame/LastFolder.h"
+#include "frame/PrintJob.h"
+#include "frame/clsComdlg.h"
+#include "frame/frmPrinting.h"
+
+#include <QDate>
+#include <QLocale>
+#include <QPrinter>
+
+/// Today in the user's short date format.
+static QString Today()
+{
+    return QLocale().toString(QDate::currentDate(), QLocale::ShortFormat);
+}
+
+static const PartRecord& PartOf(const ChartRecord& line)
+{
+    return mdlPublic.Parts.PartData[static_cast<std::size_t>(line.PartDataIndex)];
+}
+
+/// Runs the steps of a command: a cancelled dialog ends it silently, any other error is shown.
+template <class Steps> static void RunCommand(QWidget* window, Steps steps)
+{
+    try
+    {
+        steps();
+    }
+    catch (const RunTimeError& error)
+    {
+        if (error.Number() != static_cast<int>(RunTimeErrorNumber::Cancelled))
+        {
+            ShowUnexpectedError(window, error);
+        }
+    }
+}
+
+/// The curve of the current selection, beside the store of plotted lines; nothing when its parameter is
+/// refused, which the user is then told.
+std::optional<ChartRecord> frmMain::CurrentCurve()
+{
+    ChartRecord line = library->WriteChartData(library->GetSelectedPart(), library->GetChartType());
+    if (const auto refusal = frmLibrary::Calculate(line))
+    {
+        library->ReportParameter(*refusal);
+        return std::nullopt;
+    }
+    return line;
+}
+
+// ---- Saving data ----
+
+/// A file name from a part number: what the file system forbids becomes "_".
+static QString FileNameOf(QString partNum)
+{
+#ifdef _WIN32
+    static const QString forbidden = QStringLiteral("\\/:*?\"<>|");
+#else
+    static const QString forbidden = QStringLiteral("/");
+#endif
+    for (QChar& c : partNum)
+    {
+        if (forbidden.contains(c) || c.category() == QChar::Other_Control)
+        {
+            c = QLatin1Char('_');
+        }
+    }
+    return partNum;
+}
+
+void frmMain::mnuSaveDataToFile_Click()
+{
+    if (!library->CheckChartConditions())
+    {
+        return;
+    }
+    RunCommand(this,
+               [this]
+               {
+                   if (const auto line = CurrentCurve())
+                   {
+                       SaveData(*line);
+                   }
+               });
+}
+
+/// Asks for a file and writes a curve to it.
+void frmMain::SaveData(const ChartRecord& line)
+{
+    clsComdlg dialog;
+    dialog.hWndOwner = this;
+    dialog.Flags = 6;
+    dialog.InitDir = LastFolder();
+    dialog.Filter(QStringLiteral("tavik Data Files (*.tvk)|*.tvk|All Files (*.*)|*.*|"));
+    dialog.FilterIndex = 1;
+    dialog.FileName = FileNameOf(library->ShownPartNum()) + QStringLiteral(".tvk");
+    dialog.ShowSave();
+    RememberFolder(dialog.FileName, dialog.FileTitle);
+    {
+        const HourglassScope hourglass;
+        const auto text = DataFileText(line, PartOf(line), GetCodeView(), ToAnsi(Today()));
+        WriteWholeFile(dialog.FileName, QByteArray::fromStdString(text));
+    }
+    ShowInformation(this, QStringLiteral("tavik Data saved to ") + dialog.FileName);
+}
+
+// ---- Printing ----
+
+/// The printer of the running program: what is set up once holds until the program ends.
+QPrinter& frmMain::Printer()
+{
+    if (!printer)
+    {
+        printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    }
+    return *printer;
+}
+
+void frmMain::mnuFilePageSetup_Click()
+{
+    RunCommand(this,
+               [this]
+               {
+                   clsComdlg dialog(&Printer());
+                   dialog.hWndOwner = this;
+                   dialog.Flags = 64;
+                   dialog.ShowPrinter();
+               });
+}
+
+void frmMain::PrintChart(const ChartPage& page)
+{
+    RunCommand(this,
+               [&]
+               {
+                   clsComdlg dialog(&Printer());
+                   dialog.hWndOwner = this;
+                   dialog.ShowPrinter();
+                   const SurfaceKind kind = KindOf(Printer());
+                   PrintWithNotice([&](QPainter& painter, const PageArea& area)
+                                   { DrawChartPage(page, area, kind, painter); });
+               });
+}
+
+void frmMain::mnuPrintData_Click()
+{
+    if (!library->CheckChartConditions())
+    {
+        return;
+    }
+    RunCommand(this,
+               [this]
+               {
+                   const auto line = CurrentCurve();
+                   const auto question = QStringLiteral("Would you print %1 Data ?");
+                   if (line && AskOkCancel(this, question.arg(library->ShownPartNum())))
+                   {
+                       PrintData(*line);
+                   }
+               });
+}
+
+void frmMain::PrintData(const ChartRecord& line)
+{
+    const DataPage page{.Line = line,
+                        .Part = PartOf(line),
+                        .View = GetCodeView(),
+                        .Date = Today(),
+                        .DegreeSign = FromAnsi(mdlPublic.DegreeSign)};
+    PrintWithNotice([&](QPainter& painter, const PageArea& area) { DrawDataPage(page, area, painter); });
+}
+
+/// Prints one page with the notice on the screen.
+void frmMain::PrintWithNotice(const DrawPage& drawPage)
+{
+    const HourglassScope hourglass;
+    const frmPrinting notice(this);
+    PrintPage(Printer(), drawPage);
+}
