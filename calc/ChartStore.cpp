@@ -50,6 +50,11 @@ void ChartStore::Write(ChartRecord record)
     ChartData.back() = std::move(record);
 }
 
+void ChartStore::ClearWorkingRecord()
+{
+    Write({});
+}
+
 int ChartStore::RemoveChart(const ChartKey& key)
 {
     ChartData.resize(static_cast<std::size_t>(CurrentChart));

@@ -44,6 +44,9 @@ public:
     /// Grows the store to `CurrentChart` and puts the record there; `CurrentChart` stays.
     void Write(ChartRecord record);
 
+    /// Leaves an empty record at `CurrentChart`, as every command does that plots no line.
+    void ClearWorkingRecord();
+
     /// Removes every line of the chart; the other lines keep their order at lower indices.
     /// Without lines the store is one empty record. Returns the number of removed lines.
     int RemoveChart(const ChartKey& key);

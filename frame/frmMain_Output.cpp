@@ -27,9 +27,11 @@ static const PartRecord& PartOf(const ChartRecord& line)
     return mdlPublic.Parts.PartData[static_cast<std::size_t>(line.PartDataIndex)];
 }
 
-/// Runs the steps of a command: a cancelled dialog ends it silently, any other error is shown.
+/// Runs the steps of a command that plots no line: a cancelled dialog ends it silently, any other error is
+/// shown.
 template <class Steps> static void RunCommand(QWidget* window, Steps steps)
 {
+    mdlPublic.Charts.ClearWorkingRecord();
     try
     {
         steps();

@@ -209,11 +209,12 @@ void frmLibrary::Plot(int lines)
     catch (const RunTimeError& error)
     {
         // A line that could not be shown is not kept.
-        mdlPublic.Charts.Write({});
+        mdlPublic.Charts.ClearWorkingRecord();
         ShowUnexpectedError(this, error);
     }
     if (refusal)
     {
+        mdlPublic.Charts.ClearWorkingRecord();
         ReportParameter(*refusal);
     }
 }

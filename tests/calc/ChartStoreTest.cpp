@@ -77,6 +77,19 @@ TEST(ChartStore, DoesNotCountTheWorkingRecord)
     EXPECT_EQ(store.CountSameCharts({}), 0);
 }
 
+TEST(ChartStore, ClearsTheWorkingRecordAlone)
+{
+    ChartStore store;
+    Plot(store, Rise, 1);
+    ChartRecord working;
+    working.PartDataIndex = 9;
+    store.Write(working);
+    store.ClearWorkingRecord();
+    ASSERT_EQ(store.ChartData.size(), 2U);
+    EXPECT_TRUE(IsEmpty(store.ChartData[1]));
+    EXPECT_THAT(PartsOf(store), ElementsAre(1));
+}
+
 TEST(ChartStore, TellsLinesApartByEveryCondition)
 {
     ChartRecord line;

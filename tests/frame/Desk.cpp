@@ -285,13 +285,14 @@ bool StoreIsWhole()
 {
     const ChartStore& store = mdlPublic.Charts;
     const auto lines = static_cast<std::size_t>(store.CurrentChart);
-    if (lines > 0)
+    if (lines > 0 && store.ChartData.size() == lines)
     {
-        return store.ChartData.size() == lines;
+        return true;
     }
-    const ChartRecord& only = store.ChartData.front();
-    return store.ChartData.size() == 1 && only.ChartType == 0 && only.XAxisName.empty() &&
-           only.YAxisName.empty();
+    // Behind the lines stands the working record of the last command, empty.
+    const ChartRecord& working = store.ChartData.back();
+    return store.ChartData.size() == lines + 1 && working.ChartType == 0 && working.XAxisName.empty() &&
+           working.YAxisName.empty();
 }
 
 bool IsAtRest()
