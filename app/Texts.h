@@ -4,6 +4,8 @@
 
 #include "partdata/Windows1252.h"
 
+#include <QDate>
+#include <QLocale>
 #include <QString>
 
 /// A text of the part files.
@@ -16,4 +18,10 @@ inline QString FromAnsi(std::string_view text)
 inline std::string ToAnsi(const QString& text)
 {
     return Windows1252FromUtf8(text.toStdString());
+}
+
+/// Today in the user's short date format.
+inline QString Today()
+{
+    return QLocale().toString(QDate::currentDate(), QLocale::ShortFormat);
 }

@@ -82,6 +82,6 @@ void frmGraph::mnuFilePrint_Click()
     };
     host.PrintChart({.View = ui->picGraph->View(),
                      .Lines = std::as_const(mdlPublic.Charts).Lines(),
-                     .Title = windowTitle(),
+                     .Title = ProgramTitle() + QStringLiteral("  ") + Today(),
                      .PartNumber = partNumber});
 }

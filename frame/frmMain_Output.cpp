@@ -12,15 +12,7 @@
 #include "frame/clsComdlg.h"
 #include "frame/frmPrinting.h"
 
-#include <QDate>
-#include <QLocale>
 #include <QPrinter>
-
-/// Today in the user's short date format.
-static QString Today()
-{
-    return QLocale().toString(QDate::currentDate(), QLocale::ShortFormat);
-}
 
 static const PartRecord& PartOf(const ChartRecord& line)
 {
