@@ -8,6 +8,7 @@
 #include "frame/frmMain.h"
 #include "partdata/RunTimeError.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
@@ -16,6 +17,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
+#include <QTimer>
 
 #include <array>
 #include <iostream>
@@ -65,6 +67,19 @@ public:
     /// The chart window in front, alone.
     void SaveChart(const char* name) { Save(*window.findChild<QMdiArea*>()->activeSubWindow(), name); }
 
+    /// The axis-range dialog of the chart in front.
+    void SaveAxisRange(const char* name)
+    {
+        QTimer::singleShot(0, &window,
+                           [this, name]
+                           {
+                               QWidget* dialog = QApplication::activeModalWidget();
+                               Save(*dialog, name);
+                               dialog->close();
+                           });
+        window.findChild<QMdiArea*>()->activeSubWindow()->findChild<QAction*>("mnuChartExpand")->trigger();
+    }
+
     bool AllSaved() const { return allSaved; }
 
 private:
@@ -104,6 +119,7 @@ void CompareTemperatureRise(User& user)
     }
     user.SaveWindow("main-window");
     user.SaveChart("temperature-rise");
+    user.SaveAxisRange("axis-range");
 }
 
 void CompareAllowablePower(User& user)
