@@ -5,6 +5,7 @@
 /// A designer has a 12 V rail with 1.5 A of ripple at 300 kHz and compares three parts of 10 µF.
 
 #include "app/mdlPublic.h"
+#include "frame/ProgramIcon.h"
 #include "frame/frmMain.h"
 #include "partdata/RunTimeError.h"
 
@@ -159,6 +160,7 @@ void CompareCapacitance(User& user)
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
+    QApplication::setWindowIcon(ProgramIcon());
     if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1])))
     {
         std::cerr << "usage: tour FOLDER\n";
