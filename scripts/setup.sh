@@ -1,8 +1,8 @@
 # Shared by ./run and ./test: installing what is missing, formatting, building.
 
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev libqt6svg6-dev qt6-qpa-plugins libgl-dev
-    libgmock-dev fonts-liberation fontconfig)
-test_packages=(clang-format xvfb xdotool nlohmann-json3-dev poppler-utils cups)
+    libcli11-dev nlohmann-json3-dev libgmock-dev fonts-liberation fontconfig)
+test_packages=(clang-format xvfb xdotool poppler-utils cups)
 bench_packages=(libbenchmark-dev)
 
 # Installs the Debian packages of the named groups that are not there yet.

@@ -1,0 +1,5 @@
+#include "cli/Commands.h"
+
+void AddCommands(CLI::App&)
+{
+}

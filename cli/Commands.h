@@ -1,0 +1,12 @@
+#pragma once
+
+/// The commands of the command line. Each function adds one command with its options; the command runs as
+/// soon as the command line is parsed and ends a failure with a `CommandError` or a `RunTimeError`.
+
+namespace CLI
+{
+class App;
+}
+
+/// Adds every command; see `main`.
+void AddCommands(CLI::App& app);
