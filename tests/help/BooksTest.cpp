@@ -1,0 +1,144 @@
+/// The two help books: the same chapters, links that lead somewhere, and every message explained.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <regex>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace
+{
+
+std::string BookText(const std::string& name)
+{
+    std::ifstream file(std::string(BOOKS) + "/" + name, std::ios::binary);
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
+}
+
+/// First groups of all matches, in order.
+std::vector<std::string> All(const std::string& text, const char* pattern)
+{
+    const std::regex expression(pattern);
+    std::vector<std::string> found;
+    for (std::sregex_iterator match(text.begin(), text.end(), expression), end; match != end; ++match)
+    {
+        found.push_back((*match)[1]);
+    }
+    return found;
+}
+
+/// The text with its lines joined and its entities and tags taken away.
+std::string PlainText(std::string text)
+{
+    text = std::regex_replace(text, std::regex("<[^>]*>"), "");
+    text = std::regex_replace(text, std::regex("&quot;"), "\"");
+    text = std::regex_replace(text, std::regex("&amp;"), "&");
+    return std::regex_replace(text, std::regex("\\s+"), " ");
+}
+
+/// Number of characters of at least three UTF-8 bytes: Japanese letters, in these books.
+std::size_t WideCharacters(const std::string& text)
+{
+    return static_cast<std::size_t>(
+        std::ranges::count_if(text, [](char c) { return (static_cast<unsigned char>(c) & 0xF0U) == 0xE0; }));
+}
+
+class EachBook : public testing::TestWithParam<const char*>
+{
+};
+
+TEST_P(EachBook, HasAnAnchorForEachChapterAndSection)
+{
+    const auto text = BookText(GetParam());
+    EXPECT_EQ(All(text, "<(h2)>").size(), 10U);
+    EXPECT_EQ(All(text, "<h2><a name=\"([^\"]+)\"").size(), 10U);
+    EXPECT_EQ(All(text, "<(h3)>").size(), All(text, "<h3><a name=\"([^\"]+)\"").size());
+}
+
+TEST_P(EachBook, LinksLeadToAnchorsOfItsOwn)
+{
+    const auto text = BookText(GetParam());
+    const auto anchors = All(text, "<a name=\"([^\"]+)\"");
+    const std::set<std::string> known(anchors.begin(), anchors.end());
+    EXPECT_EQ(known.size(), anchors.size()) << "an anchor stands twice";
+    const auto links = All(text, "<a href=\"#([^\"]+)\"");
+    EXPECT_GE(links.size(), 10U);
+    for (const auto& link : links)
+    {
+        EXPECT_TRUE(known.contains(link)) << link;
+    }
+}
+
+TEST_P(EachBook, ShowsPicturesThatExist)
+{
+    const auto pictures = All(BookText(GetParam()), "<img src=\"([^\"]+)\"");
+    EXPECT_GE(pictures.size(), 6U);
+    for (const auto& picture : pictures)
+    {
+        EXPECT_TRUE(std::filesystem::exists(std::string(BOOKS) + "/" + picture)) << picture;
+    }
+}
+
+TEST_P(EachBook, HasNoEmptyChapter)
+{
+    const auto text = std::regex_replace(BookText(GetParam()), std::regex("\\n"), " ");
+    for (std::size_t at = text.find("<h2>"); at != std::string::npos;)
+    {
+        const auto next = text.find("<h2>", at + 1);
+        EXPECT_GT(PlainText(text.substr(at, next - at)).size(), 400U) << text.substr(at, 60);
+        at = next;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Books, EachBook, testing::Values("tavike.hlp", "tavikj.hlp"),
+                         [](const auto& book) { return std::string(book.param).substr(0, 6); });
+
+TEST(Books, HaveTheSameAnchorsInTheSameOrder)
+{
+    EXPECT_EQ(All(BookText("tavike.hlp"), "<a name=\"([^\"]+)\""),
+              All(BookText("tavikj.hlp"), "<a name=\"([^\"]+)\""));
+}
+
+TEST(Books, AreWrittenInTheirLanguages)
+{
+    EXPECT_LT(WideCharacters(PlainText(BookText("tavike.hlp"))), 200U);
+    EXPECT_GT(WideCharacters(PlainText(BookText("tavikj.hlp"))), 8000U);
+}
+
+TEST(Books, ExplainEveryMessage)
+{
+    const auto english = PlainText(BookText("tavike.hlp"));
+    const auto japanese = PlainText(BookText("tavikj.hlp"));
+    for (const char* message : {
+             "It is already started.",
+             "DC Bias Voltage is invalid!",
+             "Frequency is invalid!",
+             "Heat Resistance is invalid!",
+             "Ambient Temperature is invalid!",
+             "Parameter is invalid!",
+             "A Non-numerical value exists where numerical value should be in.",
+             "A Non-numerical value exits where numerical value should be in.",
+             "This Chart is already opened!",
+             "Maximum Numbers of this Chart Type open!",
+             "Close all chart windows",
+             "There is no Help File.",
+             "tavik Data saved to",
+             "Unexpected Error",
+             "There is no printer in this system.",
+             "Would you print",
+         })
+    {
+        EXPECT_THAT(english, testing::HasSubstr(message));
+        EXPECT_THAT(japanese, testing::HasSubstr(message));
+    }
+}
+
+} // namespace
