@@ -2,7 +2,7 @@
 ///
 ///     tour FOLDER
 ///
-/// A designer has a 12 V rail with 1.5 A of ripple at 300 kHz and compares three parts of 10 µF.
+/// A designer has a 12 V rail with 1.5 A of ripple at 300 kHz and compares three parts.
 
 #include "app/mdlPublic.h"
 #include "frame/ProgramIcon.h"
@@ -26,8 +26,8 @@
 namespace
 {
 
-constexpr std::array<const char*, 3> ComparedParts = {"KTS21JB51E106MA01", "KTS31NB51E106MA01",
-                                                      "KTS32XR71E106KA01"};
+constexpr std::array<const char*, 3> ComparedParts = {"KTS31NR71E475KA01", "KTS21JB51E106MA01",
+                                                      "KTS32XF51E106ZA01"};
 
 /// A user at the main window: finds controls by name and works them with keys and clicks.
 class User
@@ -64,6 +64,9 @@ public:
 
     /// The whole window, as it stands.
     void SaveWindow(const char* name) { Save(window, name); }
+
+    /// The selection form alone.
+    void SaveForm(const char* name) { Save(*Find<QWidget>(QStringLiteral("frmLibraryContents")), name); }
 
     /// The chart window in front, alone.
     void SaveChart(const char* name) { Save(*window.findChild<QMdiArea*>()->activeSubWindow(), name); }
@@ -114,7 +117,7 @@ void CompareTemperatureRise(User& user)
         user.Enter("txtFrequency", "300");
         if (part == ComparedParts.front())
         {
-            user.SaveWindow("selection-form");
+            user.SaveForm("selection-form");
         }
         user.Plot();
     }
