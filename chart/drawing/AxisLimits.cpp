@@ -3,6 +3,18 @@
 #include "chart/drawing/Mapping.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
+
+/// The decimal that the value stands for, so that the limits read as plainly as the defaults.
+static double DecimalOf(float value)
+{
+    std::array<char, 32> text{};
+    const auto end = std::to_chars(text.begin(), text.end(), value).ptr;
+    double decimal = 0;
+    std::from_chars(text.begin(), end, decimal);
+    return decimal;
+}
 
 static bool CanBeNegative(std::string_view quantity)
 {
@@ -12,10 +24,12 @@ static bool CanBeNegative(std::string_view quantity)
 /// One span further than the default range on either side.
 static PermittedRange OneSpanFurther(std::string_view quantity, float minimum, float maximum)
 {
-    const float width = maximum - minimum;
-    const float span = width > 0 ? width : 1;
-    const float lowest = minimum - span;
-    return {.Lowest = CanBeNegative(quantity) ? lowest : std::max(lowest, 0.0F), .Highest = maximum + span};
+    const double least = DecimalOf(minimum);
+    const double most = DecimalOf(maximum);
+    const double span = most > least ? most - least : 1;
+    const auto lowest = static_cast<float>(least - span);
+    return {.Lowest = CanBeNegative(quantity) ? lowest : std::max(lowest, 0.0F),
+            .Highest = static_cast<float>(most + span)};
 }
 
 PermittedRange PermittedXRange(const ChartKey& chart, const AxisRange& defaultRange)
@@ -31,7 +45,8 @@ PermittedRange PermittedYRange(const ChartKey& chart, const AxisRange& defaultRa
 {
     if (YAxisKind(chart) == AxisKind::Logarithmic)
     {
-        return {.Lowest = defaultRange.YMin / 10, .Highest = defaultRange.YMax * 10};
+        return {.Lowest = static_cast<float>(DecimalOf(defaultRange.YMin) / 10),
+                .Highest = static_cast<float>(DecimalOf(defaultRange.YMax) * 10)};
     }
     return OneSpanFurther(chart.YAxisName, defaultRange.YMin, defaultRange.YMax);
 }
