@@ -37,6 +37,9 @@ frmSetAxis::frmSetAxis(const ChartView& shown, const AxisRange& chartDefaults, Q
     txtY[1]->setText(ShownText(view.Range.YMax, yName));
     ui->lblXunit->setText(GetUnit(QString::fromStdString(xName), view.DegreeSign));
     ui->lblYunit->setText(GetUnit(QString::fromStdString(yName), view.DegreeSign));
+    // Both frames have the same labels.
+    ui->lblYFrom->setObjectName(ui->lblFrom->objectName());
+    ui->lblYTo->setObjectName(ui->lblTo->objectName());
     for (QLineEdit* box : {txtX[0], txtX[1], txtY[0], txtY[1]})
     {
         box->installEventFilter(this);
@@ -69,7 +72,13 @@ bool frmSetAxis::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::FocusIn)
     {
-        qobject_cast<QLineEdit*>(watched)->selectAll();
+        auto* box = qobject_cast<QLineEdit*>(watched);
+        box->selectAll();
+        if (static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason)
+        {
+            // The click sets the cursor afterwards.
+            QMetaObject::invokeMethod(box, &QLineEdit::selectAll, Qt::QueuedConnection);
+        }
     }
     return QDialog::eventFilter(watched, event);
 }
