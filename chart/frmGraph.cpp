@@ -242,7 +242,7 @@ void frmGraph::Form_Resize()
 {
     if (isMinimized())
     {
-        ClearReadOut();
+        picGraph_MouseLeave();
     }
     else if (isMaximized() || isFullScreen())
     {
