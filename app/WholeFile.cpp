@@ -3,7 +3,6 @@
 #include "partdata/RunTimeError.h"
 
 #include <QFileInfo>
-#include <QSaveFile>
 
 static RunTimeErrorNumber NumberOf(const QSaveFile& writer, const QFileInfo& target)
 {
@@ -24,13 +23,39 @@ static RunTimeErrorNumber NumberOf(const QSaveFile& writer, const QFileInfo& tar
     return RunTimeErrorNumber::PathFileAccessError;
 }
 
+WholeFile::WholeFile(const QString& file)
+    : writer(file)
+{
+    if (!writer.open(QIODevice::WriteOnly))
+    {
+        Fail();
+    }
+}
+
+void WholeFile::Write(QByteArrayView piece)
+{
+    if (writer.write(piece.data(), piece.size()) != piece.size())
+    {
+        Fail();
+    }
+}
+
+void WholeFile::Commit()
+{
+    if (!writer.commit())
+    {
+        Fail();
+    }
+}
+
+void WholeFile::Fail() const
+{
+    throw RunTimeError(NumberOf(writer, QFileInfo(writer.fileName()))).At(writer.fileName().toStdString());
+}
+
 void WriteWholeFile(const QString& file, const QByteArray& contents)
 {
-    QSaveFile writer(file);
-    const bool written =
-        writer.open(QIODevice::WriteOnly) && writer.write(contents) == contents.size() && writer.commit();
-    if (!written)
-    {
-        throw RunTimeError(NumberOf(writer, QFileInfo(file))).At(file.toStdString());
-    }
+    WholeFile whole(file);
+    whole.Write(contents);
+    whole.Commit();
 }

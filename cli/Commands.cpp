@@ -1,5 +1,6 @@
 #include "cli/Commands.h"
 
-void AddCommands(CLI::App&)
+void AddCommands(CLI::App& app)
 {
+    AddCurveCommand(app);
 }

@@ -10,3 +10,6 @@ class App;
 
 /// Adds every command; see `main`.
 void AddCommands(CLI::App& app);
+
+/// "curve": one curve as data file, CSV or JSON, or a stream of curves.
+void AddCurveCommand(CLI::App& app);

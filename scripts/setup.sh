@@ -1,6 +1,6 @@
 # Shared by ./run and ./test: installing what is missing, formatting, building.
 
-build_packages=(g++ cmake ninja-build ccache qt6-base-dev libqt6svg6-dev qt6-qpa-plugins libgl-dev
+build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-qpa-plugins libgl-dev
     libcli11-dev nlohmann-json3-dev libgmock-dev fonts-liberation fontconfig)
 test_packages=(clang-format xvfb xdotool poppler-utils cups)
 bench_packages=(libbenchmark-dev)

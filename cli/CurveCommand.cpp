@@ -1,0 +1,125 @@
+/// `tavik-cli curve`: one curve, or a stream of them.
+
+#include "app/Texts.h"
+#include "calc/DataFile.h"
+#include "cli/Commands.h"
+#include "cli/CurveText.h"
+#include "cli/Output.h"
+#include "cli/RequestOptions.h"
+#include "cli/Requests.h"
+#include "partdata/RunTimeError.h"
+
+#include <CLI/CLI.hpp>
+
+#include <iostream>
+
+namespace
+{
+struct CurveOptions
+{
+    CurveRequest Request;
+    CurveSettings Settings;
+    std::string DataFolder;
+    std::string Requests;
+    std::string Format;
+    std::string OutputFile;
+    std::optional<std::string> Date;
+};
+} // namespace
+
+static constexpr const char* help = R"(Examples:
+  tavik-cli curve KTS31NB51E106MA01 --chart temperature-rise --dc-bias 12V --frequency 300kHz
+  tavik-cli curve KTS31NB51E106MA01 --chart temperature-rise --x Frequency --dc-bias 12V \
+      --parameter current=1.5Arms --format csv --output rise.csv
+  echo '{"part":"KTS31NB51E106MA01","chart":"capacitance-dc-voltage"}' | tavik-cli curve --requests -
+
+Axes that are left out are those that the form shows first. A request line has the keys part, chart, x, y,
+dcBias, frequency, heatResistance, ambient, parameter, parameterValue and code.)";
+
+/// Standard error tells people that some requests have no curve; scripts read it from the answers.
+static void AnswerAll(const CurveOptions& options)
+{
+    if (!options.Format.empty() && options.Format != "json")
+    {
+        throw UsageError("--requests is answered in JSON only: leave out --format " + options.Format);
+    }
+    const auto parts = LoadParts(options.DataFolder);
+    Output output(options.OutputFile);
+    const auto counts = AnswerRequests(options.Requests, options.Request, parts, options.Settings, output);
+    output.Finish();
+    if (counts.WithoutCurve > 0)
+    {
+        throw Failure(options.Requests + ": " + std::to_string(counts.WithoutCurve) + " of " +
+                      std::to_string(counts.Requests) + " requests have no curve; their lines tell why");
+    }
+}
+
+static std::string TextOf(const RequestedCurve& curve, const CurveOptions& options)
+{
+    if (options.Format == "csv")
+    {
+        return CurveCsv(curve, options.Settings);
+    }
+    if (options.Format == "json")
+    {
+        std::string text;
+        AppendCurveJson(text, curve, options.Settings);
+        return text;
+    }
+    const auto date = options.Date ? Windows1252FromUtf8(*options.Date) : ToAnsi(Today());
+    return DataFileText(curve.Line, *curve.Part, curve.Code, date);
+}
+
+static void WriteOne(const CurveOptions& options)
+{
+    if (options.Request.Part.empty() || options.Request.Chart.empty())
+    {
+        throw UsageError(options.Request.Part.empty() ? "curve wants a part number, or --requests"
+                                                      : "curve wants --chart");
+    }
+    const auto parts = LoadParts(options.DataFolder);
+    std::string text;
+    try
+    {
+        text = TextOf(CurveOf(options.Request, parts, options.Settings), options);
+    }
+    catch (const Failure& failure)
+    {
+        throw Failure(options.Request.Part + ": " + failure.what());
+    }
+    catch (const RunTimeError& error)
+    {
+        throw error.At(options.Request.Part);
+    }
+    Output output(options.OutputFile);
+    output.Write(text);
+    output.Finish();
+}
+
+void AddCurveCommand(CLI::App& app)
+{
+    const auto options = std::make_shared<CurveOptions>();
+    auto& command = *app.add_subcommand("curve", "Computes one curve, or one for each line of requests");
+    command.footer(help);
+    command.add_option("part", options->Request.Part, "Part number in any of its forms, any letter case")
+        ->type_name("PART");
+    AddRequestOptions(command, options->Request);
+    AddSettingsOptions(command, options->Settings);
+    AddDataOption(command, options->DataFolder);
+    command
+        .add_option("--requests", options->Requests,
+                    "File of requests, one JSON object a line, or - for standard input")
+        ->type_name("FILE|-");
+    command
+        .add_option("--format", options->Format, "tvk (the program's data file, if left out), csv or json")
+        ->type_name("FORMAT")
+        ->check(CLI::IsMember({"tvk", "csv", "json"}));
+    command.add_option("--output", options->OutputFile, "File to write (left out: standard output)")
+        ->type_name("FILE");
+    command
+        .add_option_function<std::string>(
+            "--date", [options](const std::string& text) { options->Date = text; },
+            "Date in the data file (left out: today)")
+        ->type_name("TEXT");
+    command.callback([options] { options->Requests.empty() ? WriteOne(*options) : AnswerAll(*options); });
+}

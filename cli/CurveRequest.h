@@ -1,0 +1,100 @@
+#pragma once
+
+/// One curve that is asked for by name, and how it is judged and computed.
+
+#include "calc/ChartRecord.h"
+#include "cli/Command.h"
+#include "partdata/PartTable.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The chart types by number, as commands name them.
+inline constexpr std::string_view ChartCommandNames[] = {"temperature-rise", "allowable-power",
+                                                         "capacitance-temperature", "capacitance-dc-voltage"};
+
+/// What is asked for. Texts are as typed, in UTF-8; values may bear a unit ("12V"). What is left out is what
+/// the form shows first: the first axes, ambient temperature 25 °C in the EIA code and 20 °C in the JIS code,
+/// the part's own heat resistance.
+struct CurveRequest
+{
+    /// Part number in any of its four forms, in any letter case.
+    std::string Part;
+    /// One of `ChartCommandNames`.
+    std::string Chart;
+    /// Axis texts of the form, in any letter case: "Apparent Power" or "apparent-power".
+    std::optional<std::string> X = {};
+    std::optional<std::string> Y = {};
+    std::optional<std::string> DCBias = {};
+    std::optional<std::string> Frequency = {};
+    std::optional<std::string> HeatResistance = {};
+    std::optional<std::string> Ambient = {};
+    /// Name of the parameter, as axis texts are named.
+    std::optional<std::string> Parameter = {};
+    std::optional<std::string> ParameterValue = {};
+    CodeView Code = CodeView::Eia;
+};
+
+/// How requests are answered.
+struct CurveSettings
+{
+    /// The conditions are those of the calculation, unjudged; those that are left out are 0 where the form
+    /// shows nothing first.
+    bool Unchecked = false;
+    /// 0 to show global part numbers, 2 to show previous ones.
+    std::size_t NumberingOffset = 0;
+};
+
+/// Why a request has no curve.
+class RefusedRequest : public Failure
+{
+public:
+    /// @param where the option and value that are refused, or empty
+    /// @param message what is wrong with it, as the form says it
+    RefusedRequest(const std::string& where, const std::string& message, std::optional<double> limit = {})
+        : Failure(where.empty() ? message : where + ": " + message)
+        , message(message)
+        , limit(limit)
+    {
+    }
+    const std::string& Message() const { return message; }
+    /// Of a parameter that is too large: the largest permitted one.
+    std::optional<double> Limit() const { return limit; }
+
+private:
+    std::string message;
+    std::optional<double> limit;
+};
+
+/// The answer: a line with its points and limits.
+struct RequestedCurve
+{
+    const PartRecord* Part = nullptr;
+    CodeView Code = CodeView::Eia;
+    ChartRecord Line;
+};
+
+/// The parts of the folder that `PartFolder` gives. Throws RunTimeError with file or folder.
+PartTable LoadParts(const std::string& givenFolder);
+
+/// The index of a part whose number in any form is `partNum`, in UTF-8. Where several parts are meant, letter
+/// case decides, then the form on display. Throws RefusedRequest when there is none.
+std::size_t FindPart(const PartTable& parts, std::string_view partNum, std::size_t shownForm);
+
+/// The number text of a part in the form on display, in UTF-8.
+std::string ShownPartNum(const PartRecord& part, CodeView code, const CurveSettings& settings);
+
+/// The chart type of a command's name. Throws UsageError that lists the names.
+std::int16_t ChartTypeOf(std::string_view commandName);
+
+/// The code of "eia" or "jis". Throws UsageError.
+CodeView CodeViewOf(std::string_view name);
+
+/// The curve of a request. Conditions are judged as the form judges its boxes, in its order; those that the
+/// chart type does not use are 0.
+///
+/// Throws UsageError for a name or unit that does not fit, RefusedRequest for an unknown part, a part without
+/// data for the chart type and for a refused condition, RunTimeError from the calculation.
+RequestedCurve CurveOf(const CurveRequest& request, const PartTable& parts, const CurveSettings& settings);

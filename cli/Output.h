@@ -1,0 +1,27 @@
+#pragma once
+
+/// Where a command's results go: standard output, or a file that is written whole or not at all.
+
+#include "app/WholeFile.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+/// Results in order. A file takes its place at `Finish`; without it a file that stood there is as it was.
+class Output
+{
+public:
+    /// Standard output for an empty name and for "-". Throws RunTimeError when the file cannot be opened.
+    explicit Output(const std::string& fileName);
+
+    /// Throws RunTimeError for a file, Failure for standard output, when it cannot be written.
+    void Write(std::string_view text);
+    /// Hands over what was written so far to a reader of standard output.
+    void Flush();
+    /// Puts the file in its place.
+    void Finish();
+
+private:
+    std::unique_ptr<WholeFile> file;
+};

@@ -1,0 +1,38 @@
+#pragma once
+
+/// Values as engineers type them: "12V", "300kHz", "1.5Arms", "4.7uF".
+
+#include <string>
+#include <string_view>
+
+/// What a value measures, with the unit of a number that bears none.
+enum class Quantity
+{
+    Voltage,        ///< V
+    RmsVoltage,     ///< Vrms
+    Current,        ///< Arms
+    EffectivePower, ///< W
+    ApparentPower,  ///< VA
+    Frequency,      ///< kHz
+    Temperature,    ///< °C
+    HeatResistance, ///< °C/W
+    Capacitance,    ///< pF
+    Change,         ///< %
+};
+
+/// The value as it would be typed into the form: a number in the quantity's own unit, its digits kept.
+/// Prefixes from p to G are told apart by letter case, units are not; a blank may stand before the unit. A
+/// text that does not begin with a number is handed on as it is, for the rules to refuse it.
+///
+///     EntryInUnit("12V", Quantity::Voltage)          // "12"
+///     EntryInUnit("0.3MHz", Quantity::Frequency)     // "0.3E3", that is 300 kHz
+///     EntryInUnit("4.7uF", Quantity::Capacitance)    // "4.7E6"
+///
+/// Throws UsageError for a unit that does not fit: "12V" has no unit of frequency.
+std::string EntryInUnit(std::string_view typed, Quantity quantity);
+
+/// The value as a number. Throws UsageError for a unit that does not fit and for a text that is no number.
+float ValueInUnit(std::string_view typed, Quantity quantity);
+
+/// What an axis or parameter measures, by the name that the form shows: "Apparent Power", "Temperature Rise".
+Quantity QuantityOf(std::string_view name);

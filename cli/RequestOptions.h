@@ -1,0 +1,20 @@
+#pragma once
+
+/// The options that commands on curves share: chart, axes, conditions, namings.
+
+#include "cli/CurveRequest.h"
+
+namespace CLI
+{
+class App;
+}
+
+/// Adds --chart, --x, --y, the conditions and --code; they are taken into `request` when the command line is
+/// parsed.
+void AddRequestOptions(CLI::App& command, CurveRequest& request);
+
+/// Adds --numbering and --unchecked.
+void AddSettingsOptions(CLI::App& command, CurveSettings& settings);
+
+/// Takes "effective-power=1.5W" into a request. Throws UsageError without an equals sign.
+void TakeParameter(CurveRequest& request, const std::string& text);
