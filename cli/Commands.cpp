@@ -2,5 +2,7 @@
 
 void AddCommands(CLI::App& app)
 {
+    AddPartsCommand(app);
     AddCurveCommand(app);
+    AddChartCommand(app);
 }

@@ -11,5 +11,11 @@ class App;
 /// Adds every command; see `main`.
 void AddCommands(CLI::App& app);
 
+/// "parts": lists and filters the parts of the range.
+void AddPartsCommand(CLI::App& app);
+
+/// "chart": up to six lines on one picture.
+void AddChartCommand(CLI::App& app);
+
 /// "curve": one curve as data file, CSV or JSON, or a stream of curves.
 void AddCurveCommand(CLI::App& app);

@@ -104,7 +104,8 @@ void AddCurveCommand(CLI::App& app)
     command.add_option("part", options->Request.Part, "Part number in any of its forms, any letter case")
         ->type_name("PART");
     AddRequestOptions(command, options->Request);
-    AddSettingsOptions(command, options->Settings);
+    AddNumberingOption(command, options->Settings);
+    AddUncheckedOption(command, options->Settings);
     AddDataOption(command, options->DataFolder);
     command
         .add_option("--requests", options->Requests,
@@ -114,8 +115,7 @@ void AddCurveCommand(CLI::App& app)
         .add_option("--format", options->Format, "tvk (the program's data file, if left out), csv or json")
         ->type_name("FORMAT")
         ->check(CLI::IsMember({"tvk", "csv", "json"}));
-    command.add_option("--output", options->OutputFile, "File to write (left out: standard output)")
-        ->type_name("FILE");
+    AddOutputOption(command, options->OutputFile);
     command
         .add_option_function<std::string>(
             "--date", [options](const std::string& text) { options->Date = text; },

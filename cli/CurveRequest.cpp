@@ -127,6 +127,12 @@ CodeView CodeViewOf(std::string_view name)
     return static_cast<CodeView>(IndexOf(name, codes, "code"));
 }
 
+std::size_t NumberingOffsetOf(std::string_view name)
+{
+    static constexpr std::array<std::string_view, 2> numberings = {"global", "previous"};
+    return 2 * IndexOf(name, numberings, "numbering");
+}
+
 static std::string EntryFor(const std::optional<std::string>& typed, Quantity quantity,
                             const std::string& option)
 {

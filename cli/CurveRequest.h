@@ -83,7 +83,7 @@ PartTable LoadParts(const std::string& givenFolder);
 /// case decides, then the form on display. Throws RefusedRequest when there is none.
 std::size_t FindPart(const PartTable& parts, std::string_view partNum, std::size_t shownForm);
 
-/// The number text of a part in the form on display, in UTF-8.
+/// The number of a part in the form on display, in UTF-8.
 std::string ShownPartNum(const PartRecord& part, CodeView code, const CurveSettings& settings);
 
 /// The chart type of a command's name. Throws UsageError that lists the names.
@@ -91,6 +91,9 @@ std::int16_t ChartTypeOf(std::string_view commandName);
 
 /// The code of "eia" or "jis". Throws UsageError.
 CodeView CodeViewOf(std::string_view name);
+
+/// 0 for "global", 2 for "previous". Throws UsageError.
+std::size_t NumberingOffsetOf(std::string_view name);
 
 /// The curve of a request. Conditions are judged as the form judges its boxes, in its order; those that the
 /// chart type does not use are 0.

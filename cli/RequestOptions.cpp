@@ -46,29 +46,36 @@ void AddRequestOptions(CLI::App& command, CurveRequest& request)
             "apparent-power")
         ->type_name("NAME=VALUE")
         ->group("Curve");
-    command
-        .add_option_function<std::string>(
-            "--code", [&request](const std::string& name) { request.Code = CodeViewOf(name); },
-            "Code system: eia or jis")
-        ->type_name("CODE")
-        ->group("Curve");
+    AddCodeOption(command, request.Code);
 }
 
-void AddSettingsOptions(CLI::App& command, CurveSettings& settings)
+void AddCodeOption(CLI::App& command, CodeView& code)
+{
+    command
+        .add_option_function<std::string>(
+            "--code", [&code](const std::string& name) { code = CodeViewOf(name); },
+            "Code system: eia (if left out) or jis")
+        ->type_name("CODE");
+}
+
+void AddNumberingOption(CLI::App& command, CurveSettings& settings)
 {
     command
         .add_option_function<std::string>(
             "--numbering",
-            [&settings](const std::string& name)
-            {
-                if (name != "global" && name != "previous")
-                {
-                    throw UsageError("numbering \"" + name + "\" is none of: global, previous");
-                }
-                settings.NumberingOffset = name == "global" ? 0 : 2;
-            },
-            "Part numbers shown: global or previous")
+            [&settings](const std::string& name) { settings.NumberingOffset = NumberingOffsetOf(name); },
+            "Part numbers shown: global (if left out) or previous")
         ->type_name("NUMBERING");
+}
+
+void AddUncheckedOption(CLI::App& command, CurveSettings& settings)
+{
     command.add_flag("--unchecked", settings.Unchecked,
                      "Hand the conditions to the calculation without judging them");
+}
+
+void AddOutputOption(CLI::App& command, std::string& file)
+{
+    command.add_option("--output", file, "File to write (left out, or -: standard output)")
+        ->type_name("FILE");
 }

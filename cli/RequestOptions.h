@@ -13,8 +13,14 @@ class App;
 /// parsed.
 void AddRequestOptions(CLI::App& command, CurveRequest& request);
 
-/// Adds --numbering and --unchecked.
-void AddSettingsOptions(CLI::App& command, CurveSettings& settings);
+/// Adds --code.
+void AddCodeOption(CLI::App& command, CodeView& code);
+/// Adds --numbering.
+void AddNumberingOption(CLI::App& command, CurveSettings& settings);
+/// Adds --unchecked.
+void AddUncheckedOption(CLI::App& command, CurveSettings& settings);
+/// Adds --output; the name is what `Output` wants.
+void AddOutputOption(CLI::App& command, std::string& file);
 
 /// Takes "effective-power=1.5W" into a request. Throws UsageError without an equals sign.
 void TakeParameter(CurveRequest& request, const std::string& text);

@@ -1,0 +1,205 @@
+/// `tavik-cli chart`: up to six lines on one picture.
+
+#include "chart/drawing/ChartSheet.h"
+#include "cli/ChartLines.h"
+#include "cli/Commands.h"
+#include "cli/Output.h"
+#include "cli/RequestOptions.h"
+#include "cli/SheetPicture.h"
+
+#include <CLI/CLI.hpp>
+#include <QFileInfo>
+#include <QGuiApplication>
+
+#include <charconv>
+
+namespace
+{
+struct ChartOptions
+{
+    CurveRequest Common;
+    CurveSettings Settings;
+    TypedRange Range;
+    std::vector<std::string> Parts;
+    std::vector<std::string> Lines;
+    std::string DataFolder;
+    std::string Format;
+    std::string OutputFile;
+    QSizeF Size = sheetSize;
+    std::optional<double> Scale;
+};
+} // namespace
+
+/// The resolution of a bitmap where none is asked for; the clipboard's is the same.
+static constexpr double bitmapScale = 2;
+/// Extent of a picture in either direction, in pixels.
+static constexpr double mostPixels = 20000;
+
+static constexpr const char* help = R"(Examples:
+  tavik-cli chart KTS21JB51E106MA01 KTS31NB51E106MA01 KTS32XR71E106KA01 \
+      --chart temperature-rise --dc-bias 12V --frequency 300kHz --output rise.png
+  tavik-cli chart --chart capacitance-temperature --output bias.svg \
+      --line "KTS31NB51E106MA01 dc-bias=0V" --line "KTS31NB51E106MA01 dc-bias=12V"
+
+Each PART and each --line is one line of the chart, parts first. --line names a part and conditions of its own:
+dc-bias, frequency, heat-resistance, ambient, and current, voltage, effective-power or apparent-power for a
+temperature rise over frequency. All other conditions are those of the options.)";
+
+/// "png" of "rise.PNG", or what --format says.
+static std::string FormatOf(const ChartOptions& options)
+{
+    if (!options.Format.empty())
+    {
+        return options.Format;
+    }
+    const auto suffix = QFileInfo(QString::fromLocal8Bit(options.OutputFile.data())).suffix().toLower();
+    if (suffix != "png" && suffix != "svg" && suffix != "pdf")
+    {
+        throw UsageError("--output \"" + options.OutputFile +
+                         "\" ends in none of: .png, .svg, .pdf; say which with --format");
+    }
+    return suffix.toStdString();
+}
+
+static PictureSettings PictureOf(const ChartOptions& options, const std::string& format)
+{
+    const PictureSettings picture{.Size = options.Size,
+                                  .Scale = options.Scale.value_or(format == "png" ? bitmapScale : 1)};
+    const QSizeF pixels = picture.Size * picture.Scale;
+    if (pixels.width() < 1 || pixels.height() < 1 || pixels.width() > mostPixels ||
+        pixels.height() > mostPixels)
+    {
+        throw Failure("a picture is from 1 to " + std::to_string(static_cast<int>(mostPixels)) +
+                      " pixels wide and high");
+    }
+    return picture;
+}
+
+static QByteArray Draw(const std::vector<RequestedCurve>& curves, const ChartOptions& options,
+                       const std::string& format)
+{
+    std::vector<ChartRecord> lines;
+    std::vector<QString> partNums;
+    for (const RequestedCurve& curve : curves)
+    {
+        lines.push_back(curve.Line);
+        partNums.push_back(QString::fromStdString(ShownPartNum(*curve.Part, curve.Code, options.Settings)));
+    }
+    const ChartView view = ViewOf(lines, options.Range);
+    const PictureSettings picture = PictureOf(options, format);
+
+    // Drawing needs fonts, but no display; what the platform remarks on its surroundings is no message of
+    // ours.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    int argc = 1;
+    char name[] = "tavik-cli";
+    char* argv[] = {name, nullptr};
+    const QGuiApplication application(argc, argv);
+    return SheetPicture(view, lines, partNums, picture, format);
+}
+
+static void DrawChart(const ChartOptions& options)
+{
+    if (options.Common.Chart.empty())
+    {
+        throw UsageError("chart wants --chart");
+    }
+    if (options.Parts.empty() && options.Lines.empty())
+    {
+        throw UsageError("chart wants a part number or a --line");
+    }
+    const auto format = FormatOf(options);
+    std::vector<CurveRequest> requests;
+    for (const auto& part : options.Parts)
+    {
+        requests.push_back(options.Common);
+        requests.back().Part = part;
+    }
+    for (const auto& line : options.Lines)
+    {
+        requests.push_back(RequestOfLine(line, options.Common));
+    }
+    const auto parts = LoadParts(options.DataFolder);
+    const auto bytes = Draw(CurvesOf(requests, parts, options.Settings), options, format);
+    Output output(options.OutputFile);
+    output.Write({bytes.data(), static_cast<std::size_t>(bytes.size())});
+    output.Finish();
+}
+
+/// A whole text as a number above 0.
+static double PositiveNumber(std::string_view text, const std::string& option)
+{
+    double value = 0;
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (read.ec != std::errc() || read.ptr != text.data() + text.size() || !(value > 0 && value < 1e9))
+    {
+        throw UsageError(option + " \"" + std::string(text) + "\" is not a number above 0");
+    }
+    return value;
+}
+
+/// "725x248" as an extent.
+static QSizeF SizeOf(const std::string& text)
+{
+    const auto cross = text.find('x');
+    if (cross == std::string::npos)
+    {
+        throw UsageError("--size \"" + text + "\" is not WIDTHxHEIGHT, for example 725x248");
+    }
+    return {PositiveNumber(std::string_view(text).substr(0, cross), "--size"),
+            PositiveNumber(std::string_view(text).substr(cross + 1), "--size")};
+}
+
+static void AddRangeEnd(CLI::App& command, const char* name, std::optional<std::string>& end,
+                        const char* text)
+{
+    command
+        .add_option_function<std::string>(
+            name, [&end](const std::string& typed) { end = typed; }, text)
+        ->type_name("VALUE")
+        ->group("Picture");
+}
+
+static void AddPictureOptions(CLI::App& command, ChartOptions& options)
+{
+    command
+        .add_option_function<std::string>(
+            "--size", [&options](const std::string& text) { options.Size = SizeOf(text); },
+            "Extent of the picture (725x248, if left out)")
+        ->type_name("WIDTHxHEIGHT")
+        ->group("Picture");
+    command
+        .add_option_function<std::string>(
+            "--scale",
+            [&options](const std::string& text) { options.Scale = PositiveNumber(text, "--scale"); },
+            "Enlarges the picture (2 for PNG, 1 for SVG and PDF, if left out)")
+        ->type_name("FACTOR")
+        ->group("Picture");
+    AddRangeEnd(command, "--x-from", options.Range.XFrom, "Left end of the X axis");
+    AddRangeEnd(command, "--x-to", options.Range.XTo, "Right end of the X axis");
+    AddRangeEnd(command, "--y-from", options.Range.YFrom, "Lower end of the Y axis");
+    AddRangeEnd(command, "--y-to", options.Range.YTo, "Upper end of the Y axis");
+}
+
+void AddChartCommand(CLI::App& app)
+{
+    const auto options = std::make_shared<ChartOptions>();
+    auto& command = *app.add_subcommand("chart", "Draws up to six lines on one chart, as PNG, SVG or PDF");
+    command.footer(help);
+    command.add_option("parts", options->Parts, "Parts to draw with the conditions of the options")
+        ->type_name("PART");
+    command.add_option("--line", options->Lines, "A line with conditions of its own; see below")
+        ->type_name("\"PART NAME=VALUE...\"")
+        ->allow_extra_args(false);
+    AddRequestOptions(command, options->Common);
+    AddPictureOptions(command, *options);
+    AddNumberingOption(command, options->Settings);
+    AddUncheckedOption(command, options->Settings);
+    AddDataOption(command, options->DataFolder);
+    command.add_option("--format", options->Format, "png, svg or pdf (left out: as the file is named)")
+        ->type_name("FORMAT")
+        ->check(CLI::IsMember({"png", "svg", "pdf"}));
+    AddOutputOption(command, options->OutputFile);
+    command.callback([options] { DrawChart(*options); });
+}
