@@ -61,7 +61,7 @@ float LowerLimit(double smallest, double step)
 AxisLimits SetCapacitanceAxes(float xMax, float xMin, float largestY, float smallestY,
                               std::string_view yAxisName)
 {
-    AxisLimits limits{.XMax = xMax,
+    AxisLimits limits{.XMax = StoredSingle(xMax),
                       .YMax = UpperLimit(largestY, StepOf(largestY, yAxisName)),
                       .XMin = xMin,
                       .YMin = LowerLimit(smallestY, StepOf(smallestY, yAxisName))};

@@ -4,6 +4,7 @@ build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-qpa-pl
     libcli11-dev nlohmann-json3-dev libgmock-dev fonts-liberation fontconfig)
 test_packages=(clang-format xvfb xdotool poppler-utils cups)
 bench_packages=(libbenchmark-dev)
+fuzz_packages=(clang libclang-rt-dev)
 
 # Installs the Debian packages of the named groups that are not there yet.
 need() {
@@ -13,6 +14,7 @@ need() {
             build) wanted+=("${build_packages[@]}") ;;
             test) wanted+=("${test_packages[@]}") ;;
             bench) wanted+=("${bench_packages[@]}") ;;
+            fuzz) wanted+=("${fuzz_packages[@]}") ;;
         esac
     done
     for name in "${wanted[@]}"; do

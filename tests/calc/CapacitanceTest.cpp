@@ -1,4 +1,5 @@
 #include "calc/Capacitance.h"
+#include "calc/Calculate.h"
 #include "calc/CapacitanceAxes.h"
 #include "partdata/RunTimeError.h"
 #include "tests/calc/NamedRow.h"
@@ -104,6 +105,25 @@ TEST(PolynomialModel, ShowsCapacitanceOfTheCombinedChange)
     EXPECT_FLOAT_EQ(curve.YData.back(), 900);
     EXPECT_EQ(curve.Limits.YMax, 1000);
     EXPECT_EQ(curve.Limits.YMin, 700);
+}
+
+TEST(UnlistedCharacteristic, WithoutANumberAsRatedVoltageIsAnOverflow)
+{
+    PartRecord part;
+    part.Tcc = {"C0G", "CH"};
+    part.Data[2] = std::numeric_limits<float>::quiet_NaN();
+    ChartRecord record;
+    record.ChartType = 3;
+    record.YAxisName = CapacitanceAxis;
+    try
+    {
+        CalculateDataS(part, record, CodeView::Eia);
+        FAIL() << "no error";
+    }
+    catch (const RunTimeError& error)
+    {
+        EXPECT_EQ(error.Number(), 6);
+    }
 }
 
 TEST(PolynomialModel, RefersTo20DegreesInJis)
