@@ -1,0 +1,30 @@
+#pragma once
+
+/// The columns of the part table: eight names and 66 values, each with its unit.
+
+#include "partdata/PartRecord.h"
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+/// The fields of an index record, in its order.
+inline constexpr std::size_t NameFields = PartNumForms + 2 * CodeForms;
+inline constexpr std::size_t TableColumns = NameFields + DataValues;
+
+using PartNames = std::array<std::string_view, NameFields>;
+
+/// The heading of each column: first the names in the order of the index, then `Data(0)` to `Data(65)`.
+///
+///     ColumnHeading(10)   // "rated voltage [V]"
+std::string_view ColumnHeading(std::size_t column);
+
+/// The names of a part in the order of the index.
+PartNames NamesOf(const PartRecord& part);
+
+/// What a field is called where it is stored: "PartNum(0)", "SizeCode(1)", "Tcc(0)", "Data(31)".
+std::string FieldName(std::size_t column);
+
+/// As `FieldName`, for the value `Data(index)`.
+std::string DataName(std::size_t index);

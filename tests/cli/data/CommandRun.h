@@ -1,0 +1,19 @@
+#pragma once
+
+/// Runs a data command as the program does, and keeps what it writes.
+
+#include <string>
+#include <vector>
+
+struct CommandRun
+{
+    /// Standard output.
+    std::string Output;
+    /// Standard error.
+    std::string Notes;
+    /// Message of the exception that ended the command; empty when it went well.
+    std::string Failure;
+};
+
+/// Runs "data" with the arguments.
+CommandRun RunData(std::vector<std::string> arguments);
