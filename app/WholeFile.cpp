@@ -11,7 +11,9 @@ static RunTimeErrorNumber NumberOf(const QSaveFile& writer, const QFileInfo& tar
     {
         return RunTimeErrorNumber::PathNotFound;
     }
-    if (writer.error() == QFileDevice::ResourceError)
+    // A write that ends early without an error has filled the disk.
+    const bool endedEarly = writer.isOpen() && writer.error() == QFileDevice::NoError;
+    if (endedEarly || writer.error() == QFileDevice::ResourceError)
     {
         return RunTimeErrorNumber::DiskFull;
     }
@@ -42,7 +44,8 @@ void WholeFile::Write(QByteArrayView piece)
 
 void WholeFile::Commit()
 {
-    if (!writer.commit())
+    // What is still in the buffer when the file takes its place could fail unnoticed.
+    if (!writer.flush() || !writer.commit())
     {
         Fail();
     }

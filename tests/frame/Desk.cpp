@@ -5,6 +5,8 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMenu>
@@ -50,7 +52,8 @@ void Desk::AnswerBox()
     if (box != nullptr && box->isVisible())
     {
         boxes.push_back({box->icon(), box->windowTitle(), box->text()});
-        QTest::keyClick(box, Qt::Key_Return);
+        QAbstractButton* button = box->button(answer);
+        button != nullptr ? button->click() : QTest::keyClick(box, Qt::Key_Return);
     }
 }
 
@@ -277,6 +280,40 @@ void Desk::Choose(const QString& name)
     QVERIFY2(menu != nullptr && menu->isVisible(), qPrintable(name));
     QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(EntryIn(menu, name)).center());
     Settle();
+}
+
+// ---- Saving ----
+
+std::pair<QString, QString> Desk::SaveAs(const QString& path)
+{
+    std::pair<QString, QString> offered;
+    bool named = false;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &look,
+                     [&]
+                     {
+                         auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+                         if (dialog == nullptr || !dialog->isVisible())
+                         {
+                             return;
+                         }
+                         auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
+                         if (std::exchange(named, true) || path.isEmpty())
+                         {
+                             offered = path.isEmpty() ? std::pair(dialog->directory().path(), name->text())
+                                                      : offered;
+                             QTest::keyClick(dialog, Qt::Key_Escape);
+                             return;
+                         }
+                         offered = {dialog->directory().path(), name->text()};
+                         name->setText(path);
+                         QTest::keyClick(name, Qt::Key_Return);
+                     });
+    look.start(5);
+    QApplication::setActiveWindow(main.get());
+    QTest::keyClick(main.get(), Qt::Key_S, Qt::ControlModifier);
+    Settle();
+    return offered;
 }
 
 // ---- What must hold whenever nothing is under way ----

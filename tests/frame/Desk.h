@@ -10,6 +10,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <utility>
 
 class frmGraph;
 class QMdiArea;
@@ -23,7 +24,7 @@ struct Said
 };
 
 /// One working place: state fresh as after a start, the window shown, every message box noted and answered by
-/// its default button.
+/// its default button, if no other is chosen.
 class Desk
 {
 public:
@@ -64,6 +65,13 @@ public:
     /// Clicks an entry in its opened menu.
     void Choose(const QString& name);
 
+    /// Saves the current selection by key under a full path; a name that the dialog does not take, or an
+    /// empty one, is given up by Escape. Returns what the dialog offered: its folder and name.
+    std::pair<QString, QString> SaveAs(const QString& path);
+
+    /// Message boxes that have this button are answered by it from now on.
+    void AnswerBy(QMessageBox::StandardButton button) { answer = button; }
+
     /// The boxes shown since the last call.
     std::vector<Said> TakeBoxes();
     /// The text of the only box shown since the last call; names the count when it was not one.
@@ -81,6 +89,7 @@ private:
 
     QTimer answering;
     std::vector<Said> boxes;
+    QMessageBox::StandardButton answer = QMessageBox::NoButton;
 };
 
 /// Lets every pending event happen, destruction of closed windows included.
