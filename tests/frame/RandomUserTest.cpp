@@ -9,8 +9,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTest>
 
+#include <array>
 #include <random>
 
 class RandomUserTest : public QObject
@@ -98,11 +101,12 @@ public:
     explicit Session(unsigned seed)
         : random(seed)
     {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, files.filePath("settings"));
     }
 
     void Step()
     {
-        const int lot = Lot(20);
+        const int lot = Lot(26);
         if (lot < 11)
         {
             PlotSomething();
@@ -127,9 +131,13 @@ public:
         {
             SwitchCode();
         }
-        else
+        else if (lot == 19)
         {
             ResetOrCloseAll();
+        }
+        else
+        {
+            OutputSomething();
         }
     }
 
@@ -337,6 +345,70 @@ private:
         }
     }
 
+    /// Saves, prints without a printer, copies or sets ranges. Whatever comes of it, no line comes or goes.
+    void OutputSomething()
+    {
+        desk.AnswerBy(std::array{QMessageBox::NoButton, QMessageBox::Yes,
+                                 QMessageBox::Cancel}[static_cast<std::size_t>(Lot(3))]);
+        QApplication::setActiveWindow(desk.main.get());
+        switch (Lot(6))
+        {
+        case 0:
+            desk.SaveAs("");
+            break;
+        case 1:
+            desk.SaveAs(files.filePath(QString::number(Lot(3))));
+            break;
+        case 2:
+            // Nobody can make a file there.
+            desk.SaveAs("/sys/a.tvk");
+            break;
+        case 3:
+            desk.Area()->setActiveSubWindow(desk.Find<frmLibrary>("frmLibrary"));
+            [[fallthrough]];
+        case 4:
+            QTest::keyClick(desk.main.get(), Qt::Key_P, Qt::ControlModifier);
+            break;
+        default:
+            SetAnyRange();
+            break;
+        }
+        Settle();
+        desk.AnswerBy(QMessageBox::NoButton);
+        VerifyBoxesOfOutput();
+    }
+
+    void SetAnyRange()
+    {
+        const auto charts = desk.Charts();
+        if (!charts.empty())
+        {
+            frmGraph* chart = charts[static_cast<std::size_t>(Lot(static_cast<int>(charts.size())))];
+            const AxisRange& range = chart->Range();
+            chart->WriteMagnification(range.XMax, range.YMax, range.XMin, range.YMin, Lot(3) == 0 ? 1 : 0);
+            const auto at = std::ranges::find(model.windows, chart->windowTitle());
+            auto& top = model.tops[static_cast<std::size_t>(at - model.windows.begin())];
+            top = chart->y();
+        }
+    }
+
+    void VerifyBoxesOfOutput()
+    {
+        for (const Said& box : desk.TakeBoxes())
+        {
+            const bool printing = box.text.startsWith("Would you print ") ||
+                                  box.text == "Unexpected Error 65534\nThere is no printer in this system.";
+            const bool saving = box.text.startsWith("tavik Data saved to ") ||
+                                box.text.contains("already exists") ||
+                                box.text == "Unexpected Error 75\nPath/File access error" ||
+                                box.text == "Unexpected Error 70\nPermission denied";
+            // A refused entry is told without plotting, too.
+            QVERIFY2(printing || saving || box.icon == QMessageBox::Warning, qPrintable(box.text));
+            QVERIFY2(box.text != "This Chart is already opened!", qPrintable(box.text));
+        }
+    }
+
+    QTemporaryDir files;
     std::mt19937 random;
     Desk desk;
     Model model;
