@@ -107,9 +107,8 @@ INSTANTIATE_TEST_SUITE_P(
                     "line 2: 73 cells instead of 74"},
         BrokenTable{"cell too many", [](SmallTable& table) { table.First.emplace_back("1"); },
                     "line 2: 75 cells instead of 74"},
-        BrokenTable{
-            "no closing quote", SecondCell(4, "\"0402"),
-            // The cell runs to the end of the table; 80 characters of it are shown.
+        BrokenTable{"no closing quote", SecondCell(4, "\"0402"),
+                    // The cell runs to the end of the table; 80 characters of it are shown.
                     "line 3: size code EIA: \"0402,1005,X7R,R,1.5,1.5,1.5,1.5,1.5,1.5,1.5,1.5,"
                     "1.5,1.5,1.5,1.5,1.5,1.5,1.5,1.5,...\": no closing quote"},
         BrokenTable{"text behind a quote", SecondCell(4, "\"04\"02"),
