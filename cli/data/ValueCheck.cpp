@@ -89,6 +89,11 @@ void CheckCapacitanceGaps(const PartRecord& part, CapacitanceModel model, ValueF
         CheckGroup(part, 9, 14, "no change over temperature", findings);
         return;
     }
+    if (!HasData(part, 15, 27))
+    {
+        CheckGroup(part, 15, 27, "no change over temperature", findings);
+        return;
+    }
     CheckGroup(part, 15, 15, "no peak amplitude", findings);
     CheckGroup(part, 17, 19, "no peak temperature", findings);
     CheckGroup(part, 20, 22, "no decay below the peak", findings);

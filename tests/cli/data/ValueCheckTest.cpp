@@ -117,6 +117,8 @@ INSTANTIATE_TEST_SUITE_P(
                     "0"},
         BrokenValue{"temperature coefficients are missing", X7R, Clear(9, 14), Warning, "gap",
                     "Data(9) to Data(14)", "0"},
+        BrokenValue{"peaked model is missing", Y5V, Clear(15, 27), Warning, "gap", "Data(15) to Data(27)",
+                    "0"},
         BrokenValue{"peak temperature coefficients are missing and the peak is flat", Y5V,
                     [](SmallPart& part)
                     {
