@@ -92,6 +92,11 @@ fs::path BehindLinks(const fs::path& target)
 StagedFile::StagedFile(const fs::path& wanted, std::string_view bytes)
     : target(BehindLinks(wanted))
 {
+    // A file in a writable folder can be replaced even if it is write-protected; its owner did not mean that.
+    if (access(target.c_str(), F_OK) == 0 && access(target.c_str(), W_OK) != 0)
+    {
+        Fail(errno, target);
+    }
     auto pattern = target.string() + ".XXXXXX";
     const int file = mkstemp(pattern.data());
     if (file < 0)

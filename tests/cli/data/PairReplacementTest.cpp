@@ -258,4 +258,30 @@ TEST(PairReplacement, RefusesAFolderThatIsNotThere)
         EXPECT_EQ(error.Place(), "/nowhere/at/all.dat");
     }
 }
+
+TEST(PairReplacement, KeepsLinksAndRights)
+{
+    const TemporaryFolder folder;
+    folder.Write("real.idx", "");
+    std::filesystem::permissions(folder.Path() + "/real.idx", std::filesystem::perms{0640});
+    std::filesystem::create_symlink("real.idx", folder.Path() + "/p.idx");
+    const PairPaths paths = {folder.Path() + "/p.idx", folder.Path() + "/p.dat"};
+    ReplacePair(paths, PairOf(ThreeParts));
+    EXPECT_TRUE(std::filesystem::is_symlink(paths.Index));
+    EXPECT_EQ(BytesOf(folder.Path() + "/real.idx"), PairOf(ThreeParts).Index);
+    EXPECT_EQ(std::filesystem::status(paths.Index).permissions(), std::filesystem::perms{0640});
+}
+
+TEST(PairReplacement, RefusesAWriteProtectedFile)
+{
+    if (geteuid() == 0)
+    {
+        GTEST_SKIP() << "nothing is write-protected from root";
+    }
+    const Replacement replacement;
+    replacement.Write(PairOf(ThreeParts));
+    std::filesystem::permissions(replacement.Paths().Index, std::filesystem::perms{0444});
+    EXPECT_THROW(ReplacePair(replacement.Paths(), PairOf({})), RunTimeError);
+    EXPECT_EQ(PartsIn(replacement.Paths()), ThreeParts);
+}
 } // namespace
