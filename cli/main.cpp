@@ -36,12 +36,16 @@ int main(int argc, char* argv[])
     std::ios::sync_with_stdio(false);
     CLI::App app("Characteristics of multilayer chip capacitors on the command line.", "tavik-cli");
     app.set_version_flag("--version", "tavik-cli " TAVIK_VERSION);
-    app.require_subcommand(1);
+    app.require_subcommand(0, 1);
     app.get_formatter()->column_width(34);
     AddCommands(app);
     try
     {
         app.parse(argc, argv);
+        if (app.get_subcommands().empty())
+        {
+            throw UsageError("a command is missing (see tavik-cli --help)");
+        }
         if (!std::cout.flush())
         {
             throw Failure("standard output: cannot be written");

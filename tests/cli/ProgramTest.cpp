@@ -1,0 +1,405 @@
+/// The built command line from end to end: results, messages and exit statuses, and files left behind.
+
+#include "tests/cli/CommandLine.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QSvgRenderer>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cmath>
+
+class ProgramTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+
+    void AnswersTheVectors();
+    void AnswersRequestsFromAFileIntoAFile();
+    void AnswersEachRequestAtOnce();
+
+    void EndsBadInputWithOneLine_data();
+    void EndsBadInputWithOneLine();
+    void LeavesAnOldFileAsItWas();
+    void TellsABrokenPair_data();
+    void TellsABrokenPair();
+    void TellsThatStandardOutputIsFull();
+
+    void HasHelpAndVersion();
+    void WritesTheDateAsked();
+    void DrawsEveryFormat();
+    void DrawsInTheSizeAsked();
+    void DrawsWithinTheRangeAsked();
+
+private:
+    QString InFolder(const char* name) const { return folder->filePath(QString::fromLatin1(name)); }
+    std::unique_ptr<QTemporaryDir> folder;
+};
+
+static const QString medium = QStringLiteral("KTS31NB51E106MA01");
+
+static QStringList Words(const char* text)
+{
+    return QString::fromLatin1(text).split(' ', Qt::SkipEmptyParts);
+}
+
+static QByteArray Contents(const QString& name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void ProgramTest::init()
+{
+    folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(folder->isValid());
+}
+
+// ---- Streams of requests ----
+
+static QJsonObject RequestOfVector(const QJsonObject& vector)
+{
+    static const char* const charts[] = {"temperature-rise", "allowable-power", "capacitance-temperature",
+                                         "capacitance-dc-voltage"};
+    QJsonObject request{{"part", vector["partNum"]},
+                        {"chart", charts[vector["chartType"].toInt()]},
+                        {"x", vector["xAxis"]},
+                        {"y", vector["yAxis"]},
+                        {"dcBias", vector["dcBias"]},
+                        {"frequency", vector["frequency"]},
+                        {"heatResistance", vector["heatResistance"]},
+                        {"ambient", vector["ambientTemp"]},
+                        {"code", vector["codeForm"].toInt() == 0 ? "eia" : "jis"}};
+    if (!vector["parameterName"].toString().isEmpty())
+    {
+        request["parameter"] = vector["parameterName"];
+        request["parameterValue"] = vector["parameterValue"];
+    }
+    return request;
+}
+
+/// Agreement of two singles that were computed in double precision in different ways.
+static bool IsNear(const QJsonValue& actual, const QJsonValue& expected)
+{
+    return actual.isDouble() &&
+           std::abs(actual.toDouble() - expected.toDouble()) <= 2.5e-7 * std::abs(expected.toDouble());
+}
+
+static bool IsExpected(const QJsonObject& answer, const QJsonObject& expect)
+{
+    const auto error = answer["error"].toObject();
+    if (expect.contains("error"))
+    {
+        return error["number"] == expect["error"];
+    }
+    if (expect.contains("refused"))
+    {
+        const auto refused = expect["refused"].toObject();
+        return IsNear(error["limit"], refused["limit"]) && error["message"] == refused["message"];
+    }
+    bool near = answer["x"].toArray().size() == 200 && answer["y"].toArray().size() == 200;
+    const auto at = expect["at"].toArray();
+    for (qsizetype i = 0; i < at.size(); ++i)
+    {
+        const auto point = at[i].toInt();
+        near = near && IsNear(answer["x"].toArray()[point], expect["x"].toArray()[i]) &&
+               IsNear(answer["y"].toArray()[point], expect["y"].toArray()[i]);
+    }
+    for (const char* limit : {"xMax", "yMax", "xMin", "yMin"})
+    {
+        near = near && IsNear(answer[QLatin1String(limit)], expect[QLatin1String(limit)]);
+    }
+    return near && IsNear(answer["extraValue"], expect["extra"]);
+}
+
+void ProgramTest::AnswersTheVectors()
+{
+    const QString vectors = QStringLiteral(TEST_DATA "/calc/vectors");
+    QList<QJsonObject> expected;
+    QByteArray requests;
+    for (const QByteArray& line : Contents(vectors + "/curves.jsonl").trimmed().split('\n'))
+    {
+        const auto vector = QJsonDocument::fromJson(line).object();
+        expected << vector["expect"].toObject();
+        requests += QJsonDocument(RequestOfVector(vector)).toJson(QJsonDocument::Compact) + '\n';
+    }
+    QCOMPARE(expected.size(), 444);
+
+    const Run run = RunCommandLine(
+        {"curve", "--requests", "-", "--unchecked", "--data", vectors, "--format", "json"}, requests);
+    const auto answers = run.Output.trimmed().split('\n');
+    QCOMPARE(answers.size(), expected.size());
+    for (qsizetype i = 0; i < answers.size(); ++i)
+    {
+        const auto answer = QJsonDocument::fromJson(answers[i]).object();
+        QVERIFY2(IsExpected(answer, expected[i]), qPrintable(QStringLiteral("vector %1").arg(i + 1)));
+    }
+    // Some vectors have no curve, which is told once more where people look.
+    QCOMPARE(run.Status, 1);
+    QCOMPARE(run.Messages.count('\n'), 1);
+}
+
+void ProgramTest::AnswersRequestsFromAFileIntoAFile()
+{
+    QFile requests(InFolder("requests.jsonl"));
+    QVERIFY(requests.open(QIODevice::WriteOnly));
+    requests.write("{\"part\":\"KTS31NB51E106MA01\",\"chart\":\"capacitance-dc-voltage\"}\r\n\n"
+                   "{\"part\":\"nothing\",\"chart\":\"capacitance-dc-voltage\"}\n"
+                   "{\"part\":\"KTS31NB51E106MA01\",\"chart\":\"capacitance-temperature\",\"dcBias\":5}");
+    requests.close();
+    const Run run =
+        RunCommandLine({"curve", "--requests", requests.fileName(), "--output", InFolder("answers.jsonl")});
+    QCOMPARE(run.Status, 1);
+    QCOMPARE(run.Output, QByteArray());
+    const auto answers = Contents(InFolder("answers.jsonl")).split('\n');
+    QCOMPARE(answers.size(), 4);
+    QVERIFY(answers[0].startsWith("{\"part\""));
+    QCOMPARE(answers[1],
+             QByteArray("{\"error\":{\"number\":5,\"message\":\"there is no part \\\"nothing\\\"\"}}"));
+    QVERIFY(answers[2].startsWith("{\"part\""));
+    QCOMPARE(answers[3], QByteArray());
+}
+
+void ProgramTest::AnswersEachRequestAtOnce()
+{
+    QProcess program;
+    program.start(CommandLineProgram(), Words("curve --requests -"));
+    for (int i = 0; i < 3; ++i)
+    {
+        program.write("{\"part\":\"KTS31NB51E106MA01\",\"chart\":\"capacitance-dc-voltage\"}\n");
+        QByteArray answer;
+        while (!answer.endsWith('\n'))
+        {
+            QVERIFY(program.waitForReadyRead(10000));
+            answer += program.readAllStandardOutput();
+        }
+        QVERIFY(answer.startsWith("{\"part\""));
+    }
+    program.closeWriteChannel();
+    QVERIFY(program.waitForFinished(10000));
+    QCOMPARE(program.exitCode(), 0);
+}
+
+// ---- Bad input ----
+
+void ProgramTest::EndsBadInputWithOneLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("message");
+    const auto row = [](const char* name, const char* words, int status, const char* message)
+    { QTest::newRow(name) << Words(words) << status << QString::fromLatin1(message); };
+    row("no command", "", 2, "a command is missing");
+    row("unknown command", "plot", 2, "plot");
+    row("unknown option", "curve --bias 3", 2, "--bias");
+    row("no part", "curve --chart allowable-power", 2, "curve wants a part number");
+    row("no chart", "curve KTS31NB51E106MA01", 2, "curve wants --chart");
+    row("unknown chart", "curve KTS31NB51E106MA01 --chart power", 2, "chart \"power\" is none of");
+    row("unknown format", "curve KTS31NB51E106MA01 --chart allowable-power --format xml", 2, "xml");
+    row("foreign unit", "curve KTS31NB51E106MA01 --chart allowable-power --dc-bias 5kHz", 2,
+        "--dc-bias \"5kHz\": \"kHz\" is not the unit of a voltage");
+    row("parameter without a value", "curve KTS31NB51E106MA01 --chart temperature-rise --parameter current",
+        2, "--parameter \"current\": wants NAME=VALUE");
+    row("requests as a data file", "curve --requests - --format tvk", 2, "JSON only");
+    row("unknown part", "curve KTS --chart allowable-power", 1, "there is no part \"KTS\"");
+    row("out of range", "curve KTS31NB51E106MA01 --chart allowable-power --dc-bias 25V", 1,
+        "KTS31NB51E106MA01: --dc-bias 25: DC Bias Voltage is invalid! Please enter a Number from 0 under "
+        "25[V]");
+    row("no request file", "curve --requests /nowhere/requests", 1, "/nowhere/requests: cannot be read");
+    row("a folder of requests", "curve --requests /", 1, "/: cannot be read");
+    row("no data folder", "curve A --chart allowable-power --data /nowhere", 1, "Path not found: /nowhere");
+    row("no part files", "parts --data /", 1, "File not found: /*.idx");
+    row("no folder for the output",
+        "curve KTS31NB51E106MA01 --chart capacitance-dc-voltage --output /nowhere/file", 1,
+        "Path not found: /nowhere/file");
+    row("a folder as output", "curve KTS31NB51E106MA01 --chart capacitance-dc-voltage --output /", 1,
+        "Run-time error");
+    row("capacitance in volts", "parts --capacitance 5V", 2, "--capacitance \"5V\": \"V\"");
+    row("picture of no format", "chart KTS31NB51E106MA01 --chart capacitance-dc-voltage --output a.bmp", 2,
+        ".png, .svg, .pdf");
+    row("picture of no size",
+        "chart KTS31NB51E106MA01 --chart capacitance-dc-voltage --format png --size big", 2,
+        "--size \"big\" is not WIDTHxHEIGHT");
+    row("picture too large",
+        "chart KTS31NB51E106MA01 --chart capacitance-dc-voltage --format png --scale 1000", 1, "pixels wide");
+    row("range out of range", "chart KTS31NB51E106MA01 --chart capacitance-dc-voltage --format png --x-to 51",
+        1, "Set X Range of DC Bias Voltage from 0 to 50 [V]");
+    row("the same line twice",
+        "chart KTS31NB51E106MA01 KTS31NB51E106MA01 --chart capacitance-dc-voltage --format png", 1,
+        "This Chart is already opened!");
+}
+
+void ProgramTest::EndsBadInputWithOneLine()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const int, status);
+    QFETCH(const QString, message);
+    QStringList withOutput = arguments;
+    const bool writes = !arguments.isEmpty() && arguments[0] != "plot" && !arguments.contains("--output");
+    if (writes)
+    {
+        withOutput << "--output" << InFolder("result.png");
+    }
+    const Run run = RunCommandLine(withOutput);
+    QCOMPARE(run.Status, status);
+    QCOMPARE(run.Output, QByteArray());
+    QCOMPARE(run.Messages.count('\n'), 1);
+    QVERIFY(run.Messages.startsWith("tavik-cli: "));
+    QVERIFY2(run.Messages.contains(message.toUtf8()), run.Messages);
+    QVERIFY(QDir(folder->path()).isEmpty());
+}
+
+void ProgramTest::LeavesAnOldFileAsItWas()
+{
+    QFile old(InFolder("old.tvk"));
+    QVERIFY(old.open(QIODevice::WriteOnly));
+    old.write("old");
+    old.close();
+    const QStringList curve = {"curve", medium, "--chart", "allowable-power", "--output", old.fileName()};
+    QCOMPARE(RunCommandLine(curve + QStringList{"--dc-bias", "25"}).Status, 1);
+    QCOMPARE(Contents(old.fileName()), QByteArray("old"));
+    QCOMPARE(RunCommandLine(curve + QStringList{"--dc-bias", "24"}).Status, 0);
+    QVERIFY(Contents(old.fileName()).startsWith("!Halvex"));
+    QCOMPARE(QDir(folder->path()).entryList(QDir::Files), QStringList{"old.tvk"});
+}
+
+void ProgramTest::TellsABrokenPair_data()
+{
+    QTest::addColumn<QByteArray>("index");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("index cut short") << QByteArray("\"A\",\"B\",\"C\",\"D\",\"1\",\"2\",\"3\"")
+                                     << QStringLiteral("Input past end of file: ");
+    QTest::newRow("open quote") << QByteArray("\"A\",\"B\",\"C\",\"D\",\"1\",\"2\",\"3\",\"4\n")
+                                << QStringLiteral("Input past end of file: ");
+    QTest::newRow("a number twice") << QByteArray("A,B,C,D,1,2,3,4\nA,E,F,G,1,2,3,4\n")
+                                    << QStringLiteral("record 2");
+}
+
+void ProgramTest::TellsABrokenPair()
+{
+    QFETCH(const QByteArray, index);
+    QFETCH(const QString, message);
+    QFile idx(InFolder("broken.idx"));
+    QFile dat(InFolder("broken.dat"));
+    QVERIFY(idx.open(QIODevice::WriteOnly) && dat.open(QIODevice::WriteOnly));
+    idx.write(index);
+    idx.close();
+    dat.close();
+    const Run run = RunCommandLine({"parts", "--data", folder->path()});
+    QCOMPARE(run.Status, 1);
+    QCOMPARE(run.Output, QByteArray());
+    QCOMPARE(run.Messages.count('\n'), 1);
+    QVERIFY2(run.Messages.contains(message.toUtf8()) && run.Messages.contains("broken.idx"), run.Messages);
+}
+
+void ProgramTest::TellsThatStandardOutputIsFull()
+{
+    if (!QFile::exists("/dev/full"))
+    {
+        QSKIP("this system has no full device");
+    }
+    QProcess program;
+    program.setStandardOutputFile("/dev/full");
+    program.start(CommandLineProgram(), {"curve", medium, "--chart", "capacitance-dc-voltage"});
+    QVERIFY(program.waitForFinished(10000));
+    QCOMPARE(program.exitCode(), 1);
+    QCOMPARE(program.readAllStandardError(), QByteArray("tavik-cli: standard output: cannot be written\n"));
+}
+
+// ---- Manners ----
+
+void ProgramTest::HasHelpAndVersion()
+{
+    QCOMPARE(RunCommandLine({"--version"}).Output, QByteArray("tavik-cli " PROGRAM_VERSION "\n"));
+    for (const char* command : {"parts", "curve", "chart"})
+    {
+        const Run run = RunCommandLine({command, "--help"});
+        QCOMPARE(run.Status, 0);
+        QVERIFY(run.Messages.isEmpty());
+        QVERIFY2(run.Output.contains("Examples:\n  tavik-cli " + QByteArray(command)), run.Output);
+        QVERIFY(!run.Output.contains('\x1B'));
+    }
+}
+
+void ProgramTest::WritesTheDateAsked()
+{
+    const Run run = RunCommandLine(
+        {"curve", medium, "--chart", "capacitance-dc-voltage", "--date", QString::fromUtf8("1 März 2026")});
+    QCOMPARE(run.Output.split('\r')[0],
+             QByteArray("!Halvex Chip Capacitor Characteristics Data Library  1 M\xE4rz 2026"));
+}
+
+// ---- Pictures ----
+
+static QStringList ChartCommand(const QString& file)
+{
+    return {"chart",    medium, "--chart", "capacitance-dc-voltage", "--line", medium + " ambient=85C",
+            "--output", file};
+}
+
+void ProgramTest::DrawsEveryFormat()
+{
+    for (const char* name : {"chart.png", "chart.svg", "chart.PDF"})
+    {
+        const Run run = RunCommandLine(ChartCommand(InFolder(name)));
+        QCOMPARE(run.Messages, QByteArray());
+        QCOMPARE(run.Status, 0);
+    }
+    const QImage image(InFolder("chart.png"));
+    QCOMPARE(image.size(), QSize(1450, 496));
+    QSvgRenderer drawing(InFolder("chart.svg"));
+    QVERIFY(drawing.isValid());
+    QCOMPARE(drawing.viewBox(), QRect(0, 0, 725, 248));
+    QVERIFY(Contents(InFolder("chart.svg")).contains(QString::fromUtf8("(85[ °C] )").toUtf8()));
+    QVERIFY(Contents(InFolder("chart.PDF")).startsWith("%PDF-"));
+    QVERIFY(Contents(InFolder("chart.PDF")).contains("MediaBox [0 0 543.750000 186.000000]"));
+}
+
+void ProgramTest::DrawsInTheSizeAsked()
+{
+    const auto command = ChartCommand(InFolder("chart.png"));
+    QCOMPARE(RunCommandLine(command + QStringList{"--size", "800x600", "--scale", "1"}).Status, 0);
+    const QImage image(InFolder("chart.png"));
+    QCOMPARE(image.size(), QSize(800, 600));
+    // The sheet stands in the middle: its white chart begins below the upper third.
+    QCOMPARE(image.pixelColor(100, 100), QColor(240, 240, 240));
+    QCOMPARE(image.pixelColor(2, 200), QColor(Qt::white));
+}
+
+/// How many pixels have about the colour of the first curve.
+static int CountBlue(const QImage& image)
+{
+    int count = 0;
+    // Left of the panes, which have the colour too.
+    for (int y = 0; y < image.height(); ++y)
+    {
+        for (int x = 0; x < image.width() / 2; ++x)
+        {
+            const QColor color = image.pixelColor(x, y);
+            count += color.blue() > 200 && color.red() < 80 && color.green() < 80 ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+void ProgramTest::DrawsWithinTheRangeAsked()
+{
+    // The whole curve lies below the upper range, so that no part of it is drawn.
+    const auto command = ChartCommand(InFolder("chart.png"));
+    QCOMPARE(RunCommandLine(command).Status, 0);
+    QVERIFY(CountBlue(QImage(InFolder("chart.png"))) > 500);
+    const Run run = RunCommandLine(command + QStringList{"--y-from", "14uF", "--y-to", "15uF"});
+    QCOMPARE(run.Messages, QByteArray());
+    QCOMPARE(CountBlue(QImage(InFolder("chart.png"))), 0);
+}
+
+QTEST_GUILESS_MAIN(ProgramTest)
+#include "ProgramTest.moc"
