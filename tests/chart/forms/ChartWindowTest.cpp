@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMenu>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QTest>
@@ -37,8 +38,10 @@ private Q_SLOTS:
     void PanesBearCaptionsAndColours();
     void EveryPaneStandsAboveTheStatusBar_data();
     void EveryPaneStandsAboveTheStatusBar();
+    void EveryTextIsInArialEight();
     void DarkDesktopKeepsChartLight();
     void SelectionFormStaysAtTheLeftEdge();
+    void ShortSelectionFormIsNotCutAtTheRight();
     void SelectionFormStaysWhenTheAreaIsScrolled();
     void MinimisedWindowsStandBesideTheSelectionForm();
 };
@@ -340,6 +343,19 @@ void ChartWindowTest::EveryPaneStandsAboveTheStatusBar()
     QApplication::setStyle("Fusion");
 }
 
+void ChartWindowTest::EveryTextIsInArialEight()
+{
+    Desk desk;
+    PlotFirst(desk);
+    for (const char* name : {"sbr1_1", "sbr1_2", "fraStatus_0", "lblStatus_0", "lblPara_0"})
+    {
+        const auto* text = OnlyChart(desk)->findChild<QWidget*>(name);
+        QVERIFY2(text != nullptr, name);
+        QCOMPARE(text->font().family(), QStringLiteral("Arial"));
+        QCOMPARE(text->font().pointSize(), 8);
+    }
+}
+
 void ChartWindowTest::DarkDesktopKeepsChartLight()
 {
     const QPalette before = QApplication::palette();
@@ -367,6 +383,19 @@ void ChartWindowTest::SelectionFormStaysAtTheLeftEdge()
         QCOMPARE(form->width(), 200);
         QCOMPARE(form->height(), desk.Area()->viewport()->height());
     }
+}
+
+void ChartWindowTest::ShortSelectionFormIsNotCutAtTheRight()
+{
+    Desk desk;
+    desk.main->resize(640, 480);
+    Settle();
+    auto* scroller = desk.Find<frmLibrary>("frmLibrary")->findChild<QScrollArea*>();
+    QVERIFY(scroller->verticalScrollBar()->isVisible());
+    QVERIFY2(
+        scroller->widget()->width() <= scroller->viewport()->width(),
+        qPrintable(
+            QStringLiteral("%1 > %2").arg(scroller->widget()->width()).arg(scroller->viewport()->width())));
 }
 
 void ChartWindowTest::SelectionFormStaysWhenTheAreaIsScrolled()
