@@ -360,7 +360,8 @@ void ProgramTest::DrawsEveryFormat()
     QCOMPARE(drawing.viewBox(), QRect(0, 0, 725, 248));
     QVERIFY(Contents(InFolder("chart.svg")).contains(QString::fromUtf8("(85[ °C] )").toUtf8()));
     QVERIFY(Contents(InFolder("chart.PDF")).startsWith("%PDF-"));
-    QVERIFY(Contents(InFolder("chart.PDF")).contains("MediaBox [0 0 543.750000 186.000000]"));
+    // 725 by 248 pixels of 1/96 inch, in whole points.
+    QVERIFY(Contents(InFolder("chart.PDF")).contains("MediaBox [0 0 544.000000 186.000000]"));
 }
 
 void ProgramTest::DrawsInTheSizeAsked()
