@@ -1,9 +1,9 @@
-#include "ComdlgTest.h"
+#include "tests/frame/ComdlgTest.h"
 
-#include "WhenShown.h"
 #include "frame/clsComdlg.h"
 #include "frame/frmHelp.h"
 #include "partdata/RunTimeError.h"
+#include "tests/frame/WhenShown.h"
 
 #include <QColorDialog>
 #include <QComboBox>

@@ -1,9 +1,10 @@
 #pragma once
 
+/// The common dialogs, answered by keys as a user would.
+
 #include <QObject>
 #include <QTemporaryDir>
 
-/// The common dialogs, answered by keys as a user would.
 class ComdlgTest : public QObject
 {
     Q_OBJECT

@@ -1,8 +1,8 @@
 /// Runs the tests of the dialogs in a system without a printer.
 
-#include "ComdlgTest.h"
-#include "HelpViewerTest.h"
-#include "NoticesTest.h"
+#include "tests/frame/ComdlgTest.h"
+#include "tests/frame/HelpViewerTest.h"
+#include "tests/frame/NoticesTest.h"
 
 #include <QApplication>
 #include <QTest>

@@ -1,11 +1,11 @@
-#include "HelpViewerTest.h"
+#include "tests/frame/HelpViewerTest.h"
 
-#include "WhenShown.h"
 #include "app/mdlPublic.h"
 #include "frame/HelpBook.h"
 #include "frame/HelpCommand.h"
 #include "frame/frmHelp.h"
 #include "partdata/RunTimeError.h"
+#include "tests/frame/WhenShown.h"
 
 #include <QAction>
 #include <QElapsedTimer>

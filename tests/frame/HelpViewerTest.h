@@ -1,5 +1,7 @@
 #pragma once
 
+/// Tests of the help viewer and the command that opens it.
+
 #include <QObject>
 #include <QTemporaryDir>
 

@@ -1,9 +1,9 @@
-#include "NoticesTest.h"
+#include "tests/frame/NoticesTest.h"
 
-#include "WhenShown.h"
 #include "frame/ProgramIcon.h"
 #include "frame/frmAbout.h"
 #include "frame/frmPrinting.h"
+#include "tests/frame/WhenShown.h"
 
 #include <QLabel>
 #include <QPushButton>

@@ -1,8 +1,9 @@
 #pragma once
 
+/// About box, printing notice and the program's icon.
+
 #include <QObject>
 
-/// About box, printing notice and the program's icon.
 class NoticesTest : public QObject
 {
     Q_OBJECT

@@ -230,6 +230,18 @@ private Q_SLOTS:
         QTRY_COMPARE(mdlPublic.Charts.CurrentChart, 1);
     }
 
+    void ComesBackFromAChartByKeys()
+    {
+        PlotOneLine();
+        QVERIFY(window->findChild<QMdiArea*>()->activeSubWindow() != form);
+
+        QTest::keyPress(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+        QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Control);
+        QCOMPARE(window->findChild<QMdiArea*>()->activeSubWindow(), form);
+        QTest::keyClick(window.get(), Qt::Key_D, Qt::AltModifier);
+        QCOMPARE(Focus(), "txtDCBiasVol");
+    }
+
     void ChoosesAChartTypeWithTheArrowKeys()
     {
         Find<QRadioButton>("optChartType_0")->setFocus();

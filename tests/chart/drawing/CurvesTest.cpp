@@ -1,4 +1,4 @@
-#include "RecordingSurface.h"
+#include "tests/chart/drawing/RecordingSurface.h"
 
 #include "chart/drawing/Colors.h"
 
