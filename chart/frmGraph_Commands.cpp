@@ -80,8 +80,11 @@ void frmGraph::mnuFilePrint_Click()
         const auto form = static_cast<std::size_t>(GetPartNumForm());
         return FromAnsi(mdlPublic.Parts.PartData[static_cast<std::size_t>(part)].PartNum[form]);
     };
+    // The command may move the store's records, so the page has lines of its own.
+    const auto plotted = std::as_const(mdlPublic.Charts).Lines();
+    const std::vector<ChartRecord> lines(plotted.begin(), plotted.end());
     host.PrintChart({.View = ui->picGraph->View(),
-                     .Lines = std::as_const(mdlPublic.Charts).Lines(),
+                     .Lines = lines,
                      .Title = ProgramTitle() + QStringLiteral("  ") + Today(),
                      .PartNumber = partNumber});
 }
