@@ -3,7 +3,7 @@
 #include <QElapsedTimer>
 #include <QTest>
 
-Display::Display()
+TestDisplay::TestDisplay()
 {
     // The server finds a free number itself and writes it down once it is ready.
     server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"});
@@ -13,13 +13,13 @@ Display::Display()
     }
 }
 
-Display::~Display()
+TestDisplay::~TestDisplay()
 {
     server.terminate();
     server.waitForFinished(5000);
 }
 
-QProcessEnvironment Display::Environment(const QString& session) const
+QProcessEnvironment TestDisplay::Environment(const QString& session) const
 {
     QProcessEnvironment environment;
     environment.insert("PATH", qEnvironmentVariable("PATH"));
@@ -34,7 +34,7 @@ QProcessEnvironment Display::Environment(const QString& session) const
     return environment;
 }
 
-QString Display::Ask(const QStringList& command) const
+QString TestDisplay::Ask(const QStringList& command) const
 {
     QProcess hands;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -45,7 +45,7 @@ QString Display::Ask(const QStringList& command) const
     return QString::fromUtf8(hands.readAllStandardOutput()).trimmed();
 }
 
-QStringList Display::WindowsOf(const QProcess& program, int count) const
+QStringList TestDisplay::WindowsOf(const QProcess& program, int count) const
 {
     QElapsedTimer waited;
     waited.start();
@@ -60,12 +60,12 @@ QStringList Display::WindowsOf(const QProcess& program, int count) const
     return windows;
 }
 
-void Display::Press(const QString& window, const QString& key) const
+void TestDisplay::Press(const QString& window, const QString& key) const
 {
     Ask({"windowfocus", "--sync", window, "key", key});
 }
 
-QString Display::TitleOf(const QString& window) const
+QString TestDisplay::TitleOf(const QString& window) const
 {
     return Ask({"getwindowname", window});
 }

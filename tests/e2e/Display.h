@@ -8,13 +8,13 @@
 #include <QTemporaryDir>
 
 /// An X server of its own for one test program.
-class Display
+class TestDisplay
 {
 public:
-    Display();
-    ~Display();
-    Display(const Display&) = delete;
-    Display& operator=(const Display&) = delete;
+    TestDisplay();
+    ~TestDisplay();
+    TestDisplay(const TestDisplay&) = delete;
+    TestDisplay& operator=(const TestDisplay&) = delete;
 
     bool IsUp() const { return !name.isEmpty(); }
 

@@ -31,7 +31,7 @@ private:
                                     const QString& platform = "xcb") const;
     void Exit(QProcess& program) const;
 
-    Display display;
+    TestDisplay display;
 };
 
 /// A folder with the program and, if wanted, the sample part files.

@@ -1,0 +1,87 @@
+/// A chart copied in the built program and pasted by another program.
+
+#include "tests/e2e/Display.h"
+
+#include <QFile>
+#include <QImage>
+#include <QTest>
+
+class ClipboardTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ChartIsPastedElsewhere();
+};
+
+/// What another program gets from the clipboard as a picture.
+static QImage Pasted(const QProcessEnvironment& environment)
+{
+    QProcess other;
+    other.setProcessEnvironment(environment);
+    other.start("xclip", {"-selection", "clipboard", "-target", "image/png", "-out"});
+    other.waitForFinished(5000);
+    return QImage::fromData(other.readAllStandardOutput(), "PNG");
+}
+
+static int CountOf(const QImage& picture, const QRect& part, QRgb colour)
+{
+    int count = 0;
+    for (int y = part.top(); y <= part.bottom(); ++y)
+    {
+        for (int x = part.left(); x <= part.right(); ++x)
+        {
+            count += (picture.pixel(x, y) & 0xFFFFFF) == (colour & 0xFFFFFF) ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+void ClipboardTest::ChartIsPastedElsewhere()
+{
+    const TestDisplay display;
+    QVERIFY2(display.IsUp(), "Xvfb does not start");
+    const QTemporaryDir folder;
+    QVERIFY(QFile::copy(PROGRAM, folder.filePath("tavik")));
+    QVERIFY(QFile::copy(SAMPLE_RANGE "/halvex.idx", folder.filePath("halvex.idx")));
+    QVERIFY(QFile::copy(SAMPLE_RANGE "/halvex.dat", folder.filePath("halvex.dat")));
+    const auto environment =
+        display.Environment(QStringLiteral("e2e-copy-%1").arg(QCoreApplication::applicationPid()));
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    program.start(folder.filePath("tavik"), QStringList());
+    const QStringList windows = display.WindowsOf(program, 1);
+    QCOMPARE(windows.size(), 1);
+
+    // Capacitance over temperature of one part without bias.
+    QStringList keys = {"alt+u", "alt+n"};
+    for (const QChar& c : QString("KTU033R71E101KA01"))
+    {
+        keys << c;
+    }
+    for (const QString& key : keys + QStringList{"alt+d", "0", "alt+p", "ctrl+c"})
+    {
+        display.Press(windows.front(), key);
+        QTest::qWait(key.size() > 1 ? 400 : 20);
+    }
+
+    QImage picture;
+    QTRY_VERIFY_WITH_TIMEOUT(!(picture = Pasted(environment)).isNull(), 10000);
+    QCOMPARE(picture.size(), QSize(1450, 496));
+    // The chart is white to its corners, its curve and its pane are blue, and the other panes are empty.
+    QVERIFY(CountOf(picture, QRect(0, 8, 746, 486), qRgb(255, 255, 255)) > 300000);
+    QVERIFY(CountOf(picture, QRect(124, 36, 592, 398), qRgb(0, 0, 255)) > 500);
+    QVERIFY(CountOf(picture, QRect(760, 0, 680, 80), qRgb(0, 0, 255)) > 100);
+    QCOMPARE(CountOf(picture, QRect(760, 84, 680, 400), qRgb(0, 0, 255)), 0);
+    // No text touches an edge, where it would be cut.
+    for (const QRect& edge : {QRect(0, 0, 1450, 1), QRect(1449, 0, 1, 496), QRect(0, 8, 1, 480)})
+    {
+        QCOMPARE(CountOf(picture, edge, qRgb(240, 240, 240)) + CountOf(picture, edge, qRgb(255, 255, 255)),
+                 edge.width() * edge.height());
+    }
+    program.terminate();
+    QVERIFY(program.waitForFinished(5000));
+}
+
+QTEST_GUILESS_MAIN(ClipboardTest)
+#include "ClipboardTest.moc"
