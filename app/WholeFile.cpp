@@ -25,10 +25,17 @@ static RunTimeErrorNumber NumberOf(const QSaveFile& writer, const QFileInfo& tar
     return RunTimeErrorNumber::PathFileAccessError;
 }
 
+bool IsSpecialFile(const QString& file)
+{
+    const QFileInfo target(file);
+    return target.exists() && !target.isFile() && !target.isDir();
+}
+
 WholeFile::WholeFile(const QString& file)
     : writer(file)
 {
-    if (!writer.open(QIODevice::WriteOnly))
+    // A device or pipe would be replaced by a file of its name.
+    if (IsSpecialFile(file) || !writer.open(QIODevice::WriteOnly))
     {
         Fail();
     }

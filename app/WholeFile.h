@@ -6,11 +6,14 @@
 #include <QSaveFile>
 #include <QString>
 
+/// True for a device, a pipe and the like: there is nothing to put a file in the place of.
+bool IsSpecialFile(const QString& file);
+
 /// A file that is written beside its target and put in the target's place by `Commit`. Without a commit, and
 /// whatever goes wrong on the way, a file that stood there is as it was.
 ///
 /// Every step throws RunTimeError with the file's name: 76 for a folder that is not there, 70 without
-/// permission, 61 when the disk is full, 75 for anything else.
+/// permission, 61 when the disk is full, 75 for anything else, a special file included.
 class WholeFile
 {
 public:

@@ -6,9 +6,20 @@
 
 Output::Output(const std::string& fileName)
 {
-    if (!fileName.empty() && fileName != "-")
+    if (fileName.empty() || fileName == "-")
     {
-        file = std::make_unique<WholeFile>(QString::fromLocal8Bit(fileName.data()));
+        return;
+    }
+    const auto name = QString::fromLocal8Bit(fileName.data());
+    if (!IsSpecialFile(name))
+    {
+        file = std::make_unique<WholeFile>(name);
+        return;
+    }
+    special = std::make_unique<QFile>(name);
+    if (!special->open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+    {
+        throw Failure(fileName + ": cannot be opened");
     }
 }
 
@@ -27,13 +38,22 @@ void Output::Write(std::string_view text)
         file->Write(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
         return;
     }
+    if (special)
+    {
+        const auto size = static_cast<qint64>(text.size());
+        if (special->write(text.data(), size) != size)
+        {
+            throw Failure(special->fileName().toStdString() + ": cannot be written");
+        }
+        return;
+    }
     std::cout.write(text.data(), static_cast<std::streamsize>(text.size()));
     CheckStandardOutput();
 }
 
 void Output::Flush()
 {
-    if (!file)
+    if (!file && !special)
     {
         std::cout.flush();
         CheckStandardOutput();

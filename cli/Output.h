@@ -4,18 +4,22 @@
 
 #include "app/WholeFile.h"
 
+#include <QFile>
+
 #include <memory>
 #include <string>
 #include <string_view>
 
-/// Results in order. A file takes its place at `Finish`; without it a file that stood there is as it was.
+/// Results in order. A file takes its place at `Finish`; without it a file that stood there is as it was. A
+/// device or pipe gets them as they come.
 class Output
 {
 public:
-    /// Standard output for an empty name and for "-". Throws RunTimeError when the file cannot be opened.
+    /// Standard output for an empty name and for "-". Throws RunTimeError when a file cannot be opened,
+    /// Failure for a device.
     explicit Output(const std::string& fileName);
 
-    /// Throws RunTimeError for a file, Failure for standard output, when it cannot be written.
+    /// Throws RunTimeError for a file, Failure for anything else, when it cannot be written.
     void Write(std::string_view text);
     /// Hands over what was written so far to a reader of standard output.
     void Flush();
@@ -24,4 +28,5 @@ public:
 
 private:
     std::unique_ptr<WholeFile> file;
+    std::unique_ptr<QFile> special;
 };

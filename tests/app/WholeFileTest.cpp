@@ -15,6 +15,7 @@
 #include <thread>
 
 #include <sys/mount.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -76,6 +77,17 @@ private:
     std::filesystem::path folder;
     bool mounted;
 };
+
+TEST(WholeFile, ReplacesNoPipe)
+{
+    const TemporaryFolder folder;
+    const auto pipe = std::filesystem::path(folder.Path()) / "pipe";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    const auto error = ErrorOf(pipe, "new");
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->Number(), 75);
+    EXPECT_TRUE(std::filesystem::is_fifo(pipe));
+}
 
 TEST(WholeFile, IsWrittenAndReplaced)
 {

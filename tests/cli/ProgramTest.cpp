@@ -15,6 +15,9 @@
 
 #include <cmath>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+
 class ProgramTest : public QObject
 {
     Q_OBJECT
@@ -32,6 +35,7 @@ private Q_SLOTS:
     void TellsABrokenPair_data();
     void TellsABrokenPair();
     void TellsThatStandardOutputIsFull();
+    void WritesIntoAPipe();
 
     void HasHelpAndVersion();
     void WritesTheDateAsked();
@@ -312,6 +316,24 @@ void ProgramTest::TellsThatStandardOutputIsFull()
     QVERIFY(program.waitForFinished(10000));
     QCOMPARE(program.exitCode(), 1);
     QCOMPARE(program.readAllStandardError(), QByteArray("tavik-cli: standard output: cannot be written\n"));
+}
+
+void ProgramTest::WritesIntoAPipe()
+{
+    const QByteArray name = QFile::encodeName(InFolder("pipe"));
+    QCOMPARE(mkfifo(name.constData(), 0600), 0);
+    QFile reader;
+    QVERIFY(reader.open(open(name.constData(), O_RDONLY | O_NONBLOCK), QIODevice::ReadOnly,
+                        QFileDevice::AutoCloseHandle));
+    const QStringList curve = {"curve", medium, "--chart", "capacitance-dc-voltage"};
+    const Run run = RunCommandLine(curve + QStringList{"--output", InFolder("pipe")});
+    QCOMPARE(run.Messages, QByteArray());
+    QCOMPARE(run.Status, 0);
+    QCOMPARE(reader.readAll(), RunCommandLine(curve).Output);
+    // The pipe itself is still there.
+    struct stat pipe = {};
+    QCOMPARE(stat(name.constData(), &pipe), 0);
+    QVERIFY(S_ISFIFO(pipe.st_mode));
 }
 
 // ---- Manners ----
