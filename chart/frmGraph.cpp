@@ -22,12 +22,13 @@ static QPalette LightPalette()
     return QPalette(QColor(240, 240, 240));
 }
 
-/// Takes the offer to resize out of a window menu.
-static void RemoveSizeEntry(QMenu* windowMenu)
+/// Takes out of a window menu what a chart window does not offer: another size, and staying on top of a chart
+/// that Plot brings to the front.
+static void RemoveUnofferedEntries(QMenu* windowMenu)
 {
     for (QAction* entry : windowMenu->actions())
     {
-        if (entry->text() == QMdiSubWindow::tr("&Size"))
+        if (entry->text() == QMdiSubWindow::tr("&Size") || entry->text() == QMdiSubWindow::tr("Stay on &Top"))
         {
             windowMenu->removeAction(entry);
         }
@@ -43,7 +44,7 @@ frmGraph::frmGraph(ChartHost& chartHost, QWidget* parent)
 {
     setObjectName("frmGraph");
     setAttribute(Qt::WA_DeleteOnClose);
-    RemoveSizeEntry(systemMenu());
+    RemoveUnofferedEntries(systemMenu());
     auto* contents = new QMainWindow;
     ui->setupUi(contents);
     ui->mnuBar->hide();

@@ -1,5 +1,6 @@
 #include "selection/frmLibrary.h"
 
+#include "app/Entries.h"
 #include "app/Messages.h"
 #include "app/Texts.h"
 #include "app/mdlPublic.h"
@@ -8,7 +9,6 @@
 
 #include <QApplication>
 #include <QFocusEvent>
-#include <QLocale>
 #include <QTimer>
 
 #include <algorithm>
@@ -18,10 +18,10 @@
 /// Entries as the user's locale writes them.
 static EntryLocale UserLocale()
 {
-    return {.CommaIsDecimal = QLocale().decimalPoint() == QStringLiteral(",")};
+    return {.CommaIsDecimal = CommaIsDecimal()};
 }
 
-static std::string EntryOf(const QLineEdit* box)
+static std::string TextOf(const QLineEdit* box)
 {
     return box->text().toStdString();
 }
@@ -48,34 +48,34 @@ void frmLibrary::OfferForCorrection(QLineEdit* box)
 void frmLibrary::CheckDCBiasVol(bool& ok)
 {
     Report(ui->txtDCBiasVol,
-           RefuseDCBiasVol(EntryOf(ui->txtDCBiasVol), SelectedPart(), GetChartType(), UserLocale()), ok);
+           RefuseDCBiasVol(TextOf(ui->txtDCBiasVol), SelectedPart(), GetChartType(), UserLocale()), ok);
 }
 
 void frmLibrary::CheckFrequency(bool& ok)
 {
-    Report(ui->txtFrequency, RefuseFrequency(EntryOf(ui->txtFrequency), UserLocale()), ok);
+    Report(ui->txtFrequency, RefuseFrequency(TextOf(ui->txtFrequency), UserLocale()), ok);
 }
 
 void frmLibrary::CheckHeatResistance(bool& ok)
 {
-    Report(ui->txtHeatResistance, RefuseHeatResistance(EntryOf(ui->txtHeatResistance), UserLocale()), ok);
+    Report(ui->txtHeatResistance, RefuseHeatResistance(TextOf(ui->txtHeatResistance), UserLocale()), ok);
 }
 
 void frmLibrary::CheckAmbientTemp1(bool& ok)
 {
-    Report(ui->txtAmbientTemp, RefuseAmbientTemp1(EntryOf(ui->txtAmbientTemp), SelectedPart(), UserLocale()),
+    Report(ui->txtAmbientTemp, RefuseAmbientTemp1(TextOf(ui->txtAmbientTemp), SelectedPart(), UserLocale()),
            ok);
 }
 
 void frmLibrary::CheckAmbientTemp2(bool& ok)
 {
     Report(ui->txtAmbientTemp,
-           RefuseAmbientTemp2(EntryOf(ui->txtAmbientTemp), SelectedPart(), GetCodeView(), UserLocale()), ok);
+           RefuseAmbientTemp2(TextOf(ui->txtAmbientTemp), SelectedPart(), GetCodeView(), UserLocale()), ok);
 }
 
 void frmLibrary::CheckParameter1(bool& ok)
 {
-    Report(ui->txtParameter, RefuseParameter(EntryOf(ui->txtParameter), UserLocale()), ok);
+    Report(ui->txtParameter, RefuseParameter(TextOf(ui->txtParameter), UserLocale()), ok);
 }
 
 /// Runs one check; false when it refuses.

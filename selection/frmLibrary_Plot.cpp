@@ -1,5 +1,6 @@
 #include "selection/frmLibrary.h"
 
+#include "app/Entries.h"
 #include "app/HourglassScope.h"
 #include "app/Messages.h"
 #include "app/mdlPublic.h"
@@ -8,8 +9,6 @@
 #include "calc/NumberText.h"
 #include "selection/AxisLists.h"
 #include "ui_frmLibrary.h"
-
-#include <QLocale>
 
 #include <algorithm>
 #include <utility>
@@ -105,8 +104,7 @@ void frmLibrary::cmbXaxis_Click()
 /// The number in a box; a disabled or empty box is 0.
 static float ValueOf(const QLineEdit* box)
 {
-    const bool commaIsDecimal = QLocale().decimalPoint() == QStringLiteral(",");
-    return box->isEnabled() ? ReadEntry(box->text().toStdString(), commaIsDecimal).value_or(0.0F) : 0.0F;
+    return box->isEnabled() ? EntryOf(box).value_or(0.0F) : 0.0F;
 }
 
 ChartKey frmLibrary::ShownChart() const

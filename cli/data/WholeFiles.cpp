@@ -128,6 +128,11 @@ StagedFile::~StagedFile()
 
 void PutInPlace(const fs::path& finished, const fs::path& target)
 {
+    if (fs::exists(target) && !fs::is_regular_file(target))
+    {
+        // A device or pipe must not become a file.
+        throw RunTimeError(RunTimeErrorNumber::PathFileAccessError).At(target.string());
+    }
     if (std::rename(finished.c_str(), target.c_str()) != 0)
     {
         Fail(errno, target);

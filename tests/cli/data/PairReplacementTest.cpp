@@ -1,6 +1,7 @@
 #include "cli/data/PairReplacement.h"
 
 #include "cli/data/IndexWriter.h"
+#include "cli/data/WholeFiles.h"
 #include "partdata/PartTable.h"
 #include "partdata/RunTimeError.h"
 #include "tests/calc/NamedRow.h"
@@ -13,6 +14,7 @@
 #include <map>
 #include <stdexcept>
 
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -282,6 +284,17 @@ TEST(PairReplacement, RefusesAWriteProtectedFile)
     replacement.Write(PairOf(ThreeParts));
     std::filesystem::permissions(replacement.Paths().Index, std::filesystem::perms{0444});
     EXPECT_THROW(ReplacePair(replacement.Paths(), PairOf({})), RunTimeError);
+    EXPECT_EQ(PartsIn(replacement.Paths()), ThreeParts);
+}
+
+TEST(PairReplacement, PutsNoFileInThePlaceOfAPipe)
+{
+    const Replacement replacement;
+    replacement.Write(PairOf(ThreeParts));
+    const std::string pipe = replacement.Paths().Index.string() + ".pipe";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_THROW(PutInPlace(replacement.Paths().Data, pipe), RunTimeError);
+    EXPECT_TRUE(std::filesystem::is_fifo(pipe));
     EXPECT_EQ(PartsIn(replacement.Paths()), ThreeParts);
 }
 } // namespace
