@@ -97,7 +97,7 @@ StagedFile::StagedFile(const fs::path& wanted, std::string_view bytes)
     {
         Fail(errno, target);
     }
-    auto pattern = target.string() + ".XXXXXX";
+    auto pattern = target.string() + "." + std::string(6, 'X');
     const int file = mkstemp(pattern.data());
     if (file < 0)
     {
