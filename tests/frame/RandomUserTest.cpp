@@ -16,6 +16,8 @@
 #include <array>
 #include <random>
 
+#include <sys/stat.h>
+
 class RandomUserTest : public QObject
 {
     Q_OBJECT
@@ -360,8 +362,9 @@ private:
             desk.SaveAs(files.filePath(QString::number(Lot(3))));
             break;
         case 2:
-            // Nobody can make a file there.
-            desk.SaveAs("/sys/a.tvk");
+            // No file takes the place of a pipe.
+            mkfifo(QFile::encodeName(files.filePath("pipe")).constData(), 0600);
+            desk.SaveAs(files.filePath("pipe"));
             break;
         case 3:
             desk.Area()->setActiveSubWindow(desk.Find<frmLibrary>("frmLibrary"));
