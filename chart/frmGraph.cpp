@@ -121,11 +121,24 @@ void frmGraph::Form_Load()
 {
     ChartStore& store = mdlPublic.Charts;
     const ChartKey chart = KeyOf(store.ChartData[static_cast<std::size_t>(store.CurrentChart)]);
+    const bool formerRescaled = rescaled;
+    const AxisRange formerRange = axisRange;
     ++store.CurrentChart;
-    rescaled = false;
-    ClearReadOut();
-    InitChartWindow(chart);
-    Draw(DefaultRange(chart, store.Lines()));
+    try
+    {
+        rescaled = false;
+        ClearReadOut();
+        InitChartWindow(chart);
+        Draw(DefaultRange(chart, store.Lines()));
+    }
+    catch (...)
+    {
+        // A line that could not be drawn does not count as plotted; the others are shown as before.
+        --store.CurrentChart;
+        rescaled = formerRescaled;
+        Draw(formerRange);
+        throw;
+    }
 }
 
 void frmGraph::WriteMagnification(float xMax, float yMax, float xMin, float yMin, int notRescaled)
@@ -205,10 +218,11 @@ void frmGraph::FillStatusPanes()
 {
     const auto lines = Lines();
     const auto partNums = PartNums();
-    for (std::size_t p = 0; p < std::min(lines.size(), MaximumLines); ++p)
+    for (std::size_t p = 0; p < MaximumLines; ++p)
     {
-        lblStatus[p]->setText(partNums[p]);
-        lblPara[p]->setText(PaneText(*lines[p], FromAnsi(mdlPublic.DegreeSign)));
+        const bool hasLine = p < lines.size();
+        lblStatus[p]->setText(hasLine ? partNums[p] : QString());
+        lblPara[p]->setText(hasLine ? PaneText(*lines[p], FromAnsi(mdlPublic.DegreeSign)) : QString());
     }
 }
 

@@ -35,7 +35,8 @@ public:
     ~frmGraph() override;
 
     /// Draws the window afresh for the record at `CurrentChart`, in ranges that cover all lines of its chart,
-    /// and counts that record as plotted.
+    /// and counts that record as plotted. When it cannot be drawn, the error passes on, the record does not
+    /// count, and the window shows its other lines as before.
     void Form_Load();
 
     /// Draws the window in these ranges instead. They count as the user's, with five divisions on linear

@@ -124,7 +124,17 @@ void frmMain::ShowNewChart()
     forms.push_back(chart);
     connect(chart, &frmGraph::windowStateChanged, this, &frmMain::ArrangeIcons, Qt::QueuedConnection);
     chart->EnableOutput(CanPlot());
-    chart->Form_Load();
+    try
+    {
+        chart->Form_Load();
+    }
+    catch (...)
+    {
+        // No window is left behind that shows nothing and counts as open.
+        std::erase(forms, chart);
+        delete chart;
+        throw;
+    }
     chart->show();
 }
 

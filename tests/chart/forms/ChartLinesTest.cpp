@@ -3,6 +3,7 @@
 #include "app/mdlPublic.h"
 #include "chart/ElidedLabel.h"
 #include "chart/frmGraph.h"
+#include "partdata/RunTimeError.h"
 #include "tests/frame/Desk.h"
 
 #include <QComboBox>
@@ -27,6 +28,8 @@ private Q_SLOTS:
     void LongTextsAreCutAndShownWholeInToolTip();
     void RefusedParameterOpensNoWindow();
     void CalculationErrorLeavesEverythingAsBefore();
+    void LineThatCannotBeShownOpensNoWindow();
+    void LineThatCannotBeShownLeavesTheOpenWindow();
 };
 
 static const frmGraph* OnlyChart(const Desk& desk)
@@ -296,6 +299,58 @@ void ChartLinesTest::CalculationErrorLeavesEverythingAsBefore()
     QVERIFY(mdlPublic.Charts.ChartData.front().YData == before);
     QVERIFY(StoreIsWhole());
     QVERIFY(IsAtRest());
+}
+
+/// A line over frequency whose parameter has no unit, so that its pane cannot be written.
+static ChartRecord LineWithoutUnit()
+{
+    ChartRecord line;
+    line.XAxisName = "Frequency";
+    line.YAxisName = "Temperature Rise";
+    line.ParameterName = "Weight";
+    line.XMax = 1e6F;
+    line.XMin = 1e4F;
+    line.YMax = 80;
+    return line;
+}
+
+void ChartLinesTest::LineThatCannotBeShownOpensNoWindow()
+{
+    Desk desk;
+    mdlPublic.Charts.Write(LineWithoutUnit());
+    QVERIFY_EXCEPTION_THROWN(desk.main->ShowNewChart(), RunTimeError);
+    Settle();
+    QCOMPARE(desk.main->OpenForms(), 2);
+    QCOMPARE(desk.Area()->subWindowList().size(), 1);
+    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{0});
+    // The next window is the first one, 50 twips from the top.
+    desk.ClickChartType(2);
+    desk.PlotCapacitance(ListedPart(desk, 0), "0");
+    QVERIFY(OnlyChart(desk) != nullptr);
+    QCOMPARE(OnlyChart(desk)->y(), 50 / 15);
+    QCOMPARE(desk.main->OpenForms(), 3);
+}
+
+void ChartLinesTest::LineThatCannotBeShownLeavesTheOpenWindow()
+{
+    Desk desk;
+    desk.ClickChartType(0);
+    desk.PlotRise(0, "25", "Frequency");
+    frmGraph* chart = desk.Charts().front();
+    chart->WriteMagnification(5e5F, 60, 2e4F, 10);
+    const QString para = Pane(chart, "lblPara", 0);
+    mdlPublic.Charts.Write(LineWithoutUnit());
+    QVERIFY_EXCEPTION_THROWN(desk.main->ShowSameChart(chart->windowTitle()), RunTimeError);
+    mdlPublic.Charts.ClearWorkingRecord();
+    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{1});
+    QVERIFY(StoreIsWhole());
+    QCOMPARE(OnlyChart(desk), chart);
+    QCOMPARE(Pane(chart, "lblStatus", 0), ListedPart(desk, 0));
+    QCOMPARE(Pane(chart, "lblPara", 0), para);
+    QCOMPARE(Pane(chart, "lblStatus", 1), QString());
+    QCOMPARE(Pane(chart, "lblPara", 1), QString());
+    QCOMPARE(chart->Range().XMax, 5e5F);
+    QCOMPARE(chart->Range().YMin, 10.0F);
 }
 
 QTEST_MAIN(ChartLinesTest)
