@@ -247,6 +247,38 @@ TEST(CapacitanceFault, OfAPowerWithoutValueIs5)
     EXPECT_EQ(ErrorOf([&] { FirstChange(part, 26, CodeView::Eia); }), 0);
 }
 
+TEST(CapacitanceFault, OfAPowerBeyondAnyNumberIs6)
+{
+    auto part = PeakedPart();
+    part.Data[27] = 400;
+    // 10 °C above the peak: 10^400
+    EXPECT_EQ(ErrorOf([&] { FirstChange(part, 35, CodeView::Eia); }), 6);
+    EXPECT_EQ(ErrorOf([&] { FirstChange(part, 25, CodeView::Eia); }), 0);
+}
+
+TEST(CapacitanceFault, OfAReferenceBeyondAnyNumberIs6InJisOnly)
+{
+    auto part = PeakedPart();
+    part.Data[19] = 10;
+    part.Data[25] = -100;
+    // At 20 °C, 10 °C above the peak, exp(100·10²); at the peak exp(0).
+    const auto show = [&](CodeView view) { CalcCapDCVoltage(part, 10, CapacitanceAxis, view); };
+    EXPECT_EQ(ErrorOf([&] { show(CodeView::Jis); }), 6);
+    EXPECT_EQ(ErrorOf([&] { show(CodeView::Eia); }), 0);
+}
+
+TEST(CapacitanceFault, OfTheFirstPointComesBeforeThatOfAZeroReference)
+{
+    auto part = PeakedPart();
+    part.Data[1] = 0;
+    part.Data[19] = -25;
+    part.Data[27] = -1;
+    // The sweep of the JIS view starts at the peak, where 0 to the power -1 has no value.
+    EXPECT_EQ(ErrorOf([&] { CalcCapTemperature(part, 0, CapacitanceChangeAxis, CodeView::Jis); }), 5);
+    part.Data[27] = 1;
+    EXPECT_EQ(ErrorOf([&] { CalcCapTemperature(part, 0, CapacitanceChangeAxis, CodeView::Jis); }), 11);
+}
+
 TEST(CapacitanceFault, OfAZeroReferenceIs11InJisOnly)
 {
     auto part = LinearPart();
@@ -264,6 +296,30 @@ TEST(CapacitanceFault, OfAValueThatIsNotFiniteIs6)
     part.Data[1] = 3e38F;
     part.Data[14] = 10;
     EXPECT_EQ(ErrorOf([&] { CalcCapDCVoltage(part, 125, CapacitanceAxis, CodeView::Eia); }), 6);
+}
+
+TEST(CapacitanceFault, OfAValueFarBelowZeroIs6)
+{
+    auto part = LinearPart();
+    part.Data[1] = 3e38F;
+    part.Data[14] = -10;
+    // 125 °C: p = -1000, C = -9·C0
+    EXPECT_EQ(ErrorOf([&] { CalcCapDCVoltage(part, 125, CapacitanceAxis, CodeView::Eia); }), 6);
+}
+
+TEST(CapacitanceFault, IsNotRaisedByTheLargestSingleButByItsLimit)
+{
+    constexpr float largest = std::numeric_limits<float>::max();
+    auto part = LinearPart();
+    part.Data[2] = 1;
+    part.Data[8] = largest;
+    const auto curve = CalcCapDCVoltage(part, 25, CapacitanceChangeAxis, CodeView::Eia);
+    EXPECT_EQ(curve.YData.back(), largest);
+    EXPECT_EQ(curve.Limits.YMax, largest);
+    part = LinearPart();
+    part.Data[1] = largest;
+    // The axis would end at 4·10^38.
+    EXPECT_EQ(ErrorOf([&] { CalcCapDCVoltage(part, 25, CapacitanceAxis, CodeView::Eia); }), 6);
 }
 
 TEST(CapacitanceFault, IsNotRaisedByCoefficientsOutOfReach)

@@ -162,6 +162,21 @@ TEST(ChartStore, StaysAsItIsWhenNoLineIsOfTheChart)
     EXPECT_THAT(PartsOf(store), ElementsAre(1));
 }
 
+TEST(ChartStore, LetsPlottedLinesBeChangedAndNoOther)
+{
+    ChartStore store;
+    Plot(store, Rise, 1);
+    Plot(store, Power, 2);
+    store.ClearWorkingRecord();
+    for (auto& line : store.Lines())
+    {
+        line.XPos[3] = 50;
+    }
+    EXPECT_EQ(store.ChartData[0].XPos[3], 50);
+    EXPECT_EQ(store.ChartData[1].XPos[3], 50);
+    EXPECT_EQ(store.ChartData[2].XPos[3], 0);
+}
+
 TEST(ChartStore, DropsTheWorkingRecordWithoutCountingIt)
 {
     ChartStore store;

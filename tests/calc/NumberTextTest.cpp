@@ -103,6 +103,20 @@ INSTANTIATE_TEST_SUITE_P(
         FormatRow{"forty-seven thousandths", 0.047F, {"4.70E-02", "4.70E-2", ".047", "0.047", "0", "0.047"}}),
     RowName<FormatRow>);
 
+TEST(NumbersThatAreNotFinite, ReadTheSameInEveryText)
+{
+    constexpr float infinity = std::numeric_limits<float>::infinity();
+    const std::pair<float, const char*> rows[] = {
+        {infinity, "inf"}, {-infinity, "-inf"}, {std::numeric_limits<float>::quiet_NaN(), "nan"}};
+    for (const auto& [value, text] : rows)
+    {
+        EXPECT_EQ(NumberText(value), text);
+        EXPECT_EQ(TickText(value, 10), text);
+        EXPECT_EQ(FormatNumber(value, NumberFormat::ScientificTwo), text);
+        EXPECT_EQ(FormatNumber(value, NumberFormat::PaneValue), text);
+    }
+}
+
 struct EntryRow
 {
     const char* Name;
@@ -132,6 +146,9 @@ INSTANTIATE_TEST_SUITE_P(
         EntryRow{"far too large", "-1e99999", -Infinity},
         EntryRow{"an exponent beyond any number", "1e99999999999999999999", Infinity},
         EntryRow{"too small", "1e-60", 0.0F}, EntryRow{"far too small", "1e-99999999999999999999", 0.0F},
+        EntryRow{"a fraction too large", "0.001e99", Infinity},
+        EntryRow{"a fraction too small", "0.9e-60", 0.0F},
+        EntryRow{"a number too small for its exponent", "9000e-60", 0.0F},
         EntryRow{"a zero with an exponent", "0e99999", 0.0F},
         EntryRow{"zeros that the exponent takes back", "0.0000000001e11", 10.0F}, EntryRow{"nothing", "", {}},
         EntryRow{"blanks", "  ", {}}, EntryRow{"a sign", "-", {}}, EntryRow{"a point", ".", {}},

@@ -326,6 +326,16 @@ TEST(RiseOverFrequency, KeepsTheLineOfTheLargestParameterOnTheChart)
     }
 }
 
+TEST(RiseOverFrequency, ShowsARiseAsItIsThatNoRoundingLiftsOverTheCeiling)
+{
+    auto model = UnitModel();
+    model.S3 = -1;
+    // The rise is 1/V: 80 °C at 0.0125 V, the largest permitted voltage, and 100 °C at 0.01 V.
+    const auto curve = std::get<Curve>(RiseOverFrequency(model, 10, "Voltage", 0.01F));
+    EXPECT_FLOAT_EQ(curve.YData.front(), 100);
+    EXPECT_EQ(curve.Limits.YMax, 80);
+}
+
 struct CutRow
 {
     const char* Name;
@@ -452,6 +462,43 @@ TEST(AllowableLoad, OfExactly1000EndsThere)
     ASSERT_EQ(curve.ExtraValue, 1000);
     EXPECT_EQ(curve.Limits.YMax, 1000);
     EXPECT_EQ(curve.Limits.YMin, 100);
+}
+
+TEST(AllowableLoad, WhoseAxisNoSingleCanEndIsAnOverflow)
+{
+    auto model = UnitModel();
+    // 20/5e-76 = (2·10^38)² A²; the axis would end at 10^39.
+    model.Q2 = 5e-76;
+    EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, "Current"); }), 6);
+    model.Q2 = 500e-76;
+    EXPECT_EQ(AllowableLoad(model, 10, 20, "Current").Limits.YMax, 1e38F);
+}
+
+TEST(AllowableLoad, OfAVoltageBeyondAnyNumberIsAnOverflow)
+{
+    auto model = UnitModel();
+    model.S2 = -1;
+    model.S3 = 0.005;
+    // kV = 1 / log10 f: 80^200 V at 10 kHz, whatever the bound.
+    EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, "Voltage"); }), 6);
+}
+
+TEST(AllowableLoad, WithoutAVoltageLawAtTheHighestFrequencyIsADivisionByZero)
+{
+    auto model = UnitModel();
+    // 4^-450 is a number, 6^-450 is zero.
+    model.S2 = -450;
+    for (const std::string_view name : {"Voltage", "Apparent Power", "Effective Power"})
+    {
+        EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, name); }), 11) << name;
+    }
+}
+
+TEST(PowerCurves, OfAnotherQuantityHaveNoPoints)
+{
+    EXPECT_FALSE(RiseOverLoad(UnitModel(), 10, frequencyHz, "Temperature").HasPoints);
+    EXPECT_FALSE(std::get<Curve>(RiseOverFrequency(UnitModel(), 10, "", 1)).HasPoints);
+    EXPECT_FALSE(AllowableLoad(UnitModel(), 10, 20, "Capacitance").HasPoints);
 }
 
 TEST(AllowableLoad, NeedsNoVoltageLawForCurrent)

@@ -30,6 +30,8 @@ TEST(PathSep, ComesFromTheProgramFolder)
     EXPECT_EQ(PathSepOf("C:\\tavik"), '\\');
     EXPECT_EQ(PathSepOf("C:/tavik"), '/');
     EXPECT_EQ(PathSepOf(""), '/');
+    EXPECT_EQ(PathSepOf("C:"), '/');
+    EXPECT_EQ(PathSepOf("tavik\\bin"), '/');
 }
 
 TEST(PartFiles, AreFoundInAnyLetterCaseOfTheExtension)
@@ -51,6 +53,15 @@ TEST(PartFiles, AreTheFirstInAlphabeticalOrder)
     EXPECT_EQ(FindPartFile(folder.Path(), ".idx"), folder.Path() + "/a10.idx");
 }
 
+TEST(PartFiles, ThatDifferInLetterCaseAloneAreInTheOrderOfTheirBytes)
+{
+    const TemporaryFolder folder;
+    folder.Write("parts.idx", "");
+    folder.Write("PARTS.IDX", "");
+    folder.Write("Parts.idx", "");
+    EXPECT_EQ(FindPartFile(folder.Path(), ".idx"), folder.Path() + "/PARTS.IDX");
+}
+
 TEST(PartFiles, ThatAreMissingAreNotFound)
 {
     const TemporaryFolder folder;
@@ -69,6 +80,20 @@ TEST(PartFiles, ThatAreFoldersCannotBeRead)
     std::filesystem::create_directory(folder.Path() + "/parts.dat");
     EXPECT_EQ(FaultOf([&] { LoadPartData(folder.Path()); }),
               "Run-time error '75': Path/File access error: parts.dat");
+}
+
+TEST(PartFiles, WhoseBytesCannotBeReadAreNoShortFiles)
+{
+    // The memory of this process is a file that opens, but holds nothing at its start.
+    const std::string unreadable = "/proc/self/mem";
+    if (!std::ifstream(unreadable).is_open())
+    {
+        GTEST_SKIP() << "there is no such file here";
+    }
+    const TemporaryFolder folder;
+    const auto index = folder.Write("parts.idx", "A,B,C,D,1,2,3,4\n");
+    EXPECT_EQ(FaultOf([&] { ReadPartPair(index, unreadable); }),
+              "Run-time error '75': Path/File access error: mem");
 }
 
 TEST(PartFiles, ThatMayNotBeReadCannotBeRead)

@@ -117,6 +117,9 @@ TEST(PartTable, StaysWholeWhenMoved)
     const auto second = std::move(first);
     EXPECT_EQ(second.PartData[1].PartNum[2], "PE1");
     EXPECT_EQ(*second.PartIndex[2].Find("PE1"), 1);
+    first = Load(LinesOf(3), ValuesOf(3));
+    EXPECT_EQ(first.PartData[2].PartNum[3], "PJ2");
+    EXPECT_EQ(*first.PartIndex[3].Find("PJ2"), 2);
 }
 
 TEST(PartTable, LeavesZerosWhereTheDataFileEnds)
