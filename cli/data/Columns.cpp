@@ -96,21 +96,17 @@ static std::string Indexed(std::string_view name, std::size_t index)
     return std::string(name) + "(" + std::to_string(index) + ")";
 }
 
-std::string FieldName(std::size_t column)
+std::string FieldName(std::size_t field)
 {
-    if (column < PartNumForms)
+    if (field < PartNumForms)
     {
-        return Indexed("PartNum", column);
+        return Indexed("PartNum", field);
     }
-    if (column < PartNumForms + CodeForms)
+    if (field < PartNumForms + CodeForms)
     {
-        return Indexed("SizeCode", column - PartNumForms);
+        return Indexed("SizeCode", field - PartNumForms);
     }
-    if (column < NameFields)
-    {
-        return Indexed("Tcc", column - PartNumForms - CodeForms);
-    }
-    return DataName(column - NameFields);
+    return Indexed("Tcc", field - PartNumForms - CodeForms);
 }
 
 std::string DataName(std::size_t index)

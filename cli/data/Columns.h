@@ -23,8 +23,9 @@ std::string_view ColumnHeading(std::size_t column);
 /// The names of a part in the order of the index.
 PartNames NamesOf(const PartRecord& part);
 
-/// What a field is called where it is stored: "PartNum(0)", "SizeCode(1)", "Tcc(0)", "Data(31)".
-std::string FieldName(std::size_t column);
+/// What a name, in the order of the index, is called where it is stored: "PartNum(0)", "SizeCode(1)",
+/// "Tcc(0)".
+std::string FieldName(std::size_t field);
 
-/// As `FieldName`, for the value `Data(index)`.
+/// As `FieldName`, for the value `Data(index)`: "Data(31)".
 std::string DataName(std::size_t index);

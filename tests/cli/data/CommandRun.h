@@ -17,3 +17,6 @@ struct CommandRun
 
 /// Runs "data" with the arguments.
 CommandRun RunData(std::vector<std::string> arguments);
+
+/// As `RunData`, with a standard output that takes nothing, as a full disk.
+CommandRun RunDataIntoFullOutput(std::vector<std::string> arguments);

@@ -52,6 +52,35 @@ TEST(DataCheck, RefusesAnotherFormat)
     EXPECT_THAT(RunData({"check", SAMPLE_DATA, "--format", "xml"}).Failure, HasSubstr("xml"));
 }
 
+TEST(DataCheck, FailsWhereStandardOutputTakesNothing)
+{
+    const auto run = RunDataIntoFullOutput({"check", SAMPLE_DATA});
+    EXPECT_EQ(run.Failure, "Run-time error '57': Device I/O error: standard output");
+}
+
+TEST(DataBuild, RefusesANameThatStartsTheIndexLikeAByteOrderMark)
+{
+    // The quote inside keeps the name without quotes around it, so the index would begin with the mark.
+    const TemporaryFolder folder;
+    auto text = RunData({"export", SAMPLE_DATA}).Output;
+    const auto firstName = text.find('\n') + 1;
+    text.replace(firstName, text.find(',', firstName) - firstName, "\"\u00EF\u00BB\u00BFA\"\"B\"");
+    const auto table = folder.Write("t.csv", text);
+    const auto run = RunData({"build", table.string(), "--output", folder.Path() + "/p"});
+    EXPECT_EQ(run.Failure, "Run-time error '5': part 1 has names that no index can hold");
+    EXPECT_FALSE(std::filesystem::exists(folder.Path() + "/p.idx"));
+    EXPECT_FALSE(std::filesystem::exists(folder.Path() + "/p.dat"));
+}
+
+TEST(DataBuild, DoesNotTakeATableBeyondAnySizeIntoMemory)
+{
+    const TemporaryFolder folder;
+    const auto table = folder.Write("t.csv", "");
+    std::filesystem::resize_file(table, 1ULL << 40);
+    const auto run = RunData({"build", table.string(), "--output", folder.Path() + "/p"});
+    EXPECT_EQ(run.Failure, "Run-time error '6': Overflow: t.csv");
+}
+
 TEST(DataBuild, TellsEveryErrorAndLeavesThePairAlone)
 {
     const SmallPair pair;

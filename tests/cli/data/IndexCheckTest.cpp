@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 
 namespace
@@ -76,6 +77,10 @@ INSTANTIATE_TEST_SUITE_P(
         BrokenIndex{"file ends behind a comma", Replace("\"F\"\n", ""), Error, "index-end", 3, "field 8"},
         BrokenIndex{"last quote missing", Replace("\"F\"", "\"F"), Error, "open-quote", 3, "field 8"},
         BrokenIndex{"comma missing", Replace("\"B1\",", "\"B1\""), Warning, "separator", 2, "PartNum(1)"},
+        BrokenIndex{"comma missing before a plain field", Replace("\"B1\",\"B2\"", "\"B1\"B2"), Warning,
+                    "separator", 2, "PartNum(1)"},
+        BrokenIndex{"file ends within its first field", [](std::string& text) { text = "\"A1"; }, Error,
+                    "open-quote", 1, "field 1"},
         BrokenIndex{"record on two lines", Replace("\"B1\",", "\"B1\"\n"), Warning, "record-line", 2, ""},
         BrokenIndex{"two records on one line", Replace("\"R\"\n", "\"R\","), Warning, "record-line", 2, ""},
         BrokenIndex{"line break in quotes", Replace("\"B1\"", "\"B\n1\""), Warning, "line-break", 2,
@@ -98,6 +103,7 @@ TEST(IndexCheck, FindsNothingInAnySoundForm)
     EXPECT_THAT(FindingsIn("\xEF\xBB\xBF"
                            "a1, a2 ,a3,a4,0402,1005,X7R,R\r\n\r\nb1,b2,b3,b4,0402,1005,X7R,R\x1A"),
                 testing::IsEmpty());
+    EXPECT_THAT(FindingsIn("a1,a2,a3,a4,0402,1005,X7R,R"), testing::IsEmpty());
 }
 
 TEST(IndexCheck, TellsAMissingFieldWhereTheShiftBegins)
@@ -111,6 +117,27 @@ TEST(IndexCheck, TellsAMissingFieldWhereTheShiftBegins)
     EXPECT_EQ(findings[0].Record, 3U);
     EXPECT_EQ(findings[1].Rule, "record-line");
     EXPECT_EQ(findings[1].Record, 2U);
+}
+
+TEST(IndexCheck, TellsRecordsThatShareALineOnce)
+{
+    auto text = SoundIndex;
+    std::ranges::replace(text, '\n', ',');
+    const auto findings = FindingsIn(text);
+    ASSERT_THAT(findings, testing::SizeIs(1));
+    EXPECT_EQ(findings[0].Rule, "record-line");
+    EXPECT_EQ(findings[0].Record, 2U);
+}
+
+TEST(IndexCheck, TellsAFurtherPairingOnce)
+{
+    auto text = SoundIndex + "\"D1\",\"D2\",\"D3\",\"D4\",\"0603\",\"1609\",\"Y5V\",\"F\"\n";
+    Replace("\"1608\"", "\"1609\"", "\"C4\"")(text);
+    const auto findings = FindingsIn(text);
+    ASSERT_THAT(findings, testing::SizeIs(1));
+    EXPECT_EQ(findings[0].Rule, "pairing");
+    EXPECT_EQ(findings[0].Record, 3U);
+    EXPECT_EQ(findings[0].Value, "1609");
 }
 
 TEST(IndexCheck, GoesOnBehindADuplicate)
@@ -154,6 +181,30 @@ TEST(PairCheck, TellsMissingFilesAndStillChecksTheIndex)
     EXPECT_EQ(report.Findings[1].Rule, "unreadable");
     EXPECT_EQ(report.Findings[1].File, "*.dat");
     EXPECT_EQ(report.Findings[1].Message, "File not found");
+}
+
+TEST(PairCheck, TellsAMissingIndexAndChecksNoData)
+{
+    const TemporaryFolder folder;
+    folder.Write("parts.dat", "x");
+    const auto report = CheckPair(folder.Path());
+    ASSERT_THAT(report.Findings, testing::SizeIs(1));
+    EXPECT_EQ(report.Findings[0].File, "*.idx");
+    EXPECT_EQ(report.DataFile, "parts.dat");
+    EXPECT_EQ(report.Parts, 0U);
+}
+
+TEST(PairCheck, LooksForANamedPairInTheFolderAtHand)
+{
+    const SmallPair pair;
+    const TemporaryFolder folder;
+    folder.Write("b.idx", pair.Index());
+    folder.Write("b.Dat", pair.Data());
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(folder.Path());
+    const auto report = CheckPair("b.idx");
+    std::filesystem::current_path(before);
+    EXPECT_EQ(TextOf(report), "3 parts, 0 errors, 0 warnings\n");
 }
 
 TEST(PairCheck, TellsBothMissingFilesOfAnEmptyFolder)

@@ -246,6 +246,28 @@ TEST(PairReplacement, ReplacesAPairThatCannotBeLoaded)
     EXPECT_EQ(PartsIn(replacement.Paths()), ThreeParts);
 }
 
+TEST(PairReplacement, LeavesTheCommonPartsWhereTheOldDataCannotComeBack)
+{
+    const Replacement replacement;
+    replacement.Write(PairOf(ThreeParts));
+    const Volts newParts = {{"A", 10.0F}, {"X", 15.0F}, {"B", 20.0F}, {"C", 30.0F}};
+    const auto place = [&](const auto& finished, const auto& target)
+    {
+        PutInPlace(finished, target);
+        if (target == replacement.Paths().Data)
+        {
+            // A pipe of this name keeps any data from coming back.
+            std::filesystem::remove(target);
+            EXPECT_EQ(mkfifo(target.c_str(), 0600), 0);
+            throw RunTimeError(RunTimeErrorNumber::DiskFull);
+        }
+    };
+    EXPECT_THROW(ReplacePair(replacement.Paths(), PairOf(newParts), place), RunTimeError);
+    EXPECT_EQ(BytesOf(replacement.Paths().Index), PairOf({{"A", 10.0F}}).Index);
+    EXPECT_TRUE(std::filesystem::is_fifo(replacement.Paths().Data));
+    EXPECT_EQ(replacement.FileCount(), 2U);
+}
+
 TEST(PairReplacement, RefusesAFolderThatIsNotThere)
 {
     const PairPaths paths = {"/nowhere/at/all.idx", "/nowhere/at/all.dat"};

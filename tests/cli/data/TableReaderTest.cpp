@@ -136,6 +136,26 @@ INSTANTIATE_TEST_SUITE_P(
             "quote and comma in a name", SecondCell(0, "\"B\"\",1\""),
             "line 3: global part number EIA: \"B\",1\": a quote beside a comma, a line break, or at the "
             "start or blanks at an end cannot be written"},
+        BrokenTable{
+            "quote at the start of a name", SecondCell(0, "\"\"\"B\""),
+            "line 3: global part number EIA: \"\"B\": a quote beside a comma, a line break, or at the "
+            "start or blanks at an end cannot be written"},
+        BrokenTable{
+            "quote and a tab at the start of a name", SecondCell(0, "\"\tB\"\"1\""),
+            "line 3: global part number EIA: \"\\x09B\"1\": a quote beside a comma, a line break, or at the "
+            "start or blanks at an end cannot be written"},
+        BrokenTable{
+            "quote and a blank at the end of a name", SecondCell(0, "\"B\"\"1 \""),
+            "line 3: global part number EIA: \"B\"1 \": a quote beside a comma, a line break, or at the "
+            "start or blanks at an end cannot be written"},
+        BrokenTable{
+            "nine digits of bits", SecondCell(8, "0x7F8000000"),
+            "line 3: capacitance [pF]: \"0x7F8000000\": not the eight hexadecimal digits of a single"},
+        BrokenTable{"sign among the digits of bits", SecondCell(8, "0x-0000001"),
+                    "line 3: capacitance [pF]: \"0x-0000001\": not the eight hexadecimal digits of a single"},
+        BrokenTable{"fault behind the last column",
+                    [](SmallTable& table) { table.First.emplace_back("x\"y"); },
+                    "line 2: \"x\"y\": a quote within a cell without quotes"},
         BrokenTable{"line break in a number", SecondCell(8, "\"1\n2\""),
                     "line 3: capacitance [pF]: \"1\\x0A2\": not a number"}),
     RowName<BrokenTable>);

@@ -160,8 +160,54 @@ INSTANTIATE_TEST_SUITE_P(
                         Clear(9, 14)(part);
                         part.Data[14] = 0.25F;
                     },
-                    Warning, "class-limit", "", "-20"}),
+                    Warning, "class-limit", "", "-20"},
+        // 0.16 %/°C: above 15 % from 118.75 °C on; the first point there is -55 + 193·180/199 = 119.573 °C.
+        BrokenValue{"growth over temperature is beyond the class", X7R,
+                    [](SmallPart& part)
+                    {
+                        Clear(9, 14)(part);
+                        part.Data[14] = 0.16F;
+                    },
+                    Warning, "class-limit", "", "15.132"},
+        BrokenValue{"peak amplitude alone is missing", Y5V, Clear(15, 16), Warning, "gap", "Data(15)", "0"}),
     RowName<BrokenValue>);
+
+TEST(ValueCheck, FindsABiasBetweenTheQuartersOfTheRatedVoltage)
+{
+    // 30·u(u - 1)(u - 2)(u - 3)(u - 4) % with u = V/2.5: nothing at the quarters of 10 V, least near 9.11 V.
+    SmallPair pair;
+    auto& part = pair.Parts[X7R];
+    Clear(3, 14)(part);
+    part.Data[2] = 10;
+    part.Data[4] = 0.3072F;
+    part.Data[5] = -7.68F;
+    part.Data[6] = 67.2F;
+    part.Data[7] = -240;
+    part.Data[8] = 288;
+    part.Data[14] = 1e-9F;
+    const auto findings = CheckFiles(pair.Index(), pair.Data()).Findings;
+    ASSERT_THAT(findings, testing::SizeIs(2));
+    EXPECT_EQ(findings[0].Rule, "bias-growth");
+    EXPECT_EQ(findings[1].Rule, "below-zero");
+    EXPECT_THAT(findings[1].Message, testing::StartsWith("capacitance below zero: change -108."));
+    EXPECT_THAT(findings[1].Message, testing::EndsWith(" V and -55 °C"));
+}
+
+TEST(ValueCheck, FindsAPeakWhoseExponentHasNoValueThere)
+{
+    SmallPair pair;
+    auto& part = pair.Parts[Y5V];
+    // The sweep starts at the peak, -30 °C, where 0 to the power -1 has no value.
+    Clear(17, 19)(part);
+    part.Data[19] = -30;
+    part.Data[27] = -1;
+    const auto findings = CheckFiles(pair.Index(), pair.Data()).Findings;
+    ASSERT_THAT(findings, testing::SizeIs(1));
+    EXPECT_EQ(findings[0].Level, Error);
+    EXPECT_EQ(findings[0].Rule, "calculation");
+    EXPECT_EQ(findings[0].Message,
+              "the capacitance curves cannot be calculated: Invalid procedure call or argument");
+}
 
 TEST(ValueCheck, FindsNothingInSoundParts)
 {
