@@ -54,7 +54,8 @@ TEST(TickText, ShowsNothingSmallerThanAMillionthOfTheRange)
 {
     EXPECT_EQ(TickText(9.9e-7, 1), "0");
     EXPECT_EQ(TickText(-9.9e-7, -1), "0");
-    EXPECT_EQ(TickText(1.1e-6, 1), "0.0000011");
+    EXPECT_EQ(TickText(1e-6, 1), "0.000001");
+    EXPECT_EQ(TickText(1.005e-6, 1), "0.000001005");
     EXPECT_EQ(TickText(0, 0), "0");
 }
 
@@ -100,6 +101,7 @@ INSTANTIATE_TEST_SUITE_P(
         FormatRow{"far less than any digit", -4e-9F, {"-4.00E-09", "-4.00E-9", "", "0", "0", "0"}},
         FormatRow{"a long exponent", 1e-12F, {"1.00E-12", "1.00E-12", "", "0", "0", "0"}},
         FormatRow{"a small tick", 0.00125F, {"1.25E-03", "1.25E-3", ".001", "0.001", "0", "0.00125"}},
+        FormatRow{"a finer tick", 0.0012346F, {"1.23E-03", "1.23E-3", ".001", "0.001", "0", "0.00123"}},
         FormatRow{"forty-seven thousandths", 0.047F, {"4.70E-02", "4.70E-2", ".047", "0.047", "0", "0.047"}}),
     RowName<FormatRow>);
 
@@ -147,6 +149,9 @@ INSTANTIATE_TEST_SUITE_P(
         EntryRow{"an exponent beyond any number", "1e99999999999999999999", Infinity},
         EntryRow{"too small", "1e-60", 0.0F}, EntryRow{"far too small", "1e-99999999999999999999", 0.0F},
         EntryRow{"a fraction too large", "0.001e99", Infinity},
+        EntryRow{"a fraction too large with a sign", "0.001e+99", Infinity},
+        EntryRow{"too many digits", "1000000000000000000000000000000000000000", Infinity},
+        EntryRow{"too many zeros", "0.000000000000000000000000000000000000000000000000001", 0.0F},
         EntryRow{"a fraction too small", "0.9e-60", 0.0F},
         EntryRow{"a number too small for its exponent", "9000e-60", 0.0F},
         EntryRow{"a zero with an exponent", "0e99999", 0.0F},

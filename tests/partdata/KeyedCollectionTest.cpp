@@ -86,6 +86,19 @@ TEST(KeyedCollection, TakesTheEmptyKey)
     EXPECT_EQ(*collection.Find(""), 5);
 }
 
+TEST(KeyedCollection, KeepsItsEntriesWhenRoomIsMade)
+{
+    KeyedCollection<int> collection;
+    EXPECT_TRUE(collection.Add(1, "X7R"));
+    collection.Reserve(1000);
+    collection.Reserve(1);
+    EXPECT_TRUE(collection.Add(2, "X5R"));
+    EXPECT_FALSE(collection.Add(3, "x7r"));
+    EXPECT_EQ(collection.size(), 2U);
+    EXPECT_EQ(*collection.Find("X7R"), 1);
+    EXPECT_EQ(*collection.Find("X5R"), 2);
+}
+
 TEST(KeyedCollection, GrowsToItsLimit)
 {
     constexpr int count = 65535;
