@@ -5,6 +5,8 @@ build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-qpa-pl
 test_packages=(clang-format xvfb xdotool xclip poppler-utils cups)
 bench_packages=(libbenchmark-dev)
 fuzz_packages=(clang libclang-rt-dev)
+coverage_packages=(gcovr)
+valgrind_packages=(valgrind)
 
 # Installs the Debian packages of the named groups that are not there yet.
 need() {
@@ -15,6 +17,8 @@ need() {
             test) wanted+=("${test_packages[@]}") ;;
             bench) wanted+=("${bench_packages[@]}") ;;
             fuzz) wanted+=("${fuzz_packages[@]}") ;;
+            coverage) wanted+=("${coverage_packages[@]}") ;;
+            valgrind) wanted+=("${valgrind_packages[@]}") ;;
         esac
     done
     for name in "${wanted[@]}"; do
