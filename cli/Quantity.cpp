@@ -118,11 +118,11 @@ static int ExponentOf(std::string_view text)
     {
         return 0;
     }
+    constexpr int limit = 100000;
     text.remove_prefix(text[1] == '+' ? 2 : 1);
     int exponent = 0;
     const auto read = std::from_chars(text.data(), text.data() + text.size(), exponent);
-    const bool fits = read.ec == std::errc() && std::abs(exponent) < 100000;
-    return fits ? exponent : (text[0] == '-' ? -100000 : 100000);
+    return read.ec == std::errc() ? std::clamp(exponent, -limit, limit) : (text[0] == '-' ? -limit : limit);
 }
 
 /// Power of ten from a unit to that of a bare number; nothing when the unit does not fit.

@@ -108,5 +108,9 @@ TEST(Quantities, StayInfiniteOrZeroWhenNoSingleHoldsThem)
     EXPECT_TRUE(std::isinf(ValueInUnit("1E39V", Quantity::Voltage)));
     EXPECT_TRUE(std::isinf(ValueInUnit("1E99999999999999999999MHz", Quantity::Frequency)));
     EXPECT_EQ(ValueInUnit("1E-99999999999999999999MHz", Quantity::Frequency), 0);
+    // The least and the largest exponent that an int holds, shifted beyond it by the prefix.
+    EXPECT_EQ(EntryInUnit("1E-2147483648mV", Quantity::Voltage), "1E-100003");
+    EXPECT_EQ(ValueInUnit("1E-2147483648mV", Quantity::Voltage), 0);
+    EXPECT_TRUE(std::isinf(ValueInUnit("1E2147483647MV", Quantity::Voltage)));
 }
 } // namespace
