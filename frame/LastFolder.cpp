@@ -1,19 +1,45 @@
 #include "frame/LastFolder.h"
 
+#include "frame/SettingsText.h"
+
 #include <QDir>
+#include <QFileInfo>
 #include <QSettings>
 
 static const QString FilePathKey = QStringLiteral("Settings/FilePath");
 
+static const QString Program = QStringLiteral("tavik");
+
+#if defined(Q_OS_WIN) || defined(Q_OS_DARWIN)
 /// The per-user settings of the application.
 class UserSettings : public QSettings
 {
 public:
     UserSettings()
-        : QSettings(QSettings::UserScope, QStringLiteral("tavik"), QStringLiteral("tavik"))
+        : QSettings(QSettings::UserScope, Program, Program)
     {
     }
 };
+#else
+/// The per-user settings of the application: a text file, which anything may have been written to.
+class UserSettings : public QSettings
+{
+public:
+    UserSettings()
+        : QSettings(File(), SettingsText())
+    {
+    }
+
+private:
+    /// Where the system keeps it. It is found by a neighbour's name, since QSettings remembers in which
+    /// format a file was first opened.
+    static QString File()
+    {
+        const QSettings neighbour(QSettings::UserScope, Program, QStringLiteral("neighbour"));
+        return QFileInfo(neighbour.fileName()).path() + QStringLiteral("/tavik.conf");
+    }
+};
+#endif
 
 QString LastFolder()
 {
