@@ -50,6 +50,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     const auto back = Windows1252FromUtf8(Utf8FromWindows1252(entry));
     Require(back == entry, "every byte of the code page survives");
+    const auto ansi = Windows1252FromUtf8(entry);
+    Require(ansi.find('?') != std::string::npos || Utf8FromWindows1252(ansi) == entry,
+            "what the code page cannot tell has a question mark");
     Require(ChartOfCaption(entry).ChartType <= 3, "any caption names a chart type");
     return 0;
 }

@@ -64,7 +64,9 @@ static char32_t TakeCodePoint(std::string_view& text)
         code = (code << 6) | (static_cast<unsigned char>(c) & 0x3FU);
     }
     text.remove_prefix(length);
-    return code;
+    // A character has one form only, the shortest.
+    constexpr std::array<char32_t, 5> least = {0, 0, 0x80, 0x800, 0x10000};
+    return code < least[length] ? Malformed : code;
 }
 
 std::string Windows1252FromUtf8(std::string_view text)

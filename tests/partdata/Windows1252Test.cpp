@@ -68,6 +68,10 @@ INSTANTIATE_TEST_SUITE_P(
                                "ab",
                                "??ab"},
                     OutsideRow{"cut within a character", "a\xE2\x82", "a??"},
-                    OutsideRow{"cut behind a lead of four", "\xF0", "?"}),
+                    OutsideRow{"cut behind a lead of four", "\xF0", "?"},
+                    OutsideRow{"letter in three bytes", "\xE0\x81\x81", "?"},
+                    OutsideRow{"letter in four bytes", "\xF0\x80\x81\x81", "?"},
+                    OutsideRow{"umlaut in three bytes", "\xE0\x83\xA4", "?"},
+                    OutsideRow{"euro sign in four bytes", "\xF0\x82\x82\xAC", "?"}),
     RowName<OutsideRow>);
 } // namespace
