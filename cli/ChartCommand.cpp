@@ -95,7 +95,11 @@ static QByteArray Draw(const std::vector<RequestedCurve>& curves, const ChartOpt
     int argc = 1;
     char name[] = "tavik-cli";
     char* argv[] = {name, nullptr};
-    const QGuiApplication application(argc, argv);
+    std::optional<QGuiApplication> application;
+    if (QCoreApplication::instance() == nullptr)
+    {
+        application.emplace(argc, argv);
+    }
     return SheetPicture(view, lines, partNums, picture, format);
 }
 

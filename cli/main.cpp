@@ -1,67 +1,11 @@
 /// The command line: lists parts, computes curves and draws charts without a window.
 
-#include "cli/Command.h"
-#include "cli/Commands.h"
-#include "partdata/RunTimeError.h"
+#include "cli/Program.h"
 
-#include <CLI/CLI.hpp>
-
-#include <algorithm>
-#include <iostream>
-#include <string>
-
-/// One line on standard error, whatever the message holds.
-static int End(ExitStatus status, std::string message)
-{
-    const auto isControl = [](unsigned char c) { return c < ' ' || c == 0x7F; };
-    message.erase(std::ranges::remove(message, '\r').begin(), message.end());
-    std::ranges::replace_if(message, isControl, ' ');
-    std::cerr << "tavik-cli: " << message << '\n';
-    return static_cast<int>(status);
-}
-
-/// Help and version on standard output, anything else as a usage error.
-static int EndParsing(const CLI::App& app, const CLI::ParseError& error)
-{
-    if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success))
-    {
-        app.exit(error);
-        return 0;
-    }
-    return End(ExitStatus::Usage, error.what() + std::string(" (see tavik-cli --help)"));
-}
+#include <ios>
 
 int main(int argc, char* argv[])
 {
     std::ios::sync_with_stdio(false);
-    CLI::App app("Characteristics of multilayer chip capacitors on the command line.", "tavik-cli");
-    app.set_version_flag("--version", "tavik-cli " TAVIK_VERSION);
-    app.require_subcommand(0, 1);
-    app.get_formatter()->column_width(34);
-    AddCommands(app);
-    try
-    {
-        app.parse(argc, argv);
-        if (app.get_subcommands().empty())
-        {
-            throw UsageError("a command is missing (see tavik-cli --help)");
-        }
-        if (!std::cout.flush())
-        {
-            throw Failure("standard output: cannot be written");
-        }
-    }
-    catch (const CLI::ParseError& error)
-    {
-        return EndParsing(app, error);
-    }
-    catch (const CommandError& error)
-    {
-        return End(error.Status(), error.what());
-    }
-    catch (const std::exception& error)
-    {
-        return End(ExitStatus::Failed, error.what());
-    }
-    return static_cast<int>(ExitStatus::Success);
+    return RunProgram(argc, argv);
 }

@@ -4,10 +4,10 @@
 #include "cli/data/IndexWriter.h"
 #include "cli/data/PairCheck.h"
 #include "cli/data/PairReplacement.h"
+#include "cli/data/TablePair.h"
 #include "cli/data/TableReader.h"
 #include "cli/data/TableWriter.h"
 #include "partdata/DataReader.h"
-#include "partdata/IndexReader.h"
 #include "partdata/PartTable.h"
 #include "partdata/RunTimeError.h"
 
@@ -108,31 +108,6 @@ void Export(const DataOptions& options)
         PutInPlace(staged.Path(), staged.Target());
     }
     NoteLosses(pair, indexText, table);
-}
-
-/// Both files of a table without errors. The index is read back before it is let out.
-PairBytes PairOf(const TableContents& table)
-{
-    PairBytes pair;
-    std::vector<PartNames> names;
-    for (const auto& part : table.Parts)
-    {
-        std::ranges::copy(part.Names, names.emplace_back().begin());
-        AddDataRecord(pair.Data, part.Data);
-    }
-    pair.Index = IndexText(names, table.LineEnd);
-
-    IndexReader reader(pair.Index, "index");
-    for (std::size_t i = 0; i < names.size(); ++i)
-    {
-        PartRecord part;
-        if (!reader.FindRecord() || (reader.ReadRecord(part), NamesOf(part) != names[i]))
-        {
-            throw RunTimeError(RunTimeErrorNumber::InvalidProcedureCall,
-                               "part " + std::to_string(i + 1) + " has names that no index can hold");
-        }
-    }
-    return pair;
 }
 
 /// FOLDER/NAME, or a name with one of the two extensions, as the two files.
