@@ -18,7 +18,7 @@ int main(int argc, char* argv[])
         return 2;
     }
     int cases = 0;
-    for (const auto& entry : std::filesystem::directory_iterator(argv[1]))
+    for (const auto& entry : std::filesystem::directory_iterator(std::filesystem::absolute(argv[1])))
     {
         std::ifstream file(entry.path(), std::ios::binary);
         const std::vector<char> bytes(std::istreambuf_iterator<char>(file), {});

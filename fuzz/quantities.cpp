@@ -1,0 +1,167 @@
+/// Values with units, as engineers type them on a command line: refused by name, or worth what they say.
+
+#include "calc/NumberText.h"
+#include "cli/Command.h"
+#include "cli/Quantity.h"
+#include "fuzz/Require.h"
+
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+namespace
+{
+/// A quantity, a spelling of its unit, and the power of ten of a bare number.
+struct Unit
+{
+    Quantity Measures;
+    const char* Spelling;
+    int BareExponent;
+};
+} // namespace
+
+static constexpr std::array<Unit, 10> Units = {{{Quantity::Voltage, "Vdc", 0},
+                                                {Quantity::RmsVoltage, "Vrms", 0},
+                                                {Quantity::Current, "Arms", 0},
+                                                {Quantity::EffectivePower, "W", 0},
+                                                {Quantity::ApparentPower, "VA", 0},
+                                                {Quantity::Frequency, "Hz", 3},
+                                                {Quantity::Temperature, "\u00B0C", 0},
+                                                {Quantity::HeatResistance, "K/W", 0},
+                                                {Quantity::Capacitance, "F", -12},
+                                                {Quantity::Change, "%", 0}}};
+
+/// What a number and the blanks around it consist of.
+static constexpr std::string_view NumberLetters = " \t.+-0123456789eE";
+
+/// The power of ten that the typed unit stands for, told by its first letter: no unit that takes a prefix
+/// begins like one.
+static int PowerOf(const Unit& unit, std::string_view typed)
+{
+    const auto first = typed.find_first_not_of(NumberLetters);
+    if (first == std::string_view::npos)
+    {
+        return unit.BareExponent;
+    }
+    const bool takesPrefix = unit.Measures != Quantity::Temperature &&
+                             unit.Measures != Quantity::HeatResistance && unit.Measures != Quantity::Change;
+    if (!takesPrefix)
+    {
+        return 0;
+    }
+    switch (typed[first])
+    {
+    case 'p':
+        return -12;
+    case 'n':
+        return -9;
+    case 'u':
+    case '\xC2':
+    case '\xCE':
+        return -6;
+    case 'm':
+        return -3;
+    case 'k':
+    case 'K':
+        return 3;
+    case 'M':
+        return 6;
+    case 'G':
+        return 9;
+    default:
+        return 0;
+    }
+}
+
+/// The value of the typed text, worked out in the widest arithmetic there is.
+static long double PlainValue(const Unit& unit, std::string_view typed)
+{
+    const std::string number(typed.substr(0, typed.find_first_not_of(NumberLetters)));
+    return std::strtold(number.c_str(), nullptr) *
+           std::pow(10.0L, static_cast<long double>(PowerOf(unit, typed) - unit.BareExponent));
+}
+
+static void RequireSameValue(const Unit& unit, std::string_view typed, float value)
+{
+    Require(!std::isnan(value), "a value is a number");
+    // Digits beyond what the wide arithmetic keeps exactly, or an exponent beyond it, prove nothing.
+    const auto plain = PlainValue(unit, typed);
+    if (typed.size() > 40 || !std::isfinite(plain) || std::fabs(plain) < 1e-4000L)
+    {
+        return;
+    }
+    if (std::fabs(plain) > 3.5e38L)
+    {
+        Require(std::isinf(value), "what is too large is out of every range");
+    }
+    else if (std::fabs(plain) < 1e-46L)
+    {
+        Require(value == 0, "what is too small is zero");
+    }
+    else if (std::fabs(plain) > 1.2e-38L && std::fabs(plain) < 3.4e38L)
+    {
+        Require(std::fabs(value - plain) <= std::fabs(plain) * 1e-7L, "a value is worth what was typed");
+    }
+}
+
+static void TryQuantity(const Unit& unit, std::string_view typed)
+{
+    // A message ends where a zero byte stands in the text.
+    const auto quoted = '"' + std::string(typed) + '"';
+    std::string entry;
+    try
+    {
+        entry = EntryInUnit(typed, unit.Measures);
+        Require(EntryInUnit(entry, unit.Measures) == entry, "an entry is in the unit of the form");
+        const float value = ValueInUnit(typed, unit.Measures);
+        RequireSameValue(unit, typed, value);
+        Require(ReadEntry(entry) == value, "a value is that of its entry");
+        if (std::isfinite(value) && unit.BareExponent == 0)
+        {
+            const auto text = NumberText(value);
+            Require(ValueInUnit(text + ' ' + unit.Spelling, unit.Measures) == value,
+                    "a value reads back with a unit");
+        }
+    }
+    catch (const UsageError& error)
+    {
+        Require(error.Status() == ExitStatus::Usage, "a wrong value is a wrong command line");
+        Require(std::string_view(error.what()).starts_with(quoted.c_str()), "a refusal names what was typed");
+        Require(entry.empty() || !ReadEntry(entry), "a number is not refused");
+    }
+}
+
+static void TryQuantityName(std::string_view typed)
+{
+    try
+    {
+        QuantityOf(typed);
+    }
+    catch (const UsageError& error)
+    {
+        const auto message = '"' + std::string(typed) + "\" is no quantity";
+        Require(std::string_view(error.what()) == message.c_str(), "a refusal names the quantity");
+    }
+}
+
+/// The first character chooses the quantity, '0' to '9', or with any other the name of one is tried.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    if (size == 0)
+    {
+        return 0;
+    }
+    const std::string_view typed(reinterpret_cast<const char*>(data) + 1, size - 1);
+    const auto choice = static_cast<std::size_t>(data[0]) - '0';
+    if (choice < Units.size())
+    {
+        TryQuantity(Units[choice], typed);
+    }
+    else
+    {
+        TryQuantityName(typed);
+    }
+    return 0;
+}

@@ -1,0 +1,105 @@
+/// A stream of curve requests: one answer a line, a curve of finite numbers or an error that says why.
+
+#include "cli/Requests.h"
+#include "fuzz/Allocations.h"
+#include "fuzz/Require.h"
+#include "fuzz/StandardStreams.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <sstream>
+
+using nlohmann::json;
+
+static const PartTable& Parts()
+{
+    static const PartTable table =
+        ReadPartPair(TEST_DATA "/calc/vectors/vectors.idx", TEST_DATA "/calc/vectors/vectors.dat");
+    return table;
+}
+
+static void RequireError(const json& error)
+{
+    const auto number = error.at("number").get<int>();
+    Require(number == 5 || number == 6 || number == 11, "an error is a refusal or one of a calculation");
+    Require(!error.at("message").get<std::string>().empty(), "an error says why");
+    Require(!error.contains("limit") || std::isfinite(error.at("limit").get<double>()), "a limit is finite");
+}
+
+/// The numbers of a list within an object.
+static std::ptrdiff_t CountNumbers(std::string_view object, std::string_view key)
+{
+    const auto begin = object.find(key);
+    Require(begin != std::string_view::npos, "a curve has two lists of values");
+    const auto list = object.substr(begin, object.find(']', begin) - begin);
+    return std::ranges::count(list, ',') + 1;
+}
+
+/// Whether the answer is an error. JSON knows no number that is not finite.
+static bool RequireAnswer(const std::string& line)
+{
+    Require(json::accept(line), "an answer is JSON of one line");
+    if (line.starts_with(R"({"error":)"))
+    {
+        RequireError(json::parse(line).at("error"));
+        return true;
+    }
+    Require(line.starts_with(R"({"part":")"), "an answer is a curve or an error");
+    Require(CountNumbers(line, R"("x":[)") == CurvePoints && CountNumbers(line, R"("y":[)") == CurvePoints,
+            "a curve has 200 points");
+    return false;
+}
+
+static std::size_t CountRequests(const std::string& lines)
+{
+    std::istringstream text(lines);
+    std::size_t count = 0;
+    for (std::string line; std::getline(text, line);)
+    {
+        count += line.find_first_not_of(" \t\r") != std::string::npos ? 1 : 0;
+    }
+    return count;
+}
+
+/// The bits of the first character are the options: conditions that are not judged, the former numbering and
+/// the JIS code. The requests stand behind it.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    if (size == 0)
+    {
+        return 0;
+    }
+    const unsigned options = data[0];
+    const std::string lines(reinterpret_cast<const char*>(data) + 1, size - 1);
+    const CurveSettings settings{.Unchecked = (options & 1U) != 0,
+                                 .NumberingOffset = (options & 2U) != 0 ? 2U : 0U};
+    CurveRequest defaults;
+    defaults.Code = (options & 4U) != 0 ? CodeView::Jis : CodeView::Eia;
+    const auto& parts = Parts();
+
+    RequestCounts counts;
+    std::string answers;
+    {
+        const StandardStreams streams(lines);
+        ForgetAllocations();
+        Output output("-");
+        counts = AnswerRequests("-", defaults, parts, settings, output);
+        output.Finish();
+        Require(LargestAllocation() <= 65536 + 64 * size, "memory is in proportion to the requests");
+        answers = streams.Output();
+        Require(streams.Messages().empty(), "an answer is no message");
+    }
+    std::size_t answered = 0;
+    std::size_t withoutCurve = 0;
+    std::istringstream text(answers);
+    for (std::string line; std::getline(text, line); ++answered)
+    {
+        withoutCurve += RequireAnswer(line) ? 1 : 0;
+    }
+    Require(answered == counts.Requests && answered == CountRequests(lines), "each request has one answer");
+    Require(withoutCurve == counts.WithoutCurve, "what has no curve is counted");
+    return 0;
+}
