@@ -184,6 +184,17 @@ TEST(PeakedModel, ScalesThePeakByTheBias)
     EXPECT_FLOAT_EQ(curve.YData.back(), -20);
 }
 
+TEST(PeakedModel, ShowsCapacitanceOfTheNominalValue)
+{
+    // 55 °C below the peak: 1000·exp(-0.2·55) pF, whatever capacitance the lists show.
+    auto part = PeakedPart();
+    part.Data[0] = 4700;
+    const auto curve = CalcCapTemperature(part, 0, CapacitanceAxis, CodeView::Eia);
+    EXPECT_FLOAT_EQ(curve.YData.front(), static_cast<float>(1000 * std::exp(-11.0)));
+    const auto overBias = CalcCapDCVoltage(part, -30, CapacitanceAxis, CodeView::Eia);
+    EXPECT_FLOAT_EQ(overBias.YData.front(), static_cast<float>(1000 * std::exp(-11.0)));
+}
+
 TEST(PeakedModel, MovesThePeakWithTheBias)
 {
     auto part = PeakedPart();
@@ -275,7 +286,11 @@ TEST(CapacitanceFault, OfTheFirstPointComesBeforeThatOfAZeroReference)
     part.Data[27] = -1;
     // The sweep of the JIS view starts at the peak, where 0 to the power -1 has no value.
     EXPECT_EQ(ErrorOf([&] { CalcCapTemperature(part, 0, CapacitanceChangeAxis, CodeView::Jis); }), 5);
-    part.Data[27] = 1;
+    // exp(1e4/5) at the start, 5 °C above the peak, has none either; exp(1e4/50) at 20 °C has.
+    part.Data[19] = -30;
+    part.Data[25] = -1e4F;
+    EXPECT_EQ(ErrorOf([&] { CalcCapTemperature(part, 0, CapacitanceChangeAxis, CodeView::Jis); }), 6);
+    part.Data[25] = 1;
     EXPECT_EQ(ErrorOf([&] { CalcCapTemperature(part, 0, CapacitanceChangeAxis, CodeView::Jis); }), 11);
 }
 

@@ -139,6 +139,20 @@ TEST(PowerModel, FaultsAtTheStepThatGoesWrong)
     EXPECT_EQ(ErrorOf([&] { model.kV(frequencyHz); }), 11);
     EXPECT_EQ(ErrorOf([&] { UnitModel().kI(0); }), 11);
     EXPECT_EQ(ErrorOf([&] { UnitModel().kV(0); }), 5);
+    EXPECT_EQ(ErrorOf([&] { UnitModel().kV(-1); }), 5);
+    // 5^200·1e200 at 100 kHz, each of which is a number
+    model = UnitModel();
+    model.S1 = 1e200;
+    model.S2 = 200;
+    EXPECT_EQ(ErrorOf([&] { model.kV(frequencyHz); }), 6);
+}
+
+TEST(PowerModel, HasAVoltageLawFromTheFirstHertzOn)
+{
+    auto model = UnitModel();
+    model.S2 = 1;
+    EXPECT_EQ(model.kV(1), 0);
+    EXPECT_DOUBLE_EQ(model.kV(10), 1);
 }
 
 struct AllowRow
@@ -188,6 +202,23 @@ TEST(RiseOverLoad, OfVoltageEndsAtTheBoundOrAt80Degrees)
     const auto hot = RiseOverLoad(UnitModel(), 100, frequencyHz, "Voltage");
     EXPECT_FLOAT_EQ(hot.XData.back(), std::sqrt(80.0F));
     EXPECT_EQ(hot.YData.back(), 80);
+}
+
+TEST(RiseOverLoad, OfVoltageWithoutAnExponentIsTheSameEverywhere)
+{
+    auto model = UnitModel();
+    model.S3 = 0;
+    const auto curve = RiseOverLoad(model, 10, frequencyHz, "Voltage");
+    EXPECT_TRUE(std::ranges::all_of(curve.YData, [](float y) { return y == 1; }));
+}
+
+TEST(RiseOverLoad, WhoseLoadsNoSingleHoldsIsAnOverflow)
+{
+    auto model = UnitModel();
+    // (80/1e-80)^½ = 8.9e40 A
+    model.Q2 = 1e-80;
+    EXPECT_EQ(ErrorOf([&] { RiseOverLoad(model, 10, frequencyHz, "Current"); }), 6);
+    EXPECT_EQ(ErrorOf([&] { RiseOverFrequency(model, 10, "Current", 1); }), 6);
 }
 
 TEST(RiseOverLoad, OfApparentPowerFollowsBothLaws)
@@ -324,6 +355,29 @@ TEST(RiseOverFrequency, KeepsTheLineOfTheLargestParameterOnTheChart)
         EXPECT_LE(std::ranges::max(curve.YData), 80) << rth;
         EXPECT_NEAR(curve.YData.front(), 80, 1e-4) << rth;
     }
+}
+
+TEST(RiseOverFrequency, StoresARiseThatTheRoundingOfItsCurrentLiftsAs80)
+{
+    int lifted = 0;
+    for (int kI = 1; kI <= 50; ++kI)
+    {
+        auto model = UnitModel();
+        model.Q2 = kI;
+        const auto limit = static_cast<float>(std::sqrt(80.0 / kI));
+        lifted += static_cast<float>(double{limit} * limit * kI) > 80 ? 1 : 0;
+        const auto curve = std::get<Curve>(RiseOverFrequency(model, 10, "Current", limit));
+        EXPECT_LE(std::ranges::max(curve.YData), 80) << kI;
+    }
+    EXPECT_GT(lifted, 0);
+}
+
+TEST(RiseOverFrequency, OfARiseThatNoSingleHoldsIsAnOverflow)
+{
+    auto model = UnitModel();
+    model.S3 = -1;
+    // The rise is 1/V.
+    EXPECT_EQ(ErrorOf([&] { RiseOverFrequency(model, 10, "Voltage", 1e-39F); }), 6);
 }
 
 TEST(RiseOverFrequency, ShowsARiseAsItIsThatNoRoundingLiftsOverTheCeiling)
