@@ -150,6 +150,8 @@ INSTANTIATE_TEST_SUITE_P(
         EntryRow{"too small", "1e-60", 0.0F}, EntryRow{"far too small", "1e-99999999999999999999", 0.0F},
         EntryRow{"a fraction too large", "0.001e99", Infinity},
         EntryRow{"a fraction too large with a sign", "0.001e+99", Infinity},
+        EntryRow{"leading zeros that count for nothing",
+                 "00000000000000000000000000000000000000000000000000000000000000009e-60", 0.0F},
         EntryRow{"too many digits", "1000000000000000000000000000000000000000", Infinity},
         EntryRow{"too many zeros", "0.000000000000000000000000000000000000000000000000001", 0.0F},
         EntryRow{"a fraction too small", "0.9e-60", 0.0F},
