@@ -43,6 +43,13 @@ TEST(PartFiles, AreFoundInAnyLetterCaseOfTheExtension)
     EXPECT_EQ(FindPartFile(folder.Path(), ".idx"), folder.Path() + "/parts.IdX");
 }
 
+TEST(PartFiles, MayBeAnExtensionAlone)
+{
+    const TemporaryFolder folder;
+    folder.Write(".idx", "");
+    EXPECT_EQ(FindPartFile(folder.Path(), ".idx"), folder.Path() + "/.idx");
+}
+
 TEST(PartFiles, AreTheFirstInAlphabeticalOrder)
 {
     const TemporaryFolder folder;

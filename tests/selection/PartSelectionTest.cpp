@@ -96,6 +96,21 @@ TEST_F(Cascade, NarrowsDownLevelByLevel)
     EXPECT_THAT(selection.RatedVoltages(), ElementsAre(50, 16));
 }
 
+TEST_F(Cascade, ComparesTheListedCapacitanceNotTheNominalOne)
+{
+    for (auto& part : range.PartData)
+    {
+        part.Data[1] = 7;
+    }
+    selection.AddPartNum(0, CodeView::Eia);
+    selection.FillTccList("0805");
+    selection.FillCapList("X7R");
+    selection.FillRatedVolList(1000);
+    EXPECT_THAT(selection.PartNums(), ElementsAre(0, 4, 5));
+    selection.ShowPart(3);
+    EXPECT_THAT(selection.Capacitances(), ElementsAre(100));
+}
+
 TEST_F(Cascade, EmptiesEveryLevelBelowAChoice)
 {
     selection.AddPartNum(0, CodeView::Eia);
