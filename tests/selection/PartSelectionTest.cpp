@@ -163,6 +163,9 @@ TEST_F(Cascade, ForgetsEverythingWhenCleared)
     EXPECT_THAT(selection.RatedVoltages(), IsEmpty());
     EXPECT_THAT(selection.PartNums(), IsEmpty());
     EXPECT_EQ(selection.Choice().SizeCode, std::nullopt);
+    selection.FillTccList("0805");
+    EXPECT_THAT(selection.Tccs(), IsEmpty());
+    EXPECT_THAT(selection.PartNums(), IsEmpty());
 }
 
 TEST_F(Cascade, KeepsOrderAndChoiceWhenTheNamingChanges)
