@@ -162,12 +162,22 @@ void frmGraph::InitChartWindow(const ChartKey& chart)
     setGeometry(WindowLeft, top, WindowWidth, WindowHeight);
     for (std::size_t i = 0; i < MaximumLines; ++i)
     {
-        QPalette palette = fraStatus[i]->palette();
-        palette.setColor(QPalette::WindowText, GetPaneColor(static_cast<int>(i)));
-        fraStatus[i]->setPalette(palette);
-        lblStatus[i]->setPalette(palette);
-        lblPara[i]->setPalette(palette);
+        ColorPane(i, GetPaneColor(static_cast<int>(i)));
     }
+}
+
+/// Gives a pane its colour, once: a changed palette paints the whole pane anew.
+void frmGraph::ColorPane(std::size_t index, const QColor& color)
+{
+    QPalette palette = fraStatus[index]->palette();
+    if (palette.color(QPalette::WindowText) == color && fraStatus[index]->testAttribute(Qt::WA_SetPalette))
+    {
+        return;
+    }
+    palette.setColor(QPalette::WindowText, color);
+    fraStatus[index]->setPalette(palette);
+    lblStatus[index]->setPalette(palette);
+    lblPara[index]->setPalette(palette);
 }
 
 void frmGraph::Draw(const AxisRange& range)

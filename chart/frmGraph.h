@@ -70,6 +70,7 @@ private:
     void picGraph_MouseMove(double xPosition, double yPosition);
     void picGraph_MouseLeave();
     void InitChartWindow(const ChartKey& chart);
+    void ColorPane(std::size_t index, const QColor& color);
     void Draw(const AxisRange& range);
     void FillStatusPanes();
     ChartKey Chart() const;

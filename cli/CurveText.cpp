@@ -39,6 +39,9 @@ std::string CurveCsv(const RequestedCurve& curve, const CurveSettings& settings)
     return text;
 }
 
+/// Characters of the longest shortest text of a single: "-1.17549435e-38".
+static constexpr std::size_t LongestSingle = 15;
+
 /// Any number as JSON takes it. Curves hold finite values only.
 template <class Number> static void AppendNumber(std::string& text, Number value)
 {
@@ -72,14 +75,19 @@ static void AddText(std::string& text, const char* key, std::string_view value)
 static void AddValues(std::string& text, const char* key, const CurveValues& values)
 {
     AppendKey(text, key);
+    // Written in place, and cut to its length afterwards: a curve of numbers is most of what an answer costs.
+    const auto start = text.size();
+    text.resize(start + values.size() * (LongestSingle + 1) + 1);
+    char* at = text.data() + start;
     char separator = '[';
     for (const float value : values)
     {
-        text += separator;
-        AppendNumber(text, value);
+        *at++ = separator;
+        at = std::to_chars(at, at + LongestSingle, value).ptr;
         separator = ',';
     }
-    text += ']';
+    *at++ = ']';
+    text.resize(static_cast<std::size_t>(at - text.data()));
 }
 
 /// "effective-power" of "Effective Power".

@@ -20,9 +20,26 @@ QRect WrappedRadioButton::CaptionRect(int width) const
 {
     const int indicator = style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, this) +
                           style()->pixelMetric(QStyle::PM_RadioButtonLabelSpacing, nullptr, this);
-    const QRect available(indicator, 0, std::max(width - indicator, 1), QWIDGETSIZE_MAX);
-    const QRect needed = fontMetrics().boundingRect(available, CaptionFlags & ~Qt::AlignVCenter, text());
-    return {available.left(), 0, available.width(), needed.height()};
+    const int captionWidth = std::max(width - indicator, 1);
+    return {indicator, 0, captionWidth, CaptionHeight(captionWidth)};
+}
+
+/// The height of the caption's lines when they break at the given width.
+int WrappedRadioButton::CaptionHeight(int width) const
+{
+    if (measured.Width != width || measured.Text != text())
+    {
+        const QRect available(0, 0, width, QWIDGETSIZE_MAX);
+        const QRect needed = fontMetrics().boundingRect(available, CaptionFlags & ~Qt::AlignVCenter, text());
+        measured = {text(), width, needed.height()};
+    }
+    return measured.Height;
+}
+
+void WrappedRadioButton::changeEvent(QEvent* event)
+{
+    measured = {};
+    QRadioButton::changeEvent(event);
 }
 
 int WrappedRadioButton::heightForWidth(int width) const

@@ -19,8 +19,20 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
     bool hitButton(const QPoint& place) const override { return rect().contains(place); }
 
 private:
     QRect CaptionRect(int width) const;
+    int CaptionHeight(int width) const;
+
+    /// The height last measured, for the caption and width it was measured for: a form asks many times for
+    /// the height of the same caption.
+    struct MeasuredCaption
+    {
+        QString Text;
+        int Width = -1;
+        int Height = 0;
+    };
+    mutable MeasuredCaption measured;
 };
