@@ -1,13 +1,12 @@
-/// Curves per second of every chart, beside the same points from the plain formulas with a `pow` for every
-/// power at every point. "ratio" tells how many times as fast the calculation is as the plain formulas.
+/// The curves of every chart, beside the same points from the plain formulas with a `pow` for every power at
+/// every point.
 
+#include "bench/Turns.h"
 #include "calc/Calculate.h"
 #include "tests/calc/PlainCurves.h"
 
-#include <benchmark/benchmark.h>
-
-#include <chrono>
 #include <cstdint>
+#include <stdexcept>
 #include <string>
 
 namespace
@@ -54,7 +53,7 @@ ChartRecord RecordOf(const Case& with)
     return record;
 }
 
-void Calculated(const PartRecord& part, ChartRecord& record, CodeView view)
+void Calculate(const PartRecord& part, ChartRecord& record, CodeView view)
 {
     if (record.ChartType >= 2)
     {
@@ -64,45 +63,41 @@ void Calculated(const PartRecord& part, ChartRecord& record, CodeView view)
     {
         throw std::logic_error("the parameter of this benchmark is refused");
     }
-    benchmark::DoNotOptimize(record.YData);
 }
 
-void Plain(const PartRecord& part, const ChartRecord& record, CodeView view)
-{
-    auto curve = PlainCurveOf(part, record, view);
-    benchmark::DoNotOptimize(curve);
-}
+/// Keeps results that nobody reads from being optimised away.
+volatile float lastValue = 0;
 
-/// Times both, turn about, so that a change of the machine's pace meets both.
-void Curves(benchmark::State& state, const Case& with)
+void CompareCurve(const std::string& name, const Case& with)
 {
-    using Clock = std::chrono::steady_clock;
-    constexpr int curvesATurn = 20;
+    constexpr int curvesARound = 20;
     const auto part = TypicalPart(with.Tcc);
     auto record = RecordOf(with);
-    std::chrono::duration<double> calculated{};
-    std::chrono::duration<double> plain{};
-    for (auto _ : state)
-    {
-        const auto start = Clock::now();
-        for (int i = 0; i < curvesATurn; ++i)
+    CompareInTurns(
+        "curve-" + name, 200,
+        [&](int)
         {
-            Calculated(part, record, with.View);
-        }
-        const auto middle = Clock::now();
-        for (int i = 0; i < curvesATurn; ++i)
+            return MicrosecondsOf(
+                [&]
+                {
+                    for (int i = 0; i < curvesARound; ++i)
+                    {
+                        Calculate(part, record, with.View);
+                        lastValue = record.YData.back();
+                    }
+                });
+        },
+        [&](int)
         {
-            Plain(part, record, with.View);
-        }
-        const auto end = Clock::now();
-        calculated += middle - start;
-        plain += end - middle;
-        state.SetIterationTime(std::chrono::duration<double>(middle - start).count());
-    }
-    const auto curves = static_cast<double>(state.iterations()) * curvesATurn;
-    state.counters["curves/s"] = curves / calculated.count();
-    state.counters["plain/s"] = curves / plain.count();
-    state.counters["ratio"] = plain.count() / calculated.count();
+            return MicrosecondsOf(
+                [&]
+                {
+                    for (int i = 0; i < curvesARound; ++i)
+                    {
+                        lastValue = static_cast<float>(PlainCurveOf(part, record, with.View).YData.back());
+                    }
+                });
+        });
 }
 
 constexpr auto rise = ChartType::TemperatureRise;
@@ -112,39 +107,36 @@ constexpr auto overBias = ChartType::CapacitanceDCVoltage;
 constexpr auto jis = CodeView::Jis;
 
 const std::pair<const char*, Case> cases[] = {
-    {"polynomial/temperature", {"X7R", overTemperature, "Temperature", "Capacitance Change"}},
-    {"polynomial/temperature/JIS", {"X7R", overTemperature, "Temperature", "Capacitance Change", "", 0, jis}},
-    {"polynomial/bias", {"X7R", overBias, "DC Bias Voltage", "Capacitance"}},
-    {"polynomial/bias/JIS", {"X7R", overBias, "DC Bias Voltage", "Capacitance Change", "", 0, jis}},
-    {"peaked/temperature", {"Y5V", overTemperature, "Temperature", "Capacitance Change"}},
-    {"peaked/temperature/JIS", {"Y5V", overTemperature, "Temperature", "Capacitance Change", "", 0, jis}},
-    {"peaked/bias", {"Y5V", overBias, "DC Bias Voltage", "Capacitance"}},
-    {"peaked/bias/JIS", {"Y5V", overBias, "DC Bias Voltage", "Capacitance Change", "", 0, jis}},
-    {"rise/current", {"X7R", rise, "Current", "Temperature Rise"}},
-    {"rise/voltage", {"X7R", rise, "Voltage", "Temperature Rise"}},
-    {"rise/apparent power", {"X7R", rise, "Apparent Power", "Temperature Rise"}},
-    {"rise/effective power", {"X7R", rise, "Effective Power", "Temperature Rise"}},
-    {"rise/frequency/current", {"X7R", rise, "Frequency", "Temperature Rise", "Current", 0.1F}},
-    {"rise/frequency/voltage", {"X7R", rise, "Frequency", "Temperature Rise", "Voltage", 0.1F}},
-    {"rise/frequency/apparent power",
+    {"polynomial-temperature", {"X7R", overTemperature, "Temperature", "Capacitance Change"}},
+    {"polynomial-temperature-jis", {"X7R", overTemperature, "Temperature", "Capacitance Change", "", 0, jis}},
+    {"polynomial-bias", {"X7R", overBias, "DC Bias Voltage", "Capacitance"}},
+    {"polynomial-bias-jis", {"X7R", overBias, "DC Bias Voltage", "Capacitance Change", "", 0, jis}},
+    {"peaked-temperature", {"Y5V", overTemperature, "Temperature", "Capacitance Change"}},
+    {"peaked-temperature-jis", {"Y5V", overTemperature, "Temperature", "Capacitance Change", "", 0, jis}},
+    {"peaked-bias", {"Y5V", overBias, "DC Bias Voltage", "Capacitance"}},
+    {"peaked-bias-jis", {"Y5V", overBias, "DC Bias Voltage", "Capacitance Change", "", 0, jis}},
+    {"rise-current", {"X7R", rise, "Current", "Temperature Rise"}},
+    {"rise-voltage", {"X7R", rise, "Voltage", "Temperature Rise"}},
+    {"rise-apparent-power", {"X7R", rise, "Apparent Power", "Temperature Rise"}},
+    {"rise-effective-power", {"X7R", rise, "Effective Power", "Temperature Rise"}},
+    {"rise-frequency-current", {"X7R", rise, "Frequency", "Temperature Rise", "Current", 0.1F}},
+    {"rise-frequency-voltage", {"X7R", rise, "Frequency", "Temperature Rise", "Voltage", 0.1F}},
+    {"rise-frequency-apparent-power",
      {"X7R", rise, "Frequency", "Temperature Rise", "Apparent Power", 0.001F}},
-    {"rise/frequency/effective power",
+    {"rise-frequency-effective-power",
      {"X7R", rise, "Frequency", "Temperature Rise", "Effective Power", 0.1F}},
-    {"allowable/current", {"X7R", allowable, "Frequency", "Current"}},
-    {"allowable/voltage", {"X7R", allowable, "Frequency", "Voltage"}},
-    {"allowable/apparent power", {"X7R", allowable, "Frequency", "Apparent Power"}},
-    {"allowable/effective power", {"X7R", allowable, "Frequency", "Effective Power"}},
+    {"allowable-current", {"X7R", allowable, "Frequency", "Current"}},
+    {"allowable-voltage", {"X7R", allowable, "Frequency", "Voltage"}},
+    {"allowable-apparent-power", {"X7R", allowable, "Frequency", "Apparent Power"}},
+    {"allowable-effective-power", {"X7R", allowable, "Frequency", "Effective Power"}},
 };
 } // namespace
 
-int main(int argc, char** argv)
+int main()
 {
     for (const auto& [name, with] : cases)
     {
-        benchmark::RegisterBenchmark(name, [with = with](benchmark::State& state) { Curves(state, with); })
-            ->UseManualTime();
+        CompareCurve(name, with);
     }
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
+    return 0;
 }

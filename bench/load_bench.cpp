@@ -1,18 +1,17 @@
 /// Times the loading of part files beside bare reading, splitting and hashing of the same two files, and
 /// counts the memory that a loaded table keeps.
 
+#include "bench/Turns.h"
 #include "partdata/PartTable.h"
-
-#include <benchmark/benchmark.h>
 
 #include <malloc.h>
 
-#include <algorithm>
 #include <array>
-#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <optional>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -166,14 +165,11 @@ static BareLoad LoadBare(const FilePair& files)
 
 // ---- The measurements ---------------------------------------------------------------------------------
 
-/// Seconds that a load takes; giving its memory back is not counted.
-static double SecondsOf(auto&& load)
+/// Microseconds that a load takes; giving its memory back is not counted.
+static double TimeOf(auto&& load)
 {
-    const auto start = std::chrono::steady_clock::now();
-    const auto loaded = load();
-    const auto stop = std::chrono::steady_clock::now();
-    benchmark::DoNotOptimize(&loaded);
-    return std::chrono::duration<double>(stop - start).count();
+    std::optional<decltype(load())> loaded;
+    return MicrosecondsOf([&] { loaded.emplace(load()); });
 }
 
 static std::size_t AllocatedBytes()
@@ -182,45 +178,33 @@ static std::size_t AllocatedBytes()
     return info.uordblks + info.hblkhd;
 }
 
-/// Loads and the bare yardstick take turns, so that both see the same state of the machine; the ratio is
-/// that of their medians.
-static void Load(benchmark::State& state)
+/// The memory that a loaded table keeps, against the sizes of its files.
+static double MemoryRatio(const FilePair& files, int parts)
 {
-    const FilePair files(static_cast<std::size_t>(state.range(0)));
-    std::vector<double> loads;
-    std::vector<double> bareLoads;
-    for (auto _ : state)
-    {
-        loads.push_back(SecondsOf([&] { return ReadPartPair(files.index, files.data); }));
-        bareLoads.push_back(SecondsOf([&] { return LoadBare(files); }));
-        state.SetIterationTime(loads.back());
-    }
-    const auto median = [](std::vector<double>& times)
-    {
-        std::ranges::nth_element(times, times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2));
-        return times[times.size() / 2];
-    };
-
     const auto before = AllocatedBytes();
     const auto table = ReadPartPair(files.index, files.data);
     const auto kept = AllocatedBytes() - before;
-    if (table.PartMax + 1 != state.range(0))
+    if (table.PartMax + 1 != parts)
     {
-        state.SkipWithError("not all parts were loaded");
+        throw std::logic_error("not all parts were loaded");
     }
-    state.counters["bare_us"] = median(bareLoads) * 1e6;
-    state.counters["load_us"] = median(loads) * 1e6;
-    state.counters["time_ratio"] = median(loads) / median(bareLoads);
-    state.counters["memory_ratio"] = static_cast<double>(kept) / static_cast<double>(files.Bytes());
+    return static_cast<double>(kept) / static_cast<double>(files.Bytes());
 }
 
-BENCHMARK(Load)->Arg(100)->Arg(1000)->Arg(10000)->Arg(32767)->UseManualTime()->Unit(benchmark::kMicrosecond);
-
-int main(int argc, char** argv)
+int main()
 {
     // Large blocks come fresh from the system each time, as they do when the program starts; otherwise one of
     // the two could be handed the other's pages.
     mallopt(M_MMAP_THRESHOLD, 128 * 1024);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
+    for (const int parts : {100, 1000, 10000, 32767})
+    {
+        const FilePair files(static_cast<std::size_t>(parts));
+        const auto count = std::to_string(parts);
+        CompareInTurns(
+            "load-" + count, parts < 10000 ? 1000 : 100,
+            [&](int) { return TimeOf([&] { return ReadPartPair(files.index, files.data); }); },
+            [&](int) { return TimeOf([&] { return LoadBare(files); }); });
+        PrintRatio("load-memory-" + count, MemoryRatio(files, parts));
+    }
+    return 0;
 }

@@ -2,14 +2,14 @@
 /// and opening its list, beside an ordinary combo box of the same entries.
 
 #include "app/mdlPublic.h"
+#include "bench/Turns.h"
 #include "selection/PartNumBox.h"
 #include "selection/PartSelection.h"
 #include "tests/selection/Ranges.h"
 
-#include <benchmark/benchmark.h>
-
 #include <QApplication>
 
+#include <cstdio>
 #include <numeric>
 #include <vector>
 
@@ -37,69 +37,48 @@ void Fill(QComboBox& box, int form)
     }
 }
 
-template <class Box> void FillOrRename(benchmark::State& state)
+/// Filling the box, each time with another of the four part-number forms.
+template <class Box> double TimeOfFilling(Box& box, int round)
 {
-    Box box;
-    box.show();
-    int form = 0;
-    for (auto _ : state)
-    {
-        Fill(box, form);
-        form = (form + 1) % 4;
-    }
+    return MicrosecondsOf([&] { Fill(box, round % 4); });
 }
 
-/// Opens the list at its first or last entry until it is painted. The cost of closing it is not counted.
-template <class Box> void Open(benchmark::State& state)
+/// Opening the list at its first or last entry until it is painted; closing it is not counted.
+template <class Box> double TimeOfOpening(Box& box, int round)
 {
-    Box box;
-    box.setMaxVisibleItems(20);
-    box.show();
-    for (auto _ : state)
-    {
-        state.PauseTiming();
-        Fill(box, 0);
-        box.setCurrentIndex(state.range(0) == 0 ? 0 : box.count() - 1);
-        QApplication::processEvents();
-        state.ResumeTiming();
-        box.showPopup();
-        QApplication::processEvents();
-        state.PauseTiming();
-        box.hidePopup();
-        QApplication::processEvents();
-        state.ResumeTiming();
-    }
+    Fill(box, 0);
+    box.setCurrentIndex(round % 2 == 0 ? 0 : box.count() - 1);
+    QApplication::processEvents();
+    const double time = MicrosecondsOf(
+        [&]
+        {
+            box.showPopup();
+            QApplication::processEvents();
+        });
+    box.hidePopup();
+    QApplication::processEvents();
+    return time;
 }
 
-void ChooseChartType(benchmark::State& state)
+/// The lists that a chart type or a code switch brings; no plain widget does the same.
+void TimeCascade()
 {
     PartSelection selection(mdlPublic.Parts);
-    std::int16_t type = 0;
-    for (auto _ : state)
+    std::vector<double> times;
+    for (int round = 0; round < 100; ++round)
     {
-        selection.AddPartNum(type, CodeView::Eia);
-        type = static_cast<std::int16_t>((type + 1) % 4);
+        times.push_back(MicrosecondsOf(
+            [&] { selection.AddPartNum(static_cast<std::int16_t>(round % 4), CodeView::Eia); }));
     }
-}
-
-void ChangeNaming(benchmark::State& state)
-{
-    PartSelection selection(mdlPublic.Parts);
-    selection.AddPartNum(0, CodeView::Eia);
-    bool jis = true;
-    for (auto _ : state)
+    std::printf("lists after a chart type: %.0f us\n", Median(times));
+    times.clear();
+    for (int round = 0; round < 100; ++round)
     {
-        selection.ChangeNaming(jis ? CodeView::Jis : CodeView::Eia);
-        jis = !jis;
+        times.push_back(
+            MicrosecondsOf([&] { selection.ChangeNaming(round % 2 == 0 ? CodeView::Jis : CodeView::Eia); }));
     }
+    std::printf("lists after a code switch: %.0f us\n", Median(times));
 }
-
-BENCHMARK(ChooseChartType)->Unit(benchmark::kMillisecond);
-BENCHMARK(ChangeNaming)->Unit(benchmark::kMillisecond);
-BENCHMARK(FillOrRename<PartNumBox>)->Unit(benchmark::kMillisecond);
-BENCHMARK(FillOrRename<QComboBox>)->Unit(benchmark::kMillisecond);
-BENCHMARK(Open<PartNumBox>)->Unit(benchmark::kMillisecond)->Iterations(10)->ArgName("last")->Arg(0)->Arg(1);
-BENCHMARK(Open<QComboBox>)->Unit(benchmark::kMillisecond)->Iterations(10)->ArgName("last")->Arg(0)->Arg(1);
 
 } // namespace
 
@@ -111,6 +90,20 @@ int main(int argc, char** argv)
     }
     QApplication application(argc, argv);
     mdlPublic.Parts = LargestRange();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
+    TimeCascade();
+
+    PartNumBox ours;
+    QComboBox plain;
+    for (QComboBox* box : {static_cast<QComboBox*>(&ours), &plain})
+    {
+        box->setMaxVisibleItems(20);
+        box->show();
+    }
+    CompareInTurns(
+        "list-fill", 20, [&](int round) { return TimeOfFilling(ours, round); },
+        [&](int round) { return TimeOfFilling(plain, round); });
+    CompareInTurns(
+        "list-open", 10, [&](int round) { return TimeOfOpening(ours, round); },
+        [&](int round) { return TimeOfOpening(plain, round); });
+    return 0;
 }

@@ -63,7 +63,8 @@ static std::string TextOf(const RequestedCurve& curve, const CurveOptions& optio
     if (options.Format == "json")
     {
         std::string text;
-        AppendCurveJson(text, curve, options.Settings);
+        AxisTexts axes;
+        AppendCurveJson(text, curve, options.Settings, axes);
         return text;
     }
     const auto date = options.Date ? Windows1252FromUtf8(*options.Date) : ToAnsi(Today());

@@ -39,9 +39,6 @@ std::string CurveCsv(const RequestedCurve& curve, const CurveSettings& settings)
     return text;
 }
 
-/// Characters of the longest shortest text of a single: "-1.17549435e-38".
-static constexpr std::size_t LongestSingle = 15;
-
 /// Any number as JSON takes it. Curves hold finite values only.
 template <class Number> static void AppendNumber(std::string& text, Number value)
 {
@@ -70,24 +67,6 @@ static void AddText(std::string& text, const char* key, std::string_view value)
 {
     AppendKey(text, key);
     AppendText(text, value);
-}
-
-static void AddValues(std::string& text, const char* key, const CurveValues& values)
-{
-    AppendKey(text, key);
-    // Written in place, and cut to its length afterwards: a curve of numbers is most of what an answer costs.
-    const auto start = text.size();
-    text.resize(start + values.size() * (LongestSingle + 1) + 1);
-    char* at = text.data() + start;
-    char separator = '[';
-    for (const float value : values)
-    {
-        *at++ = separator;
-        at = std::to_chars(at, at + LongestSingle, value).ptr;
-        separator = ',';
-    }
-    *at++ = ']';
-    text.resize(static_cast<std::size_t>(at - text.data()));
 }
 
 /// "effective-power" of "Effective Power".
@@ -130,7 +109,8 @@ static void AddConditions(std::string& text, const ChartRecord& line)
     text += '}';
 }
 
-void AppendCurveJson(std::string& text, const RequestedCurve& curve, const CurveSettings& settings)
+void AppendCurveJson(std::string& text, const RequestedCurve& curve, const CurveSettings& settings,
+                     AxisTexts& axes)
 {
     const ChartRecord& line = curve.Line;
     text += '{';
@@ -141,8 +121,10 @@ void AppendCurveJson(std::string& text, const RequestedCurve& curve, const Curve
     AddText(text, "yName", line.YAxisName);
     AddText(text, "yUnit", StoredUnit(line.YAxisName));
     AddConditions(text, line);
-    AddValues(text, "x", line.XData);
-    AddValues(text, "y", line.YData);
+    AppendKey(text, "x");
+    text += axes.Of(line.XData);
+    AppendKey(text, "y");
+    AppendValues(text, line.YData);
     AddNumber(text, "xMax", line.XMax);
     AddNumber(text, "yMax", line.YMax);
     AddNumber(text, "xMin", line.XMin);

@@ -89,12 +89,12 @@ CurveRequest RequestOfJson(std::string_view line, const CurveRequest& defaults)
 }
 
 bool AppendAnswer(std::string& text, std::string_view line, const CurveRequest& defaults,
-                  const PartTable& parts, const CurveSettings& settings)
+                  const PartTable& parts, const CurveSettings& settings, AxisTexts& axes)
 {
     try
     {
         const auto request = RequestOfJson(line, defaults);
-        AppendCurveJson(text, CurveOf(request, parts, settings), settings);
+        AppendCurveJson(text, CurveOf(request, parts, settings), settings, axes);
         return true;
     }
     catch (const RefusedRequest& refused)
@@ -126,6 +126,7 @@ static RequestCounts AnswerLines(std::istream& in, Progress progress, const Curv
     RequestCounts counts;
     std::string line;
     std::string answer;
+    AxisTexts axes;
     while (std::getline(in, line))
     {
         progress.Advance(line.size() + 1);
@@ -135,7 +136,7 @@ static RequestCounts AnswerLines(std::istream& in, Progress progress, const Curv
         }
         answer.clear();
         ++counts.Requests;
-        counts.WithoutCurve += AppendAnswer(answer, line, defaults, parts, settings) ? 0 : 1;
+        counts.WithoutCurve += AppendAnswer(answer, line, defaults, parts, settings, axes) ? 0 : 1;
         output.Write(answer);
         if (in.rdbuf()->in_avail() <= 0)
         {

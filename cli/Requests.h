@@ -2,6 +2,7 @@
 
 /// A stream of curve requests, one JSON object a line, answered line by line.
 
+#include "cli/AxisTexts.h"
 #include "cli/CurveRequest.h"
 #include "cli/Output.h"
 
@@ -21,9 +22,9 @@ struct RequestCounts
     std::size_t WithoutCurve = 0;
 };
 
-/// Appends the answer to one line; false when it is an error.
+/// Appends the answer to one line; false when it is an error. The axis texts are those of the stream.
 bool AppendAnswer(std::string& text, std::string_view line, const CurveRequest& defaults,
-                  const PartTable& parts, const CurveSettings& settings);
+                  const PartTable& parts, const CurveSettings& settings, AxisTexts& axes);
 
 /// Answers every line of a file, or of standard input for "-", in order; empty lines are skipped. Holds one
 /// request and one answer at a time, and hands over answers whenever no further request is waiting.

@@ -3,7 +3,6 @@
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-qpa-plugins libgl-dev
     libcli11-dev nlohmann-json3-dev libgmock-dev fonts-liberation fontconfig)
 test_packages=(clang-format xvfb xdotool xclip poppler-utils cups)
-bench_packages=(libbenchmark-dev)
 fuzz_packages=(clang libclang-rt-dev)
 coverage_packages=(gcovr)
 valgrind_packages=(valgrind)
@@ -15,7 +14,6 @@ need() {
         case $group in
             build) wanted+=("${build_packages[@]}") ;;
             test) wanted+=("${test_packages[@]}") ;;
-            bench) wanted+=("${bench_packages[@]}") ;;
             fuzz) wanted+=("${fuzz_packages[@]}") ;;
             coverage) wanted+=("${coverage_packages[@]}") ;;
             valgrind) wanted+=("${valgrind_packages[@]}") ;;

@@ -1,0 +1,33 @@
+#pragma once
+
+/// The yardstick of the program's windows: the same controls and menus, with nothing behind them.
+
+#include <QMainWindow>
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <vector>
+
+class QComboBox;
+class QMdiArea;
+class QMdiSubWindow;
+class QRadioButton;
+
+/// An MDI window with a selection form's controls at its left edge.
+struct BareDesk
+{
+    BareDesk();
+
+    QMainWindow window;
+    QMdiArea* area;
+    std::vector<QRadioButton*> chartTypes;
+    /// The five lists of the part and the two of the axes, from top to bottom.
+    std::vector<QComboBox*> lists;
+};
+
+/// Paints the surface of a bare chart window.
+using PaintSurface = std::function<void(QPainter& painter)>;
+
+/// Opens a window with a chart window's controls and menus, not shown yet.
+QMdiSubWindow* AddBareChart(QMdiArea& area, const PaintSurface& paint = {});
