@@ -4,10 +4,10 @@
 #include "app/Messages.h"
 #include "frame/ProgramIcon.h"
 #include "frame/frmMain.h"
-#include "partdata/RunTimeError.h"
 
 #include <QApplication>
 
+#include <exception>
 #include <iostream>
 
 /// Whether somebody can see a box and answer it.
@@ -38,8 +38,9 @@ int main(int argc, char* argv[])
             return 0;
         }
     }
-    catch (const RunTimeError& error)
+    catch (const std::exception& error)
     {
+        // A RunTimeError, or memory has run out.
         std::cerr << error.what() << '\n';
         if (HasDisplay())
         {

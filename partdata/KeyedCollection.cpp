@@ -40,15 +40,28 @@ static std::uint64_t LoadShort(std::string_view key)
     return key.empty() ? 0 : Load<std::uint8_t>(bytes);
 }
 
+/// `FoldCase` of eight characters at once.
+static std::uint64_t FoldCases(std::uint64_t characters)
+{
+    constexpr std::uint64_t each = 0x0101010101010101;
+    constexpr std::uint64_t highBits = 0x80 * each;
+
+    // A sum has the high bit of a character set where its lower seven bits reach the number asked for.
+    const auto low = characters & ~highBits;
+    const auto reaches = [low](std::uint64_t least) { return low + (0x80 - least) * each; };
+    const auto isDivisionSign = ~((low ^ (0x77 * each)) + 0x7F * each);
+    const auto ascii = reaches(0x61) & ~reaches(0x7B) & ~characters;
+    const auto latin = reaches(0x60) & ~reaches(0x7F) & ~isDivisionSign & characters;
+    // Upper and lower case of a letter differ in the bit of 0x20 alone.
+    return characters ^ (((ascii | latin) & highBits) >> 2);
+}
+
 /// Stirs eight more bytes into a hash.
 static std::uint64_t Mix(std::uint64_t hash, std::uint64_t block)
 {
-    // Upper and lower case of every ASCII and Latin-1 letter differ in this bit alone, so setting it in all
-    // bytes folds eight of them at once. The few other characters that it makes alike only share a hash.
-    constexpr std::uint64_t caseBits = 0x2020202020202020;
     constexpr std::uint64_t multiplier = 0x9E3779B97F4A7C15;
 
-    hash = (hash ^ (block | caseBits)) * multiplier;
+    hash = (hash ^ FoldCases(block)) * multiplier;
     return hash ^ (hash >> 32);
 }
 

@@ -3,16 +3,17 @@
 #include "partdata/DataReader.h"
 #include "partdata/IndexReader.h"
 #include "partdata/InputFile.h"
+#include "partdata/OneLine.h"
 #include "partdata/RunTimeError.h"
+#include "partdata/Windows1252.h"
 
 #include <algorithm>
-#include <limits>
+#include <system_error>
 
-static constexpr std::size_t MostParts = std::numeric_limits<std::int16_t>::max();
 /// The shortest index record: eight empty fields.
 static constexpr std::size_t LeastIndexRecordBytes = 8;
-/// Far beyond any range of parts; a larger file is something else, and is not loaded to find out.
-static constexpr std::uintmax_t MostIndexBytes = std::numeric_limits<std::int32_t>::max();
+/// Of a part number that a message names; the message cuts it to a line anyway.
+static constexpr std::size_t ToldPartNumBytes = 100;
 
 static void ReadNames(PartTable& table, InputFile& file, std::size_t dataRecords)
 {
@@ -32,6 +33,9 @@ static void ReadNames(PartTable& table, InputFile& file, std::size_t dataRecords
     {
         if (table.PartData.size() == MostParts)
         {
+            // The record is counted once it is whole.
+            PartRecord surplus;
+            index.ReadRecord(surplus);
             throw RunTimeError(RunTimeErrorNumber::Overflow)
                 .At(file.Name() + ": record " + std::to_string(MostParts + 1));
         }
@@ -53,7 +57,7 @@ static void IndexPartNumbers(PartTable& table, const std::string& fileName)
             {
                 throw RunTimeError(RunTimeErrorNumber::DuplicateKey)
                     .At(fileName + ": record " + std::to_string(i + 1) + ": PartNum(" + std::to_string(form) +
-                        ") \"" + std::string(partNum) + "\"");
+                        ") \"" + OneLine(Utf8FromWindows1252(partNum.substr(0, ToldPartNumBytes))) + "\"");
             }
         }
     }
@@ -78,13 +82,21 @@ static void PairNamings(std::array<KeyedCollection<std::string_view>, CodeForms>
     }
 }
 
+/// How many records a data file holds; 0 where that is not known.
+static std::size_t DataRecordsOf(const std::filesystem::path& dataFile)
+{
+    std::error_code fault;
+    const auto size = std::filesystem::file_size(dataFile, fault);
+    return fault ? 0 : static_cast<std::size_t>(size / DataRecordBytes);
+}
+
 PartTable ReadPartPair(const std::filesystem::path& indexFile, const std::filesystem::path& dataFile)
 {
     InputFile index(indexFile);
-    InputFile data(dataFile);
-
     PartTable table;
-    ReadNames(table, index, static_cast<std::size_t>(data.Size() / DataRecordBytes));
+    ReadNames(table, index, DataRecordsOf(dataFile));
+    // A fault of the index is told before one of the data file.
+    InputFile data(dataFile);
     ReadPartValues(data, table.PartData);
     IndexPartNumbers(table, index.Name());
     PairNamings(table.SizeCodeMap, table.PartData, &PartRecord::SizeCode);

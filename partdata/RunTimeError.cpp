@@ -1,5 +1,7 @@
 #include "partdata/RunTimeError.h"
 
+#include "partdata/OneLine.h"
+
 #include <utility>
 
 const char* DescriptionOf(RunTimeErrorNumber number)
@@ -58,6 +60,7 @@ RunTimeError RunTimeError::At(std::string where) const
 {
     RunTimeError located = *this;
     located.place = std::move(where);
-    located.line = "Run-time error '" + std::to_string(number) + "': " + description + ": " + located.place;
+    located.line = "Run-time error '" + std::to_string(number) + "': " + description + ": " +
+                   WithoutControls(located.place);
     return located;
 }

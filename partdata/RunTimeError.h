@@ -46,7 +46,8 @@ public:
     const std::string& Description() const { return description; }
     const std::string& Place() const { return place; }
 
-    /// One line: "Run-time error '62': Input past end of file: parts.idx: record 17: field 3".
+    /// One line: "Run-time error '62': Input past end of file: parts.idx: record 17: field 3". A control
+    /// character of the place reads as "\x0A".
     const char* what() const noexcept override { return line.c_str(); }
 
 private:

@@ -96,7 +96,7 @@ void Export(const DataOptions& options)
 {
     const PairPaths pair = {.Index = IndexOf(options.Pair), .Data = DataOf(options.Pair)};
     const auto table = ReadPartPair(pair.Index, pair.Data);
-    const auto indexText = ReadBytes(pair.Index);
+    const auto indexText = ReadBytes(pair.Index, MostIndexBytes);
     const auto text = TableText(table.PartData, LineEndOf(indexText));
     if (options.Output.empty())
     {
@@ -123,7 +123,7 @@ PairPaths PairPathsOf(fs::path output)
 
 void Build(const DataOptions& options)
 {
-    const auto table = ReadTable(ReadBytes(options.Table));
+    const auto table = ReadTable(ReadBytes(options.Table, MostTableBytes));
     for (const auto& error : table.Errors)
     {
         std::cerr << LineOf(error, options.Table) << '\n';

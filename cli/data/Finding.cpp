@@ -1,5 +1,7 @@
 #include "cli/data/Finding.h"
 
+#include "partdata/OneLine.h"
+
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
@@ -7,20 +9,6 @@
 
 namespace
 {
-constexpr std::size_t LongestValue = 80;
-
-bool IsControl(char c)
-{
-    return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
-}
-
-std::string HexOf(char c)
-{
-    constexpr std::string_view Digits = "0123456789ABCDEF";
-    const auto code = static_cast<unsigned char>(c);
-    return {Digits[code >> 4], Digits[code & 0x0FU]};
-}
-
 /// The place: file, record and part number, as far as they are known.
 std::string PlaceOf(const Finding& finding)
 {
@@ -77,22 +65,28 @@ Json JsonOf(const Finding& finding)
 
 std::size_t PairReport::Count(Severity level) const
 {
-    return static_cast<std::size_t>(std::ranges::count(Findings, level, &Finding::Level));
+    return static_cast<std::size_t>(std::ranges::count(Findings, level, &Finding::Level)) +
+           (level == Severity::Error ? DroppedErrors : DroppedWarnings);
 }
 
-std::string OneLine(std::string_view text)
+void PairReport::DropSurplus()
 {
-    std::string line;
-    for (const char c : text)
+    if (Findings.size() <= MostFindings)
     {
-        // Never cut within a character of several bytes.
-        if (line.size() >= LongestValue && (static_cast<unsigned char>(c) & 0xC0U) != 0x80)
-        {
-            return line + "...";
-        }
-        line += IsControl(c) ? "\\x" + HexOf(c) : std::string(1, c);
+        return;
     }
-    return line;
+    auto left = Findings.size() - MostFindings;
+    for (const auto level : {Severity::Warning, Severity::Error})
+    {
+        auto& dropped = level == Severity::Error ? DroppedErrors : DroppedWarnings;
+        const auto of = static_cast<std::size_t>(std::ranges::count(Findings, level, &Finding::Level));
+        const auto drop = std::min(left, of);
+        std::size_t met = 0;
+        std::erase_if(Findings,
+                      [&](const Finding& finding) { return finding.Level == level && met++ >= of - drop; });
+        dropped += drop;
+        left -= drop;
+    }
 }
 
 std::string Counted(std::size_t count, std::string_view noun)
@@ -106,6 +100,11 @@ std::string TextOf(const PairReport& report)
     for (const auto& finding : report.Findings)
     {
         text += LineOf(finding);
+    }
+    const auto dropped = report.DroppedErrors + report.DroppedWarnings;
+    if (dropped != 0)
+    {
+        text += "... and " + Counted(dropped, "further finding") + "\n";
     }
     return text + Counted(report.Parts, "part") + ", " + Counted(report.Count(Severity::Error), "error") +
            ", " + Counted(report.Count(Severity::Warning), "warning") + "\n";
@@ -125,6 +124,10 @@ std::string JsonOf(const PairReport& report)
     object["errors"] = report.Count(Severity::Error);
     object["warnings"] = report.Count(Severity::Warning);
     object["findings"] = std::move(findings);
+    if (report.DroppedErrors + report.DroppedWarnings != 0)
+    {
+        object["dropped"] = report.DroppedErrors + report.DroppedWarnings;
+    }
     // A file may be named by bytes that are no text.
     return object.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }

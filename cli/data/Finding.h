@@ -41,22 +41,29 @@ struct PairReport
     std::string DataFile;
     std::size_t Parts = 0;
     std::vector<Finding> Findings;
+    /// Findings that were dropped, of a pair that is wrong all over.
+    std::size_t DroppedErrors = 0;
+    std::size_t DroppedWarnings = 0;
 
+    /// All findings of a level, dropped ones included.
     std::size_t Count(Severity level) const;
+    /// Once there are more than `MostFindings`, drops the last of them, warnings before errors.
+    void DropSurplus();
 };
 
-/// The text on one line: control characters as "\x0A", no more than 80 characters of it.
-std::string OneLine(std::string_view text);
+/// Findings of one pair that are told; nobody reads more.
+inline constexpr std::size_t MostFindings = 10'000;
 
 /// "1 error", "2 errors".
 std::string Counted(std::size_t count, std::string_view noun);
 
-/// One line a finding and a summary line:
+/// One line a finding, one that tells how many are left out, and a summary line:
 ///
 ///     halvex.dat: record 17: KTU033R71E101KA01: error: Data(2) = 0: rated voltage is not positive
 ///     [rated-voltage] 1179 parts, 1 error, 0 warnings
 std::string TextOf(const PairReport& report);
 
 /// The same as one JSON object, with the members `indexFile`, `dataFile`, `parts`, `errors`, `warnings` and
-/// `findings`. Members of a finding that say nothing are left out.
+/// `findings`, and with `dropped` where findings are left out. Members of a finding that say nothing are left
+/// out.
 std::string JsonOf(const PairReport& report);

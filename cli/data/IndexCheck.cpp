@@ -3,24 +3,31 @@
 #include "cli/data/Columns.h"
 #include "partdata/IndexReader.h"
 #include "partdata/KeyedCollection.h"
+#include "partdata/PartTable.h"
 #include "partdata/RunTimeError.h"
 #include "partdata/Windows1252.h"
 
 #include <algorithm>
 #include <array>
-#include <limits>
 #include <unordered_map>
 #include <unordered_set>
 
 namespace
 {
-constexpr std::size_t MostParts = std::numeric_limits<std::int16_t>::max();
+/// Bytes of a name that a finding shows.
+constexpr std::size_t ShownBytes = 500;
 
 std::string FoldedKey(std::string_view key)
 {
     std::string folded(key);
     std::ranges::transform(folded, folded.begin(), FoldCase);
     return folded;
+}
+
+/// The name as a finding shows it: as it is, but for one that is far too long.
+std::string Shown(std::string_view name)
+{
+    return Utf8FromWindows1252(name.substr(0, ShownBytes)) + (name.size() > ShownBytes ? "..." : "");
 }
 
 bool HasLineEnd(std::string_view text)
@@ -62,6 +69,10 @@ private:
     const std::string& file;
     std::vector<Finding>& findings;
     std::vector<PartRecord> parts;
+    /// How many records there are; those beyond the most parts are only counted.
+    std::size_t count = 0;
+    /// The end of the last whole record in the text.
+    std::size_t wholeEnd = 0;
 };
 
 std::vector<PartRecord> IndexJudge::Read()
@@ -73,17 +84,21 @@ std::vector<PartRecord> IndexJudge::Read()
         {
             PartRecord part;
             reader.ReadRecord(part);
-            parts.push_back(part);
+            wholeEnd = static_cast<std::size_t>(Outer(part.Tcc[1]).end() - text.begin());
+            if (++count <= MostParts)
+            {
+                parts.push_back(part);
+            }
         }
     }
     catch (const RunTimeError& error)
     {
         JudgeEnd(error);
     }
-    if (parts.size() > MostParts)
+    if (count > MostParts)
     {
-        Add(Severity::Error, "part-count", 0, "", std::to_string(parts.size()),
-            std::to_string(parts.size()) + " parts; at most " + std::to_string(MostParts) + " can be loaded");
+        Add(Severity::Error, "part-count", 0, "", std::to_string(count),
+            std::to_string(count) + " parts; at most " + std::to_string(MostParts) + " can be loaded");
     }
     JudgeLayout();
     for (std::size_t i = 0; i < parts.size(); ++i)
@@ -101,10 +116,9 @@ std::vector<PartRecord> IndexJudge::Read()
 
 void IndexJudge::JudgeEnd(const RunTimeError& error)
 {
-    const auto done = parts.empty() ? 0 : Outer(parts.back().Tcc[1]).end() - text.begin();
-    const bool isOpenQuote = std::count(text.begin() + done, text.end(), '"') % 2 != 0;
+    const bool isOpenQuote = std::ranges::count(text.substr(wholeEnd), '"') % 2 != 0;
     const auto field = error.Place().substr(error.Place().rfind(' ') + 1);
-    Add(Severity::Error, isOpenQuote ? "open-quote" : "index-end", parts.size() + 1, "field " + field, "",
+    Add(Severity::Error, isOpenQuote ? "open-quote" : "index-end", count + 1, "field " + field, "",
         isOpenQuote ? "the file ends within a quoted field" : "the file ends within the record");
 }
 
@@ -231,9 +245,9 @@ void IndexJudge::Add(Severity level, std::string rule, std::size_t record, std::
                         .Rule = std::move(rule),
                         .File = file,
                         .Record = record,
-                        .PartNumber = isWhole ? Utf8FromWindows1252(parts[record - 1].PartNum[0]) : "",
+                        .PartNumber = isWhole ? Shown(parts[record - 1].PartNum[0]) : "",
                         .Field = std::move(field),
-                        .Value = Utf8FromWindows1252(value),
+                        .Value = Shown(value),
                         .Message = std::move(message)});
 }
 } // namespace

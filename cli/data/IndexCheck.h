@@ -10,6 +10,7 @@
 #include <vector>
 
 /// Reads the records of an index text as the program does, as far as it can be read, and adds what is wrong
-/// with it to `findings`. The records' names are views into the text; their `Data` is zero.
+/// with it to `findings`. The records' names are views into the text; their `Data` is zero. No more records
+/// than the program can load are returned and judged; the finding of too many tells how many there are.
 std::vector<PartRecord> CheckIndex(std::string_view text, const std::string& file,
                                    std::vector<Finding>& findings);

@@ -6,6 +6,7 @@
 #include "partdata/DataReader.h"
 #include "partdata/InputFile.h"
 #include "partdata/KeyedCollection.h"
+#include "partdata/PartTable.h"
 #include "partdata/RunTimeError.h"
 #include "partdata/Windows1252.h"
 
@@ -114,7 +115,13 @@ void CheckData(const fs::path& dataFile, std::vector<PartRecord>& parts, PairRep
     for (std::size_t i = 0; i < present; ++i)
     {
         CheckPartValues(parts[i], i + 1, report);
+        // Not after every part: each time all findings are looked at.
+        if (report.Findings.size() > 2 * MostFindings)
+        {
+            report.DropSurplus();
+        }
     }
+    report.DropSurplus();
 }
 } // namespace
 
@@ -131,11 +138,12 @@ PairReport CheckPair(const fs::path& pair)
                               {
                                   indexFile = IndexOf(pair);
                                   report.IndexFile = indexFile.filename().string();
-                                  indexText = ReadBytes(indexFile);
+                                  indexText = ReadBytes(indexFile, MostIndexBytes);
                               });
     if (hasIndex)
     {
         parts = CheckIndex(indexText, report.IndexFile, report.Findings);
+        report.DropSurplus();
         report.Parts = parts.size();
     }
     Try(report,

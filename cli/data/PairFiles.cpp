@@ -5,13 +5,9 @@
 #include "partdata/PartFiles.h"
 #include "partdata/RunTimeError.h"
 
-#include <limits>
 #include <system_error>
 
 namespace fs = std::filesystem;
-
-/// Far beyond any part file or table of parts.
-static constexpr std::uintmax_t MostBytes = std::numeric_limits<std::int32_t>::max();
 
 static bool IsFolder(const fs::path& path)
 {
@@ -48,10 +44,10 @@ fs::path DataOf(const fs::path& pair)
     throw RunTimeError(RunTimeErrorNumber::FileNotFound).At(wanted.filename().string());
 }
 
-std::string ReadBytes(const fs::path& file)
+std::string ReadBytes(const fs::path& file, std::uintmax_t most)
 {
     InputFile input(file);
-    if (input.Size() > MostBytes)
+    if (input.Size() > most)
     {
         throw RunTimeError(RunTimeErrorNumber::Overflow).At(input.Name());
     }

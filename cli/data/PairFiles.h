@@ -2,6 +2,7 @@
 
 /// Finds and reads the two files that a command line names as one pair.
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 
@@ -20,5 +21,8 @@ std::filesystem::path IndexOf(const std::filesystem::path& pair);
 /// name with the extension ".dat", in any letter case. Throws RunTimeError 53 when there is none.
 std::filesystem::path DataOf(const std::filesystem::path& pair);
 
-/// All bytes of a file. Throws RunTimeError 53 or 75, and 6 for more than 2 GiB.
-std::string ReadBytes(const std::filesystem::path& file);
+/// Size of the largest table of parts, far beyond any range.
+inline constexpr std::uintmax_t MostTableBytes = std::uintmax_t{256} << 20;
+
+/// All bytes of a file. Throws RunTimeError 53 or 75, and 6 for more than the most bytes.
+std::string ReadBytes(const std::filesystem::path& file, std::uintmax_t most);

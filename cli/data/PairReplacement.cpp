@@ -17,7 +17,7 @@ namespace
 std::optional<std::string> BytesIfThere(const fs::path& file)
 {
     std::error_code fault;
-    return fs::exists(file, fault) ? std::optional(ReadBytes(file)) : std::nullopt;
+    return fs::exists(file, fault) ? std::optional(ReadBytes(file, MostTableBytes)) : std::nullopt;
 }
 
 /// The names of an index, or nothing when it does not read to its end; the program refuses such a pair.

@@ -4,6 +4,7 @@
 #include "cli/data/IndexWriter.h"
 #include "cli/data/TableCells.h"
 #include "partdata/KeyedCollection.h"
+#include "partdata/OneLine.h"
 #include "partdata/Windows1252.h"
 
 #include <algorithm>

@@ -38,6 +38,17 @@ TEST(HashKey, IsTheSameForEveryLetterCaseAndLength)
     }
 }
 
+TEST(HashKey, TellsApartWhatDiffersLikeTheCasesOfALetter)
+{
+    for (int code = 0; code < 256; ++code)
+    {
+        const std::string one(8, static_cast<char>(code));
+        const std::string other(8, static_cast<char>(code ^ 0x20));
+        EXPECT_EQ(HashKey(one) == HashKey(other), EqualKeys(one, other)) << code;
+        EXPECT_EQ(HashKey(one.substr(0, 3)) == HashKey(other.substr(0, 3)), EqualKeys(one, other)) << code;
+    }
+}
+
 TEST(KeyedCollection, FindsNothingWhenEmpty)
 {
     const KeyedCollection<int> collection;
@@ -65,7 +76,7 @@ TEST(KeyedCollection, RefusesAKeyInOtherLetterCaseAndKeepsTheFirst)
     EXPECT_EQ(*collection.Find("\xE4"), 1);
 }
 
-TEST(KeyedCollection, TellsCharactersApartThatShareAHash)
+TEST(KeyedCollection, TellsCharactersApartThatAreNoCasesOfALetter)
 {
     // These pairs differ in the bit that tells upper from lower case, but are no letters.
     KeyedCollection<int> collection;

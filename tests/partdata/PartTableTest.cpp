@@ -58,17 +58,25 @@ PartTable Load(const std::string& index, const std::string& data)
     return LoadPartData(folder.Path());
 }
 
-std::string FaultOf(const std::string& index, const std::string& data = "")
+std::string FaultIn(const TemporaryFolder& folder)
 {
     try
     {
-        Load(index, data);
+        LoadPartData(folder.Path());
     }
     catch (const RunTimeError& error)
     {
         return error.what();
     }
     return "";
+}
+
+std::string FaultOf(const std::string& index, const std::string& data = "")
+{
+    const TemporaryFolder folder;
+    folder.Write("parts.idx", index);
+    folder.Write("parts.dat", data);
+    return FaultIn(folder);
 }
 
 TEST(PartTable, HoldsEachLineWithItsDataRecord)
@@ -165,6 +173,45 @@ TEST(PartTable, TakesThirtyTwoThousandSevenHundredAndSixtySevenParts)
 TEST(PartTable, OverflowsWithOnePartMore)
 {
     EXPECT_EQ(FaultOf(LinesOf(32768)), "Run-time error '6': Overflow: parts.idx: record 32768");
+}
+
+TEST(PartTable, EndsWithinOnePartMoreRatherThanOverflowing)
+{
+    EXPECT_EQ(FaultOf(LinesOf(32767) + "A,B"),
+              "Run-time error '62': Input past end of file: parts.idx: record 32768: field 3");
+}
+
+TEST(PartTable, RefusesAnIndexOfMoreThan64Mebibytes)
+{
+    const TemporaryFolder folder;
+    const auto index = folder.Write("parts.idx", "");
+    folder.Write("parts.dat", "");
+    std::filesystem::resize_file(index, 67108864);
+    EXPECT_EQ(FaultIn(folder), "Run-time error '62': Input past end of file: parts.idx: record 1: field 2");
+    std::filesystem::resize_file(index, 67108865);
+    EXPECT_EQ(FaultIn(folder), "Run-time error '6': Overflow: parts.idx");
+}
+
+TEST(PartTable, TellsAFaultOfTheIndexBeforeOneOfTheDataFile)
+{
+    const TemporaryFolder folder;
+    std::filesystem::create_directory(folder.Path() + "/parts.dat");
+    folder.Write("parts.idx", "A,B,C");
+    EXPECT_EQ(FaultIn(folder), "Run-time error '62': Input past end of file: parts.idx: record 1: field 4");
+    folder.Write("parts.idx", LinesOf(1));
+    EXPECT_EQ(FaultIn(folder), "Run-time error '75': Path/File access error: parts.dat");
+}
+
+TEST(PartTable, NamesAPartNumberThatStandsTwiceOnOneLine)
+{
+    const auto named = [](const std::string& partNum)
+    {
+        const auto fault = FaultOf(partNum + ",a,b,c,1,2,3,4\n" + partNum + ",d,e,f,1,2,3,4\n");
+        return fault.substr(fault.find("PartNum"));
+    };
+    EXPECT_EQ(named("\"A\r\nB\""), "PartNum(0) \"A\\x0D\\x0AB\"");
+    EXPECT_EQ(named("\xC4\x80"), "PartNum(0) \"Ä€\"");
+    EXPECT_EQ(named(std::string(1000000, 'M')), "PartNum(0) \"" + std::string(80, 'M') + "...\"");
 }
 
 TEST(PartTable, RefusesAPartNumberThatStandsTwiceInOneForm)

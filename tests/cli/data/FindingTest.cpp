@@ -28,6 +28,27 @@ PairReport Report()
 }
 } // namespace
 
+TEST(PairReport, DropsWhatNobodyReadsWarningsBeforeErrors)
+{
+    PairReport report;
+    for (int i = 0; i < 8000; ++i)
+    {
+        report.Findings.emplace_back().Level = Severity::Warning;
+        report.Findings.emplace_back().Level = Severity::Error;
+    }
+    report.Findings.back().Record = 3;
+    report.DropSurplus();
+    EXPECT_EQ(report.Findings.size(), 10000U);
+    EXPECT_EQ(report.Findings.back().Record, 3U);
+    EXPECT_EQ(report.DroppedWarnings, 6000U);
+    EXPECT_EQ(report.DroppedErrors, 0U);
+    EXPECT_EQ(report.Count(Severity::Error), 8000U);
+    EXPECT_EQ(report.Count(Severity::Warning), 8000U);
+    EXPECT_TRUE(TextOf(report).ends_with("\n... and 6000 further findings\n"
+                                         "0 parts, 8000 errors, 8000 warnings\n"));
+    EXPECT_NE(JsonOf(report).find("\"dropped\": 6000"), std::string::npos);
+}
+
 TEST(Finding, IsOneLineWithItsPlace)
 {
     EXPECT_EQ(
@@ -66,12 +87,4 @@ TEST(Finding, IsAnObjectWithoutEmptyMembers)
 }
 )json";
     EXPECT_EQ(JsonOf(Report()), expected);
-}
-
-TEST(Finding, ShowsControlCharactersAndCutsLongTexts)
-{
-    EXPECT_EQ(OneLine("a\nb\x7F"), "a\\x0Ab\\x7F");
-    EXPECT_EQ(OneLine(std::string(80, 'x')), std::string(80, 'x'));
-    EXPECT_EQ(OneLine(std::string(81, 'x')), std::string(80, 'x') + "...");
-    EXPECT_EQ(OneLine(std::string(79, 'x') + "°C"), std::string(79, 'x') + "°...");
 }
