@@ -1,6 +1,6 @@
 #pragma once
 
-/// The common dialogs, answered by keys as a user would.
+/// The common dialogs but for those for files, answered by keys as a user would.
 
 #include <QObject>
 #include <QTemporaryDir>
@@ -18,24 +18,6 @@ private Q_SLOTS:
     void FontSizeIsKeptInTenths_data();
     void FontSizeIsKeptInTenths();
 
-    void SaveGivesPathAndTitle();
-    void SaveAppendsNothingToATypedName();
-    void SaveAppendsTheDefaultExtension();
-    void SaveTakesTheTypedNameWhateverIsMarked();
-    void OverwritingIsAskedFor();
-    void RefusedOverwritingGoesBackToTheDialog();
-    void OverwritingIsNotAskedForWithoutTheFlag();
-    void OverwritingIsAskedForTheNameWithExtension();
-    void SaveInAMissingFolderIsAskedAgain();
-    void AVanishedFolderGivesTheCurrentOne();
-    void FiltersMatchEveryCaseAndNamesWithoutPoint_data();
-    void FiltersMatchEveryCaseAndNamesWithoutPoint();
-    void TheChosenFilterIsGivenBack();
-    void ANameThatDoesNotFitFails_data();
-    void ANameThatDoesNotFitFails();
-    void OpenGivesTheFile();
-    void OpenRefusesAMissingFileWithTheFlag();
-
     void FontIsGivenBack();
     void ColorIsGivenBack();
 
@@ -50,7 +32,6 @@ private Q_SLOTS:
 
 private:
     QString InFolder(const QString& name) const;
-    void MakeFile(const QString& name) const;
 
     std::unique_ptr<QTemporaryDir> folder;
 };

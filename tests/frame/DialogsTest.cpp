@@ -1,5 +1,6 @@
 /// Runs the tests of the dialogs in a system without a printer.
 
+#include "tests/frame/ComdlgFilesTest.h"
 #include "tests/frame/ComdlgTest.h"
 #include "tests/frame/HelpViewerTest.h"
 #include "tests/frame/NoticesTest.h"
@@ -13,11 +14,12 @@ int main(int argc, char* argv[])
     qputenv("CUPS_SERVER", "localhost:1");
     QApplication application(argc, argv);
     ComdlgTest comdlg;
+    ComdlgFilesTest files;
     HelpViewerTest help;
     NoticesTest notices;
     int failures = 0;
-    for (QObject* test :
-         {static_cast<QObject*>(&comdlg), static_cast<QObject*>(&help), static_cast<QObject*>(&notices)})
+    for (QObject* test : {static_cast<QObject*>(&comdlg), static_cast<QObject*>(&files),
+                          static_cast<QObject*>(&help), static_cast<QObject*>(&notices)})
     {
         failures += QTest::qExec(test, argc, argv);
     }

@@ -1,21 +1,13 @@
-/// The dialog for the axis ranges of a chart, used by keys as a designer does.
+/// Which axis ranges a chart takes, as a designer enters them.
 
 #include "app/mdlPublic.h"
 #include "chart/ChartPicture.h"
 #include "chart/frmGraph.h"
-#include "tests/frame/Desk.h"
+#include "tests/chart/forms/AxisDialog.h"
 
-#include <QApplication>
-#include <QComboBox>
-#include <QDialog>
-#include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QLocale>
-#include <QPushButton>
 #include <QTest>
-
-#include <functional>
 
 static const QString NotNumeric = "A Non-numerical value exits where numerical value should be in.";
 
@@ -25,15 +17,6 @@ class AxisRangeTest : public QObject
 
 private Q_SLOTS:
     void cleanup() { QLocale::setDefault(QLocale::c()); }
-    void StartsWithTheRangesInForce();
-    void ShowsFrequenciesInKilohertz();
-    void UnitsStandBehindTheBoxes_data();
-    void UnitsStandBehindTheBoxes();
-    void BothFramesHaveTheSameLabels();
-    void IsCentredOverTheMainWindow();
-    void BoxesSelectTheirTextByKey();
-    void BoxesSelectTheirTextByMouse();
-    void AccessKeysLeadToTheBoxes();
     void WhatIsNotANumberIsRefused_data();
     void WhatIsNotANumberIsRefused();
     void RangeBeyondTheDataIsRefused_data();
@@ -42,277 +25,9 @@ private Q_SLOTS:
     void RedrawsAtOnce();
     void FrequencyRangeIsTakenInKilohertz();
     void SecondRangeStartsFromTheFirst();
-    void CancelChangesNothing_data();
-    void CancelChangesNothing();
     void NextLineReturnsToTheDefaults();
     void CommaIsADecimalSignWhereUsersWriteIt();
 };
-
-/// Opens the dialog of the active chart and does something there; what is left open is closed by Escape.
-static void InDialog(Desk& desk, const std::function<void(QDialog&)>& act)
-{
-    bool shown = false;
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, &look,
-                     [&]
-                     {
-                         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-                         if (dialog != nullptr && dialog->objectName() == "frmSetAxis")
-                         {
-                             look.stop();
-                             shown = true;
-                             QApplication::setActiveWindow(dialog);
-                             act(*dialog);
-                             if (dialog->isVisible())
-                             {
-                                 QTest::keyClick(dialog, Qt::Key_Escape);
-                             }
-                         }
-                     });
-    look.start(1);
-    desk.Choose("mnuChartExpand");
-    QVERIFY(shown);
-}
-
-static QLineEdit* Box(const QDialog& dialog, const QString& name)
-{
-    return dialog.findChild<QLineEdit*>(name);
-}
-
-static QStringList Boxes(const QDialog& dialog)
-{
-    QStringList texts;
-    for (const char* name : {"txtX_0", "txtX_1", "txtY_0", "txtY_1"})
-    {
-        texts << Box(dialog, name)->text();
-    }
-    return texts;
-}
-
-/// Types into the box that has the focus.
-static void Type(const QDialog& dialog, const QString& text)
-{
-    QTest::keyClicks(dialog.focusWidget(), text);
-}
-
-/// Fills all four boxes, going from one to the next by Tab.
-static void Fill(QDialog& dialog, const QStringList& texts)
-{
-    Box(dialog, "txtX_0")->setFocus();
-    for (const QString& text : texts)
-    {
-        dialog.focusWidget()->setFocus();
-        qobject_cast<QLineEdit*>(dialog.focusWidget())->selectAll();
-        QTest::keyClick(dialog.focusWidget(), Qt::Key_Delete);
-        Type(dialog, text);
-        QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
-    }
-}
-
-static void Enter(QDialog& dialog)
-{
-    QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
-}
-
-static std::array<float, 4> RangeOf(const frmGraph* chart)
-{
-    const AxisRange& range = chart->Range();
-    return {range.XMax, range.YMax, range.XMin, range.YMin};
-}
-
-/// One line of each kind of chart, each with part 0 of its list.
-static frmGraph* PlotKind(Desk& desk, int type, const QString& x, const QString& y)
-{
-    desk.ClickChartType(type);
-    desk.PickXAxis(x);
-    desk.PickYAxis(y);
-    desk.TypePart(ListedPart(desk, 0));
-    if (type != 3)
-    {
-        desk.Type("txtDCBiasVol", "0");
-    }
-    if (type == 0 || type == 1)
-    {
-        desk.Type("txtAmbientTemp", "25");
-    }
-    if (type == 0)
-    {
-        desk.Type(x == "Frequency" ? "txtParameter" : "txtFrequency", x == "Frequency" ? "0.001" : "100");
-    }
-    desk.ClickPlot();
-    return desk.Charts().size() == 1 ? desk.Charts().front() : nullptr;
-}
-
-static frmGraph* PlotCapacitance(Desk& desk)
-{
-    return PlotKind(desk, 2, "Temperature", "Capacitance Change");
-}
-
-void AxisRangeTest::StartsWithTheRangesInForce()
-{
-    Desk desk;
-    frmGraph* chart = PlotCapacitance(desk);
-    chart->WriteMagnification(100.5F, 12, -20, -30.25F);
-    InDialog(desk,
-             [](QDialog& dialog) {
-                 QCOMPARE(Boxes(dialog), QStringList({"-20", "100.5", "-30.25", "12"}));
-             });
-}
-
-void AxisRangeTest::ShowsFrequenciesInKilohertz()
-{
-    Desk desk;
-    QVERIFY(PlotKind(desk, 0, "Frequency", "Temperature Rise") != nullptr);
-    InDialog(desk,
-             [](QDialog& dialog)
-             {
-                 QCOMPARE(Box(dialog, "txtX_0")->text(), QString("10"));
-                 QCOMPARE(Box(dialog, "txtX_1")->text(), QString("1000"));
-             });
-}
-
-void AxisRangeTest::UnitsStandBehindTheBoxes_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QString>("x");
-    QTest::addColumn<QString>("y");
-    QTest::addColumn<QString>("xUnit");
-    QTest::addColumn<QString>("yUnit");
-    const QString degrees = QString::fromUtf8("[°C]");
-    QTest::newRow("rise") << 0 << "Current"
-                          << "Temperature Rise"
-                          << "[Arms]" << degrees;
-    QTest::newRow("rise over frequency") << 0 << "Frequency"
-                                         << "Temperature Rise"
-                                         << "[kHz]" << degrees;
-    QTest::newRow("power") << 1 << "Frequency"
-                           << "Apparent Power"
-                           << "[kHz]"
-                           << "[VA]";
-    QTest::newRow("temperature") << 2 << "Temperature"
-                                 << "Capacitance" << degrees << "[pF]";
-    QTest::newRow("voltage") << 3 << "DC Bias Voltage"
-                             << "Capacitance Change"
-                             << "[V]"
-                             << "[%]";
-}
-
-void AxisRangeTest::UnitsStandBehindTheBoxes()
-{
-    QFETCH(int, type);
-    QFETCH(QString, x);
-    QFETCH(QString, y);
-    QFETCH(QString, xUnit);
-    QFETCH(QString, yUnit);
-    Desk desk;
-    QVERIFY(PlotKind(desk, type, x, y) != nullptr);
-    InDialog(desk,
-             [&](QDialog& dialog)
-             {
-                 QCOMPARE(dialog.findChild<QLabel*>("lblXunit")->text(), xUnit);
-                 QCOMPARE(dialog.findChild<QLabel*>("lblYunit")->text(), yUnit);
-             });
-}
-
-void AxisRangeTest::BothFramesHaveTheSameLabels()
-{
-    Desk desk;
-    QVERIFY(PlotCapacitance(desk) != nullptr);
-    InDialog(desk,
-             [](QDialog& dialog)
-             {
-                 for (const auto& [frame, title, boxes] :
-                      {std::tuple{"fraXaxis", "X axis", "txtX_%1"}, {"fraYaxis", "Y axis", "txtY_%1"}})
-                 {
-                     const auto* group = dialog.findChild<QGroupBox*>(frame);
-                     QCOMPARE(group->title(), QString(title));
-                     const auto* from = group->findChild<QLabel*>("lblFrom");
-                     const auto* to = group->findChild<QLabel*>("lblTo");
-                     QVERIFY(from != nullptr && to != nullptr);
-                     QCOMPARE(from->text().remove('&'), QString("From:"));
-                     QCOMPARE(to->text().remove('&'), QString("To:"));
-                     QCOMPARE(from->buddy()->objectName(), QString(boxes).arg(0));
-                     QCOMPARE(to->buddy()->objectName(), QString(boxes).arg(1));
-                 }
-                 QCOMPARE(dialog.findChild<QPushButton*>("cmdOK")->text(), QString("OK"));
-                 QCOMPARE(dialog.findChild<QPushButton*>("cmdCancel")->text(), QString("Cancel"));
-                 QCOMPARE(dialog.font().family(), QString("Arial"));
-             });
-}
-
-void AxisRangeTest::IsCentredOverTheMainWindow()
-{
-    Desk desk;
-    desk.main->move(40, 30);
-    QVERIFY(PlotCapacitance(desk) != nullptr);
-    InDialog(desk,
-             [&](QDialog& dialog)
-             {
-                 const QRect over = desk.main->frameGeometry();
-                 const QRect own = dialog.frameGeometry();
-                 QVERIFY(std::abs(own.x() - over.x() - (over.width() - own.width()) / 2) <= 1);
-                 QVERIFY(std::abs(own.y() - over.y() - (over.height() - own.height()) / 2) <= 1);
-                 QVERIFY(dialog.isModal());
-             });
-}
-
-void AxisRangeTest::BoxesSelectTheirTextByKey()
-{
-    Desk desk;
-    QVERIFY(PlotCapacitance(desk) != nullptr);
-    InDialog(desk,
-             [](QDialog& dialog)
-             {
-                 for (const char* name : {"txtX_0", "txtX_1", "txtY_0", "txtY_1"})
-                 {
-                     QCOMPARE(dialog.focusWidget()->objectName(), QString(name));
-                     QCOMPARE(Box(dialog, name)->selectedText(), Box(dialog, name)->text());
-                     QCOMPARE(Box(dialog, name)->selectionStart(), 0);
-                     QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
-                 }
-                 QCOMPARE(dialog.focusWidget()->objectName(), QString("cmdOK"));
-             });
-}
-
-void AxisRangeTest::BoxesSelectTheirTextByMouse()
-{
-    Desk desk;
-    QVERIFY(PlotCapacitance(desk) != nullptr);
-    InDialog(desk,
-             [](QDialog& dialog)
-             {
-                 for (const char* name : {"txtY_1", "txtX_1", "txtY_0", "txtX_0"})
-                 {
-                     QTest::mouseClick(Box(dialog, name), Qt::LeftButton);
-                     QCoreApplication::processEvents();
-                     QCOMPARE(Box(dialog, name)->selectedText(), Box(dialog, name)->text());
-                 }
-                 // A second click into the same box puts the cursor there.
-                 QTest::qWait(QApplication::doubleClickInterval() + 50);
-                 QTest::mouseClick(Box(dialog, "txtX_0"), Qt::LeftButton);
-                 QCoreApplication::processEvents();
-                 QCOMPARE(Box(dialog, "txtX_0")->selectedText(), QString());
-             });
-}
-
-void AxisRangeTest::AccessKeysLeadToTheBoxes()
-{
-    Desk desk;
-    QVERIFY(PlotCapacitance(desk) != nullptr);
-    InDialog(desk,
-             [](QDialog& dialog)
-             {
-                 for (const auto& [key, name] : {std::pair{Qt::Key_T, "txtX_1"},
-                                                 {Qt::Key_R, "txtY_0"},
-                                                 {Qt::Key_O, "txtY_1"},
-                                                 {Qt::Key_F, "txtX_0"}})
-                 {
-                     QTest::keyClick(dialog.focusWidget(), key, Qt::AltModifier);
-                     QCOMPARE(dialog.focusWidget()->objectName(), QString(name));
-                     QCOMPARE(Box(dialog, name)->selectedText(), Box(dialog, name)->text());
-                 }
-             });
-}
 
 void AxisRangeTest::WhatIsNotANumberIsRefused_data()
 {
@@ -511,40 +226,6 @@ void AxisRangeTest::SecondRangeStartsFromTheFirst()
              });
     QCOMPARE(desk.TakeBoxes().size(), std::size_t{0});
     QCOMPARE(RangeOf(chart), (std::array<float, 4>{125, 3, -55, -3}));
-}
-
-void AxisRangeTest::CancelChangesNothing_data()
-{
-    QTest::addColumn<bool>("byEscape");
-    QTest::newRow("Escape") << true;
-    QTest::newRow("Cancel") << false;
-}
-
-void AxisRangeTest::CancelChangesNothing()
-{
-    QFETCH(bool, byEscape);
-    Desk desk;
-    frmGraph* chart = PlotCapacitance(desk);
-    chart->move(321, 123);
-    const auto before = RangeOf(chart);
-    InDialog(desk,
-             [&](QDialog& dialog)
-             {
-                 Fill(dialog, {"0", "10", "not", "2"});
-                 if (byEscape)
-                 {
-                     QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape);
-                 }
-                 else
-                 {
-                     QTest::mouseClick(dialog.findChild<QPushButton*>("cmdCancel"), Qt::LeftButton);
-                 }
-                 QVERIFY(!dialog.isVisible());
-             });
-    QCOMPARE(desk.TakeBoxes().size(), std::size_t{0});
-    QCOMPARE(RangeOf(chart), before);
-    QCOMPARE(chart->pos(), QPoint(321, 123));
-    QVERIFY(!chart->findChild<ChartPicture*>("picGraph")->View().Rescaled);
 }
 
 void AxisRangeTest::NextLineReturnsToTheDefaults()
