@@ -166,33 +166,47 @@ void frmLibrary::AddPartNum(int chartType)
     ui->cmbPartNum->SetParts(selection.PartNums(), GetPartNumForm());
 }
 
-/// The entry of a list that its box shows as chosen.
-template <class Item> static const Item& ChosenOf(const std::vector<Item>& list, const QComboBox* box)
+/// The entry of a list that its box shows as chosen, or null.
+template <class Item> static const Item* ChosenOf(const std::vector<Item>& list, const QComboBox* box)
 {
-    return list[static_cast<std::size_t>(box->currentIndex())];
+    return box->currentIndex() >= 0 ? &list[static_cast<std::size_t>(box->currentIndex())] : nullptr;
 }
 
 void frmLibrary::FillTccList()
 {
-    selection.FillTccList(ChosenOf(selection.SizeCodes(), ui->cmbSizeCode));
-    ShowStep();
+    if (const auto* chosen = ChosenOf(selection.SizeCodes(), ui->cmbSizeCode))
+    {
+        selection.FillTccList(*chosen);
+        ShowStep();
+    }
 }
 
 void frmLibrary::FillCapList()
 {
-    selection.FillCapList(ChosenOf(selection.Tccs(), ui->cmbTcc));
-    ShowStep();
+    if (const auto* chosen = ChosenOf(selection.Tccs(), ui->cmbTcc))
+    {
+        selection.FillCapList(*chosen);
+        ShowStep();
+    }
 }
 
 void frmLibrary::FillRatedVolList()
 {
-    selection.FillRatedVolList(ChosenOf(selection.Capacitances(), ui->cmbCap));
-    ShowStep();
+    if (const auto* chosen = ChosenOf(selection.Capacitances(), ui->cmbCap))
+    {
+        selection.FillRatedVolList(*chosen);
+        ShowStep();
+    }
 }
 
 void frmLibrary::FillPartNumList()
 {
-    selection.FillPartNumList(ChosenOf(selection.RatedVoltages(), ui->cmbRatedVol));
+    const auto* chosen = ChosenOf(selection.RatedVoltages(), ui->cmbRatedVol);
+    if (chosen == nullptr)
+    {
+        return;
+    }
+    selection.FillPartNumList(*chosen);
     ShowStep();
     // The box shows the last part that is left: with the rated voltage chosen the selection is complete.
     if (!selection.PartNums().empty())

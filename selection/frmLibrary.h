@@ -54,6 +54,7 @@ public:
     // The selection cascade.
     void AllClear();
     void AddPartNum(int chartType);
+    // Each fills the lists below a box from the entry chosen there; nothing changes where none is chosen.
     void FillTccList();
     void FillCapList();
     void FillRatedVolList();

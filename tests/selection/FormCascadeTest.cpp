@@ -48,6 +48,23 @@ private Q_SLOTS:
         QCOMPARE(desk->Text("cmbYaxis"), "Temperature Rise");
     }
 
+    void FillsNothingFromABoxWithoutAChoice()
+    {
+        const auto sizes = desk->Entries("cmbSizeCode");
+        const auto parts = desk->Entries("cmbPartNum");
+        desk->form->FillTccList();
+        desk->form->FillCapList();
+        desk->form->FillRatedVolList();
+        desk->form->FillPartNumList();
+        QCOMPARE(desk->Entries("cmbSizeCode"), sizes);
+        QCOMPARE(desk->Entries("cmbPartNum"), parts);
+        for (const char* list : {"cmbTcc", "cmbCap", "cmbRatedVol"})
+        {
+            QCOMPARE(desk->Entries(list), QStringList());
+        }
+        QCOMPARE(desk->Text("cmbPartNum"), "");
+    }
+
     void NarrowsDownToTheLastPartLeft()
     {
         desk->Pick("cmbSizeCode", "0805");
