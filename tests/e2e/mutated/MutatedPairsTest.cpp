@@ -263,5 +263,16 @@ void MutatedPairsTest::ProgramComesUpOrSaysWhyNot()
     ForEachPair(ProgramDifferenceOf);
 }
 
-QTEST_MAIN(MutatedPairsTest)
+int main(int argc, char* argv[])
+{
+    if (qEnvironmentVariableIsSet("MUTATED_PAIRS"))
+    {
+        // A test of many pairs takes longer than tests are given as a rule.
+        qputenv("QTEST_FUNCTION_TIMEOUT", "86400000");
+    }
+    QApplication application(argc, argv);
+    MutatedPairsTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "MutatedPairsTest.moc"
