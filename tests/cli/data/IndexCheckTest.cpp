@@ -171,6 +171,18 @@ TEST(IndexCheck, TellsMorePartsThanCanBeLoaded)
     EXPECT_EQ(findings[0].Value, "32768");
 }
 
+TEST(IndexCheck, KeepsNoMorePartsThanCanBeLoaded)
+{
+    std::vector<Finding> findings;
+    const std::string text(8 * 40000, ',');
+    EXPECT_EQ(CheckIndex(text + "A,B", "parts.idx", findings).size(), 32767U);
+    ASSERT_GE(findings.size(), 2U);
+    EXPECT_EQ(findings[0].Rule, "index-end");
+    EXPECT_EQ(findings[0].Record, 40001U);
+    EXPECT_EQ(findings[1].Rule, "part-count");
+    EXPECT_EQ(findings[1].Value, "40000");
+}
+
 TEST(PairCheck, TellsMissingFilesAndStillChecksTheIndex)
 {
     const TemporaryFolder folder;
