@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <vector>
 
 namespace
@@ -21,6 +22,12 @@ constexpr std::size_t LongestEntry = 32767;
 QString ShownText(const std::string& ansi)
 {
     return QString::fromStdString(Utf8Of(ansi));
+}
+
+/// The number of a list; the greatest single is out of range for the reader of the forms' library.
+float NumberOf(const QString& text)
+{
+    return std::strtof(text.toLatin1().constData(), nullptr);
 }
 
 /// One window and the pair that it shows.
@@ -151,12 +158,13 @@ std::string Visit::CascadeDifference(int chartType)
     {
         const auto entries = Entries(list);
         const auto same =
-            std::ranges::find_if(entries, [&](const auto& text) { return text.toFloat() == number; });
+            std::ranges::find_if(entries, [&](const auto& text) { return NumberOf(text) == number; });
         return same != entries.end() && PickText(list, *same);
     };
     if (!pickNumber("cmbCap", part.Data[0]) || !pickNumber("cmbRatedVol", part.Data[2]))
     {
-        return "numbers that are not in the lists";
+        return "numbers that are not in the lists: " + std::to_string(part.Data[0]) + " pF, " +
+               std::to_string(part.Data[2]) + " V";
     }
     QStringList left;
     for (const auto* other : offered)
