@@ -29,7 +29,7 @@ QString ReadHelpBook(const QString& file)
     bytes.truncate(static_cast<qsizetype>(count));
 
     QStringDecoder utf8(QStringDecoder::Utf8);
-    const QString text = utf8(bytes);
+    QString text = utf8(bytes);
     const bool isText = !utf8.hasError() && !text.contains(QChar(u'\0'));
     const bool isHtml = text.contains(QStringLiteral("<body"), Qt::CaseInsensitive) ||
                         text.contains(QStringLiteral("<html"), Qt::CaseInsensitive);
