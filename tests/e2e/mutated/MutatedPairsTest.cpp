@@ -171,9 +171,9 @@ static std::vector<std::string> CurveCommandOf(Case& pair)
     const auto number = pair.Number();
     const auto& parts = pair.Plain().Parts;
     auto part = parts.empty() ? std::string() : Utf8Of(parts[number * 7919 % parts.size()].Names[0]);
-    if (part.empty() || part.size() > 10000 || part.find('\0') != std::string::npos)
+    if (part.empty() || part.size() > 500 || part.find('\0') != std::string::npos)
     {
-        // No argument can be all that.
+        // No argument can be all that, and a message repeats a long one.
         part = "NONE";
     }
     std::vector<std::string> command = {COMMAND_LINE, "curve", "--data",      pair.Folder(),
