@@ -89,7 +89,15 @@ void frmMain::Connect()
     connectMark(ui->mnuPartNum_1, 1, &frmMain::mnuPartNum_Click);
 
     connect(ui->mdiArea, &QMdiArea::subWindowActivated, this,
-            [this] { ShowMenusOf(ui->mdiArea->currentSubWindow()); });
+            [this](const QMdiSubWindow* active)
+            {
+                ShowMenusOf(ui->mdiArea->currentSubWindow());
+                // The control that had the focus when a chart came to the front may be disabled by now.
+                if (active == library)
+                {
+                    library->KeepFocus();
+                }
+            });
 }
 
 bool frmMain::GetPartNewOld() const

@@ -107,6 +107,15 @@ void frmLibrary::ComeToFront(QWidget* control)
     control->setFocus();
 }
 
+void frmLibrary::KeepFocus()
+{
+    const QWidget* focus = window()->focusWidget();
+    if (focus == nullptr || !isAncestorOf(focus))
+    {
+        optChartType[static_cast<std::size_t>(GetChartType())]->setFocus();
+    }
+}
+
 // ---- The selection cascade ----
 
 static void ShowList(QComboBox* box, const QStringList& entries, int chosen)

@@ -104,6 +104,10 @@ public:
     /// Shows why a parameter is refused and puts the focus into its box.
     void ReportParameter(const ParameterRefusal& refusal);
 
+    /// Gives the focus to the chosen chart type where no control of the form has it, so that keys reach the
+    /// form that is in front.
+    void KeepFocus();
+
     /// Plot is enabled: a complete part is selected.
     bool CanPlot() const;
 

@@ -242,6 +242,33 @@ private Q_SLOTS:
         QCOMPARE(Focus(), "txtDCBiasVol");
     }
 
+    void StaysInReachOfKeysWhenAChartCloses_data()
+    {
+        QTest::addColumn<bool>("byMinimising");
+        QTest::newRow("closed") << false;
+        QTest::newRow("minimised, and the form clicked beside its controls") << true;
+    }
+    void StaysInReachOfKeysWhenAChartCloses()
+    {
+        QFETCH(bool, byMinimising);
+        PlotOneLine();
+        auto* area = window->findChild<QMdiArea*>();
+        QMdiSubWindow* chart = area->subWindowList().back();
+        // Choosing a size disables Plot, which had the focus as the chart opened.
+        auto* sizes = Find<QComboBox>("cmbSizeCode");
+        sizes->setFocus();
+        QTest::keyClick(sizes, Qt::Key_Down);
+        QVERIFY(!Find<QPushButton>("cmdPlot")->isEnabled());
+        area->setActiveSubWindow(chart);
+        byMinimising ? chart->showMinimized() : static_cast<void>(chart->close());
+        QCoreApplication::processEvents();
+        QTest::mouseClick(Find<QWidget>("frmLibraryContents"), Qt::LeftButton, {}, QPoint(1, 1));
+        QCOMPARE(area->activeSubWindow(), form);
+        QVERIFY(QApplication::focusWidget() != nullptr && form->isAncestorOf(QApplication::focusWidget()));
+        QTest::keyClick(window.get(), Qt::Key_N, Qt::AltModifier);
+        QCOMPARE(Focus(), "cmbPartNum");
+    }
+
     void ChoosesAChartTypeWithTheArrowKeys()
     {
         Find<QRadioButton>("optChartType_0")->setFocus();
