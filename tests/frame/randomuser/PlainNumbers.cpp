@@ -1,0 +1,82 @@
+#include "tests/frame/randomuser/PlainNumbers.h"
+
+#include <QLocale>
+#include <QRegularExpression>
+
+#include <cmath>
+#include <cstdlib>
+
+std::optional<float> PlainEntry(const QString& text)
+{
+    static const QRegularExpression number(
+        QStringLiteral("^ *([+-]?([0-9]+\\.?[0-9]*|\\.[0-9]+)([eE][+-]?[0-9]+)?) *$"));
+    const bool commaIsDecimal = QLocale().decimalPoint() == QStringLiteral(",");
+    const auto match = number.match(commaIsDecimal ? QString(text).replace(u',', u'.') : text);
+    return match.hasMatch() ? std::optional(std::strtof(match.captured(1).toLatin1().constData(), nullptr))
+                            : std::nullopt;
+}
+
+/// The shortest digits of a value, its exponent taken off: "2.5" is "25" and 0.
+static std::pair<QByteArray, int> ShortestDigits(float value)
+{
+    QByteArray text;
+    for (int decimals = 0; decimals < 9; ++decimals)
+    {
+        text = QByteArray::number(std::abs(double{value}), 'e', decimals);
+        if (std::strtof(text.constData(), nullptr) == std::abs(value))
+        {
+            break;
+        }
+    }
+    const auto mark = text.indexOf('e');
+    return {text.left(mark).replace(".", ""), text.mid(mark + 1).toInt()};
+}
+
+QString PlainText(float value)
+{
+    if (value == 0)
+    {
+        return QStringLiteral("0");
+    }
+    const auto [digits, exponent] = ShortestDigits(value);
+    QByteArray text;
+    if (exponent < -6 || exponent >= 15)
+    {
+        text = digits.left(1) + (digits.size() > 1 ? "." + digits.mid(1) : QByteArray()) + 'E' +
+               (exponent < 0 ? '-' : '+') + QByteArray::number(std::abs(exponent)).rightJustified(2, '0');
+    }
+    else if (exponent < 0)
+    {
+        text = "0." + QByteArray(-exponent - 1, '0') + digits;
+    }
+    else
+    {
+        const QByteArray whole = digits.left(exponent + 1).leftJustified(exponent + 1, '0');
+        const QByteArray fraction = digits.mid(exponent + 1);
+        text = whole + (fraction.isEmpty() ? QByteArray() : "." + fraction);
+    }
+    return (value < 0 ? "-" : "") + QString::fromLatin1(text);
+}
+
+QString PlainPaneValue(float value)
+{
+    // Half a thousandth more, cut behind the third decimal, of the decimal that the single stands for.
+    const auto thousandths = static_cast<qint64>(std::floor(PlainText(value).toDouble() * 1000 + 0.5 + 1e-9));
+    QString text = QString::number(thousandths / 1000);
+    const qint64 rest = thousandths % 1000;
+    if (rest != 0)
+    {
+        QString fraction = QString::number(rest).rightJustified(3, u'0');
+        while (fraction.endsWith(u'0'))
+        {
+            fraction.chop(1);
+        }
+        text = (text == "0" ? QString() : text) + "." + fraction;
+    }
+    return text;
+}
+
+bool NearlyEqual(float a, float b, float largest)
+{
+    return a == b || std::abs(double{a} - b) <= 1e-6 * std::abs(double{b}) + 1e-7 * std::abs(double{largest});
+}
