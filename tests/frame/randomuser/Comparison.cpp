@@ -131,7 +131,8 @@ void User::CompareCharts()
         found.Check(chart->isVisible() && !chart->isMaximized(), window.Caption + " is hidden or maximised");
         if (!window.Minimised)
         {
-            found.Same("the place of " + window.Caption, chart->geometry(), QRect(200, window.Top, 733, 295));
+            found.Same("the place of " + window.Caption, chart->geometry(),
+                       QRect(window.Left, window.Top, 733, 295));
         }
         const AxisRange& range = chart->Range();
         found.Check(range.XMax == window.Range.XMax && range.XMin == window.Range.XMin &&

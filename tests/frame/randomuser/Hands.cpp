@@ -65,7 +65,10 @@ void Hands::Click(const QString& name)
 void Hands::Press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     QWidget* focus = QApplication::focusWidget();
-    QTest::keyClick(focus != nullptr ? focus : main.get(), key, modifiers);
+    QWidget* target = focus != nullptr ? focus : main.get();
+    // With Alt a letter is a command, and no text that a box might take.
+    modifiers.testFlag(Qt::AltModifier) ? QTest::sendKeyEvent(QTest::Click, target, key, QString(), modifiers)
+                                        : QTest::keyClick(target, key, modifiers);
     Settle();
 }
 
@@ -151,6 +154,19 @@ void Hands::ClickTitleButton(QMdiSubWindow* window, QStyle::SubControl button)
 void Hands::ClickTitle(QMdiSubWindow* window)
 {
     ClickTitleButton(window, QStyle::SC_TitleBarLabel);
+}
+
+void Hands::DragTitle(QMdiSubWindow* window, const QPoint& way)
+{
+    ClickTitle(window);
+    const QPoint from = PlaceOf(window, QStyle::SC_TitleBarLabel).center();
+    MoveMouse(window, from);
+    MoveMouse(window, from);
+    QTest::mousePress(window, Qt::LeftButton, {}, from);
+    MoveMouse(window, from + way, Qt::LeftButton);
+    // The window is under the pointer again.
+    QTest::mouseRelease(window, Qt::LeftButton, {}, from);
+    Settle();
 }
 
 void DoubleClickAt(QWidget* widget, const QPoint& place)

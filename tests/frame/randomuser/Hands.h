@@ -48,6 +48,7 @@ public:
     void CloseMenus();
 
     void ClickTitle(QMdiSubWindow* window);
+    void DragTitle(QMdiSubWindow* window, const QPoint& way);
     void DoubleClickTitle(QMdiSubWindow* window);
     void ClickTitleButton(QMdiSubWindow* window, QStyle::SubControl button);
 

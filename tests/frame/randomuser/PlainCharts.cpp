@@ -164,6 +164,7 @@ void PlainCharts::Plot(const PlainLine& line, const AxisRange& shown)
     PlainWindow& window = *Window(caption);
     window.Minimised = false;
     window.Range = shown;
+    window.Left = ChartLeft;
     // 300 twips for each window beside the first, and 50.
     window.Top = (static_cast<int>(Windows.size() - 1) * 300 + 50) / 15;
 }

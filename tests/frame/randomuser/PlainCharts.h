@@ -26,6 +26,7 @@ QString CaptionOf(const ChartRecord& line);
 struct PlainWindow
 {
     QString Caption;
+    int Left = 0;
     int Top = 0;
     bool Minimised = false;
     /// The ranges in force.
@@ -40,6 +41,9 @@ QString PlainPane(const ChartRecord& line);
 
 /// The unit of an axis quantity.
 QString PlainUnit(const std::string& quantity, const QString& degreeSign);
+
+/// Left edge of a chart window that nobody has dragged: 3000 twips.
+inline constexpr int ChartLeft = 200;
 
 struct PlainCharts
 {

@@ -3,15 +3,23 @@
 #include "app/mdlPublic.h"
 #include "chart/frmGraph.h"
 
+#include <QLocale>
 #include <QMdiArea>
 #include <QSettings>
 
 #include <numeric>
 
+bool HasPrinters()
+{
+    return qEnvironmentVariableIsSet("PRINTED_FILES");
+}
+
 static constexpr int RememberedActions = 25;
 
 const std::vector<User::Choice>& User::Choices()
 {
+    // Where there are printers, they are what matters.
+    static const int printing = HasPrinters() ? 10 : 1;
     static const std::vector<Choice> choices = {
         {60, "chart type", &User::ClickChartType},
         {10, "chart type by arrow", &User::StepChartType},
@@ -31,6 +39,7 @@ const std::vector<User::Choice>& User::Choices()
         {25, "close", &User::CloseOne},
         {30, "minimise or restore", &User::MinimiseOrRestore},
         {10, "double click", &User::DoubleClick},
+        {20, "drag", &User::Drag},
         {12, "code", &User::SwitchCode},
         {25, "numbering", &User::SwitchNumbering},
         {10, "reset", &User::Reset},
@@ -42,9 +51,9 @@ const std::vector<User::Choice>& User::Choices()
         {40, "point", &User::Point},
         {4, "copy", &User::Copy},
         {20, "save", &User::Save},
-        {8, "print data", &User::PrintData},
-        {8, "print chart", &User::PrintChart},
-        {3, "page setup", &User::SetUpPage},
+        {8 * printing, "print data", &User::PrintData},
+        {8 * printing, "print chart", &User::PrintChart},
+        {3 * printing, "page setup", &User::SetUpPage},
         {6, "about", &User::About},
         {4, "help", &User::Help},
     };
@@ -54,12 +63,17 @@ const std::vector<User::Choice>& User::Choices()
 User::User(unsigned seed)
     : random(seed)
 {
+    // Some users write a comma in their numbers.
+    QLocale::setDefault(Chance(30) ? QLocale(QLocale::German) : QLocale::c());
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, files.filePath("settings"));
     Start();
     lastFolder = QDir::currentPath();
 }
 
-User::~User() = default;
+User::~User()
+{
+    QLocale::setDefault(QLocale::c());
+}
 
 void User::Start()
 {
@@ -71,6 +85,7 @@ void User::Start()
     code = 0;
     numbering = 0;
     comparedLists.clear();
+    printFile.clear();
     // No book lies in this place.
     mdlPublic.PathSep = "/nowhere/";
 }
@@ -103,6 +118,9 @@ void User::CloseCharts()
 {
     hands->Ready();
     CloseAll();
+    // The picture of the main window takes as much as the window is large.
+    hands->main->resize(1010, 700);
+    Settle();
     Compare();
 }
 

@@ -9,6 +9,7 @@
 
 #include <QTemporaryDir>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <random>
@@ -23,7 +24,8 @@ public:
 
     /// Does something, valid or not, and notes what differs from the model afterwards.
     void Act();
-    /// Closes every chart window, so that what is left in memory can be compared.
+    /// Closes every chart window and gives the main window its first size, so that what is left in memory can
+    /// be compared.
     void CloseCharts();
 
     const Findings& Differences() const { return found; }
@@ -65,6 +67,7 @@ private:
     QString CloseOne();
     QString MinimiseOrRestore();
     QString DoubleClick();
+    QString Drag();
     QString SwitchCode();
     QString SwitchNumbering();
     QString Reset();
@@ -106,7 +109,8 @@ private:
     PlainWindow* AnyWindow();
     frmGraph* Shown(const PlainWindow& window) const;
     bool ChartIsActive() const;
-    QStringList PressPrint(const QString& question);
+    QString ChoosePrinter(const std::function<void()>& open, bool opens);
+    void TakePrinted(const QString& file);
     void ChooseEither(const QString& inChart, const QString& inMain);
     void Start();
     CodeView View() const;
@@ -132,6 +136,8 @@ private:
     /// The files that were saved, with what they held then, and the folder that the next dialog offers.
     QMap<QString, QByteArray> saved;
     QString lastFolder;
+    /// Where the printer of the running program prints to, once it is set up.
+    QString printFile;
 
     Findings found;
     QStringList done;
@@ -139,6 +145,10 @@ private:
     std::size_t comparisons = 0;
     QString comparedLists;
 };
+
+/// True where a print server is at hand, and what is printed goes to PDF files. On a computer without a
+/// printer every way to print ends with a message.
+bool HasPrinters();
 
 /// Names of the upper lists, from the top.
 inline const QStringList UpperLists = {"cmbSizeCode", "cmbTcc", "cmbCap", "cmbRatedVol"};

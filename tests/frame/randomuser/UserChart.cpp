@@ -144,6 +144,8 @@ QString User::SetRange()
         const auto value = [&](int i)
         { return *PlainEntry(entries[i]) * Factor(i < 2 ? line.XAxisName : line.YAxisName); };
         window->Range = {.XMax = value(1), .YMax = value(3), .XMin = value(0), .YMin = value(2)};
+        // The window keeps its height on the screen, not its distance from the left.
+        window->Left = ChartLeft;
     }
     return window->Caption + ": " + entries.join(' ') + (ok ? "" : ", cancelled");
 }

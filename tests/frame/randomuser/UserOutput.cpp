@@ -6,11 +6,13 @@
 #include "tests/frame/randomuser/User.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 
@@ -129,28 +131,77 @@ void User::CompareFiles()
     found.Same("the number of files", count, saved.size());
 }
 
-// ---- Printing, on a computer without a printer ----
+// ---- Printing ----
 
-/// Presses the key for printing; the question is answered by OK or Cancel.
-QStringList User::PressPrint(const QString& question)
+/// Does what opens the printer dialog, and prints to a new file or cancels.
+QString User::ChoosePrinter(const std::function<void()>& open, bool opens)
 {
-    const bool ok = Chance(60);
-    hands->AnswerBy(ok ? QMessageBox::Ok : QMessageBox::Cancel);
-    QTest::keyClick(hands->main.get(), Qt::Key_P, Qt::ControlModifier);
-    hands->AnswerBy(QMessageBox::NoButton);
-    hands->Ready();
-    return ok ? QStringList{Question(question), NoPrinter} : QStringList{Question(question)};
+    const bool accept = Chance(70);
+    const QString file = files.filePath(QStringLiteral("print/%1.pdf").arg(comparisons));
+    QDir(files.path()).mkdir("print");
+    const bool shown = hands->InDialog("QPrintDialog", open,
+                                       [&](QDialog& dialog)
+                                       {
+                                           for (QComboBox* list : dialog.findChildren<QComboBox*>())
+                                           {
+                                               const int row = list->findText("Print to File (PDF)");
+                                               list->setCurrentIndex(row >= 0 ? row : list->currentIndex());
+                                               Q_EMIT list->activated(list->currentIndex());
+                                           }
+                                           if (accept)
+                                           {
+                                               dialog.findChild<QLineEdit*>("filename")->setText(file);
+                                               QTest::keyClick(&dialog, Qt::Key_Return);
+                                           }
+                                       });
+    found.Same("the printer dialog is shown", shown, opens);
+    if (shown && accept)
+    {
+        printFile = file;
+        return file;
+    }
+    return {};
+}
+
+/// One page has been printed to the file, which is taken away.
+void User::TakePrinted(const QString& file)
+{
+    const QByteArray pdf = Contents(file);
+    found.Check(pdf.startsWith("%PDF") && pdf.contains("%%EOF") && pdf.contains("/Count 1"),
+                "not one printed page: " + file);
+    QFile::remove(file);
+}
+
+/// Presses the key for printing.
+static void PressPrint(Hands& hands)
+{
+    QTest::keyClick(hands.main.get(), Qt::Key_P, Qt::ControlModifier);
+    hands.Ready();
 }
 
 QString User::PrintData()
 {
     QTest::mouseClick(hands->Of("frmLibraryContents"), Qt::LeftButton, {}, QPoint(1, 1));
     Settle();
-    const QStringList told = PressPrint("Would you print " + form->PartText + " Data ?");
-    if (form->CanPlot && ChecksPass() && LineUnlessRefused(form->Asked()))
+    // Before a file is chosen the pages would go to the default printer.
+    const bool ok = (!HasPrinters() || !printFile.isEmpty()) && Chance(60);
+    hands->AnswerBy(ok ? QMessageBox::Ok : QMessageBox::Cancel);
+    PressPrint(*hands);
+    hands->AnswerBy(QMessageBox::NoButton);
+    if (!form->CanPlot || !ChecksPass() || !LineUnlessRefused(form->Asked()))
     {
-        Expect(told);
+        return "refused";
     }
+    QStringList told = {Question("Would you print " + form->PartText + " Data ?")};
+    if (ok && HasPrinters())
+    {
+        TakePrinted(printFile);
+    }
+    else if (ok)
+    {
+        told << NoPrinter;
+    }
+    Expect(told);
     return form->PartText;
 }
 
@@ -162,9 +213,22 @@ QString User::PrintChart()
         return "none";
     }
     hands->ClickTitle(Shown(*window));
+    const bool ok = Chance(60);
+    hands->AnswerBy(ok ? QMessageBox::Ok : QMessageBox::Cancel);
+    const QString file = ChoosePrinter([&] { PressPrint(*hands); }, ok && HasPrinters());
+    hands->AnswerBy(QMessageBox::NoButton);
     const QString type = window->Caption.left(window->Caption.indexOf('('));
-    Expect(PressPrint("Would you print " + type + " Chart ?"));
-    return type;
+    QStringList told = {Question("Would you print " + type + " Chart ?")};
+    if (ok && !HasPrinters())
+    {
+        told << NoPrinter;
+    }
+    Expect(told);
+    if (!file.isEmpty())
+    {
+        TakePrinted(file);
+    }
+    return type + " " + file;
 }
 
 QString User::SetUpPage()
@@ -173,10 +237,9 @@ QString User::SetUpPage()
     {
         return "no chart is active";
     }
-    hands->Choose("mnuFilePageSetup");
-    hands->Ready();
-    Expect({NoPrinter});
-    return {};
+    const QString file = ChoosePrinter([&] { hands->Choose("mnuFilePageSetup"); }, HasPrinters());
+    Expect(HasPrinters() ? QStringList() : QStringList{NoPrinter});
+    return file;
 }
 
 // ---- Help and about ----

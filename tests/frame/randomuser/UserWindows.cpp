@@ -97,6 +97,26 @@ QString User::DoubleClick()
     return "picture";
 }
 
+/// Drags a window by its title, as far as there is room.
+QString User::Drag()
+{
+    PlainWindow* window = AnyWindow();
+    if (window == nullptr || window->Minimised)
+    {
+        return "none";
+    }
+    const QPoint way(Lot(201) - 100, Lot(121) - 60);
+    const QRect place(window->Left + way.x(), window->Top + way.y(), 733, 295);
+    if (!hands->Area()->viewport()->rect().contains(place))
+    {
+        return "no room";
+    }
+    hands->DragTitle(Shown(*window), way);
+    window->Left = place.left();
+    window->Top = place.top();
+    return QStringLiteral("%1 %2").arg(way.x()).arg(way.y());
+}
+
 // ---- Menus ----
 
 QString User::SwitchCode()
