@@ -3,8 +3,17 @@
 #include <QLocale>
 #include <QRegularExpression>
 
+#include <array>
+#include <charconv>
 #include <cmath>
-#include <cstdlib>
+
+/// A number as it is written in C, whatever locale the test runs in; infinite or zero when it does not fit.
+static float SingleOf(const QByteArray& text)
+{
+    float value = 0;
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
+    return read.ec == std::errc::result_out_of_range ? static_cast<float>(text.toDouble()) : value;
+}
 
 std::optional<float> PlainEntry(const QString& text)
 {
@@ -12,18 +21,27 @@ std::optional<float> PlainEntry(const QString& text)
         QStringLiteral("^ *([+-]?([0-9]+\\.?[0-9]*|\\.[0-9]+)([eE][+-]?[0-9]+)?) *$"));
     const bool commaIsDecimal = QLocale().decimalPoint() == QStringLiteral(",");
     const auto match = number.match(commaIsDecimal ? QString(text).replace(u',', u'.') : text);
-    return match.hasMatch() ? std::optional(std::strtof(match.captured(1).toLatin1().constData(), nullptr))
-                            : std::nullopt;
+    if (!match.hasMatch())
+    {
+        return std::nullopt;
+    }
+    const QByteArray entry = match.captured(1).toLatin1();
+    return SingleOf(entry.startsWith('+') ? entry.mid(1) : entry);
 }
 
-/// The shortest digits of a value, its exponent taken off: "2.5" is "25" and 0.
+/// The shortest digits of a value, its exponent taken off: "2.5" is "25" and 0. A value in the middle of two
+/// such numbers is the even one.
 static std::pair<QByteArray, int> ShortestDigits(float value)
 {
     QByteArray text;
     for (int decimals = 0; decimals < 9; ++decimals)
     {
-        text = QByteArray::number(std::abs(double{value}), 'e', decimals);
-        if (std::strtof(text.constData(), nullptr) == std::abs(value))
+        std::array<char, 40> buffer{};
+        const auto* end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(double{value}),
+                                        std::chars_format::scientific, decimals)
+                              .ptr;
+        text = QByteArray(buffer.data(), end - buffer.data());
+        if (SingleOf(text) == std::abs(value))
         {
             break;
         }
