@@ -6,13 +6,21 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <limits>
 
 /// A number as it is written in C, whatever locale the test runs in; infinite or zero when it does not fit.
 static float SingleOf(const QByteArray& text)
 {
     float value = 0;
     const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
-    return read.ec == std::errc::result_out_of_range ? static_cast<float>(text.toDouble()) : value;
+    if (read.ec != std::errc::result_out_of_range)
+    {
+        return value;
+    }
+    long double wide = 0;
+    std::from_chars(text.data(), text.data() + text.size(), wide);
+    constexpr float infinite = std::numeric_limits<float>::infinity();
+    return std::abs(wide) < 1 ? 0 : wide < 0 ? -infinite : infinite;
 }
 
 std::optional<float> PlainEntry(const QString& text)
