@@ -310,10 +310,17 @@ void frmLibrary::ResetParameter()
     optParameter_Click(0);
 }
 
+/// Empties a box for good. `clear` would keep the entry for Undo, and with it the entries of every part
+/// before.
+static void Empty(QLineEdit* box)
+{
+    box->setText({});
+}
+
 void frmLibrary::optParameter_Click(int index)
 {
     static constexpr std::array<const char*, 4> Units = {"[Arms]", "[Vrms]", "[W]", "[VA]"};
-    ui->txtParameter->clear();
+    Empty(ui->txtParameter);
     ui->lblParameter->setText(QString::fromLatin1(Units[static_cast<std::size_t>(index)]));
 }
 
@@ -329,9 +336,9 @@ void frmLibrary::DisableConditions()
     SetConditionEnabled(ui->lblFrequency, ui->txtFrequency, false);
     SetConditionEnabled(ui->lblHeatResistance, ui->txtHeatResistance, false);
     SetConditionEnabled(ui->lblAmbientTemp, ui->txtAmbientTemp, false);
-    ui->txtDCBiasVol->clear();
-    ui->txtFrequency->clear();
-    ui->txtHeatResistance->clear();
+    Empty(ui->txtDCBiasVol);
+    Empty(ui->txtFrequency);
+    Empty(ui->txtHeatResistance);
     ResetAmbientTemp(GetCodeForm());
     ResetParameter();
     SetParameterEnabled(false);

@@ -269,6 +269,25 @@ private Q_SLOTS:
         QCOMPARE(Focus(), "cmbPartNum");
     }
 
+    void EntriesOfAFormerPartDoNotComeBackByUndo()
+    {
+        ChoosePart("P0-0", "Frequency");
+        for (const char* name : {"txtDCBiasVol", "txtHeatResistance", "txtParameter"})
+        {
+            auto* box = Find<QLineEdit>(name);
+            box->setFocus();
+            QTest::keyClicks(box, "7");
+            QVERIFY(box->isUndoAvailable());
+        }
+        // Another chart type and back: the boxes are emptied.
+        Find<QRadioButton>("optChartType_1")->click();
+        Find<QRadioButton>("optChartType_0")->click();
+        for (const char* name : {"txtDCBiasVol", "txtFrequency", "txtHeatResistance", "txtParameter"})
+        {
+            QVERIFY2(!Find<QLineEdit>(name)->isUndoAvailable(), name);
+        }
+    }
+
     void ChoosesAChartTypeWithTheArrowKeys()
     {
         Find<QRadioButton>("optChartType_0")->setFocus();
