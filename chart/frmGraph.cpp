@@ -55,6 +55,12 @@ frmGraph::frmGraph(ChartHost& chartHost, QWidget* parent)
     lblStatus = {ui->lblStatus_0, ui->lblStatus_1, ui->lblStatus_2,
                  ui->lblStatus_3, ui->lblStatus_4, ui->lblStatus_5};
     lblPara = {ui->lblPara_0, ui->lblPara_1, ui->lblPara_2, ui->lblPara_3, ui->lblPara_4, ui->lblPara_5};
+    for (std::size_t i = 0; i < MaximumLines; ++i)
+    {
+        // The label reaches under its neighbour, its text does not.
+        const int covered = lblStatus[i]->geometry().right() + 1 - lblPara[i]->x();
+        lblStatus[i]->setContentsMargins(0, 0, covered, 0);
+    }
     ui->grpChart->setPalette(LightPalette());
     for (std::size_t i = 0; i < panels.size(); ++i)
     {

@@ -292,7 +292,10 @@ void ChartWindowTest::LayoutIsFixedInTwips()
         QCOMPARE(pane->height(), Pixels(615));
         const auto* number = chart->findChild<QLabel*>(QStringLiteral("lblStatus_%1").arg(i));
         QCOMPARE(number->pos(), QPoint(Pixels(120), Pixels(240)));
+        QCOMPARE(number->width(), Pixels(2300));
         const auto* conditions = chart->findChild<QLabel*>(QStringLiteral("lblPara_%1").arg(i));
+        // The label ends under the conditions, its text before them.
+        QCOMPARE(number->x() + number->contentsRect().right() + 1, conditions->x());
         QCOMPARE(conditions->geometry(), QRect(Pixels(2280), Pixels(240), Pixels(2655), Pixels(255)));
     }
     QCOMPARE(chart->findChild<QGroupBox*>("fraStatus_0")->y(), 0);
