@@ -19,6 +19,7 @@ class MenusTest : public QObject
 
 private Q_SLOTS:
     void MainMenuTreeStandsInOrder();
+    void EntriesOfMainMenuBearTheirNames();
     void ChartMenuTreeStandsInOrder();
     void ActiveChartPutsItsMenusInPlace();
     void MainMenusComeBackWithSelectionForm();
@@ -34,6 +35,8 @@ private Q_SLOTS:
     void CloseAllWithoutChartsDoesNothing();
     void CloseAllFromMainMenu();
     void CloseAllFromChartsOwnMenu();
+    void AboutBoxIsALoadedFormWhileShown_data();
+    void AboutBoxIsALoadedFormWhileShown();
     void ExitClosesTheMainWindow();
     void ExitFromChartMenuKeepsStore();
     void MainWindowIsCaptioned();
@@ -81,6 +84,30 @@ void MenusTest::MainMenuTreeStandsInOrder()
                                   " -",
                                   " &About..."};
     QCOMPARE(TreeOf(desk.main->menuBar()->actions()), expected);
+}
+
+void MenusTest::EntriesOfMainMenuBearTheirNames()
+{
+    const Desk desk;
+    QStringList names;
+    for (const QAction* title : desk.main->menuBar()->actions())
+    {
+        names << title->menu()->objectName();
+        for (const QAction* entry : title->menu()->actions())
+        {
+            names << (entry->menu() != nullptr ? entry->menu()->objectName() : entry->objectName());
+        }
+    }
+    const QStringList expected = {"mnuFile",       "mnuResetSelction",
+                                  "mnuLine1",      "mnuOutPut",
+                                  "mnuLine3",      "mnuExit",
+                                  "mnuView",       "mnuViewCode_0",
+                                  "mnuViewCode_1", "mnuViewBar1",
+                                  "mnuPartNum_0",  "mnuPartNum_1",
+                                  "mnuWindow",     "mnuCloseAllChartWindows",
+                                  "mnuHelp",       "mnuContents",
+                                  "mnuLine5",      "mnuAbout"};
+    QCOMPARE(names, expected);
 }
 
 void MenusTest::ChartMenuTreeStandsInOrder()
@@ -348,6 +375,43 @@ void MenusTest::CloseAllFromChartsOwnMenu()
     desk.Area()->setActiveSubWindow(desk.Charts().front());
     desk.Choose("mnuWindowClose");
     VerifyNoCharts(desk);
+}
+
+void MenusTest::AboutBoxIsALoadedFormWhileShown_data()
+{
+    QTest::addColumn<QString>("entry");
+    QTest::newRow("from the main menu") << "mnuAbout";
+    QTest::newRow("from a chart's menu") << "mnuHelpAbout";
+}
+
+void MenusTest::AboutBoxIsALoadedFormWhileShown()
+{
+    QFETCH(QString, entry);
+    Desk desk;
+    desk.ClickChartType(2);
+    desk.PlotCapacitance(ListedPart(desk, 0), "0");
+    if (entry == "mnuAbout")
+    {
+        desk.Area()->setActiveSubWindow(desk.Find<frmLibrary>("frmLibrary"));
+    }
+    QByteArray shown;
+    int forms = 0;
+    QTimer look;
+    connect(&look, &QTimer::timeout, &look,
+            [&]
+            {
+                if (QWidget* front = QApplication::activeModalWidget())
+                {
+                    shown = front->metaObject()->className();
+                    forms = desk.main->OpenForms();
+                    QTest::keyClick(front, Qt::Key_Return);
+                }
+            });
+    look.start(5);
+    desk.Choose(entry);
+    QCOMPARE(shown, QByteArray("frmAbout"));
+    QCOMPARE(forms, 4);
+    QCOMPARE(desk.main->OpenForms(), 3);
 }
 
 void MenusTest::ExitClosesTheMainWindow()
