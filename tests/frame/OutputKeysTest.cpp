@@ -32,6 +32,9 @@ private Q_SLOTS:
     void PageSetupWithoutPrinterIsTold();
     void DeclinedQuestionPrintsNothing();
     void RefusedParameterIsNotPrinted();
+    void RefusedConditionIsNotPrinted();
+    void ChartsOwnEntryPrintsTheSelection();
+    void NoticeStandsUnderTheHourglass();
     void KeysOfTheMainWindow();
     void KeysOfAChart();
     void CopyKeyInABoxCopiesItsText();
@@ -150,6 +153,64 @@ void OutputKeysTest::RefusedParameterIsNotPrinted()
     QCOMPARE(boxes[0].icon, QMessageBox::Warning);
     QVERIFY(desk.HasFocus("txtParameter"));
     VerifyNothingIsUnderWay(0);
+}
+
+void OutputKeysTest::RefusedConditionIsNotPrinted()
+{
+    Desk desk;
+    desk.ClickChartType(2);
+    desk.TypePart(ListedPart(desk, 0));
+    desk.Type("txtDCBiasVol", "nothing");
+    Key(desk, Qt::Key_P);
+    const auto boxes = desk.TakeBoxes();
+    QCOMPARE(boxes.size(), std::size_t{1});
+    QCOMPARE(boxes[0].icon, QMessageBox::Warning);
+    QVERIFY(desk.HasFocus("txtDCBiasVol"));
+    VerifyNothingIsUnderWay(0);
+}
+
+void OutputKeysTest::ChartsOwnEntryPrintsTheSelection()
+{
+    Desk desk;
+    PlotOne(desk);
+    desk.TypePart(ListedPart(desk, 1));
+    desk.Type("txtDCBiasVol", "0");
+    desk.Area()->setActiveSubWindow(desk.Charts().front());
+    QVERIFY(desk.MenuTitles().contains("&Chart"));
+    desk.AnswerBy(QMessageBox::Cancel);
+    desk.Entry("mnuPrintData")->trigger();
+    Settle();
+    QCOMPARE(desk.TakeText(), "Would you print " + ListedPart(desk, 1) + " Data ?");
+    VerifyNothingIsUnderWay(1);
+}
+
+/// Notes under which pointer the printing notice appears.
+class NoticeWatch : public QObject
+{
+public:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const QCursor* pointer = QGuiApplication::overrideCursor();
+        if (event->type() == QEvent::Show && qobject_cast<frmPrinting*>(watched) != nullptr)
+        {
+            pointers << (pointer != nullptr ? pointer->shape() : Qt::ArrowCursor);
+        }
+        return false;
+    }
+    QList<Qt::CursorShape> pointers;
+};
+
+void OutputKeysTest::NoticeStandsUnderTheHourglass()
+{
+    Desk desk;
+    PlotOne(desk);
+    desk.Area()->setActiveSubWindow(desk.Find<frmLibrary>("frmLibrary"));
+    NoticeWatch watch;
+    qApp->installEventFilter(&watch);
+    Key(desk, Qt::Key_P);
+    QCOMPARE(desk.TakeBoxes().size(), std::size_t{2});
+    QCOMPARE(watch.pointers, QList<Qt::CursorShape>{Qt::WaitCursor});
+    VerifyNothingIsUnderWay(1);
 }
 
 /// Presses a key that opens a dialog, and names the class of what opened.

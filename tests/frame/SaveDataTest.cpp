@@ -1,6 +1,7 @@
 /// Saving the curve of the current selection: the file, the questions on the way, and what is left behind.
 
 #include "app/mdlPublic.h"
+#include "chart/frmGraph.h"
 #include "frame/LastFolder.h"
 #include "tests/frame/Desk.h"
 
@@ -11,6 +12,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QLocale>
+#include <QMdiArea>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -42,6 +44,7 @@ private Q_SLOTS:
     void RefusedParameterStopsBeforeTheDialog();
     void RefusedConditionStopsBeforeTheDialog();
     void SavingTouchesNoPlottedLine();
+    void ChartsOwnEntrySavesTheSelection();
     void FolderIsRememberedAcrossRuns();
     void FolderThatIsGoneIsForgotten();
     void RootFolderIsRemembered();
@@ -345,6 +348,8 @@ void SaveDataTest::FileThatCannotBeWrittenIsTold()
     QCOMPARE(boxes[1].text, QString("Unexpected Error 75\nPath/File access error"));
     QCOMPARE(boxes[1].icon, QMessageBox::Critical);
     QCOMPARE(boxes[1].title, desk.main->windowTitle());
+    // The folder was chosen all the same.
+    QCOMPARE(LastFolder(), folder->path());
     QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{1});
     QVERIFY(StoreIsWhole());
     QVERIFY(IsAtRest());
@@ -396,6 +401,29 @@ void SaveDataTest::SavingTouchesNoPlottedLine()
     QCOMPARE(desk.TakeBoxes().size(), std::size_t{0});
     QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{2});
     QCOMPARE(Contents(folder->filePath("a.tvk")).endsWith(DataLines(mdlPublic.Charts.ChartData[1])), true);
+}
+
+void SaveDataTest::ChartsOwnEntrySavesTheSelection()
+{
+    Desk desk;
+    Choose(desk, 2, "Temperature", "Capacitance");
+    desk.Type("txtDCBiasVol", "0");
+    desk.ClickPlot();
+    // The form describes another part, another chart and another condition by now.
+    desk.ClickChartType(3);
+    desk.PickYAxis("Capacitance Change");
+    desk.TypePart("KTU155R71H151KA01");
+    QVERIFY(desk.CanPlot());
+    desk.Type("txtAmbientTemp", "60");
+    desk.Area()->setActiveSubWindow(desk.Charts().front());
+    QVERIFY(desk.MenuTitles().contains("&Chart"));
+    QCOMPARE(desk.SaveAs(folder->filePath("a.tvk")).second, QString("KTU155R71H151KA01.tvk"));
+    const QByteArray file = Contents(folder->filePath("a.tvk"));
+    QVERIFY(file.contains("!ChartType-> Capacitance-DC Voltage Characteristics\r\n"));
+    QVERIFY(file.contains("!Ambient Temperature-> 60 [C]\r\n"
+                          "DC Bias Voltage[V]  Capacitance Change[%]\r\n"));
+    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{1});
+    QVERIFY(!file.contains(DataLines(mdlPublic.Charts.ChartData[0]).left(60)));
 }
 
 void SaveDataTest::FolderIsRememberedAcrossRuns()

@@ -24,8 +24,10 @@ private Q_SLOTS:
     void CodeSwitchWithoutChartsIsSilent();
     void CodeSwitchClosesAllChartsAfterOneNotice();
     void CodeSwitchFromChartMenuClosesThatChart();
+    void CodeSwitchIsUnderWayUntilTheNoticeIsAnswered();
     void CodeSwitchSetsReferenceTemperature();
     void NumberingSwitchRelabelsPanesAndKeepsWindows();
+    void NumberingSwitchMovesTheMarkLast();
     void NumberingSwitchStopsAtFirstEmptyPane();
     void NumberingSwitchFindsFullTextOfCutLabels();
     void SwitchesInAnyOrderNameThePartPlainly();
@@ -185,6 +187,58 @@ void SwitchesTest::CodeSwitchFromChartMenuClosesThatChart()
     QCOMPARE(Marks(desk), QList<bool>({false, true, true, false}));
 }
 
+/// True while a long command is under way that list handlers have to leave alone.
+static bool IsUpdatingUnderHourglass()
+{
+    const QCursor* pointer = QGuiApplication::overrideCursor();
+    return mdlPublic.Updating && pointer != nullptr && pointer->shape() == Qt::WaitCursor;
+}
+
+void SwitchesTest::CodeSwitchIsUnderWayUntilTheNoticeIsAnswered()
+{
+    Desk desk;
+    desk.ClickChartType(3);
+    const PartRecord& part = PartNamed(ListedPart(desk, 0), 0);
+    desk.TypePart(NumberOf(part, 0));
+    desk.Type("txtAmbientTemp", "60");
+    desk.ClickPlot();
+    QCOMPARE(desk.Charts().size(), std::size_t{1});
+    desk.Area()->setActiveSubWindow(desk.Find<frmLibrary>("frmLibrary"));
+
+    // As the mark moves, the part is named anew and the temperature is the old one.
+    bool underWay = false;
+    QString temperature;
+    QString number;
+    connect(desk.Entry("mnuViewCode_1"), &QAction::toggled, this,
+            [&]
+            {
+                underWay = IsUpdatingUnderHourglass();
+                temperature = desk.Text("txtAmbientTemp");
+                number = desk.Find<QComboBox>("cmbPartNum")->currentText();
+            });
+    // As the notice stands, all is switched, and the chart is still there.
+    QStringList seen;
+    QTimer watch;
+    connect(&watch, &QTimer::timeout, &watch,
+            [&]
+            {
+                if (QApplication::activeModalWidget() != nullptr && seen.isEmpty())
+                {
+                    seen = {mdlPublic.Updating ? "updating" : "at rest", desk.Text("txtAmbientTemp"),
+                            QString::number(GetCodeForm()), QString::number(desk.Charts().size())};
+                }
+            });
+    watch.start(0);
+    desk.Choose("mnuViewCode_1");
+    QVERIFY(underWay);
+    QCOMPARE(temperature, QString("60"));
+    QCOMPARE(number, NumberOf(part, 1));
+    QCOMPARE(seen, QStringList({"updating", "20", "1", "1"}));
+    QCOMPARE(desk.TakeText(), QString("Close all chart windows"));
+    QCOMPARE(desk.Charts().size(), std::size_t{0});
+    QVERIFY(IsAtRest());
+}
+
 void SwitchesTest::CodeSwitchSetsReferenceTemperature()
 {
     Desk desk;
@@ -221,6 +275,27 @@ void SwitchesTest::NumberingSwitchRelabelsPanesAndKeepsWindows()
     desk.Choose("mnuViewPart_0");
     QCOMPARE(Pane(desk.Charts()[0], 0), first);
     QCOMPARE(Pane(desk.Charts()[1], 0), second);
+    QVERIFY(IsAtRest());
+}
+
+void SwitchesTest::NumberingSwitchMovesTheMarkLast()
+{
+    Desk desk;
+    desk.ClickChartType(2);
+    const PartRecord& part = PartNamed(ListedPart(desk, 0), 0);
+    desk.PlotCapacitance(NumberOf(part, 0), "0");
+    desk.Area()->setActiveSubWindow(desk.Find<frmLibrary>("frmLibrary"));
+    bool underWay = false;
+    QString pane;
+    connect(desk.Entry("mnuPartNum_1"), &QAction::toggled, this,
+            [&]
+            {
+                underWay = IsUpdatingUnderHourglass();
+                pane = Pane(desk.Charts().front(), 0);
+            });
+    desk.Choose("mnuPartNum_1");
+    QVERIFY(underWay);
+    QCOMPARE(pane, NumberOf(part, 2));
     QVERIFY(IsAtRest());
 }
 

@@ -4,6 +4,7 @@
 #include "tests/frame/printing/PdfText.h"
 #include "tests/frame/printing/SamplePages.h"
 
+#include <QFontMetricsF>
 #include <QPrinter>
 #include <QTemporaryDir>
 #include <QTest>
@@ -22,6 +23,7 @@ private Q_SLOTS:
     void TellsPartNumbersInTheNamingOnDisplay();
     void ParameterIsToldWithItsUnit();
     void ColumnsEndAtTheirLastPoints();
+    void TextsAreInArialNine();
     void RulesPartNamesAndUnits_data();
     void RulesPartNamesAndUnits();
     void PageWithoutAxisIsRefused();
@@ -233,6 +235,28 @@ void DataPageTest::ColumnsEndAtTheirLastPoints()
     auto overFrequency = PrintAndRead(SixLines({1, "Frequency", "Current"})[1]);
     QVERIFY(TakeAt(overFrequency, "1.00E+01", 0, 92));
     QVERIFY(TakeAt(overFrequency, "1.00E+03", 64, 7.5));
+}
+
+void DataPageTest::TextsAreInArialNine()
+{
+    // A hundred times larger, so that widths are not rounded to dots.
+    QFont font(QStringLiteral("Arial"));
+    font.setPixelSize(900);
+    const QFontMetricsF metrics(font);
+    const auto page = PrintAndRead(SixLines({2, "Temperature", "Capacitance"})[1]);
+    std::size_t words = 0;
+    for (const auto& word : page.Words)
+    {
+        if (word.Text == "Characteristics" || word.Text == "Capacitance" || word.Text == "Temperature")
+        {
+            ++words;
+            const auto expected = metrics.horizontalAdvance(word.Text) / 100;
+            QVERIFY2(std::abs(word.Box.width() - expected) < 0.2,
+                     qPrintable(QStringLiteral("%1 %2").arg(word.Box.width()).arg(expected)));
+        }
+    }
+    // In the title, in the chart type, and in the two headings of three columns.
+    QCOMPARE(words, 8U);
 }
 
 void DataPageTest::RulesPartNamesAndUnits_data()
