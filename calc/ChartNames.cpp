@@ -16,7 +16,7 @@ std::int16_t GetChartTypeNumber(std::string_view name)
 
 std::string ChartCaption(const ChartKey& chart)
 {
-    assert(chart.ChartType >= 0 && chart.ChartType < 4);
+    assert(HasChartTypeName(chart.ChartType));
     std::string caption(ChartTypeNames[static_cast<std::size_t>(chart.ChartType)]);
     caption.append("(").append(chart.XAxisName).append(",").append(chart.YAxisName).append(")");
     return caption;

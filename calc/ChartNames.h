@@ -25,6 +25,12 @@ inline constexpr std::array<std::string_view, 4> ParameterNames = {
     "Apparent Power",
 };
 
+/// True for the chart type numbers 0 to 3.
+constexpr bool HasChartTypeName(std::int16_t chartType)
+{
+    return chartType >= 0 && static_cast<std::size_t>(chartType) < ChartTypeNames.size();
+}
+
 /// The chart type number of a chart type name; 0 for any other text.
 std::int16_t GetChartTypeNumber(std::string_view name);
 

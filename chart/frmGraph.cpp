@@ -155,15 +155,18 @@ void frmGraph::WriteMagnification(float xMax, float yMax, float xMin, float yMin
     Draw({.XMax = xMax, .YMax = yMax, .XMin = xMin, .YMin = yMin});
 }
 
-/// Names, places and colours the window, which comes up from its icon. A window with a range of the user's
-/// stays where it is.
+/// Names, places and colours the window, which comes up from its icon. A chart type that has no name leaves
+/// the caption as it is, and a window with a range of the user's stays where it is.
 void frmGraph::InitChartWindow(const ChartKey& chart)
 {
     if (isMinimized())
     {
         showNormal();
     }
-    setWindowTitle(QString::fromStdString(ChartCaption(chart)));
+    if (HasChartTypeName(chart.ChartType))
+    {
+        setWindowTitle(QString::fromStdString(ChartCaption(chart)));
+    }
     const int top = rescaled ? y() : Twips((host.OpenForms() - 3) * 300 + 50);
     setGeometry(WindowLeft, top, WindowWidth, WindowHeight);
     for (std::size_t i = 0; i < MaximumLines; ++i)

@@ -23,6 +23,7 @@ class ChartWindowTest : public QObject
 private Q_SLOTS:
     void CaptionNamesTypeAndAxes_data();
     void CaptionNamesTypeAndAxes();
+    void UnknownChartTypeLeavesTheCaption();
     void WindowsCascadeFromLeft3000Top50();
     void AddedLineMovesToTopOfPresentCount();
     void UserRangeKeepsTopButResetsLeftAndSize();
@@ -95,6 +96,22 @@ void ChartWindowTest::CaptionNamesTypeAndAxes()
     desk.ClickPlot();
     QVERIFY(OnlyChart(desk) != nullptr);
     QTEST(OnlyChart(desk)->windowTitle(), "caption");
+}
+
+void ChartWindowTest::UnknownChartTypeLeavesTheCaption()
+{
+    Desk desk;
+    PlotFirst(desk);
+    frmGraph* chart = OnlyChart(desk);
+    const QString caption = chart->windowTitle();
+    for (const std::int16_t type : {std::int16_t{4}, std::int16_t{-1}})
+    {
+        ChartRecord line = mdlPublic.Charts.ChartData[0];
+        line.ChartType = type;
+        mdlPublic.Charts.Write(line);
+        chart->Form_Load();
+        QCOMPARE(chart->windowTitle(), caption);
+    }
 }
 
 void ChartWindowTest::WindowsCascadeFromLeft3000Top50()
