@@ -5,11 +5,13 @@
 #include "tests/frame/printing/SamplePages.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
 #include <QFile>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QProcess>
+#include <QSpinBox>
 #include <QTest>
 #include <QTimer>
 
@@ -27,6 +29,8 @@ private Q_SLOTS:
     void PagesReachThePaper_data();
     void PagesReachThePaper();
     void GrayQueueIsMonochrome();
+    void AcceptedDialogGivesItsChoicesBack_data();
+    void AcceptedDialogGivesItsChoicesBack();
     void QueueThatCannotPrintIsToldByName_data();
     void QueueThatCannotPrintIsToldByName();
     void PrinterThatIsGoneIsToldByName();
@@ -143,6 +147,46 @@ void PrintQueueTest::GrayQueueIsMonochrome()
     QCOMPARE(KindOf(color), SurfaceKind::ColorPrinter);
     QPrinter gray(QPrinterInfo::printerInfo(QStringLiteral("gray")), QPrinter::HighResolution);
     QCOMPARE(KindOf(gray), SurfaceKind::MonochromePrinter);
+}
+
+void PrintQueueTest::AcceptedDialogGivesItsChoicesBack_data()
+{
+    QTest::addColumn<bool>("printerDefault");
+    QTest::newRow("to printer and properties") << true;
+    QTest::newRow("to the properties only") << false;
+}
+
+void PrintQueueTest::AcceptedDialogGivesItsChoicesBack()
+{
+    QFETCH(bool, printerDefault);
+    QPrinter printer(QPrinter::HighResolution);
+    QCOMPARE(printer.printerName(), QStringLiteral("color"));
+    clsComdlg dialog(&printer);
+    dialog.PrinterDefault = printerDefault;
+    int firstCopies = 0;
+    QTimer::singleShot(200, qApp,
+                       [&]
+                       {
+                           auto* shown = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+                           QVERIFY(shown != nullptr);
+                           for (QComboBox* list : shown->findChildren<QComboBox*>())
+                           {
+                               const int index = list->findText(QStringLiteral("gray"));
+                               list->setCurrentIndex(index >= 0 ? index : list->currentIndex());
+                           }
+                           auto* copies = shown->findChild<QSpinBox*>("copies");
+                           QVERIFY(copies != nullptr);
+                           firstCopies = copies->value();
+                           copies->setValue(3);
+                           QTest::keyClick(shown, Qt::Key_Return);
+                       });
+    dialog.Copies = 2;
+    dialog.ShowPrinter();
+    QCOMPARE(firstCopies, 2);
+    QCOMPARE(dialog.Copies, 3);
+    QCOMPARE(printer.printerName(), printerDefault ? QStringLiteral("gray") : QStringLiteral("color"));
+    QCOMPARE(printer.copyCount(), printerDefault ? 3 : 1);
+    QCOMPARE(KindOf(printer), printerDefault ? SurfaceKind::MonochromePrinter : SurfaceKind::ColorPrinter);
 }
 
 void PrintQueueTest::QueueThatCannotPrintIsToldByName_data()
