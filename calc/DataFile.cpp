@@ -30,12 +30,14 @@ template <class... Pieces> static void AddLine(std::string& text, const Pieces&.
 std::string DataFileText(const ChartRecord& line, const PartRecord& part, CodeView view,
                          std::string_view date)
 {
+    // Refuses a line of no chart type, which has no name either.
+    const auto conditions = ConditionLines(line);
     const auto code = static_cast<std::size_t>(view);
     std::string text;
     AddLine(text, "!", Title, date);
     AddLine(text, "!ChartType-> ", ChartTypeNames[static_cast<std::size_t>(line.ChartType)]);
     AddLine(text, "!Halvex Part Number-> ", part.PartNum[code], " (", part.PartNum[code + 2], ")");
-    for (const ConditionLine& condition : ConditionLines(line))
+    for (const ConditionLine& condition : conditions)
     {
         AddLine(text, "!", condition.Name, "-> ", condition.Value, " ", condition.Unit);
     }

@@ -16,7 +16,8 @@
 /// @param view the naming of the part numbers
 /// @param date the date of the title line, in the code page of the file
 ///
-/// Throws RunTimeError 5 for an axis or parameter name without a unit.
+/// Throws RunTimeError 5 for a number that is no chart type, and for an axis or parameter name without a
+/// unit.
 std::string DataFileText(const ChartRecord& line, const PartRecord& part, CodeView view,
                          std::string_view date);
 

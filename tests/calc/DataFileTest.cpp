@@ -1,5 +1,7 @@
 #include "calc/DataFile.h"
 
+#include "partdata/RunTimeError.h"
+
 #include <gtest/gtest.h>
 
 #include <sstream>
@@ -90,6 +92,15 @@ TEST(DataFile, NamesThePartInTheCodeOnDisplay)
 {
     const auto file = DataFileText(Line(2, "Temperature", "Capacitance"), NamedPart(), CodeView::Jis, "");
     EXPECT_NE(file.find("!Halvex Part Number-> GLOBAL-JIS (PREVIOUS-JIS)\r\n"), std::string::npos);
+}
+
+TEST(DataFile, OfNoChartTypeIsAnError)
+{
+    for (const std::int16_t type : {std::int16_t{-1}, std::int16_t{4}})
+    {
+        const auto line = Line(type, "Temperature", "Capacitance");
+        EXPECT_THROW(DataFileText(line, NamedPart(), CodeView::Eia, ""), RunTimeError);
+    }
 }
 
 TEST(DataFile, HasTwoHundredDataLinesAndNoTrailer)
