@@ -9,6 +9,7 @@
 #include "ui_frmMain.h"
 
 #include <QPrinter>
+#include <QScreen>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -24,7 +25,7 @@ frmMain::frmMain(QWidget* parent)
     , ui(std::make_unique<Ui::frmMain>())
 {
     ui->setupUi(this);
-    resize(FirstSize);
+    resize(FirstSize.boundedTo(screen()->availableSize()));
     mainMenus = ui->mnuBar->actions();
 
     const std::array<QAction*, 2> mnuViewCode = {ui->mnuViewCode_0, ui->mnuViewCode_1};

@@ -1,14 +1,20 @@
 /// The program: the desktop application around the start-up order.
 
+#include "app/Fonts.h"
 #include "app/Main.h"
 #include "app/Messages.h"
 #include "frame/ProgramIcon.h"
 #include "frame/frmMain.h"
 
 #include <QApplication>
+#include <QDebug>
+#include <QStringList>
 
+#include <cstdlib>
 #include <exception>
 #include <iostream>
+#include <memory>
+#include <utility>
 
 /// Whether somebody can see a box and answer it.
 static bool HasDisplay()
@@ -17,12 +23,59 @@ static bool HasDisplay()
     return platform != QStringLiteral("offscreen") && platform != QStringLiteral("minimal");
 }
 
+/// Ends the program in one line where no window can be shown, above all without a display: left to itself the
+/// toolkit ends in a crash and asks for its own reinstallation.
+class WindowSystemGuard
+{
+public:
+    WindowSystemGuard() { qInstallMessageHandler(&Take); }
+    ~WindowSystemGuard()
+    {
+        qInstallMessageHandler(nullptr);
+        for (const QString& text : std::exchange(remarks, {}))
+        {
+            qWarning().noquote() << text;
+        }
+    }
+    WindowSystemGuard(const WindowSystemGuard&) = delete;
+    WindowSystemGuard& operator=(const WindowSystemGuard&) = delete;
+
+private:
+    static void Take(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
+    {
+        if (type != QtFatalMsg)
+        {
+            remarks << text;
+            return;
+        }
+        // What was remarked first is the cause of all that follows.
+        const QString cause = remarks.isEmpty() ? text : remarks.front();
+        std::cerr << "tavik: no window can be shown: " << cause.simplified().toLocal8Bit().constData()
+                  << std::endl;
+        std::_Exit(1);
+    }
+
+    inline static QStringList remarks;
+};
+
+static std::unique_ptr<QApplication> StartWindowSystem(int& argc, char** argv)
+{
+    const WindowSystemGuard guard;
+    return std::make_unique<QApplication>(argc, argv);
+}
+
 int main(int argc, char* argv[])
 {
-    QApplication application(argc, argv);
+    const auto application = StartWindowSystem(argc, argv);
     QApplication::setApplicationName("tavik");
     QApplication::setApplicationVersion(TAVIK_VERSION);
     QApplication::setWindowIcon(ProgramIcon());
+    if (!HasFonts())
+    {
+        // No box could say so.
+        std::cerr << "tavik: no font is installed, so no text can be shown\n";
+        return 1;
+    }
 
     std::unique_ptr<frmMain> mainWindow;
     try

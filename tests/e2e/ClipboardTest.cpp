@@ -1,8 +1,7 @@
 /// A chart copied in the built program and pasted by another program.
 
-#include "tests/e2e/Display.h"
+#include "tests/e2e/Program.h"
 
-#include <QFile>
 #include <QImage>
 #include <QTest>
 
@@ -41,29 +40,15 @@ void ClipboardTest::ChartIsPastedElsewhere()
 {
     const TestDisplay display;
     QVERIFY2(display.IsUp(), "Xvfb does not start");
-    const QTemporaryDir folder;
-    QVERIFY(QFile::copy(PROGRAM, folder.filePath("tavik")));
-    QVERIFY(QFile::copy(SAMPLE_RANGE "/halvex.idx", folder.filePath("halvex.idx")));
-    QVERIFY(QFile::copy(SAMPLE_RANGE "/halvex.dat", folder.filePath("halvex.dat")));
+    const ProgramFolder folder;
     const auto environment =
         display.Environment(QStringLiteral("e2e-copy-%1").arg(QCoreApplication::applicationPid()));
-    QProcess program;
-    program.setProcessEnvironment(environment);
-    program.start(folder.filePath("tavik"), QStringList());
-    const QStringList windows = display.WindowsOf(program, 1);
+    const auto program = folder.Start(environment);
+    const QStringList windows = display.WindowsOf(*program, 1);
     QCOMPARE(windows.size(), 1);
 
-    // Capacitance over temperature of one part without bias.
-    QStringList keys = {"alt+u", "alt+n"};
-    for (const QChar& c : QString("KTU033R71E101KA01"))
-    {
-        keys << c;
-    }
-    for (const QString& key : keys + QStringList{"alt+d", "0", "alt+p", "ctrl+c"})
-    {
-        display.Press(windows.front(), key);
-        QTest::qWait(key.size() > 1 ? 400 : 20);
-    }
+    PlotByKeyboard(display, windows.front());
+    display.Press(windows.front(), "ctrl+c");
 
     QImage picture;
     QTRY_VERIFY_WITH_TIMEOUT(!(picture = Pasted(environment)).isNull(), 10000);
@@ -79,8 +64,8 @@ void ClipboardTest::ChartIsPastedElsewhere()
         QCOMPARE(CountOf(picture, edge, qRgb(240, 240, 240)) + CountOf(picture, edge, qRgb(255, 255, 255)),
                  edge.width() * edge.height());
     }
-    program.terminate();
-    QVERIFY(program.waitForFinished(5000));
+    program->terminate();
+    QVERIFY(program->waitForFinished(5000));
 }
 
 QTEST_GUILESS_MAIN(ClipboardTest)

@@ -3,10 +3,10 @@
 #include <QElapsedTimer>
 #include <QTest>
 
-TestDisplay::TestDisplay()
+TestDisplay::TestDisplay(const QString& screen)
 {
     // The server finds a free number itself and writes it down once it is ready.
-    server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"});
+    server.start("Xvfb", {"-displayfd", "1", "-screen", "0", screen, "-nolisten", "tcp"});
     if (server.waitForReadyRead(20000))
     {
         name = ":" + QString::fromLatin1(server.readAllStandardOutput()).trimmed();
@@ -16,6 +16,12 @@ TestDisplay::TestDisplay()
 TestDisplay::~TestDisplay()
 {
     server.terminate();
+    server.waitForFinished(5000);
+}
+
+void TestDisplay::Break()
+{
+    server.kill();
     server.waitForFinished(5000);
 }
 
@@ -60,12 +66,24 @@ QStringList TestDisplay::WindowsOf(const QProcess& program, int count) const
     return windows;
 }
 
-void TestDisplay::Press(const QString& window, const QString& key) const
+void TestDisplay::Press(const QString& window, const QStringList& keys) const
 {
-    Ask({"windowfocus", "--sync", window, "key", key});
+    Ask(QStringList{"windowfocus", "--sync", window, "key"} + keys);
 }
 
 QString TestDisplay::TitleOf(const QString& window) const
 {
     return Ask({"getwindowname", window});
+}
+
+int TestDisplay::WidthOf(const QString& window) const
+{
+    for (const QString& line : Ask({"getwindowgeometry", "--shell", window}).split('\n'))
+    {
+        if (line.startsWith("WIDTH="))
+        {
+            return line.mid(6).toInt();
+        }
+    }
+    return 0;
 }

@@ -11,10 +11,13 @@
 class TestDisplay
 {
 public:
-    TestDisplay();
+    explicit TestDisplay(const QString& screen = QStringLiteral("1280x1024x24"));
     ~TestDisplay();
     TestDisplay(const TestDisplay&) = delete;
     TestDisplay& operator=(const TestDisplay&) = delete;
+
+    /// Takes the display away from everybody, as a broken connection does.
+    void Break();
 
     bool IsUp() const { return !name.isEmpty(); }
 
@@ -24,8 +27,11 @@ public:
     /// The windows of a process that are to be seen, waiting until there are as many.
     QStringList WindowsOf(const QProcess& program, int count) const;
     /// Gives a window the keyboard and presses a key there.
-    void Press(const QString& window, const QString& key) const;
+    void Press(const QString& window, const QString& key) const { Press(window, QStringList{key}); }
+    void Press(const QString& window, const QStringList& keys) const;
     QString TitleOf(const QString& window) const;
+    /// Width in pixels of the screen.
+    int WidthOf(const QString& window) const;
 
 private:
     QString Ask(const QStringList& command) const;

@@ -1,6 +1,6 @@
 /// Starting the built program: with sound and with broken part files, once, twice, and after a crash.
 
-#include "tests/e2e/Display.h"
+#include "tests/e2e/Program.h"
 
 #include <QDir>
 #include <QFile>
@@ -34,17 +34,6 @@ private:
     TestDisplay display;
 };
 
-/// A folder with the program and, if wanted, the sample part files.
-static void Fill(const QTemporaryDir& folder, bool withParts)
-{
-    QVERIFY(QFile::copy(PROGRAM, folder.filePath("tavik")));
-    if (withParts)
-    {
-        QVERIFY(QFile::copy(SAMPLE_RANGE "/halvex.idx", folder.filePath("halvex.idx")));
-        QVERIFY(QFile::copy(SAMPLE_RANGE "/halvex.dat", folder.filePath("halvex.dat")));
-    }
-}
-
 static void WriteFile(const QString& path, const QByteArray& bytes)
 {
     QFile file(path);
@@ -68,11 +57,7 @@ void ProgramStartTest::Exit(QProcess& program) const
 {
     const QStringList windows = display.WindowsOf(program, 1);
     QCOMPARE(windows.size(), 1);
-    display.Press(windows.front(), "alt+f");
-    display.Press(windows.front(), "x");
-    QVERIFY(program.waitForFinished(10000));
-    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(program.exitCode(), 0);
+    QVERIFY(EndsByExit(display, windows.front(), program));
 }
 
 void ProgramStartTest::initTestCase()
@@ -83,7 +68,7 @@ void ProgramStartTest::initTestCase()
 void ProgramStartTest::ShowsMainWindowAndEndsByExit()
 {
     const QTemporaryDir folder;
-    Fill(folder, true);
+    FillWithProgram(folder, true);
     const auto program = Start(folder, "plain");
     const QStringList windows = display.WindowsOf(*program, 1);
     QCOMPARE(windows.size(), 1);
@@ -133,7 +118,7 @@ void ProgramStartTest::BrokenPartFilesEndIt()
     QFETCH(QByteArray, index);
     QFETCH(QByteArray, line);
     const QTemporaryDir folder;
-    Fill(folder, false);
+    FillWithProgram(folder, false);
     WriteFile(folder.filePath("parts.dat"), QByteArray());
     if (hasIndex)
     {
@@ -156,7 +141,7 @@ void ProgramStartTest::BrokenPartFilesEndItWithoutDisplay()
 {
     // Nobody could answer a box there.
     const QTemporaryDir folder;
-    Fill(folder, false);
+    FillWithProgram(folder, false);
     const auto program = Start(folder, "invisible", "offscreen");
     QVERIFY(program->waitForFinished(10000));
     QCOMPARE(program->exitStatus(), QProcess::NormalExit);
@@ -167,13 +152,13 @@ void ProgramStartTest::BrokenPartFilesEndItWithoutDisplay()
 void ProgramStartTest::SecondInstanceLeavesWithoutWindow()
 {
     const QTemporaryDir folder;
-    Fill(folder, true);
+    FillWithProgram(folder, true);
     const auto first = Start(folder, "twice");
     QCOMPARE(display.WindowsOf(*first, 1).size(), 1);
 
     // The second one loads nothing: it does not even miss its part files.
     const QTemporaryDir empty;
-    Fill(empty, false);
+    FillWithProgram(empty, false);
     const auto second = Start(empty, "twice");
     const QStringList box = display.WindowsOf(*second, 1);
     QCOMPARE(box.size(), 1);
@@ -196,7 +181,7 @@ void ProgramStartTest::SecondInstanceLeavesWithoutWindow()
 void ProgramStartTest::KilledInstanceBlocksNobody()
 {
     const QTemporaryDir folder;
-    Fill(folder, true);
+    FillWithProgram(folder, true);
     const auto first = Start(folder, "killed");
     QCOMPARE(display.WindowsOf(*first, 1).size(), 1);
     QCOMPARE(::kill(static_cast<pid_t>(first->processId()), SIGKILL), 0);
@@ -211,7 +196,7 @@ void ProgramStartTest::KilledInstanceBlocksNobody()
 void ProgramStartTest::OtherLoginIsNotDisturbed()
 {
     const QTemporaryDir folder;
-    Fill(folder, true);
+    FillWithProgram(folder, true);
     const auto here = Start(folder, "here");
     QCOMPARE(display.WindowsOf(*here, 1).size(), 1);
     const auto there = Start(folder, "there");
