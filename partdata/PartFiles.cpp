@@ -54,6 +54,12 @@ std::string FindPartFile(const std::string& programFolder, std::string_view exte
             first = std::move(name);
         }
     }
+    if (fault && fault != std::errc::no_such_file_or_directory)
+    {
+        throw RunTimeError(fault == std::errc::permission_denied ? RunTimeErrorNumber::PermissionDenied
+                                                                 : RunTimeErrorNumber::PathFileAccessError)
+            .At(programFolder);
+    }
     if (first.empty())
     {
         throw RunTimeError(RunTimeErrorNumber::FileNotFound).At("*" + std::string(extension));

@@ -12,5 +12,5 @@ char PathSepOf(std::string_view programFolder);
 /// The path of the first file, in alphabetical order, whose name ends in `extension`, such as ".idx".
 /// Letter case counts neither in the extension nor in the order, unless names differ in nothing else.
 ///
-/// Throws RunTimeError 53 "*.idx" when there is none.
+/// Throws RunTimeError 53 "*.idx" when there is none, 70 or 75 when the folder cannot be read.
 std::string FindPartFile(const std::string& programFolder, std::string_view extension);

@@ -8,6 +8,7 @@
 #include "partdata/Windows1252.h"
 
 #include <algorithm>
+#include <new>
 #include <system_error>
 
 /// The shortest index record: eight empty fields.
@@ -108,5 +109,12 @@ PartTable LoadPartData(const std::string& programFolder)
 {
     const auto indexFile = FindPartFile(programFolder, ".idx");
     const auto dataFile = FindPartFile(programFolder, ".dat");
-    return ReadPartPair(indexFile, dataFile);
+    try
+    {
+        return ReadPartPair(indexFile, dataFile);
+    }
+    catch (const std::bad_alloc&)
+    {
+        throw RunTimeError(RunTimeErrorNumber::OutOfMemory).At(indexFile);
+    }
 }

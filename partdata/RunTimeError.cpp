@@ -12,6 +12,8 @@ const char* DescriptionOf(RunTimeErrorNumber number)
         return "Invalid procedure call or argument";
     case RunTimeErrorNumber::Overflow:
         return "Overflow";
+    case RunTimeErrorNumber::OutOfMemory:
+        return "Out of memory";
     case RunTimeErrorNumber::SubscriptOutOfRange:
         return "Subscript out of range";
     case RunTimeErrorNumber::DivisionByZero:

@@ -10,6 +10,7 @@ enum class RunTimeErrorNumber
 {
     InvalidProcedureCall = 5,
     Overflow = 6,
+    OutOfMemory = 7,
     SubscriptOutOfRange = 9,
     DivisionByZero = 11,
     FileNotFound = 53,
