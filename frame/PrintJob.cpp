@@ -1,13 +1,14 @@
 #include "frame/PrintJob.h"
 
+#include "app/WholeFile.h"
 #include "partdata/RunTimeError.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QImage>
 #include <QLibrary>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QTemporaryDir>
 
 #include <algorithm>
 
@@ -97,23 +98,74 @@ bool ServerTookJob()
 }
 
 /// True when a PDF file was written to its end.
-bool IsWhole(const QString& fileName)
+bool IsWhole(const QByteArray& contents)
 {
-    constexpr qint64 tailSize = 32;
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) && file.seek(std::max<qint64>(0, file.size() - tailSize)) &&
-           file.read(tailSize).contains("%%EOF");
+    constexpr qsizetype tailSize = 32;
+    return contents.last(std::min(contents.size(), tailSize)).contains("%%EOF");
 }
 
-void CheckFile(const QString& fileName)
+/// Lets a printer write another file while it lives.
+class OutputFileScope
 {
-    if (!IsWhole(fileName))
+public:
+    OutputFileScope(QPrinter& jobPrinter, const QString& fileName)
+        : printer(jobPrinter)
+        , former(jobPrinter.outputFileName())
     {
-        if (QFileInfo(fileName).isFile())
+        printer.setOutputFileName(fileName);
+    }
+    ~OutputFileScope() { printer.setOutputFileName(former); }
+    OutputFileScope(const OutputFileScope&) = delete;
+    OutputFileScope& operator=(const OutputFileScope&) = delete;
+
+private:
+    QPrinter& printer;
+    QString former;
+};
+
+/// False when the job could not be started or finished.
+bool DrawOn(QPrinter& printer, const DrawPage& drawPage, const PageArea& area)
+{
+    QPainter painter;
+    if (!painter.begin(&printer))
+    {
+        return false;
+    }
+    drawPage(painter, area);
+    return painter.end() && printer.printerState() != QPrinter::Error;
+}
+
+/// Prints elsewhere first, so that the user's file is the old or the new one.
+void PrintFile(QPrinter& printer, const DrawPage& drawPage, const PageArea& area)
+{
+    const QString target = printer.outputFileName();
+    const QTemporaryDir folder;
+    QFile page(folder.filePath(QStringLiteral("page")));
+    bool drawn = false;
+    {
+        const OutputFileScope output(printer, page.fileName());
+        drawn = DrawOn(printer, drawPage, area);
+    }
+    if (!drawn || !page.open(QIODevice::ReadOnly))
+    {
+        throw PrinterError(printer);
+    }
+    const QByteArray contents = page.readAll();
+    if (!IsWhole(contents))
+    {
+        throw RunTimeError(RunTimeErrorNumber::DiskFull).At(target.toStdString());
+    }
+    try
+    {
+        WriteWholeFile(target, contents);
+    }
+    catch (const RunTimeError& error)
+    {
+        if (error.Number() == static_cast<int>(RunTimeErrorNumber::DiskFull))
         {
-            QFile::remove(fileName);
+            throw;
         }
-        throw RunTimeError(RunTimeErrorNumber::DiskFull).At(fileName.toStdString());
+        throw PrinterError(printer);
     }
 }
 
@@ -127,21 +179,12 @@ void PrintPage(QPrinter& printer, const DrawPage& drawPage)
     const PageArea area = {{QPointF(0, 0), page.size()}, static_cast<double>(printer.resolution())};
     Rehearse(drawPage, area);
 
-    QPainter painter;
-    if (!painter.begin(&printer))
-    {
-        throw PrinterError(printer);
-    }
-    drawPage(painter, area);
-    if (!painter.end() || printer.printerState() == QPrinter::Error)
-    {
-        throw PrinterError(printer);
-    }
     if (PrintsToFile(printer))
     {
-        CheckFile(printer.outputFileName());
+        PrintFile(printer, drawPage, area);
+        return;
     }
-    else if (!ServerTookJob())
+    if (!DrawOn(printer, drawPage, area) || !ServerTookJob())
     {
         throw PrinterError(printer);
     }

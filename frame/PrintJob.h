@@ -13,7 +13,7 @@ class QPrinter;
 using DrawPage = std::function<void(QPainter&, const PageArea&)>;
 
 /// Prints one portrait page with margins of 5 mm, or the least that the printer has where that is more. A PDF
-/// printer with an output file writes that file.
+/// printer with an output file writes that file: it is the old or the new one, never half of either.
 ///
 /// However the job ends, orientation and margins of the printer are as before; a font set while drawing ends
 /// with the job. Throws RunTimeError: 65534 "There is no printer in this system." before anything is drawn,

@@ -3,6 +3,8 @@
 #include "partdata/RunTimeError.h"
 #include "tests/frame/printing/PdfText.h"
 
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QPrinter>
 #include <QTemporaryDir>
@@ -14,6 +16,7 @@
 #include <stdexcept>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 /// Limits the size of files that this process writes, as a full disk does, while it lives.
 class FullDisk
@@ -47,6 +50,8 @@ private Q_SLOTS:
     void WithoutPrinterNothingIsDrawn();
     void FileThatCannotBeWrittenIsToldByName();
     void FullDiskIsTold();
+    void OldFileStaysUntilTheNewOneIsWhole();
+    void PipeTakesNoPage();
     void ErrorOfTheDrawingLeavesNoFile();
     void MonochromePrinterIsKnown();
 
@@ -200,6 +205,51 @@ void PrintJobTest::FullDiskIsTold()
     // With room again the same page is printed.
     PrintPage(printer, DrawWord);
     QVERIFY(QFileInfo(file).size() > 2000);
+}
+
+void PrintJobTest::OldFileStaysUntilTheNewOneIsWhole()
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(file);
+    PrintPage(printer, DrawWord);
+    const auto contents = [this]
+    {
+        QFile page(file);
+        return page.open(QIODevice::ReadOnly) ? page.readAll() : QByteArray();
+    };
+    const QByteArray old = contents();
+    QVERIFY(old.contains("%%EOF"));
+    std::optional<RunTimeError> error;
+    {
+        const FullDisk disk(2000);
+        error = ErrorOf([&] { PrintPage(printer, DrawWord); });
+    }
+    QVERIFY(error);
+    QCOMPARE(error->Number(), 61);
+    QCOMPARE(contents(), old);
+    QVERIFY(ErrorOf(
+        [&]
+        {
+            PrintPage(printer,
+                      [](QPainter&, const PageArea&) { throw RunTimeError(RunTimeErrorNumber::Overflow); });
+        }));
+    QCOMPARE(contents(), old);
+    QCOMPARE(printer.outputFileName(), file);
+    QCOMPARE(QDir(folder->path()).entryList(QDir::Files), QStringList{"page.pdf"});
+}
+
+void PrintJobTest::PipeTakesNoPage()
+{
+    // Nobody reads it: a program that opened it would wait for ever.
+    QCOMPARE(mkfifo(QFile::encodeName(file).constData(), 0600), 0);
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(file);
+    const auto error = ErrorOf([&] { PrintPage(printer, DrawWord); });
+    QVERIFY(error);
+    QCOMPARE(error->Number(), 57);
+    QCOMPARE(error->Description(), "Device I/O error: " + file.toStdString());
 }
 
 void PrintJobTest::ErrorOfTheDrawingLeavesNoFile()
