@@ -25,3 +25,20 @@ inline QString Today()
 {
     return QLocale().toString(QDate::currentDate(), QLocale::ShortFormat);
 }
+
+/// Today in the user's short date format, in the code page of a data file. The code page has only the digits
+/// 0 to 9 and no marks of writing direction, so other digits are written as these and the marks left out:
+/// "2026/11/21" where the user reads "۲۰۲۶/۱۱/۲۱".
+inline std::string TodayInFile()
+{
+    QString text;
+    for (const QChar c : Today())
+    {
+        if (c.category() == QChar::Other_Format)
+        {
+            continue;
+        }
+        text += c.isDigit() ? QChar(u'0' + c.digitValue()) : c;
+    }
+    return ToAnsi(text);
+}

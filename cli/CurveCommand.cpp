@@ -67,7 +67,7 @@ static std::string TextOf(const RequestedCurve& curve, const CurveOptions& optio
         AppendCurveJson(text, curve, options.Settings, axes);
         return text;
     }
-    const auto date = options.Date ? Windows1252FromUtf8(*options.Date) : ToAnsi(Today());
+    const auto date = options.Date ? Windows1252FromUtf8(*options.Date) : TodayInFile();
     return DataFileText(curve.Line, *curve.Part, curve.Code, date);
 }
 

@@ -100,7 +100,7 @@ void frmMain::SaveData(const ChartRecord& line)
     RememberFolder(dialog.FileName, dialog.FileTitle);
     {
         const HourglassScope hourglass;
-        const auto text = DataFileText(line, PartOf(line), GetCodeView(), ToAnsi(Today()));
+        const auto text = DataFileText(line, PartOf(line), GetCodeView(), TodayInFile());
         WriteWholeFile(dialog.FileName, QByteArray::fromStdString(text));
     }
     ShowInformation(this, QStringLiteral("tavik Data saved to ") + dialog.FileName);

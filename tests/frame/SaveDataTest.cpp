@@ -34,6 +34,8 @@ private Q_SLOTS:
     void FileHoldsTheCurveByteForByte();
     void FileNamesThePartInTheCodeOnDisplay();
     void FileIsTheSameWhateverTheLocaleBesidesItsDate();
+    void DateOfTheFileHasDigitsOfItsCodePage_data();
+    void DateOfTheFileHasDigitsOfItsCodePage();
     void MessageTellsThePath();
     void OffersPartNumberAsName();
     void NameWithASlashIsOfferedWithoutIt();
@@ -239,12 +241,37 @@ void SaveDataTest::FileIsTheSameWhateverTheLocaleBesidesItsDate()
         const QString path = folder->filePath(QLocale::languageToString(language));
         desk.SaveAs(path);
         const QByteArray file = Contents(path);
-        // Dates in Arabic digits have no place in the code page.
+        // The date of Arabic has a test of its own.
         QVERIFY(language == QLocale::Arabic || file.startsWith(TitleLine()));
         bodies << file.mid(file.indexOf("\r\n"));
     }
     QCOMPARE(bodies.count(bodies.front()), 4);
     QVERIFY(bodies.front().contains("!DC Bias Voltage-> 2.5 [V]\r\n"));
+}
+
+void SaveDataTest::DateOfTheFileHasDigitsOfItsCodePage_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<QString>("format");
+    QTest::newRow("Egypt, with marks of direction") << QLocale(QLocale::Arabic, QLocale::Egypt) << "d/M/yyyy";
+    QTest::newRow("Iran") << QLocale(QLocale::Persian, QLocale::Iran) << "yyyy/M/d";
+    QTest::newRow("Burma") << QLocale(QLocale::Burmese, QLocale::Myanmar) << "dd-MM-yy";
+    QTest::newRow("Japan") << QLocale(QLocale::Japanese, QLocale::Japan) << "yyyy/MM/dd";
+    QTest::newRow("Turkey") << QLocale(QLocale::Turkish, QLocale::Turkey) << "d.MM.yyyy";
+}
+
+void SaveDataTest::DateOfTheFileHasDigitsOfItsCodePage()
+{
+    QFETCH(QLocale, locale);
+    QFETCH(QString, format);
+    QLocale::setDefault(locale);
+    Desk desk;
+    Choose(desk, 2, "Temperature", "Capacitance");
+    desk.Type("txtDCBiasVol", "0");
+    desk.SaveAs(folder->filePath("a.tvk"));
+    const QByteArray title = Contents(folder->filePath("a.tvk")).split('\r').front();
+    QCOMPARE(title, "!Halvex Chip Capacitor Characteristics Data Library  " +
+                        QLocale::c().toString(QDate::currentDate(), format).toLatin1());
 }
 
 void SaveDataTest::MessageTellsThePath()
