@@ -1,5 +1,6 @@
 /// `tavik-cli chart`: up to six lines on one picture.
 
+#include "app/Fonts.h"
 #include "chart/drawing/ChartSheet.h"
 #include "cli/ChartLines.h"
 #include "cli/Commands.h"
@@ -99,6 +100,10 @@ static QByteArray Draw(const std::vector<RequestedCurve>& curves, const ChartOpt
     if (QCoreApplication::instance() == nullptr)
     {
         application.emplace(argc, argv);
+    }
+    if (!HasFonts())
+    {
+        throw Failure("no font is installed, so the chart would have no texts");
     }
     return SheetPicture(view, lines, partNums, picture, format);
 }

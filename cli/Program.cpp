@@ -8,7 +8,10 @@
 
 #include <algorithm>
 #include <iostream>
+#include <new>
 #include <string>
+
+static constexpr const char* noOutput = "standard output: cannot be written";
 
 /// One line on standard error, whatever the message holds.
 static int End(ExitStatus status, std::string message)
@@ -26,7 +29,7 @@ static int EndParsing(const CLI::App& app, const CLI::ParseError& error)
     if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success))
     {
         app.exit(error);
-        return 0;
+        return std::cout.flush() ? 0 : End(ExitStatus::Failed, noOutput);
     }
     return End(ExitStatus::Usage, error.what() + std::string(" (see tavik-cli --help)"));
 }
@@ -47,7 +50,7 @@ int RunProgram(int argc, const char* const* argv)
         }
         if (!std::cout.flush())
         {
-            throw Failure("standard output: cannot be written");
+            throw Failure(noOutput);
         }
     }
     catch (const CLI::ParseError& error)
@@ -57,6 +60,10 @@ int RunProgram(int argc, const char* const* argv)
     catch (const CommandError& error)
     {
         return End(error.Status(), error.what());
+    }
+    catch (const std::bad_alloc&)
+    {
+        return End(ExitStatus::Failed, "out of memory");
     }
     catch (const std::exception& error)
     {

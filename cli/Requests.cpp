@@ -151,7 +151,12 @@ RequestCounts AnswerRequests(const std::string& fileName, const CurveRequest& de
 {
     if (fileName == "-")
     {
-        return AnswerLines(std::cin, Progress("curves", 0), defaults, parts, settings, output);
+        const auto counts = AnswerLines(std::cin, Progress("curves", 0), defaults, parts, settings, output);
+        if (std::cin.bad())
+        {
+            throw Failure("standard input: cannot be read");
+        }
+        return counts;
     }
     std::ifstream file(fileName, std::ios::binary);
     // A folder opens, and fails with the first character.
