@@ -1,0 +1,68 @@
+/// Many starts at once: one program lives, all others leave as a second one does. The long form makes fifty
+/// at once, in as many rounds as TAVIK_TEST_RUNS says.
+
+#include "tests/e2e/Program.h"
+
+#include <QTest>
+
+class StartRushTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void OneOfManyLives();
+};
+
+static constexpr std::size_t FewStarts = 16;
+static constexpr std::size_t ManyStarts = 50;
+static constexpr int WidestBox = 500;
+
+static void StartAtOnce(std::size_t starts)
+{
+    const TestDisplay display;
+    QVERIFY2(display.IsUp(), "Xvfb does not start");
+    const ProgramFolder folder;
+    const auto environment =
+        display.Environment(QStringLiteral("rush-%1").arg(QCoreApplication::applicationPid()));
+    std::vector<std::unique_ptr<QProcess>> programs;
+    for (std::size_t i = 0; i < starts; ++i)
+    {
+        programs.push_back(folder.Start(environment));
+    }
+    // Whoever shows a window has decided: it is the main window or the box of one that leaves.
+    std::vector<QProcess*> living;
+    for (const auto& program : programs)
+    {
+        const QStringList windows = display.WindowsOf(*program, 1);
+        QCOMPARE(windows.size(), 1);
+        QCOMPARE(display.TitleOf(windows.front()), "Halvex Chip Capacitor Characteristics Data Library");
+        if (display.WidthOf(windows.front()) > WidestBox)
+        {
+            living.push_back(program.get());
+            continue;
+        }
+        display.Press(windows.front(), "Return");
+        QVERIFY(program->waitForFinished(10000));
+        QCOMPARE(program->exitStatus(), QProcess::NormalExit);
+        QCOMPARE(program->exitCode(), 0);
+        QCOMPARE(program->readAllStandardError(), QByteArray());
+    }
+    QCOMPARE(living.size(), std::size_t{1});
+    QProcess& survivor = *living.front();
+    QCOMPARE(survivor.state(), QProcess::Running);
+    const QStringList window = display.WindowsOf(survivor, 1);
+    QCOMPARE(window.size(), 1);
+    QVERIFY(EndsByExit(display, window.front(), survivor));
+}
+
+void StartRushTest::OneOfManyLives()
+{
+    const int rounds = qEnvironmentVariableIntValue("TAVIK_TEST_RUNS");
+    for (int round = 0; round < std::max(rounds, 1) && !QTest::currentTestFailed(); ++round)
+    {
+        StartAtOnce(rounds > 0 ? ManyStarts : FewStarts);
+    }
+}
+
+QTEST_GUILESS_MAIN(StartRushTest)
+#include "StartRushTest.moc"
