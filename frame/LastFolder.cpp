@@ -3,6 +3,7 @@
 #include "frame/SettingsText.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QSettings>
 
@@ -41,6 +42,17 @@ private:
 };
 #endif
 
+/// A program killed while it locks the settings leaves a lock that names nobody; the next save would wait
+/// half a minute for it.
+static void RemoveEmptyLock(const QString& settingsFile)
+{
+    const QFileInfo lock(settingsFile + QStringLiteral(".lock"));
+    if (lock.isFile() && lock.size() == 0)
+    {
+        QFile::remove(lock.filePath());
+    }
+}
+
 QString LastFolder()
 {
     const QString folder = UserSettings().value(FilePathKey).toString();
@@ -50,5 +62,7 @@ QString LastFolder()
 void RememberFolder(const QString& fileName, const QString& fileTitle)
 {
     const QString folder = fileName.left(fileName.size() - fileTitle.size() - 1);
-    UserSettings().setValue(FilePathKey, folder.isEmpty() ? QStringLiteral("/") : folder);
+    UserSettings settings;
+    RemoveEmptyLock(settings.fileName());
+    settings.setValue(FilePathKey, folder.isEmpty() ? QStringLiteral("/") : folder);
 }

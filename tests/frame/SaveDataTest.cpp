@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QDate>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -50,6 +51,7 @@ private Q_SLOTS:
     void FolderIsRememberedAcrossRuns();
     void FolderThatIsGoneIsForgotten();
     void RootFolderIsRemembered();
+    void LockOfAKilledProgramKeepsNobodyWaiting();
     void UnreadableSettingsAreNoHindrance_data();
     void UnreadableSettingsAreNoHindrance();
 
@@ -481,6 +483,20 @@ void SaveDataTest::RootFolderIsRemembered()
     QCOMPARE(LastFolder(), QString("/"));
     const QSettings stored(settings->filePath("tavik/tavik.conf"), QSettings::IniFormat);
     QCOMPARE(stored.value("Settings/FilePath").toString(), QString("/"));
+}
+
+void SaveDataTest::LockOfAKilledProgramKeepsNobodyWaiting()
+{
+    QVERIFY(QDir().mkpath(settings->filePath("tavik")));
+    QFile lock(settings->filePath("tavik/tavik.conf.lock"));
+    QVERIFY(lock.open(QIODevice::WriteOnly));
+    lock.close();
+    QElapsedTimer timer;
+    timer.start();
+    RememberFolder(folder->filePath("a.tvk"), "a.tvk");
+    QVERIFY2(timer.elapsed() < 10000, "the save waited for a lock that nobody holds");
+    QCOMPARE(LastFolder(), folder->path());
+    QVERIFY(!lock.exists());
 }
 
 void SaveDataTest::UnreadableSettingsAreNoHindrance_data()
