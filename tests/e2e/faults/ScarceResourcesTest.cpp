@@ -61,7 +61,9 @@ void ScarceResourcesTest::NoFileHandleIsToldAsSuch()
     QFETCH(int, handles);
     QFETCH(QByteArray, message);
     const Run run =
-        InShell(QStringLiteral("ulimit -n %1; exec \"$P\" parts").arg(handles), CommandLineProgram());
+        InShell(QStringLiteral("exec 3>&- 4>&- 5>&- 6>&- 7>&- 8>&- 9>&-; ulimit -n %1; exec \"$P\" parts")
+                    .arg(handles),
+                CommandLineProgram());
     QCOMPARE(run.Status, 1);
     QCOMPARE(run.Output, QByteArray());
     QCOMPARE(run.Messages.count('\n'), 1);
