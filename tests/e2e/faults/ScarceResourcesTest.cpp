@@ -70,6 +70,23 @@ void ScarceResourcesTest::NoFileHandleIsToldAsSuch()
     QVERIFY2(run.Messages.contains(message), run.Messages);
 }
 
+static QString Limited(int kilobytes, const QString& script)
+{
+    return QStringLiteral("ulimit -v %1; ").arg(kilobytes) + script;
+}
+
+/// The address space, in KiB, that a program needs to come as far as missing its part files.
+static int LimitOfStart(const QString& script, const QString& program)
+{
+    int kilobytes = 40000;
+    while (kilobytes < 1000000 &&
+           !InShell(Limited(kilobytes, script), program).Messages.contains("error '53'"))
+    {
+        kilobytes += 10000;
+    }
+    return kilobytes;
+}
+
 void ScarceResourcesTest::NoMemoryForThePartsIsTold()
 {
 #if defined(__SANITIZE_ADDRESS__)
@@ -77,19 +94,22 @@ void ScarceResourcesTest::NoMemoryForThePartsIsTold()
 #endif
     const QTemporaryDir folder;
     FillWithProgram(folder, false);
-    // Two files with nothing but holes in them.
+    const QString programRun = QStringLiteral("exec \"$P\"");
+    const QString listRun = QStringLiteral("exec \"$P\" parts --data ") + folder.path();
+    const int programLimit = LimitOfStart(programRun, folder.filePath("tavik"));
+    const int listLimit = LimitOfStart(listRun, CommandLineProgram());
+    // An index with nothing but holes in it, almost as long as any may be.
     for (const char* name : {"a.idx", "a.dat"})
     {
         QFile file(folder.filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(qint64{1900} << 20));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(qint64{63} << 20));
     }
-    const QString limit = QStringLiteral("ulimit -v 1000000; exec \"$P\" ");
     const QByteArray message =
         "Run-time error '7': Out of memory: " + folder.filePath("a.idx").toLocal8Bit() + '\n';
-    const Run program = InShell(limit, folder.filePath("tavik"));
+    const Run program = InShell(Limited(programLimit + 20000, programRun), folder.filePath("tavik"));
     QCOMPARE(program.Status, 1);
     QVERIFY2(program.Messages.endsWith(message), program.Messages);
-    const Run list = InShell(limit + "parts --data " + folder.path(), CommandLineProgram());
+    const Run list = InShell(Limited(listLimit + 20000, listRun), CommandLineProgram());
     QCOMPARE(list.Status, 1);
     QCOMPARE(list.Messages, "tavik-cli: " + message);
 }
