@@ -2,11 +2,13 @@
 
 #include "app/Main.h"
 #include "bench/start/QuitAfterPaint.h"
+#include "frame/ProgramIcon.h"
 #include "frame/frmMain.h"
 
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
+    QApplication::setWindowIcon(ProgramIcon());
     const QuitAfterPaint quitter(application);
     std::unique_ptr<frmMain> mainWindow;
     const auto showMainWindow = [&]

@@ -23,7 +23,9 @@ private Q_SLOTS:
     void WritesACurveAsCsv();
     void WritesACurveAsJson();
     void ComputesWithoutChecksWhereAsked();
+    void TakesTheParameterOfAnOption();
     void DrawsTheParameterOfALine();
+    void DrawsTheFrequencyOfALine();
 
     void RefusesWithOneLine_data();
     void RefusesWithOneLine();
@@ -150,6 +152,15 @@ void CommandsTest::ComputesWithoutChecksWhereAsked()
     QCOMPARE(QJsonDocument::fromJson(run.Output).object()["y"].toArray().size(), 200);
 }
 
+void CommandsTest::TakesTheParameterOfAnOption()
+{
+    const Run run = RunCommandLine(Words("curve KTS31NB51E106MA01 --chart temperature-rise --x Frequency "
+                                         "--dc-bias 0 --parameter current=1500mA --format csv"));
+    QCOMPARE(run.Status, 0);
+    QVERIFY2(run.Output.contains("\n# Current: 1.5 [Arms]\n"), run.Output);
+    QCOMPARE(run.Messages, QByteArray());
+}
+
 void CommandsTest::DrawsTheParameterOfALine()
 {
     const QTemporaryDir folder;
@@ -164,6 +175,20 @@ void CommandsTest::DrawsTheParameterOfALine()
     QCOMPARE(run.Messages, QByteArray());
     QCOMPARE(run.Status, 0);
     QVERIFY(!QImage(picture).isNull());
+}
+
+void CommandsTest::DrawsTheFrequencyOfALine()
+{
+    const auto chart = [](const char* frequency)
+    {
+        return RunCommandLine(Words("chart --chart temperature-rise --x Current --format svg --line") +
+                              QStringList{QStringLiteral("KTS31NB51E106MA01 dc-bias=0V frequency=") +
+                                          QLatin1String(frequency)});
+    };
+    const Run run = chart("300kHz");
+    QCOMPARE(run.Messages, QByteArray());
+    QCOMPARE(run.Status, 0);
+    QVERIFY(run.Output != chart("100kHz").Output);
 }
 
 // ---- Refusals ----
@@ -203,6 +228,9 @@ void CommandsTest::RefusesWithOneLine_data()
     row("condition that is no number, unchecked",
         "curve KTS31NB51E106MA01 --chart capacitance-temperature --dc-bias high --unchecked", 1,
         "--dc-bias high: is not a number");
+    row("chart that the part has no data for",
+        "curve KTU033R71E101KA01 --chart temperature-rise --dc-bias 0 --frequency 300", 1,
+        "KTU033R71E101KA01: has no data for chart temperature-rise");
     row("calculation that fails", "curve KTS31NB51E106MA01 --chart temperature-rise --x Current --unchecked",
         1, "Run-time error '11': Division by zero: KTS31NB51E106MA01");
     row("chart whose calculation fails",

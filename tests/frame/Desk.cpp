@@ -2,6 +2,7 @@
 
 #include "app/mdlPublic.h"
 #include "chart/frmGraph.h"
+#include "frame/ProgramIcon.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -23,6 +24,8 @@ Desk::Desk(const std::string& partFolder, int helpLanguage)
     mdlPublic.Updating = false;
     mdlPublic.HelpLanguage = static_cast<std::int16_t>(helpLanguage);
     mdlPublic.DegreeSign = "\xB0";
+    // As the program does: a window without an icon is given a new one with every painting of its title.
+    QApplication::setWindowIcon(ProgramIcon());
     answering.setInterval(1);
     QObject::connect(&answering, &QTimer::timeout, &answering, [this] { AnswerBox(); });
     answering.start();

@@ -117,6 +117,23 @@ TEST(PartFiles, ThatMayNotBeReadCannotBeRead)
               "Run-time error '75': Path/File access error: parts.idx");
 }
 
+TEST(PartFiles, OfAFolderThatLeadsNowhereCannotBeRead)
+{
+    const TemporaryFolder folder;
+    const auto loop = std::filesystem::path(folder.Path()) / "loop";
+    std::filesystem::create_symlink(loop, loop);
+    try
+    {
+        LoadPartData(loop.string());
+        FAIL() << "a link to itself was taken for a folder";
+    }
+    catch (const RunTimeError& error)
+    {
+        EXPECT_EQ(error.Number(), 75);
+        EXPECT_EQ(error.Place(), loop.string());
+    }
+}
+
 TEST(PartFiles, LargerThanAnyIndexAreNotTakenIntoMemory)
 {
     const TemporaryFolder folder;

@@ -11,6 +11,7 @@ TEST(RunTimeError, HasTheDescriptionOfItsNumber)
     const std::pair<int, const char*> rows[] = {
         {5, "Invalid procedure call or argument"},
         {6, "Overflow"},
+        {7, "Out of memory"},
         {9, "Subscript out of range"},
         {11, "Division by zero"},
         {53, "File not found"},

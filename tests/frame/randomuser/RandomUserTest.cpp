@@ -10,6 +10,7 @@
 
 #include "tests/frame/randomuser/User.h"
 
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QPixmapCache>
 #include <QTest>
@@ -150,5 +151,16 @@ void RandomUserTest::EverythingFollowsThePlainModel()
     }
 }
 
-QTEST_MAIN(RandomUserTest)
+int main(int argc, char* argv[])
+{
+    if (qEnvironmentVariableIsSet("RANDOM_USER_ACTIONS"))
+    {
+        // Many actions take longer than tests are given as a rule.
+        qputenv("QTEST_FUNCTION_TIMEOUT", "86400000");
+    }
+    QApplication application(argc, argv);
+    RandomUserTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "RandomUserTest.moc"
