@@ -29,6 +29,9 @@ namespace
 constexpr std::array<const char*, 3> ComparedParts = {"KTS31NR71E475KA01", "KTS21JB51E106MA01",
                                                       "KTS32XF51E106ZA01"};
 
+/// Room for the selection form and a chart window beside it.
+constexpr QSize TourSize(1010, 700);
+
 /// A user at the main window: finds controls by name and works them with keys and clicks.
 class User
 {
@@ -174,6 +177,8 @@ int main(int argc, char* argv[])
         mdlPublic.Parts = LoadPartData(QApplication::applicationDirPath().toStdString());
         mdlPublic.DegreeSign = "\xB0";
         frmMain mainWindow;
+        // As on a usual desktop: the screen that stands in for a display is small.
+        mainWindow.resize(TourSize);
         mainWindow.show();
         User user(mainWindow, QDir(QString::fromLocal8Bit(argv[1])));
         CompareTemperatureRise(user);

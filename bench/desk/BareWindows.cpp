@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QStatusBar>
 #include <QVBoxLayout>
 
@@ -76,7 +77,7 @@ BareDesk::BareDesk()
     QMdiSubWindow* child = area->addSubWindow(form, Qt::FramelessWindowHint);
     child->setFixedWidth(200);
     child->show();
-    window.resize(1010, 700);
+    window.resize(QSize(1010, 700).boundedTo(window.screen()->availableSize()));
 }
 
 // ---- A chart window ----
