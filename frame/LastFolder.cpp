@@ -1,9 +1,9 @@
 #include "frame/LastFolder.h"
 
+#include "frame/SettingsLock.h"
 #include "frame/SettingsText.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QSettings>
 
@@ -42,17 +42,6 @@ private:
 };
 #endif
 
-/// A program killed while it locks the settings leaves a lock that names nobody; the next save would wait
-/// half a minute for it.
-static void RemoveEmptyLock(const QString& settingsFile)
-{
-    const QFileInfo lock(settingsFile + QStringLiteral(".lock"));
-    if (lock.isFile() && lock.size() == 0)
-    {
-        QFile::remove(lock.filePath());
-    }
-}
-
 QString LastFolder()
 {
     const QString folder = UserSettings().value(FilePathKey).toString();
@@ -63,6 +52,6 @@ void RememberFolder(const QString& fileName, const QString& fileTitle)
 {
     const QString folder = fileName.left(fileName.size() - fileTitle.size() - 1);
     UserSettings settings;
-    RemoveEmptyLock(settings.fileName());
+    RemoveEmptyLock(settings);
     settings.setValue(FilePathKey, folder.isEmpty() ? QStringLiteral("/") : folder);
 }

@@ -2,6 +2,7 @@
 
 #include "app/Messages.h"
 #include "frame/PrinterChoices.h"
+#include "frame/SettingsLock.h"
 #include "frame/frmHelp.h"
 #include "partdata/RunTimeError.h"
 
@@ -11,6 +12,7 @@
 #include <QFontDatabase>
 #include <QFontDialog>
 #include <QPrinterInfo>
+#include <QSettings>
 
 #include <cmath>
 #include <optional>
@@ -114,6 +116,8 @@ static QString ExistingFolder(const QString& wanted)
 /// Runs the dialog until a name is chosen whose folder exists; empty for Cancel.
 QString clsComdlg::RunFileDialog(QFileDialog& dialog)
 {
+    // Where the toolkit keeps its places and sizes when the dialog ends.
+    RemoveEmptyLock(QSettings(QSettings::UserScope, QStringLiteral("QtProject")));
     // The descriptions name their patterns already.
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, (Flags & FileFlag::OverwritePrompt) == 0);

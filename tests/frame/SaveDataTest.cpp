@@ -52,6 +52,7 @@ private Q_SLOTS:
     void FolderThatIsGoneIsForgotten();
     void RootFolderIsRemembered();
     void LockOfAKilledProgramKeepsNobodyWaiting();
+    void LockOfTheFileDialogsSettingsKeepsNobodyWaiting();
     void UnreadableSettingsAreNoHindrance_data();
     void UnreadableSettingsAreNoHindrance();
 
@@ -496,6 +497,22 @@ void SaveDataTest::LockOfAKilledProgramKeepsNobodyWaiting()
     RememberFolder(folder->filePath("a.tvk"), "a.tvk");
     QVERIFY2(timer.elapsed() < 10000, "the save waited for a lock that nobody holds");
     QCOMPARE(LastFolder(), folder->path());
+    QVERIFY(!lock.exists());
+}
+
+void SaveDataTest::LockOfTheFileDialogsSettingsKeepsNobodyWaiting()
+{
+    QFile lock(settings->filePath("QtProject.conf.lock"));
+    QVERIFY(lock.open(QIODevice::WriteOnly));
+    lock.close();
+    Desk desk;
+    Choose(desk, 2, "Temperature", "Capacitance");
+    desk.Type("txtDCBiasVol", "0");
+    QElapsedTimer timer;
+    timer.start();
+    desk.SaveAs(folder->filePath("a.tvk"));
+    QVERIFY2(timer.elapsed() < 10000, "the dialog waited for a lock that nobody holds");
+    QVERIFY(QFile::exists(folder->filePath("a.tvk")));
     QVERIFY(!lock.exists());
 }
 
