@@ -17,6 +17,20 @@ static constexpr std::size_t FewStarts = 16;
 static constexpr std::size_t ManyStarts = 50;
 static constexpr int WidestBox = 500;
 
+/// Answers the box of a program that leaves; on a crowded display a key may come before the box can take it.
+static bool LeavesByKey(const TestDisplay& display, const QString& box, QProcess& program)
+{
+    for (int tries = 0; tries < 10; ++tries)
+    {
+        display.Press(box, "Return");
+        if (program.waitForFinished(2000))
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
 static void StartAtOnce(std::size_t starts)
 {
     const TestDisplay display;
@@ -41,8 +55,7 @@ static void StartAtOnce(std::size_t starts)
             living.push_back(program.get());
             continue;
         }
-        display.Press(windows.front(), "Return");
-        QVERIFY(program->waitForFinished(10000));
+        QVERIFY(LeavesByKey(display, windows.front(), *program));
         QCOMPARE(program->exitStatus(), QProcess::NormalExit);
         QCOMPARE(program->exitCode(), 0);
         QCOMPARE(program->readAllStandardError(), QByteArray());
