@@ -16,6 +16,11 @@
 #include <system_error>
 #include <unordered_map>
 
+/// A table with more columns than twice all that there are is something else, and each would be a fault.
+static constexpr std::size_t MostHeadings = 2 * TableColumns;
+/// Faults after which a table is not read on: enough to see what is wrong with it.
+static constexpr std::size_t MostErrors = 10000;
+
 namespace
 {
 constexpr std::size_t MostParts = std::numeric_limits<std::int16_t>::max();
@@ -91,6 +96,11 @@ TableContents TableReader::Read()
             Add(row.Line, "", "", "more than " + std::to_string(MostParts) + " parts");
             break;
         }
+        if (contents.Errors.size() >= MostErrors)
+        {
+            Add(row.Line, "", "", "too many errors: the rest of the table was not read");
+            break;
+        }
         ReadPart(row);
     }
     return std::move(contents);
@@ -107,6 +117,11 @@ bool TableReader::ReadHeadings()
     if (!row.Fault.empty())
     {
         Add(row.Line, "", row.Cells.back(), row.Fault);
+        return false;
+    }
+    if (row.Cells.size() > MostHeadings)
+    {
+        Add(row.Line, "", "", std::to_string(row.Cells.size()) + " columns: this is no table of parts");
         return false;
     }
     for (const auto& heading : row.Cells)

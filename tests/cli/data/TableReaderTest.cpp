@@ -176,6 +176,30 @@ TEST(TableReader, TellsEveryErrorOfATable)
     EXPECT_THAT(ReadTable(table.Text()).Errors, testing::SizeIs(3));
 }
 
+TEST(TableReader, TellsOfAFileWithTooManyColumnsOnce)
+{
+    const auto most = std::string(2 * TableColumns - 1, ',');
+    EXPECT_THAT(ReadTable(most + "\n").Errors, testing::SizeIs(3 * TableColumns));
+    const auto read = ReadTable(most + ",\n");
+    ASSERT_THAT(read.Errors, testing::SizeIs(1));
+    EXPECT_EQ(read.Errors[0].Line, 1U);
+    EXPECT_EQ(read.Errors[0].Message,
+              std::to_string(2 * TableColumns + 1) + " columns: this is no table of parts");
+}
+
+TEST(TableReader, ReadsNoFurtherAfterTenThousandErrors)
+{
+    std::string text = Joined(Headings()) + "\n";
+    for (int row = 0; row < 10050; ++row)
+    {
+        text += "nothing\n";
+    }
+    const auto read = ReadTable(text);
+    ASSERT_THAT(read.Errors, testing::SizeIs(10001));
+    EXPECT_EQ(read.Errors.back().Line, 10002U);
+    EXPECT_EQ(read.Errors.back().Message, "too many errors: the rest of the table was not read");
+}
+
 TEST(TableReader, CountsLinesWithinQuotes)
 {
     SmallTable table;
