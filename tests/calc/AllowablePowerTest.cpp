@@ -1,0 +1,155 @@
+#include "calc/AllowablePower.h"
+#include "calc/ParameterLimit.h"
+#include "calc/PowerModel.h"
+#include "calc/TemperatureRise.h"
+#include "partdata/RunTimeError.h"
+#include "tests/calc/NamedRow.h"
+#include "tests/calc/PowerParts.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace
+{
+struct BoundRow
+{
+    const char* Name;
+    double BiasVolts;
+    double Bound;
+};
+
+class VoltageBound : public testing::TestWithParam<BoundRow>
+{
+};
+
+TEST_P(VoltageBound, KeepsBiasAndSineWithinTheRatedVoltage)
+{
+    EXPECT_DOUBLE_EQ(AllowableVoltageBound(10, GetParam().BiasVolts), GetParam().Bound);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, VoltageBound,
+                         testing::Values(BoundRow{"no bias", 0, 3.54},
+                                         BoundRow{"half the rated voltage", 5, 3.54},
+                                         BoundRow{"above half", 6, 2.828}, BoundRow{"rated voltage", 10, 0}),
+                         RowName<BoundRow>);
+
+TEST(VoltageBound, MeetsAtHalfTheRatedVoltage)
+{
+    EXPECT_NEAR(AllowableVoltageBound(10, std::nextafter(5, 10)), AllowableVoltageBound(10, 5), 0.006);
+}
+
+struct LoadRow
+{
+    const char* Name;
+    double Bound;
+    bool AtBound;
+};
+
+class AllowableLoads : public testing::TestWithParam<LoadRow>
+{
+};
+
+TEST_P(AllowableLoads, HeatThePartByThePermittedRise)
+{
+    const auto model = HeatedModel();
+    const auto load = [&](std::string_view name) { return AllowableLoad(model, GetParam().Bound, 20, name); };
+    const auto current = load("Current");
+    const auto voltage = load("Voltage");
+    const auto apparent = load("Apparent Power");
+    const auto effective = load("Effective Power");
+    for (const std::size_t i : {0U, 1U, 99U, 199U})
+    {
+        const double hz = voltage.XData[i];
+        EXPECT_NEAR(model.kI(hz) * std::pow(current.YData[i], 2), 20, 1e-4);
+        const double rise = model.kV(hz) * std::pow(voltage.YData[i], 2.5);
+        EXPECT_EQ(voltage.YData[i] == static_cast<float>(GetParam().Bound), GetParam().AtBound);
+        EXPECT_EQ(std::abs(rise - 20) > 1e-4, GetParam().AtBound);
+        EXPECT_LT(rise, 20.0001);
+        EXPECT_NEAR(effective.YData[i] * model.Rth, rise, 1e-4);
+        const double amperes = apparent.YData[i] / voltage.YData[i];
+        EXPECT_NEAR(model.kI(hz) * amperes * amperes, rise, 1e-4);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, AllowableLoads,
+                         testing::Values(LoadRow{"free", 1000, false}, LoadRow{"at the bound", 0.5, true}),
+                         RowName<LoadRow>);
+
+TEST(AllowableLoad, OfNoPermittedRiseIsZero)
+{
+    for (const std::string_view name : {"Current", "Voltage", "Apparent Power", "Effective Power"})
+    {
+        const auto curve = AllowableLoad(HeatedModel(), 3.54, 0, name);
+        EXPECT_TRUE(curve.HasPoints);
+        EXPECT_TRUE(std::ranges::all_of(curve.YData, [](float y) { return y == 0; })) << name;
+        EXPECT_EQ(curve.Limits, (AxisLimits{.XMax = 1e6F, .YMax = 1, .XMin = 1e4F, .YMin = 0.1F}));
+        EXPECT_EQ(curve.ExtraValue, 0);
+    }
+}
+
+TEST(AllowableLoad, HasPowersOfTenAroundItAndItsLargestAsExtraValue)
+{
+    // kV = 1 at 10 kHz and 1.5 at 1 MHz: 20^0.4 = 3.314 V down to 2.818 V
+    const auto curve = AllowableLoad(HeatedModel(), 1000, 20, "Voltage");
+    EXPECT_EQ(curve.ExtraValue, curve.YData.front());
+    EXPECT_FLOAT_EQ(curve.ExtraValue, static_cast<float>(std::pow(20, 0.4)));
+    EXPECT_EQ(curve.Limits, (AxisLimits{.XMax = 1e6F, .YMax = 10, .XMin = 1e4F, .YMin = 1}));
+}
+
+TEST(AllowableLoad, OfExactly1000EndsThere)
+{
+    auto model = UnitModel();
+    model.Q2 = 20e-6;
+    const auto curve = AllowableLoad(model, 10, 20, "Current");
+    ASSERT_EQ(curve.ExtraValue, 1000);
+    EXPECT_EQ(curve.Limits.YMax, 1000);
+    EXPECT_EQ(curve.Limits.YMin, 100);
+}
+
+TEST(AllowableLoad, WhoseAxisNoSingleCanEndIsAnOverflow)
+{
+    auto model = UnitModel();
+    // 20/5e-76 = (2·10^38)² A²; the axis would end at 10^39.
+    model.Q2 = 5e-76;
+    EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, "Current"); }), 6);
+    model.Q2 = 500e-76;
+    EXPECT_EQ(AllowableLoad(model, 10, 20, "Current").Limits.YMax, 1e38F);
+}
+
+TEST(AllowableLoad, OfAVoltageBeyondAnyNumberIsAnOverflow)
+{
+    auto model = UnitModel();
+    model.S2 = -1;
+    model.S3 = 0.005;
+    // kV = 1 / log10 f: 80^200 V at 10 kHz, whatever the bound.
+    EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, "Voltage"); }), 6);
+}
+
+TEST(AllowableLoad, WithoutAVoltageLawAtTheHighestFrequencyIsADivisionByZero)
+{
+    auto model = UnitModel();
+    // 4^-450 is a number, 6^-450 is zero.
+    model.S2 = -450;
+    for (const std::string_view name : {"Voltage", "Apparent Power", "Effective Power"})
+    {
+        EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, name); }), 11) << name;
+    }
+}
+
+TEST(PowerCurves, OfAnotherQuantityHaveNoPoints)
+{
+    EXPECT_FALSE(RiseOverLoad(UnitModel(), 10, frequencyHz, "Temperature").HasPoints);
+    EXPECT_FALSE(std::get<Curve>(RiseOverFrequency(UnitModel(), 10, "", 1)).HasPoints);
+    EXPECT_FALSE(AllowableLoad(UnitModel(), 10, 20, "Capacitance").HasPoints);
+}
+
+TEST(AllowableLoad, NeedsNoVoltageLawForCurrent)
+{
+    auto model = UnitModel();
+    model.S3 = 0;
+    EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, "Current"); }), 0);
+    EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, "Effective Power"); }), 11);
+}
+
+} // namespace
