@@ -1,8 +1,8 @@
 #include "app/Main.h"
 
-#include "app/Messages.h"
 #include "app/SingleInstance.h"
 #include "app/mdlPublic.h"
+#include "formkit/Messages.h"
 
 #include <filesystem>
 

@@ -1,11 +1,11 @@
 #include "chart/frmGraph.h"
 
-#include "app/Texts.h"
-#include "app/Twips.h"
 #include "app/mdlPublic.h"
 #include "calc/ChartNames.h"
 #include "chart/drawing/Colors.h"
 #include "chart/drawing/PaneText.h"
+#include "formkit/Texts.h"
+#include "formkit/Twips.h"
 #include "ui_frmGraph.h"
 
 #include <QCloseEvent>

@@ -1,7 +1,5 @@
 #include "chart/frmGraph.h"
 
-#include "app/Messages.h"
-#include "app/Texts.h"
 #include "app/mdlPublic.h"
 #include "calc/ChartNames.h"
 #include "chart/ElidedLabel.h"
@@ -9,6 +7,8 @@
 #include "chart/drawing/PaneText.h"
 #include "chart/drawing/ReadOut.h"
 #include "chart/frmSetAxis.h"
+#include "formkit/Messages.h"
+#include "formkit/Texts.h"
 #include "ui_frmGraph.h"
 
 #include <QClipboard>

@@ -1,9 +1,9 @@
 #include "chart/frmSetAxis.h"
 
-#include "app/Entries.h"
-#include "app/Messages.h"
 #include "calc/NumberText.h"
 #include "chart/drawing/AxisLimits.h"
+#include "formkit/Entries.h"
+#include "formkit/Messages.h"
 #include "ui_frmSetAxis.h"
 
 #include <QFocusEvent>

@@ -1,12 +1,12 @@
 /// `tavik-cli chart`: up to six lines on one picture.
 
-#include "app/Fonts.h"
 #include "chart/drawing/ChartSheet.h"
-#include "cli/ChartLines.h"
 #include "cli/Commands.h"
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
 #include "cli/SheetPicture.h"
+#include "formkit/Fonts.h"
+#include "requests/ChartLines.h"
 
 #include <CLI/CLI.hpp>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #include "cli/Commands.h"
 
-#include "cli/data/DataCommands.h"
+#include "cli/DataCommands.h"
 
 void AddCommands(CLI::App& app)
 {

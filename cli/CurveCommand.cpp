@@ -1,13 +1,13 @@
 /// `tavik-cli curve`: one curve, or a stream of them.
 
-#include "app/Texts.h"
 #include "calc/DataFile.h"
 #include "cli/Commands.h"
-#include "cli/CurveText.h"
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
 #include "cli/Requests.h"
+#include "formkit/Texts.h"
 #include "partdata/RunTimeError.h"
+#include "requests/CurveText.h"
 
 #include <CLI/CLI.hpp>
 

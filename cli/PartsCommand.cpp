@@ -2,9 +2,9 @@
 
 #include "cli/Commands.h"
 #include "cli/Output.h"
-#include "cli/PartList.h"
-#include "cli/Quantity.h"
 #include "cli/RequestOptions.h"
+#include "requests/PartList.h"
+#include "requests/Quantity.h"
 
 #include <CLI/CLI.hpp>
 

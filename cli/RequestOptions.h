@@ -2,7 +2,7 @@
 
 /// The options that commands on curves share: chart, axes, conditions, namings.
 
-#include "cli/CurveRequest.h"
+#include "requests/CurveRequest.h"
 
 namespace CLI
 {

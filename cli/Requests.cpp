@@ -1,8 +1,8 @@
 #include "cli/Requests.h"
 
-#include "cli/CurveText.h"
 #include "cli/Progress.h"
 #include "partdata/RunTimeError.h"
+#include "requests/CurveText.h"
 
 #include <nlohmann/json.hpp>
 

@@ -2,9 +2,9 @@
 
 /// A stream of curve requests, one JSON object a line, answered line by line.
 
-#include "cli/AxisTexts.h"
-#include "cli/CurveRequest.h"
 #include "cli/Output.h"
+#include "requests/AxisTexts.h"
+#include "requests/CurveRequest.h"
 
 #include <iosfwd>
 

@@ -1,11 +1,11 @@
 #include "frame/DataPage.h"
 
-#include "app/Messages.h"
-#include "app/Texts.h"
 #include "calc/ChartNames.h"
 #include "calc/ConditionLines.h"
 #include "calc/NumberText.h"
 #include "chart/drawing/Colors.h"
+#include "formkit/Messages.h"
+#include "formkit/Texts.h"
 
 #include <QFontMetricsF>
 

@@ -1,7 +1,7 @@
 #include "frame/HelpCommand.h"
 
-#include "app/Messages.h"
 #include "app/mdlPublic.h"
+#include "formkit/Messages.h"
 #include "frame/clsComdlg.h"
 #include "partdata/RunTimeError.h"
 

@@ -1,6 +1,6 @@
 #include "frame/clsComdlg.h"
 
-#include "app/Messages.h"
+#include "formkit/Messages.h"
 #include "frame/PrinterChoices.h"
 #include "frame/SettingsLock.h"
 #include "frame/frmHelp.h"

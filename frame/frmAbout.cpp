@@ -1,6 +1,6 @@
 #include "frame/frmAbout.h"
 
-#include "app/Messages.h"
+#include "formkit/Messages.h"
 #include "frame/ProgramIcon.h"
 #include "ui_frmAbout.h"
 

@@ -1,6 +1,6 @@
 #include "frame/frmHelp.h"
 
-#include "app/Messages.h"
+#include "formkit/Messages.h"
 #include "frame/HelpBook.h"
 #include "frame/clsComdlg.h"
 #include "partdata/RunTimeError.h"

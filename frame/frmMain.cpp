@@ -1,9 +1,9 @@
 #include "frame/frmMain.h"
 
-#include "app/HourglassScope.h"
-#include "app/Messages.h"
 #include "app/mdlPublic.h"
 #include "chart/frmGraph.h"
+#include "formkit/HourglassScope.h"
+#include "formkit/Messages.h"
 #include "frame/HelpCommand.h"
 #include "frame/frmAbout.h"
 #include "ui_frmMain.h"

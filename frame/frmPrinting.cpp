@@ -1,6 +1,6 @@
 #include "frame/frmPrinting.h"
 
-#include "app/Messages.h"
+#include "formkit/Messages.h"
 #include "ui_frmPrinting.h"
 
 #include <QApplication>

@@ -1,8 +1,8 @@
 /// The program: the desktop application around the start-up order.
 
-#include "app/Fonts.h"
 #include "app/Main.h"
-#include "app/Messages.h"
+#include "formkit/Fonts.h"
+#include "formkit/Messages.h"
 #include "frame/ProgramIcon.h"
 #include "frame/frmMain.h"
 

@@ -4,11 +4,11 @@
 #include "cli/Program.h"
 #include "fuzz/Require.h"
 #include "fuzz/StandardStreams.h"
-#include "tests/cli/data/SmallPair.h"
 #include "tests/partdata/TemporaryFolder.h"
+#include "tests/partfiles/SmallPair.h"
 
-#include "cli/data/TableWriter.h"
 #include "partdata/PartTable.h"
+#include "partfiles/TableWriter.h"
 
 #include <QGuiApplication>
 

@@ -1,10 +1,10 @@
 /// What a user types into a box: a number that reads back from its own text, or none; judged without a fault.
 
 #include "calc/ChartNames.h"
+#include "calc/ConditionRules.h"
 #include "calc/NumberText.h"
 #include "fuzz/Require.h"
 #include "partdata/Windows1252.h"
-#include "selection/ConditionRules.h"
 
 #include <cmath>
 #include <cstdint>

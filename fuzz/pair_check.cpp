@@ -1,11 +1,11 @@
 /// What "data check" finds in any pair of part files: it agrees with the program's own loading, and all of it
 /// can be told.
 
-#include "cli/data/PairCheck.h"
 #include "fuzz/PairInput.h"
 #include "fuzz/Require.h"
 #include "partdata/PartTable.h"
 #include "partdata/RunTimeError.h"
+#include "partfiles/PairCheck.h"
 
 #include <nlohmann/json.hpp>
 

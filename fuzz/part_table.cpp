@@ -1,15 +1,15 @@
 /// A table of parts, as "data build" takes it: faults told by line and column, or a pair of part files that
 /// reads back to the very same parts.
 
-#include "cli/data/Columns.h"
-#include "cli/data/TablePair.h"
-#include "cli/data/TableWriter.h"
 #include "fuzz/Allocations.h"
 #include "fuzz/Require.h"
 #include "partdata/DataReader.h"
 #include "partdata/IndexReader.h"
 #include "partdata/KeyedCollection.h"
 #include "partdata/RunTimeError.h"
+#include "partfiles/Columns.h"
+#include "partfiles/TablePair.h"
+#include "partfiles/TableWriter.h"
 
 #include <algorithm>
 #include <cstdint>

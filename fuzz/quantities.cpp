@@ -2,8 +2,8 @@
 
 #include "calc/NumberText.h"
 #include "cli/Command.h"
-#include "cli/Quantity.h"
 #include "fuzz/Require.h"
+#include "requests/Quantity.h"
 
 #include <array>
 #include <cmath>

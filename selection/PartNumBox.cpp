@@ -1,7 +1,7 @@
 #include "selection/PartNumBox.h"
 
-#include "app/Texts.h"
 #include "app/mdlPublic.h"
+#include "formkit/Texts.h"
 
 #include <QLineEdit>
 #include <QListView>

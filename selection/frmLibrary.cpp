@@ -1,12 +1,12 @@
 #include "selection/frmLibrary.h"
 
-#include "app/Messages.h"
-#include "app/Texts.h"
-#include "app/Twips.h"
 #include "app/mdlPublic.h"
+#include "calc/AxisLists.h"
 #include "calc/ChartNames.h"
 #include "calc/NumberText.h"
-#include "selection/AxisLists.h"
+#include "formkit/Messages.h"
+#include "formkit/Texts.h"
+#include "formkit/Twips.h"
 #include "ui_frmLibrary.h"
 
 #include <QCloseEvent>

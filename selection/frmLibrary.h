@@ -5,7 +5,7 @@
 #include "calc/Calculate.h"
 #include "calc/ChartRecord.h"
 #include "calc/ChartStore.h"
-#include "selection/ConditionRules.h"
+#include "calc/ConditionRules.h"
 #include "selection/PartSelection.h"
 
 #include <QMdiSubWindow>

@@ -1,10 +1,10 @@
 #include "selection/frmLibrary.h"
 
-#include "app/Entries.h"
-#include "app/Messages.h"
-#include "app/Texts.h"
 #include "app/mdlPublic.h"
 #include "calc/NumberText.h"
+#include "formkit/Entries.h"
+#include "formkit/Messages.h"
+#include "formkit/Texts.h"
 #include "ui_frmLibrary.h"
 
 #include <QApplication>

@@ -1,13 +1,13 @@
 #include "selection/frmLibrary.h"
 
-#include "app/Entries.h"
-#include "app/HourglassScope.h"
-#include "app/Messages.h"
 #include "app/mdlPublic.h"
+#include "calc/AxisLists.h"
 #include "calc/Calculate.h"
 #include "calc/ChartNames.h"
 #include "calc/NumberText.h"
-#include "selection/AxisLists.h"
+#include "formkit/Entries.h"
+#include "formkit/HourglassScope.h"
+#include "formkit/Messages.h"
 #include "ui_frmLibrary.h"
 
 #include <algorithm>

@@ -1,10 +1,10 @@
 /// The shared state's selectors and scopes, the instances' meeting name, and message boxes.
 
-#include "app/HourglassScope.h"
-#include "app/Messages.h"
 #include "app/SingleInstance.h"
-#include "app/Twips.h"
 #include "app/mdlPublic.h"
+#include "formkit/HourglassScope.h"
+#include "formkit/Messages.h"
+#include "formkit/Twips.h"
 #include "partdata/RunTimeError.h"
 
 #include <QApplication>

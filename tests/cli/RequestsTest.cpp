@@ -2,7 +2,7 @@
 
 #include "cli/Requests.h"
 #include "calc/Calculate.h"
-#include "cli/CurveText.h"
+#include "requests/CurveText.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>

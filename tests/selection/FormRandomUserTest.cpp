@@ -1,8 +1,8 @@
 /// A user who does anything in any order, beside the plain telling of the cascade.
 
-#include "app/Texts.h"
 #include "app/mdlPublic.h"
 #include "calc/NumberText.h"
+#include "formkit/Texts.h"
 #include "tests/selection/Desk.h"
 #include "tests/selection/PlainSelection.h"
 #include "tests/selection/Ranges.h"

@@ -1,6 +1,6 @@
 #include "tests/frame/randomuser/Hands.h"
 
-#include "app/Messages.h"
+#include "formkit/Messages.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

@@ -2,8 +2,8 @@
 
 /// What the selection form is to show, told plainly: lists, boxes, what is enabled, and what is refused.
 
-#include "app/Texts.h"
 #include "calc/ChartRecord.h"
+#include "formkit/Texts.h"
 #include "tests/selection/PlainSelection.h"
 
 #include <QMap>

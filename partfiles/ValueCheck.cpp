@@ -1,0 +1,265 @@
+#include "partfiles/ValueCheck.h"
+
+#include "calc/Capacitance.h"
+#include "calc/CapacitanceAxes.h"
+#include "calc/NumberText.h"
+#include "calc/Sweep.h"
+#include "partdata/RunTimeError.h"
+#include "partdata/Windows1252.h"
+#include "partfiles/Columns.h"
+#include "partfiles/PowerCheck.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <string_view>
+
+namespace
+{
+/// Rounding of single-precision coefficients may raise a flat curve by less, in percent.
+constexpr double RoundingPercent = 0.01;
+
+std::string RoundedText(double value)
+{
+    return FormatNumber(static_cast<float>(value), NumberFormat::ReadOut);
+}
+
+/// The change of capacitance that a characteristic permits over its temperature range, in percent.
+struct ClassLimits
+{
+    float Least;
+    float Most;
+};
+
+ClassLimits ClassLimitsOf(std::string_view eiaTcc)
+{
+    return eiaTcc == "Y5V" ? ClassLimits{.Least = -82, .Most = 22} : ClassLimits{.Least = -15, .Most = 15};
+}
+
+bool IsListed(std::string_view eiaTcc)
+{
+    return eiaTcc == "X7R" || eiaTcc == "X5R" || eiaTcc == "Y5V";
+}
+
+bool CheckFinite(const PartRecord& part, ValueFindings& findings)
+{
+    bool allFinite = true;
+    for (std::size_t i = 0; i < DataValues; ++i)
+    {
+        if (!std::isfinite(part.Data[i]))
+        {
+            findings.AddValue(Severity::Error, "not-finite", part, i, "the value is not a finite number");
+            allFinite = false;
+        }
+    }
+    return allFinite;
+}
+
+void CheckRatings(const PartRecord& part, ValueFindings& findings)
+{
+    for (const std::size_t i : {0U, 1U})
+    {
+        if (part.Data[i] <= 0)
+        {
+            findings.AddValue(Severity::Error, "capacitance", part, i, "the capacitance is not positive");
+        }
+    }
+    if (part.Data[2] <= 0)
+    {
+        findings.AddValue(Severity::Error, "rated-voltage", part, 2, "the rated voltage is not positive");
+    }
+}
+
+/// Tells a group of coefficients that the curves of the part need and that is all zero.
+void CheckGroup(const PartRecord& part, std::size_t first, std::size_t last, const std::string& what,
+                ValueFindings& findings)
+{
+    if (!HasData(part, first, last))
+    {
+        const auto field = first == last ? DataName(first) : DataName(first) + " to " + DataName(last);
+        findings.Add(Severity::Warning, "gap", field, "0", "other capacitance data are there, but " + what);
+    }
+}
+
+void CheckCapacitanceGaps(const PartRecord& part, CapacitanceModel model, ValueFindings& findings)
+{
+    CheckGroup(part, 3, 8, "no change over bias", findings);
+    if (model == CapacitanceModel::Polynomial)
+    {
+        CheckGroup(part, 9, 14, "no change over temperature", findings);
+        return;
+    }
+    if (!HasData(part, 15, 27))
+    {
+        CheckGroup(part, 15, 27, "no change over temperature", findings);
+        return;
+    }
+    CheckGroup(part, 15, 15, "no peak amplitude", findings);
+    CheckGroup(part, 17, 19, "no peak temperature", findings);
+    CheckGroup(part, 20, 22, "no decay below the peak", findings);
+    CheckGroup(part, 23, 25, "no decay above the peak", findings);
+    CheckGroup(part, 26, 26, "no exponent below the peak", findings);
+    CheckGroup(part, 27, 27, "no exponent above the peak", findings);
+}
+
+/// Change of capacitance by the bias alone, in percent.
+double BiasChange(const PartRecord& part, double volts)
+{
+    double sum = 0;
+    for (std::size_t i = 3; i <= 8; ++i)
+    {
+        sum = (sum + part.Data[i]) * volts;
+    }
+    return sum;
+}
+
+void CheckBias(const PartRecord& part, ValueFindings& findings)
+{
+    double least = 0;
+    for (const double volts : LinearSweep(0, part.Data[2]))
+    {
+        const double change = BiasChange(part, volts);
+        if (change > least + RoundingPercent)
+        {
+            findings.Add(Severity::Warning, "bias-growth", "", RoundedText(change),
+                         "capacitance grows under bias: change " + RoundedText(change) + " % at " +
+                             RoundedText(volts) + " V, " + RoundedText(least) + " % below");
+            return;
+        }
+        least = std::min(least, change);
+    }
+}
+
+void CheckClassLimits(const PartRecord& part, const Curve& unbiased, ValueFindings& findings)
+{
+    const auto limits = ClassLimitsOf(part.Tcc[0]);
+    for (std::size_t i = 0; i < CurvePoints; ++i)
+    {
+        const float change = unbiased.YData[i];
+        if (change < limits.Least || change > limits.Most)
+        {
+            findings.Add(Severity::Warning, "class-limit", "", RoundedText(change),
+                         "change of capacitance " + RoundedText(change) + " % at " +
+                             RoundedText(unbiased.XData[i]) + " °C without bias; " +
+                             std::string(part.Tcc[0]) + " permits " + RoundedText(limits.Least) + " to " +
+                             RoundedText(limits.Most) + " %");
+            return;
+        }
+    }
+}
+
+/// True when the curve stays above nothing; else tells where it falls below.
+bool CheckNotNegative(const Curve& curve, const std::string& conditions, const char* unit,
+                      ValueFindings& findings)
+{
+    const auto lowest = std::ranges::min_element(curve.YData);
+    if (*lowest >= -100)
+    {
+        return true;
+    }
+    const auto at = curve.XData[static_cast<std::size_t>(lowest - curve.YData.begin())];
+    findings.Add(Severity::Error, "below-zero", "", RoundedText(*lowest),
+                 "capacitance below zero: change " + RoundedText(*lowest) + " % at " + RoundedText(at) +
+                     unit + conditions);
+    return false;
+}
+
+void CheckCapacitanceCurves(const PartRecord& part, ValueFindings& findings)
+{
+    const auto range = TemperatureRangeOf(part.Tcc[0], CodeView::Eia);
+    const float rated = part.Data[2];
+    try
+    {
+        CheckClassLimits(part, CalcCapTemperature(part, 0, CapacitanceChangeAxis, CodeView::Eia), findings);
+        for (const float volts : {0.0F, rated / 4, rated / 2, rated / 4 * 3, rated})
+        {
+            if (!CheckNotNegative(CalcCapTemperature(part, volts, CapacitanceChangeAxis, CodeView::Eia),
+                                  " and " + RoundedText(volts) + " V", " °C", findings))
+            {
+                return;
+            }
+        }
+        for (const float celsius : {range.MinC, 25.0F, range.MaxC})
+        {
+            if (!CheckNotNegative(CalcCapDCVoltage(part, celsius, CapacitanceChangeAxis, CodeView::Eia),
+                                  " and " + RoundedText(celsius) + " °C", " V", findings))
+            {
+                return;
+            }
+        }
+        CalcCapTemperature(part, rated, CapacitanceAxis, CodeView::Jis);
+    }
+    catch (const RunTimeError& error)
+    {
+        findings.Add(Severity::Error, "calculation", "", "",
+                     "the capacitance curves cannot be calculated: " + error.Description());
+    }
+}
+
+void CheckCapacitance(const PartRecord& part, ValueFindings& findings)
+{
+    CheckCapacitanceGaps(part, CapacitanceModelOf(part), findings);
+    CheckBias(part, findings);
+    CheckCapacitanceCurves(part, findings);
+}
+} // namespace
+
+void ValueFindings::Add(Severity level, std::string rule, std::string field, std::string value,
+                        std::string message)
+{
+    findings.push_back({.Level = level,
+                        .Rule = std::move(rule),
+                        .File = {},
+                        .Record = 0,
+                        .PartNumber = {},
+                        .Field = std::move(field),
+                        .Value = std::move(value),
+                        .Message = std::move(message)});
+}
+
+void ValueFindings::AddValue(Severity level, std::string rule, const PartRecord& part, std::size_t index,
+                             std::string message)
+{
+    Add(level, std::move(rule), DataName(index), NumberText(part.Data[index]), std::move(message));
+}
+
+bool HasData(const PartRecord& part, std::size_t first, std::size_t last)
+{
+    return std::any_of(part.Data.begin() + static_cast<std::ptrdiff_t>(first),
+                       part.Data.begin() + static_cast<std::ptrdiff_t>(last) + 1,
+                       [](float value) { return value != 0; });
+}
+
+void CheckValues(const PartRecord& part, ValueFindings& findings)
+{
+    const bool listed = IsListed(part.Tcc[0]);
+    if (!listed)
+    {
+        findings.Add(Severity::Error, "characteristic", "Tcc(0)", Utf8FromWindows1252(part.Tcc[0]),
+                     "the temperature characteristic is none of X7R, X5R and Y5V");
+    }
+    if (!CheckFinite(part, findings))
+    {
+        return;
+    }
+    const bool hasCapacitance = HasData(part, 3, 27);
+    const bool hasPower = HasData(part, 28, 65);
+    if (!hasCapacitance && !hasPower)
+    {
+        findings.Add(Severity::Warning, "no-data", "", "", "the part has no data for any chart");
+        return;
+    }
+    CheckRatings(part, findings);
+    if (part.Data[2] <= 0)
+    {
+        return;
+    }
+    if (hasCapacitance && listed && part.Data[1] > 0)
+    {
+        CheckCapacitance(part, findings);
+    }
+    if (hasPower)
+    {
+        CheckPower(part, findings);
+    }
+}

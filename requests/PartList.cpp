@@ -1,0 +1,202 @@
+#include "requests/PartList.h"
+
+#include "calc/NumberText.h"
+#include "partdata/Availability.h"
+#include "partdata/Windows1252.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <array>
+
+/// Upper-case form in the code page of the part files.
+static std::string Folded(std::string_view utf8)
+{
+    auto text = Windows1252FromUtf8(utf8);
+    std::ranges::transform(text, text.begin(), FoldCase);
+    return text;
+}
+
+static bool Holds(std::string_view partNum, const std::string& foldedText)
+{
+    std::string folded(partNum);
+    std::ranges::transform(folded, folded.begin(), FoldCase);
+    return folded.find(foldedText) != std::string::npos;
+}
+
+static bool IsOneOf(const std::array<std::string_view, CodeForms>& names, const std::string& wanted)
+{
+    return std::ranges::any_of(names, [&](auto name) { return EqualKeys(name, wanted); });
+}
+
+static bool IsOffered(const PartRecord& part, std::optional<std::int16_t> chartType)
+{
+    if (chartType)
+    {
+        return IsAvailable(part, *chartType);
+    }
+    // Both power charts need the same data, and so do both capacitance charts.
+    return IsAvailable(part, 0) || IsAvailable(part, 2);
+}
+
+std::vector<const PartRecord*> FilterParts(const PartTable& parts, const PartFilter& filter)
+{
+    const auto text = Folded(filter.Text);
+    const auto size = Folded(filter.SizeCode.value_or(""));
+    const auto tcc = Folded(filter.Tcc.value_or(""));
+    const auto agrees = [&](const PartRecord& part)
+    {
+        return IsOffered(part, filter.ChartType) && (!filter.SizeCode || IsOneOf(part.SizeCode, size)) &&
+               (!filter.Tcc || IsOneOf(part.Tcc, tcc)) &&
+               (!filter.Capacitance || part.Data[0] == *filter.Capacitance) &&
+               (!filter.RatedVoltage || part.Data[2] == *filter.RatedVoltage) &&
+               std::ranges::any_of(part.PartNum, [&](auto number) { return Holds(number, text); });
+    };
+    std::vector<const PartRecord*> found;
+    for (const PartRecord& part : parts.PartData)
+    {
+        if (agrees(part))
+        {
+            found.push_back(&part);
+        }
+    }
+    return found;
+}
+
+namespace
+{
+/// One part as its columns.
+using Row = std::array<std::string, 6>;
+} // namespace
+
+static std::vector<std::string> ChartsOf(const PartRecord& part)
+{
+    std::vector<std::string> charts;
+    for (std::int16_t type = 0; type < 4; ++type)
+    {
+        if (IsAvailable(part, type))
+        {
+            charts.emplace_back(ChartCommandNames[static_cast<std::size_t>(type)]);
+        }
+    }
+    return charts;
+}
+
+static Row RowOf(const PartRecord& part, CodeView code, const CurveSettings& settings)
+{
+    const auto naming = static_cast<std::size_t>(code);
+    std::string charts;
+    for (const auto& chart : ChartsOf(part))
+    {
+        charts += (charts.empty() ? "" : " ") + chart;
+    }
+    return {ShownPartNum(part, code, settings),
+            Utf8FromWindows1252(part.SizeCode[naming]),
+            Utf8FromWindows1252(part.Tcc[naming]),
+            NumberText(part.Data[0]),
+            NumberText(part.Data[2]),
+            charts};
+}
+
+/// Characters of a UTF-8 text.
+static std::size_t WidthOf(const std::string& text)
+{
+    return static_cast<std::size_t>(std::ranges::count_if(text, [](char c) { return (c & 0xC0) != 0x80; }));
+}
+
+/// Columns as wide as their widest text; numbers stand to the right.
+static std::string TableOf(const std::vector<Row>& rows)
+{
+    constexpr std::size_t gap = 2;
+    Row::size_type widths[std::tuple_size_v<Row>] = {};
+    for (const Row& row : rows)
+    {
+        for (std::size_t i = 0; i < row.size(); ++i)
+        {
+            widths[i] = std::max(widths[i], WidthOf(row[i]));
+        }
+    }
+    std::string text;
+    for (const Row& row : rows)
+    {
+        for (std::size_t i = 0; i < row.size(); ++i)
+        {
+            const bool isNumber = i == 3 || i == 4;
+            const bool isLast = i + 1 == row.size();
+            const std::string padding(widths[i] - WidthOf(row[i]), ' ');
+            text += isNumber ? padding + row[i] : row[i] + (isLast ? "" : padding);
+            text.append(isLast ? 0 : gap, ' ');
+        }
+        text += '\n';
+    }
+    return text;
+}
+
+/// A field of CSV, in quotes where it needs them.
+static std::string FieldOf(const std::string& text)
+{
+    if (text.find_first_of("\",\r\n") == std::string::npos)
+    {
+        return text;
+    }
+    std::string quoted = "\"";
+    for (const char c : text)
+    {
+        quoted.append(c == '"' ? 2 : 1, c);
+    }
+    return quoted + '"';
+}
+
+static std::string CsvOf(const std::vector<Row>& rows)
+{
+    std::string text;
+    for (const Row& row : rows)
+    {
+        for (std::size_t i = 0; i < row.size(); ++i)
+        {
+            text += (i == 0 ? "" : ",") + FieldOf(row[i]);
+        }
+        text += '\n';
+    }
+    return text;
+}
+
+/// One part a line, within the brackets of a list.
+static std::string JsonOf(const std::vector<const PartRecord*>& parts, CodeView code,
+                          const CurveSettings& settings)
+{
+    std::string text = "[";
+    for (const PartRecord* part : parts)
+    {
+        const Row row = RowOf(*part, code, settings);
+        nlohmann::ordered_json object;
+        object["part"] = row[0];
+        object["size"] = row[1];
+        object["characteristic"] = row[2];
+        object["capacitance"] = nlohmann::json::parse(row[3]);
+        object["ratedVoltage"] = nlohmann::json::parse(row[4]);
+        object["charts"] = ChartsOf(*part);
+        text += (text.size() == 1 ? "\n" : ",\n") +
+                object.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+    }
+    return text + "\n]\n";
+}
+
+std::string PartListText(const std::vector<const PartRecord*>& parts, std::string_view format, CodeView code,
+                         const CurveSettings& settings)
+{
+    if (format == "json")
+    {
+        return JsonOf(parts, code, settings);
+    }
+    const bool csv = format == "csv";
+    std::vector<Row> rows;
+    rows.push_back(
+        csv ? Row{"part", "size", "characteristic", "capacitance [pF]", "rated voltage [V]", "charts"}
+            : Row{"PART", "SIZE", "TCC", "CAPACITANCE[pF]", "RATED[V]", "CHARTS"});
+    for (const PartRecord* part : parts)
+    {
+        rows.push_back(RowOf(*part, code, settings));
+    }
+    return csv ? CsvOf(rows) : TableOf(rows);
+}

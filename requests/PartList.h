@@ -1,0 +1,28 @@
+#pragma once
+
+/// The parts of the range as a list.
+
+#include "requests/CurveRequest.h"
+
+/// What the listed parts must agree with; what is left out agrees with every part. Texts in UTF-8, compared
+/// without regard to letter case.
+struct PartFilter
+{
+    /// Stands somewhere in one of the four part numbers.
+    std::string Text = {};
+    std::optional<std::int16_t> ChartType = {};
+    /// In either code.
+    std::optional<std::string> SizeCode = {};
+    std::optional<std::string> Tcc = {};
+    /// In pF.
+    std::optional<float> Capacitance = {};
+    std::optional<float> RatedVoltage = {};
+};
+
+/// The parts that agree, in index-file order. A part without data for any chart type is in no list.
+std::vector<const PartRecord*> FilterParts(const PartTable& parts, const PartFilter& filter);
+
+/// The list as "table", "csv" or "json": part number, size code, characteristic, capacitance in pF, rated
+/// voltage in V, and the chart types that the part has data for. UTF-8, lines ended by line feeds.
+std::string PartListText(const std::vector<const PartRecord*>& parts, std::string_view format, CodeView code,
+                         const CurveSettings& settings);

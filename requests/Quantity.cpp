@@ -1,0 +1,209 @@
+#include "requests/Quantity.h"
+
+#include "calc/NumberText.h"
+#include "cli/Command.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <optional>
+#include <vector>
+
+namespace
+{
+struct UnitFamily
+{
+    std::string_view Name;
+    /// Spellings of the unit without prefix.
+    std::vector<std::string_view> Spellings;
+    /// Power of ten of the unit that a bare number has.
+    int BareExponent;
+    bool TakesPrefix;
+};
+
+struct Prefix
+{
+    std::string_view Text;
+    int Exponent;
+};
+} // namespace
+
+static constexpr std::array<Prefix, 11> prefixes = {{{"", 0},
+                                                     {"p", -12},
+                                                     {"n", -9},
+                                                     {"u", -6},
+                                                     {"\u00B5", -6},
+                                                     {"\u03BC", -6},
+                                                     {"m", -3},
+                                                     {"k", 3},
+                                                     {"K", 3},
+                                                     {"M", 6},
+                                                     {"G", 9}}};
+
+static const UnitFamily& FamilyOf(Quantity quantity)
+{
+    static const std::array<UnitFamily, 10> families = {{
+        {"a voltage", {"V", "Vdc"}, 0, true},
+        {"an r.m.s. voltage", {"V", "Vrms"}, 0, true},
+        {"a current", {"A", "Arms"}, 0, true},
+        {"an effective power", {"W"}, 0, true},
+        {"an apparent power", {"VA"}, 0, true},
+        {"a frequency", {"Hz"}, 3, true},
+        {"a temperature", {"C", "\u00B0C", "degC"}, 0, false},
+        {"a heat resistance", {"C/W", "\u00B0C/W", "K/W"}, 0, false},
+        {"a capacitance", {"F"}, -12, true},
+        {"a change", {"%"}, 0, false},
+    }};
+    return families[static_cast<std::size_t>(quantity)];
+}
+
+static bool IsDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+static char Lower(char c)
+{
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+static bool EqualUnits(std::string_view a, std::string_view b)
+{
+    return std::ranges::equal(a, b, {}, Lower, Lower);
+}
+
+static std::string_view WithoutBlanks(std::string_view text)
+{
+    const auto first = std::min(text.find_first_not_of(' '), text.size());
+    text.remove_prefix(first);
+    return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
+static std::size_t CountDigits(std::string_view text)
+{
+    return static_cast<std::size_t>(std::ranges::find_if_not(text, IsDigit) - text.begin());
+}
+
+/// Length of sign, digits and fraction at the beginning; 0 when there is no number.
+static std::size_t MantissaLength(std::string_view text)
+{
+    std::size_t length = !text.empty() && (text[0] == '+' || text[0] == '-') ? 1 : 0;
+    std::size_t digits = CountDigits(text.substr(length));
+    length += digits;
+    if (length < text.size() && text[length] == '.')
+    {
+        const auto fraction = CountDigits(text.substr(length + 1));
+        digits += fraction;
+        length += 1 + fraction;
+    }
+    return digits > 0 ? length : 0;
+}
+
+/// Length of "E-12" at the beginning; 0 when there is no exponent.
+static std::size_t ExponentLength(std::string_view text)
+{
+    if (text.empty() || Lower(text[0]) != 'e')
+    {
+        return 0;
+    }
+    const std::size_t sign = text.size() > 1 && (text[1] == '+' || text[1] == '-') ? 1 : 0;
+    const auto digits = CountDigits(text.substr(1 + sign));
+    return digits > 0 ? 1 + sign + digits : 0;
+}
+
+/// The number of "E-12"; one that no number could bear stays far out of every range.
+static int ExponentOf(std::string_view text)
+{
+    if (text.empty())
+    {
+        return 0;
+    }
+    constexpr int limit = 100000;
+    text.remove_prefix(text[1] == '+' ? 2 : 1);
+    int exponent = 0;
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), exponent);
+    return read.ec == std::errc() ? std::clamp(exponent, -limit, limit) : (text[0] == '-' ? -limit : limit);
+}
+
+/// Power of ten from a unit to that of a bare number; nothing when the unit does not fit.
+static std::optional<int> ShiftOf(std::string_view unit, const UnitFamily& family)
+{
+    for (const Prefix& prefix : prefixes)
+    {
+        if (!unit.starts_with(prefix.Text) || (!family.TakesPrefix && !prefix.Text.empty()))
+        {
+            continue;
+        }
+        const auto base = unit.substr(prefix.Text.size());
+        if (std::ranges::any_of(family.Spellings, [&](auto known) { return EqualUnits(base, known); }))
+        {
+            return prefix.Exponent - family.BareExponent;
+        }
+    }
+    return std::nullopt;
+}
+
+std::string EntryInUnit(std::string_view typed, Quantity quantity)
+{
+    const auto text = WithoutBlanks(typed);
+    const auto mantissa = MantissaLength(text);
+    const auto exponent = ExponentLength(text.substr(mantissa));
+    const auto unit = WithoutBlanks(text.substr(mantissa + exponent));
+    const bool hasUnit =
+        !unit.empty() && std::string_view(",.+-0123456789").find(unit[0]) == std::string::npos;
+    if (mantissa == 0 || !hasUnit)
+    {
+        return std::string(typed);
+    }
+    const auto& family = FamilyOf(quantity);
+    const auto shift = ShiftOf(unit, family);
+    if (!shift)
+    {
+        throw UsageError('"' + std::string(typed) + "\": \"" + std::string(unit) + "\" is not the unit of " +
+                         std::string(family.Name));
+    }
+    const auto number = text.substr(0, mantissa + exponent);
+    if (*shift == 0)
+    {
+        return std::string(number);
+    }
+    const int shifted = ExponentOf(text.substr(mantissa, exponent)) + *shift;
+    return std::string(text.substr(0, mantissa)) + 'E' + std::to_string(shifted);
+}
+
+float ValueInUnit(std::string_view typed, Quantity quantity)
+{
+    const auto value = ReadEntry(EntryInUnit(typed, quantity));
+    if (!value)
+    {
+        throw UsageError('"' + std::string(typed) + "\" is not a number");
+    }
+    return *value;
+}
+
+Quantity QuantityOf(std::string_view name)
+{
+    struct Named
+    {
+        std::string_view Name;
+        Quantity Measures;
+    };
+    static constexpr std::array<Named, 10> names = {{
+        {"Current", Quantity::Current},
+        {"Voltage", Quantity::RmsVoltage},
+        {"Effective Power", Quantity::EffectivePower},
+        {"Apparent Power", Quantity::ApparentPower},
+        {"Frequency", Quantity::Frequency},
+        {"Temperature", Quantity::Temperature},
+        {"Temperature Rise", Quantity::Temperature},
+        {"DC Bias Voltage", Quantity::Voltage},
+        {"Capacitance", Quantity::Capacitance},
+        {"Capacitance Change", Quantity::Change},
+    }};
+    const auto found = std::ranges::find(names, name, &Named::Name);
+    if (found == names.end())
+    {
+        throw UsageError('"' + std::string(name) + "\" is no quantity");
+    }
+    return found->Measures;
+}

@@ -1,0 +1,207 @@
+#include "samplerange/CapacitanceLaws.h"
+
+#include "samplerange/Fitting.h"
+#include "samplerange/PlainMath.h"
+
+#include <vector>
+
+namespace
+{
+
+/// Reference temperature of the coefficients.
+constexpr double ReferenceC = 25;
+
+/// A capacitance curve with a rounded peak: relative change
+/// (1 + rise) / (1 + ((T - peak)·slope)²) - 1, with a slope for each side of the peak.
+struct RoundedPeak
+{
+    double PeakC;
+    double Rise;
+    double ColdSlopeSquare;
+    double HotSlopeSquare;
+};
+
+/// Where a curve ends: temperatures, and relative changes there.
+struct CurveEnds
+{
+    double PeakC;
+    double ColdC;
+    double ColdChange;
+    double HotC;
+    double HotChange;
+};
+
+/// The ends of the temperature curve: the thinner the layers, the steeper.
+CurveEnds EndsOf(const PartDesign& part)
+{
+    const double thin = Thinness(part);
+    if (part.Characteristic == "X7R")
+    {
+        return {42 - 8 * thin, -55, -0.075 - 0.045 * thin, 125, -0.085 - 0.045 * thin};
+    }
+    if (part.Characteristic == "X5R")
+    {
+        return {14 - 8 * thin, -55, -0.055 - 0.06 * thin, 85, -0.075 - 0.055 * thin};
+    }
+    return {17 - 4 * thin, -30, -0.46, 85, -0.62 - 0.06 * thin};
+}
+
+double Square(double x)
+{
+    return x * x;
+}
+
+RoundedPeak PeakThrough(const CurveEnds& ends)
+{
+    const bool referenceIsHot = ReferenceC >= ends.PeakC;
+    const double nearChange = referenceIsHot ? ends.HotChange : ends.ColdChange;
+    const double nearSquare = Square((referenceIsHot ? ends.HotC : ends.ColdC) - ends.PeakC);
+    const double farChange = referenceIsHot ? ends.ColdChange : ends.HotChange;
+    const double farSquare = Square((referenceIsHot ? ends.ColdC : ends.HotC) - ends.PeakC);
+    const double referenceSquare = Square(ReferenceC - ends.PeakC);
+
+    // No change at the reference, the given change at the end of the same side.
+    const double nearSlope = -nearChange / ((1 + nearChange) * nearSquare - referenceSquare);
+    const double rise = nearSlope * referenceSquare;
+    const double farSlope = ((1 + rise) / (1 + farChange) - 1) / farSquare;
+    return {ends.PeakC, rise, referenceIsHot ? farSlope : nearSlope, referenceIsHot ? nearSlope : farSlope};
+}
+
+double ChangeAt(const RoundedPeak& peak, double temperatureC)
+{
+    const double slopeSquare = temperatureC >= peak.PeakC ? peak.HotSlopeSquare : peak.ColdSlopeSquare;
+    return (1 + peak.Rise) / (1 + slopeSquare * Square(temperatureC - peak.PeakC)) - 1;
+}
+
+} // namespace
+
+void WriteBiasLaw(const PartDesign& part, PartValues& data)
+{
+    constexpr int steps = 50;
+    std::vector<Sample> samples;
+    for (int i = 0; i <= steps; ++i)
+    {
+        const double r = static_cast<double>(i) / steps;
+        samples.push_back({r, 100 * BiasLoss(part, r)});
+    }
+    const auto loss = FitRising(samples, 0.08 * samples.back().Y);
+    double scale = 1;
+    for (std::size_t j = 0; j < loss.size(); ++j)
+    {
+        scale *= part.Volts;
+        data[8 - j] = 0 - loss[j] / scale;
+    }
+}
+
+void WriteTemperaturePolynomial(const PartDesign& part, PartValues& data)
+{
+    constexpr int steps = 60;
+    constexpr double span = 100;
+    const auto ends = EndsOf(part);
+    const auto peak = PeakThrough(ends);
+    std::vector<Sample> samples;
+    for (int i = 0; i <= steps; ++i)
+    {
+        const double temperatureC = ends.ColdC + (ends.HotC - ends.ColdC) * i / steps;
+        samples.push_back({(temperatureC - ReferenceC) / span, 100 * ChangeAt(peak, temperatureC)});
+    }
+    const auto change = FitThroughOrigin(samples);
+    double scale = 1;
+    for (std::size_t j = 0; j < change.size(); ++j)
+    {
+        scale *= span;
+        data[14 - j] = change[j] / scale;
+    }
+}
+
+namespace
+{
+
+/// The peaked model of Y5V: what is left far from the peak, and the two decays.
+constexpr double FarOffset = -94.8;
+
+struct PeakedModel
+{
+    double Amplitude;
+    double PeakC;
+    double ColdDecay;
+    double ColdExponent;
+    double HotDecay;
+    double HotExponent;
+};
+
+PeakedModel PeakedModelOf(const PartDesign& part)
+{
+    const double thin = Thinness(part);
+    const double peakC = 16 + 5 * thin;
+    const double hotExponent = 1.75 - 0.15 * thin;
+    const double coldExponent = 1.6 - 0.1 * thin;
+    const double hotChange = -79 + 6 * thin;
+    const double coldChange = -60 + 10 * thin;
+
+    // Amplitude·exp(-decay·|T - peak|^exponent) is what is missing to the far offset, at 25 °C and at the
+    // hot end; the quotient of both leaves the amplitude.
+    const double quotient = PlainPower((ReferenceC - peakC) / (85 - peakC), hotExponent);
+    const double logAtReference = PlainLog(-FarOffset);
+    const double logAtHot = PlainLog(hotChange - FarOffset);
+    const double logAmplitude = (logAtReference - quotient * logAtHot) / (1 - quotient);
+    return {.Amplitude = PlainExp(logAmplitude),
+            .PeakC = peakC,
+            .ColdDecay =
+                (logAmplitude - PlainLog(coldChange - FarOffset)) / PlainPower(peakC + 30, coldExponent),
+            .ColdExponent = coldExponent,
+            .HotDecay = (logAmplitude - logAtHot) / PlainPower(85 - peakC, hotExponent),
+            .HotExponent = hotExponent};
+}
+
+} // namespace
+
+void WritePeakedModel(const PartDesign& part, PartValues& data)
+{
+    const auto model = PeakedModelOf(part);
+    const double voltsSquare = part.Volts * part.Volts;
+    const double loss = BiasLoss(part, 1);
+    data[15] = model.Amplitude;
+    data[16] = FarOffset;
+    // Bias moves the peak to warmer and rounds it off, the more the more capacitance it takes away.
+    data[17] = 1.6 * loss / voltsSquare;
+    data[19] = model.PeakC;
+    data[20] = -0.02 * loss * model.ColdDecay / voltsSquare;
+    data[22] = model.ColdDecay;
+    data[23] = -0.02 * loss * model.HotDecay / voltsSquare;
+    data[25] = model.HotDecay;
+    data[26] = model.ColdExponent;
+    data[27] = model.HotExponent;
+}
+
+static double PeakedCapacitance(const PartDesign& part, double temperatureC)
+{
+    const auto model = PeakedModelOf(part);
+    const double distance = temperatureC - model.PeakC;
+    const double decay = distance >= 0 ? model.HotDecay * PlainPower(distance, model.HotExponent)
+                                       : model.ColdDecay * PlainPower(-distance, model.ColdExponent);
+    return 1 + (model.Amplitude * PlainExp(-decay) + FarOffset) / 100;
+}
+
+double RelativeCapacitance(const PartDesign& part, double temperatureC)
+{
+    if (part.Characteristic == "Y5V")
+    {
+        return PeakedCapacitance(part, temperatureC) / PeakedCapacitance(part, 20);
+    }
+    const auto peak = PeakThrough(EndsOf(part));
+    return (1 + ChangeAt(peak, temperatureC)) / (1 + ChangeAt(peak, 20));
+}
+
+double BiasedCapacitance(const PartValues& data, double volts)
+{
+    double change = 0;
+    for (std::size_t j = 3; j <= 8; ++j)
+    {
+        change = (change + data[j]) * volts;
+    }
+    // The peaked model keeps its far offset out of the fall, so its curves fall a little less than the
+    // polynomial; the heating laws take four fifths of the difference.
+    const double share = data[16] == 0 ? 1 : (1 + 4 * -data[16] / 100) / 5;
+    return 1 + share * change / 100;
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+/// Capacitance coefficients of a part, fitted to how its ceramic behaves.
+
+#include "partdata/PartRecord.h"
+#include "samplerange/PartDesign.h"
+
+#include <array>
+
+/// The values of a part while they are worked out, in data-file order.
+using PartValues = std::array<double, DataValues>;
+
+/// Writes the bias polynomial, `Data(3)` to `Data(8)`.
+void WriteBiasLaw(const PartDesign& part, PartValues& data);
+
+/// Writes the temperature polynomial, `Data(9)` to `Data(14)`.
+void WriteTemperaturePolynomial(const PartDesign& part, PartValues& data);
+
+/// Writes the peaked temperature model, `Data(15)` to `Data(27)`.
+void WritePeakedModel(const PartDesign& part, PartValues& data);
+
+/// Capacitance at a temperature without bias, relative to the one at 20 °C.
+double RelativeCapacitance(const PartDesign& part, double temperatureC);
+
+/// Capacitance at a bias in volts, relative to the one without bias, at 25 °C and by the written
+/// coefficients.
+double BiasedCapacitance(const PartValues& data, double volts);

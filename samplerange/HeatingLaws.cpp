@@ -1,0 +1,195 @@
+#include "samplerange/HeatingLaws.h"
+
+#include "samplerange/Fitting.h"
+#include "samplerange/PlainMath.h"
+
+#include <cmath>
+#include <vector>
+
+namespace
+{
+
+constexpr double Pi = 3.14159265358979323846;
+/// The rise at which current and voltage law agree.
+constexpr double AgreedRise = 20;
+/// Frequency at which the skin effect has doubled the resistance of the electrodes.
+constexpr double SkinHz = 50e6;
+constexpr double ReferenceC = 20;
+constexpr double RoomC = 25;
+/// Capacitance at which so many electrodes lie side by side that they resist half as much.
+constexpr double ManyLayersFarads = 47e-6;
+/// The voltage law keeps this common logarithm below the current law, to the safe side.
+constexpr double SafeSide = 0.0245;
+
+/// A value that changes with temperature: value·(1 + Linear·t + Square·t²), t = T - 20.
+struct TemperatureFactor
+{
+    double Linear;
+    double Square;
+
+    double At(double t) const { return 1 + t * Linear + t * t * Square; }
+};
+
+/// Of the loss in the ceramic, and of the metal of the electrodes.
+TemperatureFactor LossFactorChange(const PartDesign& part)
+{
+    if (part.Characteristic == "X7R")
+    {
+        return {-0.0070, 3.2e-5};
+    }
+    return part.Characteristic == "X5R" ? TemperatureFactor{-0.0090, 5.5e-5}
+                                        : TemperatureFactor{-0.0110, 6.5e-5};
+}
+constexpr TemperatureFactor ElectrodeChange{0.0039, 0};
+
+double HighestOperatingC(const PartDesign& part)
+{
+    return part.Characteristic == "X7R" ? 125 : 85;
+}
+
+/// ESR = CeramicOhmHz/f + ElectrodeOhms·(1 + f/SkinHz).
+struct SeriesResistance
+{
+    double CeramicOhmHz;
+    double ElectrodeOhms;
+    TemperatureFactor Ceramic;
+
+    double At(double hz, double t) const
+    {
+        return CeramicOhmHz / hz * Ceramic.At(t) + ElectrodeOhms * (1 + hz / SkinHz) * ElectrodeChange.At(t);
+    }
+};
+
+SeriesResistance SeriesResistanceOf(const PartDesign& part)
+{
+    const double farads = static_cast<double>(part.Picofarads) * 1e-12;
+    const double electrodes = part.Size->ElectrodeMilliohms / 1000 / (1 + farads / ManyLayersFarads);
+    return {LossFactor(part) / (2 * Pi * farads), electrodes, LossFactorChange(part)};
+}
+
+void WriteCurrentLaw(const SeriesResistance& resistance, double heatResistance, PartValues& data)
+{
+    const double ceramic = resistance.CeramicOhmHz * heatResistance;
+    const double electrode = resistance.ElectrodeOhms * heatResistance;
+    data[28] = ceramic;
+    data[32] = ceramic * resistance.Ceramic.Linear;
+    data[33] = ceramic * resistance.Ceramic.Square;
+    data[29] = electrode;
+    data[34] = electrode * ElectrodeChange.Linear;
+    data[35] = electrode * ElectrodeChange.Square;
+    data[30] = electrode / SkinHz;
+    data[36] = electrode / SkinHz * ElectrodeChange.Linear;
+    data[37] = electrode / SkinHz * ElectrodeChange.Square;
+    data[31] = heatResistance;
+}
+
+/// Common logarithm of the voltage of 20 °C rise at 20 °C without bias: Constant - Slope·log10(log10 f).
+struct VoltageOverFrequency
+{
+    double Constant;
+    double Slope;
+};
+
+VoltageOverFrequency FitVoltage(const PartDesign& part, const SeriesResistance& resistance)
+{
+    constexpr int steps = 40;
+    const double farads = static_cast<double>(part.Picofarads) * 1e-12;
+    std::vector<Sample> samples;
+    for (int i = 0; i <= steps; ++i)
+    {
+        const double decade = 4 + 2.0 * i / steps;
+        const double hz = PlainPower(10, decade);
+        const double amperes = std::sqrt(AgreedRise / (resistance.At(hz, 0) * part.Size->HeatResistance));
+        samples.push_back({PlainLog10(decade), PlainLog10(amperes / (2 * Pi * hz * farads))});
+    }
+    const auto line = FitSmallestDeviation(samples, 2);
+    return {line[0], -line[1]};
+}
+
+/// c[0] + c[1]·r + c[2]·r²: common logarithm of the capacitance at a fraction r of the rated voltage,
+/// relative to the one without bias.
+std::vector<double> FitBias(const PartDesign& part, const PartValues& data)
+{
+    constexpr int steps = 40;
+    std::vector<Sample> samples;
+    for (int i = 0; i <= steps; ++i)
+    {
+        const double r = static_cast<double>(i) / steps;
+        samples.push_back({r, PlainLog10(BiasedCapacitance(data, r * part.Volts))});
+    }
+    return FitSmallestDeviation(samples, 3);
+}
+
+/// Linear·t + Square·t²: common logarithm of the voltage of 20 °C rise at 100 kHz, relative to 20 °C.
+struct Warmth
+{
+    double Linear;
+    double Square;
+};
+
+/// The parabola that is right at 20 °C, at room temperature, where most charts are asked for, and at the
+/// highest operating temperature.
+Warmth WarmthOf(const PartDesign& part, const SeriesResistance& resistance)
+{
+    constexpr double hz = 1e5;
+    const auto voltage = [&](double t)
+    {
+        const double current = -PlainLog10(resistance.At(hz, t) / resistance.At(hz, 0)) / 2;
+        return current - PlainLog10(RelativeCapacitance(part, ReferenceC + t));
+    };
+    const double room = RoomC - ReferenceC;
+    const double hot = HighestOperatingC(part) - ReferenceC;
+    const double square = (voltage(hot) / hot - voltage(room) / room) / (hot - room);
+    return {voltage(room) / room - square * room, square};
+}
+
+/// The exponent of the voltage law: AtRest + r·WithBias + t·WithTemperature.
+struct Exponent
+{
+    double AtRest;
+    double WithBias;
+    double WithTemperature;
+};
+
+/// Thin layers lose more than with the square of the voltage.
+Exponent ExponentOf(const PartDesign& part)
+{
+    const double thin = Thinness(part);
+    const double base = part.Characteristic == "X7R" ? 1.97 : part.Characteristic == "X5R" ? 2.04 : 2.0;
+    return {base + 0.2 * thin, 0.05 * BiasLoss(part, 1), -0.0006};
+}
+
+} // namespace
+
+void WriteHeatingLaws(const PartDesign& part, PartValues& data)
+{
+    const auto resistance = SeriesResistanceOf(part);
+    WriteCurrentLaw(resistance, part.Size->HeatResistance, data);
+
+    // Rise = 10^E·(log10 f)^S2·V^S3 is 20 °C at log10 V = Constant - Slope·log10 log10 f - bias + warmth:
+    // S2 = S3·Slope and E = log10 20 - S3·(Constant - bias + warmth), up to squares of r and t.
+    const auto voltage = FitVoltage(part, resistance);
+    const auto bias = FitBias(part, data);
+    const auto warmth = WarmthOf(part, resistance);
+    const auto exponent = ExponentOf(part);
+
+    const double constant = voltage.Constant - bias[0] - SafeSide;
+    data[46] = PlainLog10(AgreedRise) - exponent.AtRest * constant;
+    data[45] = exponent.AtRest * bias[1] - exponent.WithBias * constant;
+    data[44] = exponent.AtRest * bias[2] + exponent.WithBias * bias[1];
+    data[43] = -exponent.AtRest * warmth.Linear - exponent.WithTemperature * constant;
+    data[42] = -exponent.WithBias * warmth.Linear + exponent.WithTemperature * bias[1];
+    data[41] = exponent.WithTemperature * bias[2];
+    data[40] = -exponent.AtRest * warmth.Square - exponent.WithTemperature * warmth.Linear;
+    data[39] = -exponent.WithBias * warmth.Square;
+
+    data[55] = exponent.AtRest * voltage.Slope;
+    data[54] = exponent.WithBias * voltage.Slope;
+    data[52] = exponent.WithTemperature * voltage.Slope;
+
+    data[64] = exponent.AtRest;
+    data[63] = exponent.WithBias;
+    data[61] = exponent.WithTemperature;
+
+    data[65] = HighestOperatingC(part);
+}

@@ -1,0 +1,126 @@
+#include "samplerange/PartRange.h"
+
+#include "partdata/SpecialParts.h"
+#include "samplerange/CapacitanceLaws.h"
+#include "samplerange/HeatingLaws.h"
+#include "samplerange/PartNumbers.h"
+#include "samplerange/SourceTable.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstdint>
+#include <stdexcept>
+#include <tuple>
+
+namespace
+{
+
+const CaseSize& SizeNamed(const std::vector<CaseSize>& sizes, std::string_view name)
+{
+    const auto found = std::ranges::find(sizes, name, &CaseSize::Eia);
+    if (found == sizes.end())
+    {
+        throw std::runtime_error("no such case size: " + std::string(name));
+    }
+    return *found;
+}
+
+std::vector<PartDesign> DesignParts(const std::vector<CaseSize>& sizes, const std::vector<Family>& families)
+{
+    std::vector<PartDesign> parts;
+    for (const Family& family : families)
+    {
+        const auto& size = SizeNamed(sizes, family.Size);
+        for (const auto picofarads : E6Capacitances(family.LowestPf, family.HighestPf))
+        {
+            parts.push_back(DesignPart(size, family, picofarads));
+        }
+    }
+    std::ranges::sort(parts, {},
+                      [](const PartDesign& part)
+                      {
+                          return std::tuple(part.Size, part.Characteristic != "X7R", part.Characteristic,
+                                            part.Picofarads, part.Volts);
+                      });
+    return parts;
+}
+
+RangePart MakePart(const PartDesign& design)
+{
+    RangePart part{.PartNum = PartNumbers(design),
+                   .SizeCode = {design.Size->Eia, design.Size->Jis},
+                   .Tcc = {design.Characteristic, JisCharacteristic(design.Characteristic)},
+                   .Data = {}};
+    PartValues data{};
+    data[0] = static_cast<double>(design.Picofarads);
+    data[1] = data[0];
+    data[2] = design.Volts;
+    WriteBiasLaw(design, data);
+    if (design.Characteristic == "Y5V" && !IsSpecialPart(part.PartNum[0]))
+    {
+        WritePeakedModel(design, data);
+    }
+    else
+    {
+        WriteTemperaturePolynomial(design, data);
+    }
+    WriteHeatingLaws(design, data);
+    if (design.Data == Measured::Power)
+    {
+        std::fill(data.begin() + 3, data.begin() + 28, 0.0);
+    }
+    if (design.Data == Measured::Capacitance)
+    {
+        std::fill(data.begin() + 28, data.end(), 0.0);
+    }
+    std::ranges::transform(data, part.Data.begin(), [](double value) { return static_cast<float>(value); });
+    return part;
+}
+
+} // namespace
+
+std::vector<RangePart> MakePartRange(std::string_view sizes, std::string_view ratings)
+{
+    const auto caseSizes = ReadSizes(sizes);
+    std::vector<RangePart> parts;
+    for (const auto& design : DesignParts(caseSizes, ReadFamilies(ratings)))
+    {
+        parts.push_back(MakePart(design));
+    }
+    return parts;
+}
+
+std::string IndexText(const std::vector<RangePart>& parts)
+{
+    std::string text;
+    const auto quote = [&text](const std::string& field, char end) { text += '"' + field + '"' + end; };
+    for (const RangePart& part : parts)
+    {
+        for (const auto& number : part.PartNum)
+        {
+            quote(number, ',');
+        }
+        quote(part.SizeCode[0], ',');
+        quote(part.SizeCode[1], ',');
+        quote(part.Tcc[0], ',');
+        quote(part.Tcc[1], '\n');
+    }
+    return text;
+}
+
+std::string DataBytes(const std::vector<RangePart>& parts)
+{
+    std::string bytes;
+    for (const RangePart& part : parts)
+    {
+        for (const float value : part.Data)
+        {
+            const auto bits = std::bit_cast<std::uint32_t>(value);
+            for (int shift = 0; shift < 32; shift += 8)
+            {
+                bytes += static_cast<char>((bits >> shift) & 0xFFU);
+            }
+        }
+    }
+    return bytes;
+}

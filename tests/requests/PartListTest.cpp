@@ -1,0 +1,99 @@
+/// Which parts a list holds, and how it is written.
+
+#include "requests/PartList.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+/// A range of three parts with every kind of data, and one without.
+struct Range
+{
+    PartTable Table;
+
+    Range()
+    {
+        Add({"AB-1", "AB-2", "OLD-1", "OLD-2"}, {"1206", "3216"}, {"X7R", "R"}, 4700000, 25, 3);
+        Add({"CD-1", "CD-2", "OLD-3", "OLD-4"}, {"0805", "2012"}, {"X5R", "B"}, 100, 6.3F, 28);
+        Add({"EF\"1", "EF,2", "OLD-5", "OLD-6"}, {"0805", "2012"}, {"X7R", "R"}, 100, 25, 3);
+        Add({"NO-1", "NO-2", "OLD-7", "OLD-8"}, {"0805", "2012"}, {"X7R", "R"}, 100, 25, 0);
+    }
+
+    void Add(std::array<std::string_view, 4> numbers, std::array<std::string_view, 2> size,
+             std::array<std::string_view, 2> tcc, float capacitance, float rated, std::size_t dataAt)
+    {
+        PartRecord part{.PartNum = numbers, .SizeCode = size, .Tcc = tcc};
+        part.Data[0] = capacitance;
+        part.Data[2] = rated;
+        if (dataAt != 0)
+        {
+            part.Data[dataAt] = 1;
+        }
+        Table.PartData.push_back(part);
+    }
+
+    /// First part numbers of what is found.
+    std::string Find(const PartFilter& filter) const
+    {
+        std::string found;
+        for (const PartRecord* part : FilterParts(Table, filter))
+        {
+            found.append(part->PartNum[0].substr(0, 2)).append(" ");
+        }
+        return found;
+    }
+};
+
+TEST(PartList, HoldsEveryPartWithData)
+{
+    EXPECT_EQ(Range().Find({}), "AB CD EF ");
+}
+
+TEST(PartList, IsNarrowedByEachFilter)
+{
+    const Range range;
+    EXPECT_EQ(range.Find({.Text = "old-3"}), "CD ");
+    EXPECT_EQ(range.Find({.Text = "ab-2"}), "AB ");
+    EXPECT_EQ(range.Find({.ChartType = 0}), "CD ");
+    EXPECT_EQ(range.Find({.ChartType = 3}), "AB EF ");
+    EXPECT_EQ(range.Find({.SizeCode = "2012"}), "CD EF ");
+    EXPECT_EQ(range.Find({.SizeCode = "1206"}), "AB ");
+    EXPECT_EQ(range.Find({.Tcc = "x7r"}), "AB EF ");
+    EXPECT_EQ(range.Find({.Tcc = "b"}), "CD ");
+    EXPECT_EQ(range.Find({.Capacitance = 100.0F}), "CD EF ");
+    EXPECT_EQ(range.Find({.RatedVoltage = 6.3F}), "CD ");
+    EXPECT_EQ(range.Find({.Tcc = "X7R", .Capacitance = 100.0F}), "EF ");
+    EXPECT_EQ(range.Find({.Tcc = "X8R"}), "");
+}
+
+TEST(PartList, IsWrittenInTheNamingAskedFor)
+{
+    const Range range;
+    const auto parts = FilterParts(range.Table, {.Text = "AB"});
+    EXPECT_EQ(
+        PartListText(parts, "table", CodeView::Jis, {.NumberingOffset = 2}),
+        "PART   SIZE  TCC  CAPACITANCE[pF]  RATED[V]  CHARTS\n"
+        "OLD-2  3216  R            4700000        25  capacitance-temperature capacitance-dc-voltage\n");
+}
+
+TEST(PartList, QuotesWhatCsvNeedsQuoted)
+{
+    const Range range;
+    const auto parts = FilterParts(range.Table, {.Text = "EF"});
+    const std::string heading = "part,size,characteristic,capacitance [pF],rated voltage [V],charts\n";
+    EXPECT_EQ(PartListText(parts, "csv", CodeView::Eia, {}),
+              heading + "\"EF\"\"1\",0805,X7R,100,25,capacitance-temperature capacitance-dc-voltage\n");
+    EXPECT_EQ(PartListText(parts, "csv", CodeView::Jis, {}),
+              heading + "\"EF,2\",2012,R,100,25,capacitance-temperature capacitance-dc-voltage\n");
+}
+
+TEST(PartList, IsAListOfObjectsInJson)
+{
+    const Range range;
+    EXPECT_EQ(
+        PartListText(FilterParts(range.Table, {.Text = "EF"}), "json", CodeView::Eia, {}),
+        "[\n{\"part\":\"EF\\\"1\",\"size\":\"0805\",\"characteristic\":\"X7R\",\"capacitance\":100,"
+        "\"ratedVoltage\":25,\"charts\":[\"capacitance-temperature\",\"capacitance-dc-voltage\"]}\n]\n");
+    EXPECT_EQ(PartListText({}, "json", CodeView::Eia, {}), "[\n]\n");
+}
+} // namespace

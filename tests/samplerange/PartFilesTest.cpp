@@ -1,0 +1,26 @@
+/// The checked-in part files are what the source table makes.
+
+#include "samplerange/PartRange.h"
+#include "tests/samplerange/Range.h"
+
+#include <gtest/gtest.h>
+
+TEST(PartFiles, AreMadeFromTheSourceTableByteForByte)
+{
+    const auto parts = MakePartRange(ReadRangeFile("sizes.csv"), ReadRangeFile("ratings.csv"));
+    EXPECT_TRUE(IndexText(parts) == ReadRangeFile("halvex.idx"));
+    EXPECT_TRUE(DataBytes(parts) == ReadRangeFile("halvex.dat"));
+}
+
+TEST(PartFiles, HoldQuotedTextsAndLittleEndianSingles)
+{
+    RangePart part{
+        .PartNum = {"G", "g2", "P", "p2"}, .SizeCode = {"0402", "1005"}, .Tcc = {"X7R", "R"}, .Data = {}};
+    part.Data[0] = 1.0F;    // 3F800000
+    part.Data[65] = 125.0F; // 42FA0000
+    EXPECT_EQ(IndexText({part}), "\"G\",\"g2\",\"P\",\"p2\",\"0402\",\"1005\",\"X7R\",\"R\"\n");
+    const auto bytes = DataBytes({part});
+    ASSERT_EQ(bytes.size(), 264U);
+    EXPECT_EQ(bytes.substr(0, 4), std::string("\x00\x00\x80\x3F", 4));
+    EXPECT_EQ(bytes.substr(260), std::string("\x00\x00\xFA\x42", 4));
+}
