@@ -1,7 +1,9 @@
 /// `tavik-cli chart`: up to six lines on one picture.
 
 #include "chart/drawing/ChartSheet.h"
+#include "cli/Command.h"
 #include "cli/Commands.h"
+#include "cli/LineOption.h"
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
 #include "cli/SheetPicture.h"

@@ -1,7 +1,11 @@
 #include "cli/Command.h"
 
+#include "partdata/RunTimeError.h"
+
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
+
+#include <filesystem>
 
 std::string ProgramFolder()
 {
@@ -20,6 +24,25 @@ std::string ProgramFolder()
 std::string PartFolder(const std::string& given)
 {
     return given.empty() ? ProgramFolder() : given;
+}
+
+PartTable LoadParts(const std::string& givenFolder)
+{
+    const auto folder = PartFolder(givenFolder);
+    std::error_code ignored;
+    if (!std::filesystem::is_directory(folder, ignored))
+    {
+        throw RunTimeError(RunTimeErrorNumber::PathNotFound).At(folder);
+    }
+    try
+    {
+        return LoadPartData(folder);
+    }
+    catch (const RunTimeError& error)
+    {
+        const bool isPattern = error.Place().starts_with('*');
+        throw isPattern ? error.At((std::filesystem::path(folder) / error.Place()).string()) : error;
+    }
 }
 
 void AddDataOption(CLI::App& command, std::string& folder)

@@ -2,6 +2,8 @@
 
 /// What the commands of the command line share: how they end, and where their parts come from.
 
+#include "partdata/PartTable.h"
+
 #include <stdexcept>
 #include <string>
 
@@ -62,6 +64,9 @@ std::string ProgramFolder();
 
 /// The folder that holds the pair of part files: the given one or, when that is empty, the program's own.
 std::string PartFolder(const std::string& given);
+
+/// The parts of the folder that `PartFolder` gives. Throws RunTimeError with file or folder.
+PartTable LoadParts(const std::string& givenFolder);
 
 /// Adds `--data FOLDER` to a command; the text is what `PartFolder` wants.
 void AddDataOption(CLI::App& command, std::string& folder);

@@ -1,12 +1,12 @@
 /// `tavik-cli curve`: one curve, or a stream of them.
 
 #include "calc/DataFile.h"
+#include "cli/Command.h"
 #include "cli/Commands.h"
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
-#include "cli/Requests.h"
+#include "cli/RequestStream.h"
 #include "formkit/Texts.h"
-#include "partdata/RunTimeError.h"
 #include "requests/CurveText.h"
 
 #include <CLI/CLI.hpp>
@@ -79,19 +79,7 @@ static void WriteOne(const CurveOptions& options)
                                                       : "curve wants --chart");
     }
     const auto parts = LoadParts(options.DataFolder);
-    std::string text;
-    try
-    {
-        text = TextOf(CurveOf(options.Request, parts, options.Settings), options);
-    }
-    catch (const Failure& failure)
-    {
-        throw Failure(options.Request.Part + ": " + failure.what());
-    }
-    catch (const RunTimeError& error)
-    {
-        throw error.At(options.Request.Part);
-    }
+    const auto text = TextOf(CurveOf(options.Request, parts, options.Settings), options);
     Output output(options.OutputFile);
     output.Write(text);
     output.Finish();

@@ -1,10 +1,12 @@
 /// `tavik-cli parts`: lists the parts of the range.
 
+#include "cli/Command.h"
 #include "cli/Commands.h"
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
 #include "requests/PartList.h"
 #include "requests/Quantity.h"
+#include "requests/RequestError.h"
 
 #include <CLI/CLI.hpp>
 
@@ -56,9 +58,9 @@ static void AddFilter(CLI::App& command, const char* name, const char* type, con
                 {
                     take(value);
                 }
-                catch (const UsageError& error)
+                catch (const RequestError& error)
                 {
-                    throw UsageError(std::string(name) + ' ' + error.what());
+                    throw UsageError(std::string(name) + ' ' + error.Message());
                 }
             },
             text)

@@ -2,7 +2,7 @@
 
 #include "cli/Command.h"
 #include "cli/Commands.h"
-#include "partdata/RunTimeError.h"
+#include "cli/RequestWords.h"
 
 #include <CLI/CLI.hpp>
 
@@ -60,6 +60,10 @@ int RunProgram(int argc, const char* const* argv)
     catch (const CommandError& error)
     {
         return End(error.Status(), error.what());
+    }
+    catch (const RequestError& error)
+    {
+        return End(StatusOf(error), WordsOf(error));
     }
     catch (const std::bad_alloc&)
     {

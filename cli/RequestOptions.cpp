@@ -1,5 +1,7 @@
 #include "cli/RequestOptions.h"
 
+#include "cli/Command.h"
+
 #include <CLI/CLI.hpp>
 
 /// An option whose text goes into a request as it stands.

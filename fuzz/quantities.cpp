@@ -1,9 +1,9 @@
 /// Values with units, as engineers type them on a command line: refused by name, or worth what they say.
 
 #include "calc/NumberText.h"
-#include "cli/Command.h"
 #include "fuzz/Require.h"
 #include "requests/Quantity.h"
+#include "requests/RequestError.h"
 
 #include <array>
 #include <cmath>
@@ -108,7 +108,6 @@ static void RequireSameValue(const Unit& unit, std::string_view typed, float val
 
 static void TryQuantity(const Unit& unit, std::string_view typed)
 {
-    // A message ends where a zero byte stands in the text.
     const auto quoted = '"' + std::string(typed) + '"';
     std::string entry;
     try
@@ -125,10 +124,10 @@ static void TryQuantity(const Unit& unit, std::string_view typed)
                     "a value reads back with a unit");
         }
     }
-    catch (const UsageError& error)
+    catch (const RequestError& error)
     {
-        Require(error.Status() == ExitStatus::Usage, "a wrong value is a wrong command line");
-        Require(std::string_view(error.what()).starts_with(quoted.c_str()), "a refusal names what was typed");
+        Require(IsMistaken(error.Kind()), "a wrong value is a mistaken request");
+        Require(std::string_view(error.Message()).starts_with(quoted), "a refusal names what was typed");
         Require(entry.empty() || !ReadEntry(entry), "a number is not refused");
     }
 }
@@ -139,10 +138,10 @@ static void TryQuantityName(std::string_view typed)
     {
         QuantityOf(typed);
     }
-    catch (const UsageError& error)
+    catch (const RequestError& error)
     {
-        const auto message = '"' + std::string(typed) + "\" is no quantity";
-        Require(std::string_view(error.what()) == message.c_str(), "a refusal names the quantity");
+        Require(error.Message() == '"' + std::string(typed) + "\" is no quantity",
+                "a refusal names the quantity");
     }
 }
 

@@ -1,6 +1,6 @@
 /// A stream of curve requests: one answer a line, a curve of finite numbers or an error that says why.
 
-#include "cli/Requests.h"
+#include "cli/RequestStream.h"
 #include "fuzz/Allocations.h"
 #include "fuzz/Require.h"
 #include "fuzz/StandardStreams.h"

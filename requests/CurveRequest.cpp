@@ -8,21 +8,21 @@
 #include "partdata/Availability.h"
 #include "partdata/RunTimeError.h"
 #include "partdata/Windows1252.h"
+#include "requests/Names.h"
 #include "requests/Quantity.h"
+#include "requests/RequestError.h"
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
-#include <span>
 
 namespace
 {
-/// Text forms of the conditions that are named in messages.
-constexpr const char* biasOption = "--dc-bias";
-constexpr const char* frequencyOption = "--frequency";
-constexpr const char* resistanceOption = "--heat-resistance";
-constexpr const char* ambientOption = "--ambient";
-constexpr const char* parameterOption = "--parameter";
+/// The keys of the conditions.
+constexpr const char* biasKey = "dcBias";
+constexpr const char* frequencyKey = "frequency";
+constexpr const char* resistanceKey = "heatResistance";
+constexpr const char* ambientKey = "ambient";
+constexpr const char* parameterKey = "parameterValue";
 
 /// Entries never depend on the user's locale: a script means the same everywhere.
 constexpr EntryLocale pointOnly{.CommaIsDecimal = false};
@@ -37,59 +37,6 @@ struct Entries
     std::string Parameter;
 };
 } // namespace
-
-/// "Apparent Power" and "apparent-power" name the same.
-static std::string Folded(std::string_view name)
-{
-    std::string folded(name);
-    for (char& c : folded)
-    {
-        c = c == '-' ? ' ' : FoldCase(c);
-    }
-    return folded;
-}
-
-static std::string ListOf(std::span<const std::string_view> names)
-{
-    std::string list;
-    for (const auto name : names)
-    {
-        list.append(list.empty() ? "" : ", ").append(name);
-    }
-    return list;
-}
-
-/// The name in the list that is meant. Throws UsageError that tells what and lists the names.
-static std::size_t IndexOf(std::string_view name, std::span<const std::string_view> names,
-                           const std::string& what)
-{
-    const auto folded = Folded(name);
-    const auto found = std::ranges::find_if(names, [&](auto known) { return Folded(known) == folded; });
-    if (found == names.end())
-    {
-        throw UsageError(what + " \"" + std::string(name) + "\" is none of: " + ListOf(names));
-    }
-    return static_cast<std::size_t>(found - names.begin());
-}
-
-PartTable LoadParts(const std::string& givenFolder)
-{
-    const auto folder = PartFolder(givenFolder);
-    std::error_code ignored;
-    if (!std::filesystem::is_directory(folder, ignored))
-    {
-        throw RunTimeError(RunTimeErrorNumber::PathNotFound).At(folder);
-    }
-    try
-    {
-        return LoadPartData(folder);
-    }
-    catch (const RunTimeError& error)
-    {
-        const bool isPattern = error.Place().starts_with('*');
-        throw isPattern ? error.At((std::filesystem::path(folder) / error.Place()).string()) : error;
-    }
-}
 
 std::size_t FindPart(const PartTable& parts, std::string_view partNum, std::size_t shownForm)
 {
@@ -108,7 +55,8 @@ std::size_t FindPart(const PartTable& parts, std::string_view partNum, std::size
             }
         }
     }
-    throw RefusedRequest("", "there is no part \"" + std::string(partNum) + "\"");
+    throw RequestError(RequestErrorKind::UnknownPart, "part",
+                       "there is no part \"" + std::string(partNum) + "\"");
 }
 
 std::string ShownPartNum(const PartRecord& part, CodeView code, const CurveSettings& settings)
@@ -118,65 +66,63 @@ std::string ShownPartNum(const PartRecord& part, CodeView code, const CurveSetti
 
 std::int16_t ChartTypeOf(std::string_view commandName)
 {
-    return static_cast<std::int16_t>(IndexOf(commandName, ChartCommandNames, "chart"));
+    return static_cast<std::int16_t>(IndexOfName(commandName, ChartCommandNames, "chart", "chart"));
 }
 
 CodeView CodeViewOf(std::string_view name)
 {
     static constexpr std::array<std::string_view, 2> codes = {"eia", "jis"};
-    return static_cast<CodeView>(IndexOf(name, codes, "code"));
+    return static_cast<CodeView>(IndexOfName(name, codes, "code", "code"));
 }
 
 std::size_t NumberingOffsetOf(std::string_view name)
 {
     static constexpr std::array<std::string_view, 2> numberings = {"global", "previous"};
-    return 2 * IndexOf(name, numberings, "numbering");
+    return 2 * IndexOfName(name, numberings, "numbering", "numbering");
 }
 
-static std::string EntryFor(const std::optional<std::string>& typed, Quantity quantity,
-                            const std::string& option)
+static std::string EntryFor(const std::optional<std::string>& typed, Quantity quantity, const char* key)
 {
-    try
-    {
-        return typed ? EntryInUnit(*typed, quantity) : std::string();
-    }
-    catch (const UsageError& error)
-    {
-        throw UsageError(option + " " + error.what());
-    }
+    return typed ? EntryInUnit(*typed, quantity, key) : std::string();
 }
 
 static Entries EntriesOf(const CurveRequest& request, const PartRecord& part, const std::string& parameter)
 {
     Entries entries;
-    entries.DCBias = EntryFor(request.DCBias, Quantity::Voltage, biasOption);
-    entries.Frequency = EntryFor(request.Frequency, Quantity::Frequency, frequencyOption);
-    entries.HeatResistance =
-        request.HeatResistance ? EntryFor(request.HeatResistance, Quantity::HeatResistance, resistanceOption)
-                               : NumberText(part.Data[31]);
-    entries.Ambient = request.Ambient ? EntryFor(request.Ambient, Quantity::Temperature, ambientOption)
+    entries.DCBias = EntryFor(request.DCBias, Quantity::Voltage, biasKey);
+    entries.Frequency = EntryFor(request.Frequency, Quantity::Frequency, frequencyKey);
+    entries.HeatResistance = request.HeatResistance
+                                 ? EntryFor(request.HeatResistance, Quantity::HeatResistance, resistanceKey)
+                                 : NumberText(part.Data[31]);
+    entries.Ambient = request.Ambient ? EntryFor(request.Ambient, Quantity::Temperature, ambientKey)
                                       : (request.Code == CodeView::Eia ? "25" : "20");
-    entries.Parameter = EntryFor(request.ParameterValue, QuantityOf(parameter), parameterOption);
+    entries.Parameter = EntryFor(request.ParameterValue, QuantityOf(parameter), parameterKey);
     return entries;
 }
 
-static void Judge(const Refusal& refusal, const char* option, const std::string& entry)
+/// The words of a rule, which the form shows on two lines.
+static std::string OnOneLine(std::string words)
+{
+    std::erase(words, '\r');
+    std::ranges::replace(words, '\n', ' ');
+    return words;
+}
+
+static void Judge(const Refusal& refusal, const char* key, const std::string& entry)
 {
     if (refusal)
     {
-        const std::string where =
-            entry.empty() ? std::string(option) + " is not given" : option + (' ' + entry);
-        throw RefusedRequest(where, *refusal);
+        throw RequestError(RequestErrorKind::Condition, key, OnOneLine(*refusal)).Of(entry);
     }
 }
 
 /// A number that no rule has judged.
-static float PlainValue(const std::string& entry, const char* option)
+static float PlainValue(const std::string& entry, const char* key)
 {
     const auto value = ReadEntry(entry.empty() ? "0" : entry);
     if (!value)
     {
-        throw RefusedRequest(option + (' ' + entry), "is not a number");
+        throw RequestError(RequestErrorKind::Condition, key, "is not a number").Of(entry);
     }
     return *value;
 }
@@ -192,41 +138,40 @@ static void JudgeConditions(ChartRecord& line, const Entries& entries, const Par
     const auto type = line.ChartType;
     if (type <= 2)
     {
-        Judge(RefuseDCBiasVol(entries.DCBias, part, type, pointOnly), biasOption, entries.DCBias);
-        line.DCBiasVoltage = PlainValue(entries.DCBias, biasOption);
+        Judge(RefuseDCBiasVol(entries.DCBias, part, type, pointOnly), biasKey, entries.DCBias);
+        line.DCBiasVoltage = PlainValue(entries.DCBias, biasKey);
     }
     if (type <= 1)
     {
-        Judge(RefuseHeatResistance(entries.HeatResistance, pointOnly), resistanceOption,
-              entries.HeatResistance);
-        line.HeatResistance = PlainValue(entries.HeatResistance, resistanceOption);
+        Judge(RefuseHeatResistance(entries.HeatResistance, pointOnly), resistanceKey, entries.HeatResistance);
+        line.HeatResistance = PlainValue(entries.HeatResistance, resistanceKey);
     }
     if (type != 2)
     {
         Judge(type == 3 ? RefuseAmbientTemp2(entries.Ambient, part, code, pointOnly)
                         : RefuseAmbientTemp1(entries.Ambient, part, pointOnly),
-              ambientOption, entries.Ambient);
-        line.AmbientTemp = PlainValue(entries.Ambient, ambientOption);
+              ambientKey, entries.Ambient);
+        line.AmbientTemp = PlainValue(entries.Ambient, ambientKey);
     }
     if (IsFrequencySweep(line))
     {
-        Judge(RefuseParameter(entries.Parameter, pointOnly), parameterOption, entries.Parameter);
-        line.ParameterValue = PlainValue(entries.Parameter, parameterOption);
+        Judge(RefuseParameter(entries.Parameter, pointOnly), parameterKey, entries.Parameter);
+        line.ParameterValue = PlainValue(entries.Parameter, parameterKey);
     }
     else if (type == 0)
     {
-        Judge(RefuseFrequency(entries.Frequency, pointOnly), frequencyOption, entries.Frequency);
-        line.Frequency = PlainValue(entries.Frequency, frequencyOption);
+        Judge(RefuseFrequency(entries.Frequency, pointOnly), frequencyKey, entries.Frequency);
+        line.Frequency = PlainValue(entries.Frequency, frequencyKey);
     }
 }
 
 static void TakeConditions(ChartRecord& line, const Entries& entries)
 {
-    line.DCBiasVoltage = PlainValue(entries.DCBias, biasOption);
-    line.HeatResistance = PlainValue(entries.HeatResistance, resistanceOption);
-    line.Frequency = PlainValue(entries.Frequency, frequencyOption);
-    line.AmbientTemp = PlainValue(entries.Ambient, ambientOption);
-    line.ParameterValue = PlainValue(entries.Parameter, parameterOption);
+    line.DCBiasVoltage = PlainValue(entries.DCBias, biasKey);
+    line.HeatResistance = PlainValue(entries.HeatResistance, resistanceKey);
+    line.Frequency = PlainValue(entries.Frequency, frequencyKey);
+    line.AmbientTemp = PlainValue(entries.Ambient, ambientKey);
+    line.ParameterValue = PlainValue(entries.Parameter, parameterKey);
 }
 
 static void Calculate(const PartRecord& part, ChartRecord& line, CodeView code, const std::string& parameter)
@@ -238,20 +183,25 @@ static void Calculate(const PartRecord& part, ChartRecord& line, CodeView code, 
     }
     if (const auto refusal = CalculateDataT(part, line))
     {
-        throw RefusedRequest(parameterOption + (' ' + parameter), refusal->Message, refusal->Limit);
+        throw RequestError(RequestErrorKind::Condition, parameterKey, OnOneLine(refusal->Message))
+            .Of(parameter)
+            .Within(refusal->Limit);
     }
 }
 
-RequestedCurve CurveOf(const CurveRequest& request, const PartTable& parts, const CurveSettings& settings)
+/// As `CurveOf`, but that errors do not tell the part.
+static RequestedCurve CurveOfPart(const CurveRequest& request, const PartTable& parts,
+                                  const CurveSettings& settings)
 {
     RequestedCurve curve{.Part = nullptr, .Code = request.Code, .Line = {}};
     ChartRecord& line = curve.Line;
     line.ChartType = ChartTypeOf(request.Chart);
     const auto axes = AxisListsOf(line.ChartType);
-    line.XAxisName = axes.XAxes[request.X ? IndexOf(*request.X, axes.XAxes, "X axis") : 0];
-    line.YAxisName = axes.YAxes[request.Y ? IndexOf(*request.Y, axes.YAxes, "Y axis") : 0];
-    line.ParameterName =
-        ParameterNames[request.Parameter ? IndexOf(*request.Parameter, ParameterNames, "parameter") : 0];
+    line.XAxisName = axes.XAxes[request.X ? IndexOfName(*request.X, axes.XAxes, "X axis", "x") : 0];
+    line.YAxisName = axes.YAxes[request.Y ? IndexOfName(*request.Y, axes.YAxes, "Y axis", "y") : 0];
+    line.ParameterName = ParameterNames[request.Parameter ? IndexOfName(*request.Parameter, ParameterNames,
+                                                                        "parameter", "parameter")
+                                                          : 0];
 
     const auto shownForm = static_cast<std::size_t>(request.Code) + settings.NumberingOffset;
     const auto index = FindPart(parts, request.Part, shownForm);
@@ -265,9 +215,9 @@ RequestedCurve CurveOf(const CurveRequest& request, const PartTable& parts, cons
     }
     else if (!IsAvailable(*curve.Part, line.ChartType))
     {
-        throw RefusedRequest("",
-                             "has no data for chart " +
-                                 std::string(ChartCommandNames[static_cast<std::size_t>(line.ChartType)]));
+        throw RequestError(RequestErrorKind::NoData, "chart",
+                           "has no data for chart " +
+                               std::string(ChartCommandNames[static_cast<std::size_t>(line.ChartType)]));
     }
     else
     {
@@ -275,4 +225,20 @@ RequestedCurve CurveOf(const CurveRequest& request, const PartTable& parts, cons
     }
     Calculate(*curve.Part, line, request.Code, entries.Parameter);
     return curve;
+}
+
+RequestedCurve CurveOf(const CurveRequest& request, const PartTable& parts, const CurveSettings& settings)
+{
+    try
+    {
+        return CurveOfPart(request, parts, settings);
+    }
+    catch (const RequestError& error)
+    {
+        throw error.OfPart(request.Part);
+    }
+    catch (const RunTimeError& error)
+    {
+        throw error.At(request.Part);
+    }
 }

@@ -3,9 +3,9 @@
 /// One curve that is asked for by name, and how it is judged and computed.
 
 #include "calc/ChartRecord.h"
-#include "cli/Command.h"
 #include "partdata/PartTable.h"
 
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -37,6 +37,21 @@ struct CurveRequest
     CodeView Code = CodeView::Eia;
 };
 
+/// One text of a request by its key.
+struct RequestField
+{
+    std::string_view Key;
+    std::optional<std::string> CurveRequest::*Text;
+};
+
+/// The conditions by the keys that requests and answers call them.
+inline constexpr std::array<RequestField, 4> ConditionFields = {{
+    {"dcBias", &CurveRequest::DCBias},
+    {"frequency", &CurveRequest::Frequency},
+    {"heatResistance", &CurveRequest::HeatResistance},
+    {"ambient", &CurveRequest::Ambient},
+}};
+
 /// How requests are answered.
 struct CurveSettings
 {
@@ -47,27 +62,6 @@ struct CurveSettings
     std::size_t NumberingOffset = 0;
 };
 
-/// Why a request has no curve.
-class RefusedRequest : public Failure
-{
-public:
-    /// @param where the option and value that are refused, or empty
-    /// @param message what is wrong with it, as the form says it
-    RefusedRequest(const std::string& where, const std::string& message, std::optional<double> limit = {})
-        : Failure(where.empty() ? message : where + ": " + message)
-        , message(message)
-        , limit(limit)
-    {
-    }
-    const std::string& Message() const { return message; }
-    /// Of a parameter that is too large: the largest permitted one.
-    std::optional<double> Limit() const { return limit; }
-
-private:
-    std::string message;
-    std::optional<double> limit;
-};
-
 /// The answer: a line with its points and limits.
 struct RequestedCurve
 {
@@ -76,28 +70,26 @@ struct RequestedCurve
     ChartRecord Line;
 };
 
-/// The parts of the folder that `PartFolder` gives. Throws RunTimeError with file or folder.
-PartTable LoadParts(const std::string& givenFolder);
-
 /// The index of a part whose number in any form is `partNum`, in UTF-8. Where several parts are meant, letter
-/// case decides, then the form on display. Throws RefusedRequest when there is none.
+/// case decides, then the form on display. Throws RequestError when there is none.
 std::size_t FindPart(const PartTable& parts, std::string_view partNum, std::size_t shownForm);
 
 /// The number of a part in the form on display, in UTF-8.
 std::string ShownPartNum(const PartRecord& part, CodeView code, const CurveSettings& settings);
 
-/// The chart type of a command's name. Throws UsageError that lists the names.
+/// The chart type of a command's name. Throws RequestError that lists the names.
 std::int16_t ChartTypeOf(std::string_view commandName);
 
-/// The code of "eia" or "jis". Throws UsageError.
+/// The code of "eia" or "jis". Throws RequestError that lists the names.
 CodeView CodeViewOf(std::string_view name);
 
-/// 0 for "global", 2 for "previous". Throws UsageError.
+/// 0 for "global", 2 for "previous". Throws RequestError that lists the names.
 std::size_t NumberingOffsetOf(std::string_view name);
 
 /// The curve of a request. Conditions are judged as the form judges its boxes, in its order; those that the
 /// chart type does not use are 0.
 ///
-/// Throws UsageError for a name or unit that does not fit, RefusedRequest for an unknown part, a part without
-/// data for the chart type and for a refused condition, RunTimeError from the calculation.
+/// Throws RequestError for a name or unit that does not fit, an unknown part, a part without data for the
+/// chart type and for a refused condition, and RunTimeError from the calculation; each with the part asked
+/// for.
 RequestedCurve CurveOf(const CurveRequest& request, const PartTable& parts, const CurveSettings& settings);

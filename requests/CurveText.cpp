@@ -4,10 +4,10 @@
 #include "calc/ConditionLines.h"
 #include "calc/NumberText.h"
 #include "calc/Units.h"
+#include "requests/Names.h"
 
 #include <nlohmann/json.hpp>
 
-#include <algorithm>
 #include <charconv>
 
 /// "Arms" of the axis text "Current"; an X of frequency is stored in Hz.
@@ -69,15 +69,6 @@ static void AddText(std::string& text, const char* key, std::string_view value)
     AppendText(text, value);
 }
 
-/// "effective-power" of "Effective Power".
-static std::string RequestName(std::string name)
-{
-    std::ranges::transform(name, name.begin(),
-                           [](unsigned char c)
-                           { return c == ' ' ? '-' : static_cast<char>(std::tolower(c)); });
-    return name;
-}
-
 static void AddConditions(std::string& text, const ChartRecord& line)
 {
     AppendKey(text, "conditions");
@@ -102,7 +93,7 @@ static void AddConditions(std::string& text, const ChartRecord& line)
         }
         else
         {
-            AddText(text, "parameter", RequestName(line.ParameterName));
+            AddText(text, "parameter", RequestNameOf(line.ParameterName));
             AddNumber(text, "parameterValue", line.ParameterValue);
         }
     }

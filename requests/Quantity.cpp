@@ -1,7 +1,8 @@
 #include "requests/Quantity.h"
 
 #include "calc/NumberText.h"
-#include "cli/Command.h"
+#include "requests/Names.h"
+#include "requests/RequestError.h"
 
 #include <algorithm>
 #include <array>
@@ -62,14 +63,9 @@ static bool IsDigit(char c)
     return c >= '0' && c <= '9';
 }
 
-static char Lower(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 static bool EqualUnits(std::string_view a, std::string_view b)
 {
-    return std::ranges::equal(a, b, {}, Lower, Lower);
+    return std::ranges::equal(a, b, {}, LowerCase, LowerCase);
 }
 
 static std::string_view WithoutBlanks(std::string_view text)
@@ -102,7 +98,7 @@ static std::size_t MantissaLength(std::string_view text)
 /// Length of "E-12" at the beginning; 0 when there is no exponent.
 static std::size_t ExponentLength(std::string_view text)
 {
-    if (text.empty() || Lower(text[0]) != 'e')
+    if (text.empty() || LowerCase(text[0]) != 'e')
     {
         return 0;
     }
@@ -143,7 +139,7 @@ static std::optional<int> ShiftOf(std::string_view unit, const UnitFamily& famil
     return std::nullopt;
 }
 
-std::string EntryInUnit(std::string_view typed, Quantity quantity)
+std::string EntryInUnit(std::string_view typed, Quantity quantity, std::string_view key)
 {
     const auto text = WithoutBlanks(typed);
     const auto mantissa = MantissaLength(text);
@@ -159,8 +155,9 @@ std::string EntryInUnit(std::string_view typed, Quantity quantity)
     const auto shift = ShiftOf(unit, family);
     if (!shift)
     {
-        throw UsageError('"' + std::string(typed) + "\": \"" + std::string(unit) + "\" is not the unit of " +
-                         std::string(family.Name));
+        throw RequestError(RequestErrorKind::Unit, std::string(key),
+                           '"' + std::string(typed) + "\": \"" + std::string(unit) +
+                               "\" is not the unit of " + std::string(family.Name));
     }
     const auto number = text.substr(0, mantissa + exponent);
     if (*shift == 0)
@@ -171,12 +168,13 @@ std::string EntryInUnit(std::string_view typed, Quantity quantity)
     return std::string(text.substr(0, mantissa)) + 'E' + std::to_string(shifted);
 }
 
-float ValueInUnit(std::string_view typed, Quantity quantity)
+float ValueInUnit(std::string_view typed, Quantity quantity, std::string_view key)
 {
-    const auto value = ReadEntry(EntryInUnit(typed, quantity));
+    const auto value = ReadEntry(EntryInUnit(typed, quantity, key));
     if (!value)
     {
-        throw UsageError('"' + std::string(typed) + "\" is not a number");
+        throw RequestError(RequestErrorKind::NotANumber, std::string(key),
+                           '"' + std::string(typed) + "\" is not a number");
     }
     return *value;
 }
@@ -203,7 +201,7 @@ Quantity QuantityOf(std::string_view name)
     const auto found = std::ranges::find(names, name, &Named::Name);
     if (found == names.end())
     {
-        throw UsageError('"' + std::string(name) + "\" is no quantity");
+        throw RequestError(RequestErrorKind::UnknownValue, "", '"' + std::string(name) + "\" is no quantity");
     }
     return found->Measures;
 }

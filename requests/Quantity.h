@@ -28,11 +28,13 @@ enum class Quantity
 ///     EntryInUnit("0.3MHz", Quantity::Frequency)     // "0.3E3", that is 300 kHz
 ///     EntryInUnit("4.7uF", Quantity::Capacitance)    // "4.7E6"
 ///
-/// Throws UsageError for a unit that does not fit: "12V" has no unit of frequency.
-std::string EntryInUnit(std::string_view typed, Quantity quantity);
+/// Throws RequestError that bears the key for a unit that does not fit: "12V" has no unit of frequency.
+std::string EntryInUnit(std::string_view typed, Quantity quantity, std::string_view key = {});
 
-/// The value as a number. Throws UsageError for a unit that does not fit and for a text that is no number.
-float ValueInUnit(std::string_view typed, Quantity quantity);
+/// The value as a number. Throws RequestError that bears the key for a unit that does not fit and for a text
+/// that is no number.
+float ValueInUnit(std::string_view typed, Quantity quantity, std::string_view key = {});
 
 /// What an axis or parameter measures, by the name that the form shows: "Apparent Power", "Temperature Rise".
+/// Throws RequestError for any other name.
 Quantity QuantityOf(std::string_view name);

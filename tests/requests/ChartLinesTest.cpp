@@ -1,6 +1,8 @@
-/// Lines and ranges of a chart that is asked for on a command line.
+/// Lines and ranges of a chart that is asked for.
 
 #include "requests/ChartLines.h"
+
+#include "requests/RequestError.h"
 
 #include <gtest/gtest.h>
 
@@ -19,40 +21,18 @@ CurveRequest AtBias(const std::string& volts)
     return {.Part = medium, .Chart = "capacitance-temperature", .DCBias = volts};
 }
 
-/// The message of a failure.
-template <class Step> std::string FailureOf(Step step)
+/// What a step is refused with.
+template <class Step> std::string RefusalOf(Step step)
 {
     try
     {
         step();
     }
-    catch (const CommandError& error)
+    catch (const RequestError& error)
     {
-        return error.what();
+        return error.Key() + ": " + error.Message();
     }
-    return "no failure";
-}
-
-TEST(ChartLine, OverridesCommonConditions)
-{
-    const CurveRequest common{
-        .Part = {}, .Chart = "temperature-rise", .DCBias = "5V", .Frequency = "100", .Ambient = "40"};
-    const auto request = RequestOfLine("  ABC  dc-bias=12V heat-resistance=50 effective-power=0.1W", common);
-    EXPECT_EQ(request.Part, "ABC");
-    EXPECT_EQ(request.Chart, "temperature-rise");
-    EXPECT_EQ(request.DCBias, "12V");
-    EXPECT_EQ(request.Frequency, "100");
-    EXPECT_EQ(request.HeatResistance, "50");
-    EXPECT_EQ(request.Ambient, "40");
-    EXPECT_EQ(request.Parameter, "effective-power");
-    EXPECT_EQ(request.ParameterValue, "0.1W");
-}
-
-TEST(ChartLine, RefusesWhatIsNoCondition)
-{
-    EXPECT_THROW(RequestOfLine("", {}), UsageError);
-    EXPECT_THROW(RequestOfLine("ABC bias=5", {}), UsageError);
-    EXPECT_THROW(RequestOfLine("ABC 5V", {}), UsageError);
+    return "not refused";
 }
 
 TEST(ChartLines, AreAtMostSixDifferentOnes)
@@ -64,11 +44,10 @@ TEST(ChartLines, AreAtMostSixDifferentOnes)
     }
     EXPECT_EQ(CurvesOf(requests, Parts(), {}).size(), 6U);
     requests.push_back(AtBias("6"));
-    EXPECT_EQ(FailureOf([&] { CurvesOf(requests, Parts(), {}); }),
-              std::string(medium) + ": Maximum Numbers of this Chart Type open!");
+    EXPECT_EQ(RefusalOf([&] { CurvesOf(requests, Parts(), {}); }),
+              "part: Maximum Numbers of this Chart Type open!");
     requests.back() = AtBias("3V");
-    EXPECT_EQ(FailureOf([&] { CurvesOf(requests, Parts(), {}); }),
-              std::string(medium) + ": This Chart is already opened!");
+    EXPECT_EQ(RefusalOf([&] { CurvesOf(requests, Parts(), {}); }), "part: This Chart is already opened!");
 }
 
 std::vector<ChartRecord> OneLine()
@@ -100,13 +79,25 @@ TEST(ChartRange, IsJudgedAsTheDialogDoes)
 {
     // An X5R part's default is -75 to 100: one span of 175 further on either side.
     const auto lines = OneLine();
-    const std::string refusal = "Set X Range of Temperature from -250 to 275 [C]";
-    EXPECT_EQ(FailureOf([&] { ViewOf(lines, {.XFrom = "-250", .XTo = "275"}); }), "no failure");
-    EXPECT_EQ(FailureOf([&] { ViewOf(lines, {.XFrom = "-250.1"}); }), refusal);
-    EXPECT_EQ(FailureOf([&] { ViewOf(lines, {.XTo = "275.1"}); }), refusal);
-    EXPECT_EQ(FailureOf([&] { ViewOf(lines, {.XFrom = "20", .XTo = "20"}); }), refusal);
-    EXPECT_THROW(ViewOf(lines, {.XFrom = "20V"}), UsageError);
-    EXPECT_THROW(ViewOf(lines, {.XFrom = "warm"}), UsageError);
+    const std::string refusal = "xFrom: Set X Range of Temperature from -250 to 275 [C]";
+    EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.XFrom = "-250", .XTo = "275"}); }), "not refused");
+    EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.XFrom = "-250.1"}); }), refusal);
+    EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.XTo = "275.1"}); }), refusal);
+    EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.XFrom = "20", .XTo = "20"}); }), refusal);
+    // Its capacitance stands between 7 and 9 µF.
+    EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.YTo = "11.1uF"}); }),
+              "yFrom: Set Y Range of Capacitance from 5000000 to 11000000 [pF]");
+}
+
+TEST(ChartRange, TellsTheEndThatIsNoValue)
+{
+    const auto lines = OneLine();
+    EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.XFrom = "20V"}); }),
+              "xFrom: \"20V\": \"V\" is not the unit of a temperature");
+    EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.XTo = "warm"}); }), "xTo: \"warm\" is not a number");
+    EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.YFrom = "20V"}); }),
+              "yFrom: \"20V\": \"V\" is not the unit of a capacitance");
+    EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.YTo = "much"}); }), "yTo: \"much\" is not a number");
 }
 
 TEST(ChartRange, TakesFrequenciesInKilohertz)
@@ -116,7 +107,7 @@ TEST(ChartRange, TakesFrequenciesInKilohertz)
     const auto view = ViewOf(lines, {.XFrom = "100", .XTo = "0.5MHz"});
     EXPECT_EQ(view.Range.XMin, 1e5F);
     EXPECT_EQ(view.Range.XMax, 5e5F);
-    EXPECT_EQ(FailureOf([&] { ViewOf(lines, {.XFrom = "9"}); }),
-              "Set X Range of Frequency from 10 to 1000 [kHz]");
+    EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.XFrom = "9"}); }),
+              "xFrom: Set X Range of Frequency from 10 to 1000 [kHz]");
 }
 } // namespace

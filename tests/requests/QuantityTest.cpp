@@ -2,7 +2,7 @@
 
 #include "requests/Quantity.h"
 
-#include "cli/Command.h"
+#include "requests/RequestError.h"
 
 #include <gtest/gtest.h>
 
@@ -72,7 +72,7 @@ class ForeignUnits : public testing::TestWithParam<Row>
 
 TEST_P(ForeignUnits, AreRefused)
 {
-    EXPECT_THROW(EntryInUnit(GetParam().typed, GetParam().quantity), UsageError);
+    EXPECT_THROW(EntryInUnit(GetParam().typed, GetParam().quantity), RequestError);
 }
 
 INSTANTIATE_TEST_SUITE_P(Values, ForeignUnits,
@@ -93,7 +93,7 @@ TEST(Quantities, LeaveWhatIsNoNumberToTheRules)
     for (const char* typed : {"", "five", "V", "1,5", "1.5.2", "--3", "1-2", "nan", "inf"})
     {
         EXPECT_EQ(EntryInUnit(typed, Quantity::Voltage), typed);
-        EXPECT_THROW(ValueInUnit(typed, Quantity::Voltage), UsageError) << typed;
+        EXPECT_THROW(ValueInUnit(typed, Quantity::Voltage), RequestError) << typed;
     }
 }
 

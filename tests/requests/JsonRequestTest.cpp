@@ -1,6 +1,7 @@
-/// Requests and their answers.
+/// Requests as JSON, and their answers.
 
-#include "cli/Requests.h"
+#include "requests/JsonRequest.h"
+
 #include "calc/Calculate.h"
 #include "requests/CurveText.h"
 
@@ -105,15 +106,15 @@ TEST(Requests, FindAPartByAnyOfItsNumbers)
     }
 }
 
-TEST(Requests, AreRefusedWithTheFormsWords)
+TEST(Requests, AreRefusedWithTheFormsWordsOnOneLine)
 {
     EXPECT_EQ(
         Message(R"({"part":"KTS31NB51E106MA01","chart":"temperature-rise","dcBias":26,"frequency":300})"),
-        "DC Bias Voltage is invalid!\r\nPlease enter a Number from 0 to 25[V]");
+        "DC Bias Voltage is invalid! Please enter a Number from 0 to 25[V]");
     EXPECT_EQ(Message(R"({"part":"KTS31NB51E106MA01","chart":"temperature-rise","dcBias":26})"),
-              "DC Bias Voltage is invalid!\r\nPlease enter a Number from 0 to 25[V]");
+              "DC Bias Voltage is invalid! Please enter a Number from 0 to 25[V]");
     EXPECT_EQ(Message(R"({"part":"KTS31NB51E106MA01","chart":"allowable-power","dcBias":25})"),
-              "DC Bias Voltage is invalid!\r\nPlease enter a Number from 0 under 25[V]");
+              "DC Bias Voltage is invalid! Please enter a Number from 0 under 25[V]");
 }
 
 TEST(Requests, TellTheLimitOfARefusedParameter)
@@ -123,7 +124,7 @@ TEST(Requests, TellTheLimitOfARefusedParameter)
     const auto error = Answer(begin + "99}", false).at("error");
     // 80 degrees through the part's own 105 °C/W.
     EXPECT_NEAR(error.at("limit"), 80.0 / 105.0, 1e-12);
-    EXPECT_EQ(error.at("message"), "Parameter is invalid!\r\nPlease enter a Number from 0 to 0.7619");
+    EXPECT_EQ(error.at("message"), "Parameter is invalid! Please enter a Number from 0 to 0.7619");
     Answer(begin + "0.7619}");
 }
 
@@ -145,29 +146,36 @@ class BadLines : public testing::TestWithParam<BadLine>
 
 TEST_P(BadLines, TellWhatIsWrong)
 {
-    EXPECT_NE(Message(GetParam().line).find(GetParam().message), std::string::npos)
-        << Message(GetParam().line);
+    EXPECT_EQ(Message(GetParam().line), GetParam().message);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Lines, BadLines,
     testing::Values(
-        BadLine{"no JSON", "part", "not a JSON object"},
-        BadLine{"cut JSON", R"({"part":"KTS31)", "not a JSON object"},
-        BadLine{"a list", "[1]", "not a JSON object"},
+        BadLine{"no JSON", "part", "the line is not a JSON object"},
+        BadLine{"cut JSON", R"({"part":"KTS31)", "the line is not a JSON object"},
+        BadLine{"a list", "[1]", "the line is not a JSON object"},
         BadLine{"no part", R"({"chart":"allowable-power"})", "\"part\" is missing"},
         BadLine{"no chart", R"({"part":"A"})", "\"chart\" is missing"},
         BadLine{"unknown key", R"({"part":"A","bias":1})", "no request has a key \"bias\""},
         BadLine{"a list as value", R"({"part":["A"]})", "\"part\" is neither a text nor a number"},
         BadLine{"unknown part", R"({"part":"A","chart":"allowable-power"})", "there is no part \"A\""},
         BadLine{"unknown chart", R"({"part":"A","chart":"power"})",
-                "chart \"power\" is none of: temperature"},
+                "chart \"power\" is none of: temperature-rise, allowable-power, capacitance-temperature, "
+                "capacitance-dc-voltage"},
         BadLine{"foreign axis", R"({"part":"A","chart":"allowable-power","y":"Capacitance"})",
                 "Y axis \"Capacitance\" is none of: Current, Voltage, Apparent Power, Effective Power"},
         BadLine{"unknown code", R"({"part":"A","code":"din"})", "code \"din\" is none of: eia, jis"},
-        BadLine{"text of no encoding", "{\"part\":\"\xFF\"}", "not a JSON object"},
+        BadLine{"text of no encoding", "{\"part\":\"\xFF\"}", "the line is not a JSON object"},
         BadLine{"foreign unit", R"({"part":"KTS31NB51E106MA01","chart":"allowable-power","dcBias":"5A"})",
-                "--dc-bias \"5A\": \"A\" is not the unit of a voltage"}));
+                "\"dcBias\" \"5A\": \"A\" is not the unit of a voltage"},
+        BadLine{
+            "foreign unit of the parameter",
+            R"({"part":"KTS31NB51E106MA01","chart":"temperature-rise","x":"Frequency","parameterValue":"5kHz"})",
+            "\"parameterValue\" \"5kHz\": \"kHz\" is not the unit of a current"},
+        BadLine{"no data",
+                R"({"part":"KTU033R71E101KA01","chart":"temperature-rise","dcBias":0,"frequency":300})",
+                "has no data for chart temperature-rise"}));
 
 TEST(CurveCsv, HasConditionsHeadingAndAllPoints)
 {

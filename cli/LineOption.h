@@ -1,0 +1,15 @@
+#pragma once
+
+/// The option --line: a line of a chart with conditions of its own.
+
+#include "requests/CurveRequest.h"
+
+#include <string>
+
+/// The request of "PART NAME=VALUE ...", words between blanks: the names are dc-bias, frequency,
+/// heat-resistance, ambient and the four parameters. What is not named is as in `defaults`.
+///
+///     RequestOfLine("KTS31NB51E106MA01 dc-bias=12V frequency=300kHz", common)
+///
+/// Throws UsageError for a name that no condition bears.
+CurveRequest RequestOfLine(const std::string& line, const CurveRequest& defaults);

@@ -1,0 +1,22 @@
+#pragma once
+
+/// Requests in the words of the command line.
+
+#include "cli/Command.h"
+#include "requests/RequestError.h"
+
+#include <string>
+#include <string_view>
+
+/// What options call a key of requests: "dc-bias" of "dcBias".
+std::string OptionNameOf(std::string_view key);
+
+/// What is wrong, with the option and the entry that it lies in, and with the part where the request itself
+/// makes sense:
+///
+///     KTS31NB51E106MA01: --dc-bias 26: DC Bias Voltage is invalid! Please enter a Number from 0 to 25[V]
+///     --dc-bias "5A": "A" is not the unit of a voltage
+std::string WordsOf(const RequestError& error);
+
+/// A request that makes no sense is a wrong command line.
+ExitStatus StatusOf(const RequestError& error);

@@ -1,0 +1,35 @@
+#pragma once
+
+/// Names as requests spell them, and lists of names in messages.
+
+#include <cstddef>
+#include <span>
+#include <string>
+#include <string_view>
+
+/// Lower case of an ASCII letter; any other character as it is.
+constexpr char LowerCase(char c)
+{
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+/// What requests call a name of the form: "effective-power" of "Effective Power".
+std::string RequestNameOf(std::string_view name);
+
+/// The names with a separator between them: "eia, jis".
+template <class Names> std::string ListOf(const Names& names, std::string_view separator = ", ")
+{
+    std::string list;
+    for (const auto& name : names)
+    {
+        list.append(list.empty() ? "" : separator).append(name);
+    }
+    return list;
+}
+
+/// The index of the name that is meant: "Apparent Power" and "apparent-power" name the same, in any letter
+/// case.
+///
+/// Throws RequestError that bears the key, tells what is named and lists the names.
+std::size_t IndexOfName(std::string_view name, std::span<const std::string_view> names, std::string_view what,
+                        std::string_view key);

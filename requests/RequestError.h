@@ -1,0 +1,67 @@
+#pragma once
+
+/// Why a request has no answer.
+
+#include <exception>
+#include <optional>
+#include <string>
+
+/// What is wrong with a request.
+enum class RequestErrorKind
+{
+    Syntax,       ///< what is written is no request, or no value
+    UnknownKey,   ///< no request has such a key
+    MissingKey,   ///< a key that every request has is left out
+    UnknownValue, ///< a chart type, axis, parameter, code or numbering is called otherwise
+    Unit,         ///< the unit is not that of the quantity
+    NotANumber,   ///< a number was wanted
+    UnknownPart,  ///< no part has the number
+    NoData,       ///< the part has no data for the chart type
+    Condition,    ///< a condition is refused by its rule
+    AxisRange,    ///< an axis may not be set so
+    Line,         ///< the chart takes no such line
+};
+
+/// True when the request itself makes no sense, whatever the parts of the range are.
+bool IsMistaken(RequestErrorKind kind);
+
+/// True when the message goes on behind the name of the key, where there is one: "dcBias" and then `"5A": "A"
+/// is not the unit of a voltage`. Any other message stands by itself.
+bool FollowsKey(RequestErrorKind kind);
+
+/// A request that is refused. It bears no words of the surface that the request came through: options and
+/// JSON keys are put in by whoever tells it.
+class RequestError : public std::exception
+{
+public:
+    /// @param key the key of requests that the error lies in, such as "dcBias"; empty where it is in none
+    /// @param message what is wrong, on one line
+    RequestError(RequestErrorKind kind, std::string key, std::string message);
+
+    /// The same error with the entry that is refused, in the unit of the form.
+    RequestError Of(std::string entry) const;
+    /// The same error with the largest permitted value.
+    RequestError Within(double limit) const;
+    /// The same error with the part number that was asked for.
+    RequestError OfPart(std::string part) const;
+
+    RequestErrorKind Kind() const { return kind; }
+    const std::string& Key() const { return key; }
+    const std::string& Message() const { return message; }
+    /// Of a condition: what was entered, empty when nothing was.
+    const std::string& Entry() const { return entry; }
+    /// Of a parameter that is too large: the largest permitted one.
+    std::optional<double> Limit() const { return limit; }
+    /// The part number that was asked for; empty where the error is in no part's curve.
+    const std::string& Part() const { return part; }
+
+    const char* what() const noexcept override { return message.c_str(); }
+
+private:
+    RequestErrorKind kind;
+    std::string key;
+    std::string message;
+    std::string entry;
+    std::optional<double> limit;
+    std::string part;
+};

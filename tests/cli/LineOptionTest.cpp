@@ -1,0 +1,47 @@
+/// Lines of a chart with conditions of their own.
+
+#include "cli/LineOption.h"
+
+#include "cli/Command.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+TEST(LineOption, OverridesCommonConditions)
+{
+    const CurveRequest common{
+        .Part = {}, .Chart = "temperature-rise", .DCBias = "5V", .Frequency = "100", .Ambient = "40"};
+    const auto request = RequestOfLine("  ABC  dc-bias=12V heat-resistance=50 effective-power=0.1W", common);
+    EXPECT_EQ(request.Part, "ABC");
+    EXPECT_EQ(request.Chart, "temperature-rise");
+    EXPECT_EQ(request.DCBias, "12V");
+    EXPECT_EQ(request.Frequency, "100");
+    EXPECT_EQ(request.HeatResistance, "50");
+    EXPECT_EQ(request.Ambient, "40");
+    EXPECT_EQ(request.Parameter, "effective-power");
+    EXPECT_EQ(request.ParameterValue, "0.1W");
+}
+
+std::string UsageErrorOf(const std::string& line)
+{
+    try
+    {
+        RequestOfLine(line, {});
+    }
+    catch (const UsageError& error)
+    {
+        return error.what();
+    }
+    return "no error";
+}
+
+TEST(LineOption, RefusesWhatIsNoCondition)
+{
+    EXPECT_EQ(UsageErrorOf(" "), "--line is empty");
+    EXPECT_EQ(UsageErrorOf("ABC bias=5"),
+              "\"bias\" is none of: dc-bias, frequency, heat-resistance, ambient, "
+              "current, voltage, effective-power, apparent-power");
+    EXPECT_EQ(UsageErrorOf("ABC 5V"), "--line \"ABC 5V\": \"5V\" is not NAME=VALUE");
+}
+} // namespace
