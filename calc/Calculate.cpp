@@ -56,7 +56,7 @@ void CalculateAllowable(const PartRecord& part, ChartRecord& record)
 {
     const auto model = ModelOf(part, record);
     const double voltageBound = AllowableVoltageBound(RatedVoltage(part), record.DCBiasVoltage);
-    const double permittedRise = dTallow(part.Data[65], record.AmbientTemp);
+    const double permittedRise = dTallow(part.Data[Value::UpperTemperature], record.AmbientTemp);
     WriteCurve(record, AllowableLoad(model, voltageBound, permittedRise, record.YAxisName));
 }
 } // namespace

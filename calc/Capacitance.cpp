@@ -27,33 +27,34 @@ Coefficients CoefficientsOf(const PartRecord& part)
     return data;
 }
 
-/// a·x^6 + b·x^5 + ... + f·x, the six coefficients from `first` on; no constant term.
-double SixthDegree(const Coefficients& data, std::size_t first, double x)
+/// a·x^6 + b·x^5 + ... + f·x of the six coefficients; no constant term.
+double SixthDegree(const Coefficients& data, ValueGroup coefficients, double x)
 {
     double sum = 0;
-    for (std::size_t i = first; i < first + 6; ++i)
+    for (auto i = coefficients.First; i <= coefficients.Last; ++i)
     {
         sum = (sum + data[i]) * x;
     }
     return sum;
 }
 
-/// a·V² + b·V + c, the three coefficients from `first` on.
-double Quadratic(const Coefficients& data, std::size_t first, double volts)
+/// a·V² + b·V + c of the three coefficients.
+double Quadratic(const Coefficients& data, ValueGroup coefficients, double volts)
 {
+    const auto first = coefficients.First;
     return (data[first] * volts + data[first + 1]) * volts + data[first + 2];
 }
 
 /// Change by the bias alone, in percent.
 double BiasChange(const Coefficients& data, double volts)
 {
-    return SixthDegree(data, 3, volts);
+    return SixthDegree(data, Values::BiasPolynomial, volts);
 }
 
 /// Change by the temperature alone in the polynomial model, in percent.
 double TemperatureChange(const Coefficients& data, double celsius)
 {
-    return SixthDegree(data, 9, celsius - measuredAtC);
+    return SixthDegree(data, Values::TemperaturePolynomial, celsius - measuredAtC);
 }
 
 /// Two changes in percent, one upon the other.
@@ -101,11 +102,11 @@ struct Peak
 
 Peak PeakAt(const Coefficients& data, double volts)
 {
-    return {.Amplitude = (BiasChange(data, volts) + 100) * data[15] / 100,
-            .Temperature = Quadratic(data, 17, volts),
-            .Offset = data[16],
-            .Below = {Quadratic(data, 20, volts), data[26]},
-            .Above = {Quadratic(data, 23, volts), data[27]}};
+    return {.Amplitude = (BiasChange(data, volts) + 100) * data[Value::PeakAmplitude] / 100,
+            .Temperature = Quadratic(data, Values::PeakTemperature, volts),
+            .Offset = data[Value::PeakOffset],
+            .Below = {Quadratic(data, Values::DecayBelow, volts), data[Value::ExponentBelow]},
+            .Above = {Quadratic(data, Values::DecayAbove, volts), data[Value::ExponentAbove]}};
 }
 
 /// What the shown capacitance change refers to: the capacitance at 20 °C without bias, or nothing for the
@@ -120,7 +121,7 @@ Reference ReferenceOf(const Coefficients& data, CapacitanceModel model, CodeView
     }
     const double change = model == CapacitanceModel::Peaked ? PeakAt(data, 0).ChangeAt(jisReferenceC)
                                                             : TemperatureChange(data, jisReferenceC);
-    return CheckedFinite(CapacitanceAt(data[1], change));
+    return CheckedFinite(CapacitanceAt(data[Value::NominalCapacitance], change));
 }
 
 /// Smallest and largest of the stored values.
@@ -230,13 +231,13 @@ Curve CalcCapTemperature(const PartRecord& part, float biasVolts, std::string_vi
         if (model == CapacitanceModel::Peaked)
         {
             const Peak peak = PeakAt(data, biasVolts);
-            StorePoints(curve, sweep, data[1], reference, yAxisName,
+            StorePoints(curve, sweep, data[Value::NominalCapacitance], reference, yAxisName,
                         [&](double celsius) { return peak.ChangeAt(celsius); });
         }
         else
         {
             const double b = BiasChange(data, biasVolts);
-            StorePoints(curve, sweep, data[1], reference, yAxisName,
+            StorePoints(curve, sweep, data[Value::NominalCapacitance], reference, yAxisName,
                         [&](double celsius) { return Combined(TemperatureChange(data, celsius), b); });
         }
     }
@@ -251,20 +252,20 @@ Curve CalcCapDCVoltage(const PartRecord& part, float ambientC, std::string_view 
     Curve curve;
     if (model != CapacitanceModel::None)
     {
-        const auto sweep = LinearSweep(0, CheckedFinite(data[2]));
+        const auto sweep = LinearSweep(0, CheckedFinite(data[Value::RatedVoltage]));
         const auto reference = ReferenceOf(data, model, view);
         if (model == CapacitanceModel::Peaked)
         {
-            StorePoints(curve, sweep, data[1], reference, yAxisName,
+            StorePoints(curve, sweep, data[Value::NominalCapacitance], reference, yAxisName,
                         [&](double volts) { return PeakAt(data, volts).ChangeAt(ambientC); });
         }
         else
         {
             const double p = TemperatureChange(data, ambientC);
-            StorePoints(curve, sweep, data[1], reference, yAxisName,
+            StorePoints(curve, sweep, data[Value::NominalCapacitance], reference, yAxisName,
                         [&](double volts) { return Combined(p, BiasChange(data, volts)); });
         }
     }
-    SetLimits(curve, part.Data[2], 0, yAxisName);
+    SetLimits(curve, part.Data[Value::RatedVoltage], 0, yAxisName);
     return curve;
 }

@@ -23,7 +23,7 @@ static Refusal Judge(std::string_view entry, EntryLocale locale, Accepts accepts
 Refusal RefuseDCBiasVol(std::string_view entry, const PartRecord& part, std::int16_t chartType,
                         EntryLocale locale)
 {
-    const float rated = part.Data[2];
+    const float rated = part.Data[Value::RatedVoltage];
     const bool below = chartType == 1;
     const auto permitted = (below ? "0 under " : "0 to ") + NumberText(rated) + "[V]";
     return Judge(
@@ -47,7 +47,7 @@ Refusal RefuseHeatResistance(std::string_view entry, EntryLocale locale)
 
 Refusal RefuseAmbientTemp1(std::string_view entry, const PartRecord& part, EntryLocale locale)
 {
-    const float upper = part.Data[65];
+    const float upper = part.Data[Value::UpperTemperature];
     return Judge(
         entry, locale, [=](float v) { return v >= 20 && v <= upper; },
         Invalid("Ambient Temperature", "20 to " + NumberText(upper) + " [C]"));

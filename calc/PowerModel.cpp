@@ -26,9 +26,10 @@ double Group(const PartData& data, std::size_t first, double r)
     return data[first] * (r * r) + data[first + 1] * r + data[first + 2];
 }
 
-/// Quadratic in t whose coefficients are quadratics in r: nine coefficients from `first` on.
-double Surface(const PartData& data, std::size_t first, double r, double t)
+/// Quadratic in t whose coefficients are quadratics in r, by nine coefficients.
+double Surface(const PartData& data, ValueGroup coefficients, double r, double t)
 {
+    const auto first = coefficients.First;
     return CheckedFinite(Group(data, first + 6, r) + t * Group(data, first + 3, r) +
                          t * t * Group(data, first, r));
 }
@@ -39,14 +40,15 @@ PowerModel PowerModelOf(const PartRecord& part, float biasVolts, float ambientC,
     const auto& data = part.Data;
     const double r = CheckedQuotient(biasVolts, RatedVoltage(part));
     const double t = ambientC - measuredAtC;
-    return {.Q1 = QuadraticIn(t, data[28], data[32], data[33]),
-            .Q2 = QuadraticIn(t, data[29], data[34], data[35]),
-            .Q3 = QuadraticIn(t, data[30], data[36], data[37]),
-            .S1 = CheckedPower(10, Surface(data, 38, r, t)),
-            .S2 = Surface(data, 47, r, t),
-            .S3 = Surface(data, 56, r, t),
-            .Rref = data[31],
-            .Rth = heatResistance};
+    return {
+        .Q1 = QuadraticIn(t, data[Value::CurrentPerF], data[Value::CurrentTPerF], data[Value::CurrentT2PerF]),
+        .Q2 = QuadraticIn(t, data[Value::Current], data[Value::CurrentT], data[Value::CurrentT2]),
+        .Q3 = QuadraticIn(t, data[Value::CurrentF], data[Value::CurrentTF], data[Value::CurrentT2F]),
+        .S1 = CheckedPower(10, Surface(data, Values::AmplitudeSurface, r, t)),
+        .S2 = Surface(data, Values::FrequencyExponentSurface, r, t),
+        .S3 = Surface(data, Values::VoltageExponentSurface, r, t),
+        .Rref = data[Value::HeatResistance],
+        .Rth = heatResistance};
 }
 
 double PowerModel::kVConstant() const

@@ -52,7 +52,7 @@ PowerModel PowerModelOf(const PartRecord& part, float biasVolts, float ambientC,
 /// Rated voltage of a part, in V.
 inline double RatedVoltage(const PartRecord& part)
 {
-    return part.Data[2];
+    return part.Data[Value::RatedVoltage];
 }
 
 /// The permitted temperature rise in °C: 20 below Tmax - 20, from there on what is left up to Tmax, above

@@ -14,8 +14,8 @@ static void TryRules(std::string_view entry, EntryLocale locale, std::optional<f
 {
     PartRecord part;
     part.Tcc = {"Y5V", "F"};
-    part.Data[2] = 50;
-    part.Data[65] = 85;
+    part.Data[Value::RatedVoltage] = 50;
+    part.Data[Value::UpperTemperature] = 85;
     const bool permitted = value && *value >= 0 && *value <= 50;
     Require(!RefuseDCBiasVol(entry, part, 0, locale) == permitted,
             "a bias is permitted from 0 to the rating");

@@ -3,15 +3,15 @@
 #include <algorithm>
 #include <cmath>
 
-static bool AnyData(const PartRecord& part, std::size_t first, std::size_t last)
+bool HasData(const PartRecord& part, ValueGroup group)
 {
-    return std::any_of(part.Data.begin() + first, part.Data.begin() + last + 1,
-                       [](float value) { return value != 0; });
+    const auto* const first = part.Data.data();
+    return std::any_of(first + group.First, first + group.Last + 1, [](float value) { return value != 0; });
 }
 
 bool IsAvailable(const PartRecord& part, int chartType)
 {
-    if (!std::isfinite(part.Data[0]) || !std::isfinite(part.Data[2]))
+    if (!std::isfinite(part.Data[Value::Capacitance]) || !std::isfinite(part.Data[Value::RatedVoltage]))
     {
         return false;
     }
@@ -19,10 +19,10 @@ bool IsAvailable(const PartRecord& part, int chartType)
     {
     case 0:
     case 1:
-        return AnyData(part, 28, 65);
+        return HasData(part, Values::OfPower);
     case 2:
     case 3:
-        return AnyData(part, 3, 27);
+        return HasData(part, Values::OfCapacitance);
     default:
         return false;
     }

@@ -2,13 +2,14 @@
 
 /// One capacitor of the range, as the part files describe it.
 
+#include "partdata/ValueNames.h"
+
 #include <array>
 #include <cstddef>
 #include <string_view>
 
 inline constexpr std::size_t PartNumForms = 4;
 inline constexpr std::size_t CodeForms = 2;
-inline constexpr std::size_t DataValues = 66;
 
 /// The two namings of sizes and temperature characteristics; the value is the index into
 /// `SizeCode` and `Tcc`, and what `GetCodeForm` returns.
@@ -18,7 +19,7 @@ enum class CodeView
     Jis = 1,
 };
 
-/// One part: its names in every naming, and its 66 coefficients and ratings.
+/// One part: its names in every naming, and its coefficients and ratings.
 ///
 /// The texts are views into the index file's text, which the `PartTable` holds.
 struct PartRecord
@@ -29,6 +30,6 @@ struct PartRecord
     std::array<std::string_view, CodeForms> SizeCode;
     /// Temperature characteristic in EIA and in JIS code ("X7R", "R").
     std::array<std::string_view, CodeForms> Tcc;
-    /// Coefficients and ratings in data-file order; what each value means is told by the calculations.
+    /// Coefficients and ratings in data-file order, reached by the names of `Value`.
     std::array<float, DataValues> Data{};
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-/// The columns of the part table: eight names and 66 values, each with its unit.
+/// The columns of the part table: the names and the values of a part, these with their units.
 
 #include "partdata/PartRecord.h"
 
@@ -15,7 +15,7 @@ inline constexpr std::size_t TableColumns = NameFields + DataValues;
 
 using PartNames = std::array<std::string_view, NameFields>;
 
-/// The heading of each column: first the names in the order of the index, then `Data(0)` to `Data(65)`.
+/// The heading of each column: first the names in the order of the index, then the values.
 ///
 ///     ColumnHeading(10)   // "rated voltage [V]"
 std::string_view ColumnHeading(std::size_t column);
@@ -29,3 +29,6 @@ std::string FieldName(std::size_t field);
 
 /// As `FieldName`, for the value `Data(index)`: "Data(31)".
 std::string DataName(std::size_t index);
+
+/// "Data(28) to Data(30)".
+std::string DataNames(ValueGroup group);

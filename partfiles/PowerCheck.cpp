@@ -7,7 +7,9 @@
 #include "calc/PowerModel.h"
 #include "calc/Sweep.h"
 #include "calc/TemperatureRise.h"
+#include "partdata/Availability.h"
 #include "partdata/RunTimeError.h"
+#include "partfiles/Columns.h"
 
 #include <algorithm>
 
@@ -20,20 +22,21 @@ constexpr float HottestC = 200;
 
 bool CheckHeatResistance(const PartRecord& part, ValueFindings& findings)
 {
-    if (part.Data[31] > 0)
+    if (part.Data[Value::HeatResistance] > 0)
     {
         return true;
     }
-    findings.AddValue(Severity::Error, "heat-resistance", part, 31, "the heat resistance is not positive");
+    findings.AddValue(Severity::Error, "heat-resistance", part, Value::HeatResistance,
+                      "the heat resistance is not positive");
     return false;
 }
 
 bool CheckUpperTemperature(const PartRecord& part, ValueFindings& findings)
 {
-    const float upper = part.Data[65];
+    const float upper = part.Data[Value::UpperTemperature];
     if (upper < LowestAmbientC || upper > HottestC)
     {
-        findings.AddValue(Severity::Error, "upper-temperature", part, 65,
+        findings.AddValue(Severity::Error, "upper-temperature", part, Value::UpperTemperature,
                           "the upper temperature is not between " + NumberText(LowestAmbientC) + " and " +
                               NumberText(HottestC) + " °C");
         return false;
@@ -41,7 +44,7 @@ bool CheckUpperTemperature(const PartRecord& part, ValueFindings& findings)
     const float classMax = TemperatureRangeOf(part.Tcc[0], CodeView::Eia).MaxC;
     if (classMax != 0 && upper > classMax)
     {
-        findings.AddValue(Severity::Warning, "class-temperature", part, 65,
+        findings.AddValue(Severity::Warning, "class-temperature", part, Value::UpperTemperature,
                           "the upper temperature lies above that of " + std::string(part.Tcc[0]) + ", " +
                               NumberText(classMax) + " °C");
     }
@@ -51,15 +54,16 @@ bool CheckUpperTemperature(const PartRecord& part, ValueFindings& findings)
 /// The frequency-dependent heating by current where it was measured, without bias at 20 °C.
 bool CheckCurrentLaw(const PartRecord& part, ValueFindings& findings)
 {
-    if (!HasData(part, 28, 30) && !HasData(part, 32, 37))
+    if (!HasData(part, Values::CurrentHeating) && !HasData(part, Values::CurrentHeatingOverTemperature))
     {
-        findings.Add(Severity::Warning, "gap", "Data(28) to Data(30)", "0",
+        findings.Add(Severity::Warning, "gap", DataNames(Values::CurrentHeating), "0",
                      "other power data are there, but no heating by current");
         return true;
     }
     for (const double hertz : LogFrequencySweep().Hz)
     {
-        const double sum = part.Data[28] / hertz + part.Data[29] + hertz * part.Data[30];
+        const double sum = part.Data[Value::CurrentPerF] / hertz + part.Data[Value::Current] +
+                           hertz * part.Data[Value::CurrentF];
         if (sum <= 0)
         {
             findings.Add(Severity::Error, "current-heating", "kI", NumberText(static_cast<float>(sum)),
@@ -71,12 +75,11 @@ bool CheckCurrentLaw(const PartRecord& part, ValueFindings& findings)
     return true;
 }
 
-void CheckVoltageGap(const PartRecord& part, std::size_t first, const char* name, ValueFindings& findings)
+void CheckVoltageGap(const PartRecord& part, ValueGroup surface, const char* name, ValueFindings& findings)
 {
-    if (!HasData(part, first, first + 8))
+    if (!HasData(part, surface))
     {
-        findings.Add(Severity::Warning, "gap",
-                     "Data(" + std::to_string(first) + ") to Data(" + std::to_string(first + 8) + ")", "0",
+        findings.Add(Severity::Warning, "gap", DataNames(surface), "0",
                      std::string("other power data are there, but no ") + name +
                          " of the heating by voltage");
     }
@@ -90,10 +93,10 @@ bool CheckVoltageLaw(const PartRecord& part, ValueFindings& findings)
     {
         for (int j = 0; j <= Steps; ++j)
         {
-            const float volts = part.Data[2] * static_cast<float>(j) / Steps;
-            const float celsius =
-                LowestAmbientC + (part.Data[65] - LowestAmbientC) * static_cast<float>(i) / Steps;
-            const double exponent = PowerModelOf(part, volts, celsius, part.Data[31]).S3;
+            const float volts = part.Data[Value::RatedVoltage] * static_cast<float>(j) / Steps;
+            const float celsius = LowestAmbientC + (part.Data[Value::UpperTemperature] - LowestAmbientC) *
+                                                       static_cast<float>(i) / Steps;
+            const double exponent = PowerModelOf(part, volts, celsius, part.Data[Value::HeatResistance]).S3;
             if (exponent <= 0)
             {
                 findings.Add(Severity::Error, "voltage-exponent", "S3",
@@ -104,8 +107,8 @@ bool CheckVoltageLaw(const PartRecord& part, ValueFindings& findings)
             }
         }
     }
-    CheckVoltageGap(part, 38, "amplitude S1", findings);
-    CheckVoltageGap(part, 47, "frequency exponent S2", findings);
+    CheckVoltageGap(part, Values::AmplitudeSurface, "amplitude S1", findings);
+    CheckVoltageGap(part, Values::FrequencyExponentSurface, "frequency exponent S2", findings);
     return true;
 }
 
@@ -115,19 +118,19 @@ void CheckPowerCurves(const PartRecord& part)
     constexpr double LowestHertz = 1e4;
     constexpr double HighestHertz = 1e6;
     const double rated = RatedVoltage(part);
-    for (const float ambient : {LowestAmbientC, part.Data[65]})
+    for (const float ambient : {LowestAmbientC, part.Data[Value::UpperTemperature]})
     {
-        for (const float bias : {0.0F, part.Data[2] / 2, part.Data[2]})
+        for (const float bias : {0.0F, part.Data[Value::RatedVoltage] / 2, part.Data[Value::RatedVoltage]})
         {
-            const auto model = PowerModelOf(part, bias, ambient, part.Data[31]);
+            const auto model = PowerModelOf(part, bias, ambient, part.Data[Value::HeatResistance]);
             for (const auto name : ParameterNames)
             {
                 RiseOverLoad(model, rated, LowestHertz, name);
                 RiseOverLoad(model, rated, HighestHertz, name);
-                if (bias < part.Data[2])
+                if (bias < part.Data[Value::RatedVoltage])
                 {
-                    AllowableLoad(model, AllowableVoltageBound(rated, bias), dTallow(part.Data[65], ambient),
-                                  name);
+                    AllowableLoad(model, AllowableVoltageBound(rated, bias),
+                                  dTallow(part.Data[Value::UpperTemperature], ambient), name);
                 }
             }
         }

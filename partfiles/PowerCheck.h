@@ -4,5 +4,5 @@
 
 #include "partfiles/ValueCheck.h"
 
-/// Judges `Data(28)` to `Data(65)` of a part that has some of them, and a positive rated voltage.
+/// Judges the power data of a part that has some, and a positive rated voltage.
 void CheckPower(const PartRecord& part, ValueFindings& findings);

@@ -4,6 +4,7 @@
 #include "calc/CapacitanceAxes.h"
 #include "calc/NumberText.h"
 #include "calc/Sweep.h"
+#include "partdata/Availability.h"
 #include "partdata/RunTimeError.h"
 #include "partdata/Windows1252.h"
 #include "partfiles/Columns.h"
@@ -57,56 +58,62 @@ bool CheckFinite(const PartRecord& part, ValueFindings& findings)
 
 void CheckRatings(const PartRecord& part, ValueFindings& findings)
 {
-    for (const std::size_t i : {0U, 1U})
+    for (const auto i : {Value::Capacitance, Value::NominalCapacitance})
     {
         if (part.Data[i] <= 0)
         {
             findings.AddValue(Severity::Error, "capacitance", part, i, "the capacitance is not positive");
         }
     }
-    if (part.Data[2] <= 0)
+    if (part.Data[Value::RatedVoltage] <= 0)
     {
-        findings.AddValue(Severity::Error, "rated-voltage", part, 2, "the rated voltage is not positive");
+        findings.AddValue(Severity::Error, "rated-voltage", part, Value::RatedVoltage,
+                          "the rated voltage is not positive");
     }
 }
 
 /// Tells a group of coefficients that the curves of the part need and that is all zero.
-void CheckGroup(const PartRecord& part, std::size_t first, std::size_t last, const std::string& what,
-                ValueFindings& findings)
+void CheckGroup(const PartRecord& part, ValueGroup group, const std::string& what, ValueFindings& findings)
 {
-    if (!HasData(part, first, last))
+    if (!HasData(part, group))
     {
-        const auto field = first == last ? DataName(first) : DataName(first) + " to " + DataName(last);
+        const auto field = group.First == group.Last ? DataName(group.First) : DataNames(group);
         findings.Add(Severity::Warning, "gap", field, "0", "other capacitance data are there, but " + what);
     }
 }
 
+/// As `CheckGroup`, for a value on its own.
+void CheckGroup(const PartRecord& part, Value::Index value, const std::string& what, ValueFindings& findings)
+{
+    CheckGroup(part, ValueGroup{value, value}, what, findings);
+}
+
 void CheckCapacitanceGaps(const PartRecord& part, CapacitanceModel model, ValueFindings& findings)
 {
-    CheckGroup(part, 3, 8, "no change over bias", findings);
+    CheckGroup(part, Values::BiasPolynomial, "no change over bias", findings);
     if (model == CapacitanceModel::Polynomial)
     {
-        CheckGroup(part, 9, 14, "no change over temperature", findings);
+        CheckGroup(part, Values::TemperaturePolynomial, "no change over temperature", findings);
         return;
     }
-    if (!HasData(part, 15, 27))
+    if (!HasData(part, Values::PeakedModel))
     {
-        CheckGroup(part, 15, 27, "no change over temperature", findings);
+        CheckGroup(part, Values::PeakedModel, "no change over temperature", findings);
         return;
     }
-    CheckGroup(part, 15, 15, "no peak amplitude", findings);
-    CheckGroup(part, 17, 19, "no peak temperature", findings);
-    CheckGroup(part, 20, 22, "no decay below the peak", findings);
-    CheckGroup(part, 23, 25, "no decay above the peak", findings);
-    CheckGroup(part, 26, 26, "no exponent below the peak", findings);
-    CheckGroup(part, 27, 27, "no exponent above the peak", findings);
+    CheckGroup(part, Value::PeakAmplitude, "no peak amplitude", findings);
+    CheckGroup(part, Values::PeakTemperature, "no peak temperature", findings);
+    CheckGroup(part, Values::DecayBelow, "no decay below the peak", findings);
+    CheckGroup(part, Values::DecayAbove, "no decay above the peak", findings);
+    CheckGroup(part, Value::ExponentBelow, "no exponent below the peak", findings);
+    CheckGroup(part, Value::ExponentAbove, "no exponent above the peak", findings);
 }
 
 /// Change of capacitance by the bias alone, in percent.
 double BiasChange(const PartRecord& part, double volts)
 {
     double sum = 0;
-    for (std::size_t i = 3; i <= 8; ++i)
+    for (auto i = Values::BiasPolynomial.First; i <= Values::BiasPolynomial.Last; ++i)
     {
         sum = (sum + part.Data[i]) * volts;
     }
@@ -116,7 +123,7 @@ double BiasChange(const PartRecord& part, double volts)
 void CheckBias(const PartRecord& part, ValueFindings& findings)
 {
     double least = 0;
-    for (const double volts : LinearSweep(0, part.Data[2]))
+    for (const double volts : LinearSweep(0, part.Data[Value::RatedVoltage]))
     {
         const double change = BiasChange(part, volts);
         if (change > least + RoundingPercent)
@@ -167,7 +174,7 @@ bool CheckNotNegative(const Curve& curve, const std::string& conditions, const c
 void CheckCapacitanceCurves(const PartRecord& part, ValueFindings& findings)
 {
     const auto range = TemperatureRangeOf(part.Tcc[0], CodeView::Eia);
-    const float rated = part.Data[2];
+    const float rated = part.Data[Value::RatedVoltage];
     try
     {
         CheckClassLimits(part, CalcCapTemperature(part, 0, CapacitanceChangeAxis, CodeView::Eia), findings);
@@ -223,13 +230,6 @@ void ValueFindings::AddValue(Severity level, std::string rule, const PartRecord&
     Add(level, std::move(rule), DataName(index), NumberText(part.Data[index]), std::move(message));
 }
 
-bool HasData(const PartRecord& part, std::size_t first, std::size_t last)
-{
-    return std::any_of(part.Data.begin() + static_cast<std::ptrdiff_t>(first),
-                       part.Data.begin() + static_cast<std::ptrdiff_t>(last) + 1,
-                       [](float value) { return value != 0; });
-}
-
 void CheckValues(const PartRecord& part, ValueFindings& findings)
 {
     const bool listed = IsListed(part.Tcc[0]);
@@ -242,19 +242,19 @@ void CheckValues(const PartRecord& part, ValueFindings& findings)
     {
         return;
     }
-    const bool hasCapacitance = HasData(part, 3, 27);
-    const bool hasPower = HasData(part, 28, 65);
+    const bool hasCapacitance = HasData(part, Values::OfCapacitance);
+    const bool hasPower = HasData(part, Values::OfPower);
     if (!hasCapacitance && !hasPower)
     {
         findings.Add(Severity::Warning, "no-data", "", "", "the part has no data for any chart");
         return;
     }
     CheckRatings(part, findings);
-    if (part.Data[2] <= 0)
+    if (part.Data[Value::RatedVoltage] <= 0)
     {
         return;
     }
-    if (hasCapacitance && listed && part.Data[1] > 0)
+    if (hasCapacitance && listed && part.Data[Value::NominalCapacitance] > 0)
     {
         CheckCapacitance(part, findings);
     }

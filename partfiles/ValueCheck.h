@@ -28,9 +28,6 @@ private:
     std::vector<Finding>& findings;
 };
 
-/// True when any of `Data(first)` to `Data(last)` is not zero.
-bool HasData(const PartRecord& part, std::size_t first, std::size_t last);
-
 /// Judges all values of a part. A value that is not finite, or a rated voltage that is not positive, leaves
 /// the curves unjudged, since they all need it.
 void CheckValues(const PartRecord& part, ValueFindings& findings);

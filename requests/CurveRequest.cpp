@@ -93,7 +93,7 @@ static Entries EntriesOf(const CurveRequest& request, const PartRecord& part, co
     entries.Frequency = EntryFor(request.Frequency, Quantity::Frequency, frequencyKey);
     entries.HeatResistance = request.HeatResistance
                                  ? EntryFor(request.HeatResistance, Quantity::HeatResistance, resistanceKey)
-                                 : NumberText(part.Data[31]);
+                                 : NumberText(part.Data[Value::HeatResistance]);
     entries.Ambient = request.Ambient ? EntryFor(request.Ambient, Quantity::Temperature, ambientKey)
                                       : (request.Code == CodeView::Eia ? "25" : "20");
     entries.Parameter = EntryFor(request.ParameterValue, QuantityOf(parameter), parameterKey);
@@ -174,14 +174,10 @@ static void TakeConditions(ChartRecord& line, const Entries& entries)
     line.ParameterValue = PlainValue(entries.Parameter, parameterKey);
 }
 
-static void Calculate(const PartRecord& part, ChartRecord& line, CodeView code, const std::string& parameter)
+static void CalculateOrRefuse(const PartRecord& part, ChartRecord& line, CodeView code,
+                              const std::string& parameter)
 {
-    if (line.ChartType >= static_cast<std::int16_t>(ChartType::CapacitanceTemperature))
-    {
-        CalculateDataS(part, line, code);
-        return;
-    }
-    if (const auto refusal = CalculateDataT(part, line))
+    if (const auto refusal = Calculate(part, line, code))
     {
         throw RequestError(RequestErrorKind::Condition, parameterKey, OnOneLine(refusal->Message))
             .Of(parameter)
@@ -223,7 +219,7 @@ static RequestedCurve CurveOfPart(const CurveRequest& request, const PartTable& 
     {
         JudgeConditions(line, entries, *curve.Part, request.Code);
     }
-    Calculate(*curve.Part, line, request.Code, entries.Parameter);
+    CalculateOrRefuse(*curve.Part, line, request.Code, entries.Parameter);
     return curve;
 }
 

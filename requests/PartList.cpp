@@ -48,8 +48,8 @@ std::vector<const PartRecord*> FilterParts(const PartTable& parts, const PartFil
     {
         return IsOffered(part, filter.ChartType) && (!filter.SizeCode || IsOneOf(part.SizeCode, size)) &&
                (!filter.Tcc || IsOneOf(part.Tcc, tcc)) &&
-               (!filter.Capacitance || part.Data[0] == *filter.Capacitance) &&
-               (!filter.RatedVoltage || part.Data[2] == *filter.RatedVoltage) &&
+               (!filter.Capacitance || part.Data[Value::Capacitance] == *filter.Capacitance) &&
+               (!filter.RatedVoltage || part.Data[Value::RatedVoltage] == *filter.RatedVoltage) &&
                std::ranges::any_of(part.PartNum, [&](auto number) { return Holds(number, text); });
     };
     std::vector<const PartRecord*> found;
@@ -90,12 +90,9 @@ static Row RowOf(const PartRecord& part, CodeView code, const CurveSettings& set
     {
         charts += (charts.empty() ? "" : " ") + chart;
     }
-    return {ShownPartNum(part, code, settings),
-            Utf8FromWindows1252(part.SizeCode[naming]),
-            Utf8FromWindows1252(part.Tcc[naming]),
-            NumberText(part.Data[0]),
-            NumberText(part.Data[2]),
-            charts};
+    return {ShownPartNum(part, code, settings),         Utf8FromWindows1252(part.SizeCode[naming]),
+            Utf8FromWindows1252(part.Tcc[naming]),      NumberText(part.Data[Value::Capacitance]),
+            NumberText(part.Data[Value::RatedVoltage]), charts};
 }
 
 /// Characters of a UTF-8 text.

@@ -89,7 +89,7 @@ void WriteBiasLaw(const PartDesign& part, PartValues& data)
     for (std::size_t j = 0; j < loss.size(); ++j)
     {
         scale *= part.Volts;
-        data[8 - j] = 0 - loss[j] / scale;
+        data[Values::BiasPolynomial.Last - j] = 0 - loss[j] / scale;
     }
 }
 
@@ -110,7 +110,7 @@ void WriteTemperaturePolynomial(const PartDesign& part, PartValues& data)
     for (std::size_t j = 0; j < change.size(); ++j)
     {
         scale *= span;
-        data[14 - j] = change[j] / scale;
+        data[Values::TemperaturePolynomial.Last - j] = change[j] / scale;
     }
 }
 
@@ -161,17 +161,17 @@ void WritePeakedModel(const PartDesign& part, PartValues& data)
     const auto model = PeakedModelOf(part);
     const double voltsSquare = part.Volts * part.Volts;
     const double loss = BiasLoss(part, 1);
-    data[15] = model.Amplitude;
-    data[16] = FarOffset;
+    data[Value::PeakAmplitude] = model.Amplitude;
+    data[Value::PeakOffset] = FarOffset;
     // Bias moves the peak to warmer and rounds it off, the more the more capacitance it takes away.
-    data[17] = 1.6 * loss / voltsSquare;
-    data[19] = model.PeakC;
-    data[20] = -0.02 * loss * model.ColdDecay / voltsSquare;
-    data[22] = model.ColdDecay;
-    data[23] = -0.02 * loss * model.HotDecay / voltsSquare;
-    data[25] = model.HotDecay;
-    data[26] = model.ColdExponent;
-    data[27] = model.HotExponent;
+    data[Value::PeakTemperatureV2] = 1.6 * loss / voltsSquare;
+    data[Value::PeakTemperature] = model.PeakC;
+    data[Value::DecayBelowV2] = -0.02 * loss * model.ColdDecay / voltsSquare;
+    data[Value::DecayBelow] = model.ColdDecay;
+    data[Value::DecayAboveV2] = -0.02 * loss * model.HotDecay / voltsSquare;
+    data[Value::DecayAbove] = model.HotDecay;
+    data[Value::ExponentBelow] = model.ColdExponent;
+    data[Value::ExponentAbove] = model.HotExponent;
 }
 
 static double PeakedCapacitance(const PartDesign& part, double temperatureC)
@@ -196,12 +196,12 @@ double RelativeCapacitance(const PartDesign& part, double temperatureC)
 double BiasedCapacitance(const PartValues& data, double volts)
 {
     double change = 0;
-    for (std::size_t j = 3; j <= 8; ++j)
+    for (auto j = Values::BiasPolynomial.First; j <= Values::BiasPolynomial.Last; ++j)
     {
         change = (change + data[j]) * volts;
     }
     // The peaked model keeps its far offset out of the fall, so its curves fall a little less than the
     // polynomial; the heating laws take four fifths of the difference.
-    const double share = data[16] == 0 ? 1 : (1 + 4 * -data[16] / 100) / 5;
+    const double share = data[Value::PeakOffset] == 0 ? 1 : (1 + 4 * -data[Value::PeakOffset] / 100) / 5;
     return 1 + share * change / 100;
 }

@@ -10,13 +10,13 @@
 /// The values of a part while they are worked out, in data-file order.
 using PartValues = std::array<double, DataValues>;
 
-/// Writes the bias polynomial, `Data(3)` to `Data(8)`.
+/// Writes the bias polynomial.
 void WriteBiasLaw(const PartDesign& part, PartValues& data);
 
-/// Writes the temperature polynomial, `Data(9)` to `Data(14)`.
+/// Writes the temperature polynomial.
 void WriteTemperaturePolynomial(const PartDesign& part, PartValues& data);
 
-/// Writes the peaked temperature model, `Data(15)` to `Data(27)`.
+/// Writes the peaked temperature model.
 void WritePeakedModel(const PartDesign& part, PartValues& data);
 
 /// Capacitance at a temperature without bias, relative to the one at 20 °C.

@@ -71,16 +71,16 @@ void WriteCurrentLaw(const SeriesResistance& resistance, double heatResistance, 
 {
     const double ceramic = resistance.CeramicOhmHz * heatResistance;
     const double electrode = resistance.ElectrodeOhms * heatResistance;
-    data[28] = ceramic;
-    data[32] = ceramic * resistance.Ceramic.Linear;
-    data[33] = ceramic * resistance.Ceramic.Square;
-    data[29] = electrode;
-    data[34] = electrode * ElectrodeChange.Linear;
-    data[35] = electrode * ElectrodeChange.Square;
-    data[30] = electrode / SkinHz;
-    data[36] = electrode / SkinHz * ElectrodeChange.Linear;
-    data[37] = electrode / SkinHz * ElectrodeChange.Square;
-    data[31] = heatResistance;
+    data[Value::CurrentPerF] = ceramic;
+    data[Value::CurrentTPerF] = ceramic * resistance.Ceramic.Linear;
+    data[Value::CurrentT2PerF] = ceramic * resistance.Ceramic.Square;
+    data[Value::Current] = electrode;
+    data[Value::CurrentT] = electrode * ElectrodeChange.Linear;
+    data[Value::CurrentT2] = electrode * ElectrodeChange.Square;
+    data[Value::CurrentF] = electrode / SkinHz;
+    data[Value::CurrentTF] = electrode / SkinHz * ElectrodeChange.Linear;
+    data[Value::CurrentT2F] = electrode / SkinHz * ElectrodeChange.Square;
+    data[Value::HeatResistance] = heatResistance;
 }
 
 /// Common logarithm of the voltage of 20 °C rise at 20 °C without bias: Constant - Slope·log10(log10 f).
@@ -174,22 +174,22 @@ void WriteHeatingLaws(const PartDesign& part, PartValues& data)
     const auto exponent = ExponentOf(part);
 
     const double constant = voltage.Constant - bias[0] - SafeSide;
-    data[46] = PlainLog10(AgreedRise) - exponent.AtRest * constant;
-    data[45] = exponent.AtRest * bias[1] - exponent.WithBias * constant;
-    data[44] = exponent.AtRest * bias[2] + exponent.WithBias * bias[1];
-    data[43] = -exponent.AtRest * warmth.Linear - exponent.WithTemperature * constant;
-    data[42] = -exponent.WithBias * warmth.Linear + exponent.WithTemperature * bias[1];
-    data[41] = exponent.WithTemperature * bias[2];
-    data[40] = -exponent.AtRest * warmth.Square - exponent.WithTemperature * warmth.Linear;
-    data[39] = -exponent.WithBias * warmth.Square;
+    data[Value::Amplitude] = PlainLog10(AgreedRise) - exponent.AtRest * constant;
+    data[Value::AmplitudeR] = exponent.AtRest * bias[1] - exponent.WithBias * constant;
+    data[Value::AmplitudeR2] = exponent.AtRest * bias[2] + exponent.WithBias * bias[1];
+    data[Value::AmplitudeT] = -exponent.AtRest * warmth.Linear - exponent.WithTemperature * constant;
+    data[Value::AmplitudeTR] = -exponent.WithBias * warmth.Linear + exponent.WithTemperature * bias[1];
+    data[Value::AmplitudeTR2] = exponent.WithTemperature * bias[2];
+    data[Value::AmplitudeT2] = -exponent.AtRest * warmth.Square - exponent.WithTemperature * warmth.Linear;
+    data[Value::AmplitudeT2R] = -exponent.WithBias * warmth.Square;
 
-    data[55] = exponent.AtRest * voltage.Slope;
-    data[54] = exponent.WithBias * voltage.Slope;
-    data[52] = exponent.WithTemperature * voltage.Slope;
+    data[Value::FrequencyExponent] = exponent.AtRest * voltage.Slope;
+    data[Value::FrequencyExponentR] = exponent.WithBias * voltage.Slope;
+    data[Value::FrequencyExponentT] = exponent.WithTemperature * voltage.Slope;
 
-    data[64] = exponent.AtRest;
-    data[63] = exponent.WithBias;
-    data[61] = exponent.WithTemperature;
+    data[Value::VoltageExponent] = exponent.AtRest;
+    data[Value::VoltageExponentR] = exponent.WithBias;
+    data[Value::VoltageExponentT] = exponent.WithTemperature;
 
-    data[65] = HighestOperatingC(part);
+    data[Value::UpperTemperature] = HighestOperatingC(part);
 }

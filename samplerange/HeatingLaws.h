@@ -4,7 +4,7 @@
 
 #include "samplerange/CapacitanceLaws.h"
 
-/// Writes `Data(28)` to `Data(65)`: current law, reference heat resistance, voltage law, highest
+/// Writes the power data: current law, reference heat resistance, voltage law, highest
 /// operating temperature.
 ///
 /// The current law is the equivalent series resistance, ESR(f) = loss factor/(2πfC) + electrodes·(1 + f/5

@@ -45,6 +45,11 @@ std::vector<PartDesign> DesignParts(const std::vector<CaseSize>& sizes, const st
     return parts;
 }
 
+void Clear(PartValues& data, ValueGroup group)
+{
+    std::fill(data.data() + group.First, data.data() + group.Last + 1, 0.0);
+}
+
 RangePart MakePart(const PartDesign& design)
 {
     RangePart part{.PartNum = PartNumbers(design),
@@ -52,9 +57,9 @@ RangePart MakePart(const PartDesign& design)
                    .Tcc = {design.Characteristic, JisCharacteristic(design.Characteristic)},
                    .Data = {}};
     PartValues data{};
-    data[0] = static_cast<double>(design.Picofarads);
-    data[1] = data[0];
-    data[2] = design.Volts;
+    data[Value::Capacitance] = static_cast<double>(design.Picofarads);
+    data[Value::NominalCapacitance] = data[Value::Capacitance];
+    data[Value::RatedVoltage] = design.Volts;
     WriteBiasLaw(design, data);
     if (design.Characteristic == "Y5V" && !IsSpecialPart(part.PartNum[0]))
     {
@@ -67,11 +72,11 @@ RangePart MakePart(const PartDesign& design)
     WriteHeatingLaws(design, data);
     if (design.Data == Measured::Power)
     {
-        std::fill(data.begin() + 3, data.begin() + 28, 0.0);
+        Clear(data, Values::OfCapacitance);
     }
     if (design.Data == Measured::Capacitance)
     {
-        std::fill(data.begin() + 28, data.end(), 0.0);
+        Clear(data, Values::OfPower);
     }
     std::ranges::transform(data, part.Data.begin(), [](double value) { return static_cast<float>(value); });
     return part;

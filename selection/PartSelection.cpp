@@ -48,8 +48,9 @@ bool PartSelection::Agrees(const PartRecord& part, const PartChoice& with) const
 {
     return (!with.SizeCode || SizeCodeOf(part) == *with.SizeCode) &&
            (!with.Tcc || TccOf(part) == *with.Tcc) &&
-           (!with.Capacitance || part.Data[0] == *with.Capacitance) &&
-           (!with.RatedVoltage || part.Data[2] == *with.RatedVoltage) && IsAvailable(part, *chartType);
+           (!with.Capacitance || part.Data[Value::Capacitance] == *with.Capacitance) &&
+           (!with.RatedVoltage || part.Data[Value::RatedVoltage] == *with.RatedVoltage) &&
+           IsAvailable(part, *chartType);
 }
 
 /// Calls `addItem` with the index and record of every part that has data for the chart type and agrees with
@@ -87,14 +88,15 @@ void PartSelection::FillCapacitances()
 {
     capacitances.clear();
     ForEachPart({.SizeCode = choice.SizeCode, .Tcc = choice.Tcc},
-                [this](auto, const auto& part) { AddIfAbsent(capacitances, part.Data[0]); });
+                [this](auto, const auto& part) { AddIfAbsent(capacitances, part.Data[Value::Capacitance]); });
 }
 
 void PartSelection::FillRatedVoltages()
 {
     ratedVoltages.clear();
     ForEachPart({.SizeCode = choice.SizeCode, .Tcc = choice.Tcc, .Capacitance = choice.Capacitance},
-                [this](auto, const auto& part) { AddIfAbsent(ratedVoltages, part.Data[2]); });
+                [this](auto, const auto& part)
+                { AddIfAbsent(ratedVoltages, part.Data[Value::RatedVoltage]); });
 }
 
 void PartSelection::FillPartNums()
@@ -179,10 +181,10 @@ void PartSelection::ShowPart(std::int16_t index)
     completePart = index;
     chosenByNumber = true;
     ownLists = 3;
-    choice = {SizeCodeOf(part), TccOf(part), part.Data[0], part.Data[2]};
+    choice = {SizeCodeOf(part), TccOf(part), part.Data[Value::Capacitance], part.Data[Value::RatedVoltage]};
     tccs = {TccOf(part)};
-    capacitances = {part.Data[0]};
-    ratedVoltages = {part.Data[2]};
+    capacitances = {part.Data[Value::Capacitance]};
+    ratedVoltages = {part.Data[Value::RatedVoltage]};
 }
 
 void PartSelection::ChangeNaming(CodeView codeView)

@@ -359,7 +359,8 @@ void frmLibrary::EnableConditions(int chartType)
     if (power)
     {
         SetConditionEnabled(ui->lblHeatResistance, ui->txtHeatResistance, true);
-        ui->txtHeatResistance->setText(QString::fromStdString(NumberText(SelectedPart().Data[31])));
+        ui->txtHeatResistance->setText(
+            QString::fromStdString(NumberText(SelectedPart().Data[Value::HeatResistance])));
     }
     if (chartType == 0)
     {

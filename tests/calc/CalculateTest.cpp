@@ -11,13 +11,13 @@ PartRecord Part()
 {
     PartRecord part;
     part.Tcc[0] = "X7R";
-    part.Data[1] = 1000;
-    part.Data[2] = 10;
-    part.Data[14] = 0.5F;
-    part.Data[29] = 1;
-    part.Data[31] = 50;
-    part.Data[64] = 2;
-    part.Data[65] = 125;
+    part.Data[Value::NominalCapacitance] = 1000;
+    part.Data[Value::RatedVoltage] = 10;
+    part.Data[Value::TemperatureX] = 0.5F;
+    part.Data[Value::Current] = 1;
+    part.Data[Value::HeatResistance] = 50;
+    part.Data[Value::VoltageExponent] = 2;
+    part.Data[Value::UpperTemperature] = 125;
     return part;
 }
 
@@ -65,7 +65,7 @@ TEST(CalculateDataT, LeavesTheRecordOfARefusedParameter)
 TEST(CalculateDataT, LeavesTheRecordOnAFault)
 {
     auto part = Part();
-    part.Data[2] = 0;
+    part.Data[Value::RatedVoltage] = 0;
     for (const auto type : {ChartType::TemperatureRise, ChartType::AllowablePower})
     {
         auto record = MarkedRecord(type);
@@ -77,7 +77,7 @@ TEST(CalculateDataT, LeavesTheRecordOnAFault)
 TEST(CalculateDataT, FaultsWithoutARatedVoltageOnEveryAxis)
 {
     auto part = Part();
-    part.Data[2] = 0;
+    part.Data[Value::RatedVoltage] = 0;
     auto record = MarkedRecord(ChartType::TemperatureRise);
     record.XAxisName = "Effective Power";
     EXPECT_THROW(CalculateDataT(part, record), RunTimeError);
@@ -86,8 +86,8 @@ TEST(CalculateDataT, FaultsWithoutARatedVoltageOnEveryAxis)
 TEST(CalculateDataT, TakesTheFrequencyInKilohertz)
 {
     auto part = Part();
-    part.Data[28] = 1000;
-    part.Data[29] = 0;
+    part.Data[Value::CurrentPerF] = 1000;
+    part.Data[Value::Current] = 0;
     auto record = MarkedRecord(ChartType::TemperatureRise);
     record.XAxisName = "Current";
     record.Frequency = 100;
@@ -113,7 +113,7 @@ TEST(CalculateDataT, StoresTheLargestAllowableLoad)
 TEST(CalculateDataS, LeavesTheRecordOnAFault)
 {
     auto part = Part();
-    part.Data[14] = HUGE_VALF;
+    part.Data[Value::TemperatureX] = HUGE_VALF;
     auto record = MarkedRecord(ChartType::CapacitanceTemperature);
     record.YAxisName = "Capacitance";
     EXPECT_THROW(CalculateDataS(part, record, CodeView::Eia), RunTimeError);

@@ -16,10 +16,10 @@ PartRecord LinearPart(std::string_view tcc = "X7R")
     PartRecord part;
     part.PartNum[0] = "HVX0805";
     part.Tcc[0] = tcc;
-    part.Data[1] = 1000;
-    part.Data[2] = 10;
-    part.Data[8] = -2;
-    part.Data[14] = 0.125F;
+    part.Data[Value::NominalCapacitance] = 1000;
+    part.Data[Value::RatedVoltage] = 10;
+    part.Data[Value::BiasV] = -2;
+    part.Data[Value::TemperatureX] = 0.125F;
     return part;
 }
 
@@ -27,13 +27,13 @@ PartRecord LinearPart(std::string_view tcc = "X7R")
 PartRecord PeakedPart()
 {
     auto part = LinearPart("Y5V");
-    part.Data[15] = 100;
-    part.Data[16] = -100;
-    part.Data[19] = 25;
-    part.Data[22] = 0.2F;
-    part.Data[25] = 0.01F;
-    part.Data[26] = 1;
-    part.Data[27] = 2;
+    part.Data[Value::PeakAmplitude] = 100;
+    part.Data[Value::PeakOffset] = -100;
+    part.Data[Value::PeakTemperature] = 25;
+    part.Data[Value::DecayBelow] = 0.2F;
+    part.Data[Value::DecayAbove] = 0.01F;
+    part.Data[Value::ExponentBelow] = 1;
+    part.Data[Value::ExponentAbove] = 2;
     return part;
 }
 
@@ -111,7 +111,7 @@ TEST(UnlistedCharacteristic, WithoutANumberAsRatedVoltageIsAnOverflow)
 {
     PartRecord part;
     part.Tcc = {"C0G", "CH"};
-    part.Data[2] = std::numeric_limits<float>::quiet_NaN();
+    part.Data[Value::RatedVoltage] = std::numeric_limits<float>::quiet_NaN();
     ChartRecord record;
     record.ChartType = 3;
     record.YAxisName = CapacitanceAxis;
@@ -142,7 +142,7 @@ TEST(PolynomialModel, HasAllSixPowers)
     {
         part.Data[i] = static_cast<float>(i);
     }
-    part.Data[2] = 2;
+    part.Data[Value::RatedVoltage] = 2;
     // 3·64 + 4·32 + 5·16 + 6·8 + 7·4 + 8·2 at 2 V and 25 °C
     const auto curve = CalcCapDCVoltage(part, 25, CapacitanceChangeAxis, CodeView::Eia);
     EXPECT_FLOAT_EQ(curve.YData.back(), 492);
@@ -188,7 +188,7 @@ TEST(PeakedModel, ShowsCapacitanceOfTheNominalValue)
 {
     // 55 °C below the peak: 1000·exp(-0.2·55) pF, whatever capacitance the lists show.
     auto part = PeakedPart();
-    part.Data[0] = 4700;
+    part.Data[Value::Capacitance] = 4700;
     const auto curve = CalcCapTemperature(part, 0, CapacitanceAxis, CodeView::Eia);
     EXPECT_FLOAT_EQ(curve.YData.front(), static_cast<float>(1000 * std::exp(-11.0)));
     const auto overBias = CalcCapDCVoltage(part, -30, CapacitanceAxis, CodeView::Eia);
@@ -198,9 +198,9 @@ TEST(PeakedModel, ShowsCapacitanceOfTheNominalValue)
 TEST(PeakedModel, MovesThePeakWithTheBias)
 {
     auto part = PeakedPart();
-    part.Data[8] = 0;
-    part.Data[17] = 0.25F;
-    part.Data[18] = 1;
+    part.Data[Value::BiasV] = 0;
+    part.Data[Value::PeakTemperatureV2] = 0.25F;
+    part.Data[Value::PeakTemperatureV] = 1;
     // 10 V: the peak is at 25 + 10 + 25 = 60 °C.
     EXPECT_NEAR(CalcCapDCVoltage(part, 60, CapacitanceChangeAxis, CodeView::Eia).YData.back(), 0, 1e-9);
 }
@@ -208,9 +208,9 @@ TEST(PeakedModel, MovesThePeakWithTheBias)
 TEST(PeakedModel, RefersToItsOwnFlankAt20Degrees)
 {
     auto part = PeakedPart();
-    part.Data[19] = 20;
+    part.Data[Value::PeakTemperature] = 20;
     EXPECT_EQ(FirstChange(part, 20, CodeView::Jis), 0);
-    part.Data[19] = 10;
+    part.Data[Value::PeakTemperature] = 10;
     // Peak below 20 °C: p20 = 100·exp(-0.01·100) - 100, C20 = 1000·exp(-1); the peak is e times as high.
     EXPECT_FLOAT_EQ(FirstChange(part, 10, CodeView::Jis), static_cast<float>((std::exp(1.0) - 1) * 100));
 }
@@ -253,7 +253,7 @@ TEST(OtherYAxis, StoresNoPoint)
 TEST(CapacitanceFault, OfAPowerWithoutValueIs5)
 {
     auto part = PeakedPart();
-    part.Data[27] = -1;
+    part.Data[Value::ExponentAbove] = -1;
     EXPECT_EQ(ErrorOf([&] { FirstChange(part, 25, CodeView::Eia); }), 5);
     EXPECT_EQ(ErrorOf([&] { FirstChange(part, 26, CodeView::Eia); }), 0);
 }
@@ -261,7 +261,7 @@ TEST(CapacitanceFault, OfAPowerWithoutValueIs5)
 TEST(CapacitanceFault, OfAPowerBeyondAnyNumberIs6)
 {
     auto part = PeakedPart();
-    part.Data[27] = 400;
+    part.Data[Value::ExponentAbove] = 400;
     // 10 °C above the peak: 10^400
     EXPECT_EQ(ErrorOf([&] { FirstChange(part, 35, CodeView::Eia); }), 6);
     EXPECT_EQ(ErrorOf([&] { FirstChange(part, 25, CodeView::Eia); }), 0);
@@ -270,8 +270,8 @@ TEST(CapacitanceFault, OfAPowerBeyondAnyNumberIs6)
 TEST(CapacitanceFault, OfAReferenceBeyondAnyNumberIs6InJisOnly)
 {
     auto part = PeakedPart();
-    part.Data[19] = 10;
-    part.Data[25] = -100;
+    part.Data[Value::PeakTemperature] = 10;
+    part.Data[Value::DecayAbove] = -100;
     // At 20 °C, 10 °C above the peak, exp(100·10²); at the peak exp(0).
     const auto show = [&](CodeView view) { CalcCapDCVoltage(part, 10, CapacitanceAxis, view); };
     EXPECT_EQ(ErrorOf([&] { show(CodeView::Jis); }), 6);
@@ -281,23 +281,23 @@ TEST(CapacitanceFault, OfAReferenceBeyondAnyNumberIs6InJisOnly)
 TEST(CapacitanceFault, OfTheFirstPointComesBeforeThatOfAZeroReference)
 {
     auto part = PeakedPart();
-    part.Data[1] = 0;
-    part.Data[19] = -25;
-    part.Data[27] = -1;
+    part.Data[Value::NominalCapacitance] = 0;
+    part.Data[Value::PeakTemperature] = -25;
+    part.Data[Value::ExponentAbove] = -1;
     // The sweep of the JIS view starts at the peak, where 0 to the power -1 has no value.
     EXPECT_EQ(ErrorOf([&] { CalcCapTemperature(part, 0, CapacitanceChangeAxis, CodeView::Jis); }), 5);
     // exp(1e4/5) at the start, 5 °C above the peak, has none either; exp(1e4/50) at 20 °C has.
-    part.Data[19] = -30;
-    part.Data[25] = -1e4F;
+    part.Data[Value::PeakTemperature] = -30;
+    part.Data[Value::DecayAbove] = -1e4F;
     EXPECT_EQ(ErrorOf([&] { CalcCapTemperature(part, 0, CapacitanceChangeAxis, CodeView::Jis); }), 6);
-    part.Data[25] = 1;
+    part.Data[Value::DecayAbove] = 1;
     EXPECT_EQ(ErrorOf([&] { CalcCapTemperature(part, 0, CapacitanceChangeAxis, CodeView::Jis); }), 11);
 }
 
 TEST(CapacitanceFault, OfAZeroReferenceIs11InJisOnly)
 {
     auto part = LinearPart();
-    part.Data[1] = 0;
+    part.Data[Value::NominalCapacitance] = 0;
     EXPECT_EQ(ErrorOf([&] { FirstChange(part, 25, CodeView::Jis); }), 11);
     EXPECT_EQ(ErrorOf([&] { FirstChange(part, 25, CodeView::Eia); }), 0);
 }
@@ -305,19 +305,19 @@ TEST(CapacitanceFault, OfAZeroReferenceIs11InJisOnly)
 TEST(CapacitanceFault, OfAValueThatIsNotFiniteIs6)
 {
     auto part = LinearPart();
-    part.Data[14] = std::numeric_limits<float>::infinity();
+    part.Data[Value::TemperatureX] = std::numeric_limits<float>::infinity();
     EXPECT_EQ(ErrorOf([&] { FirstChange(part, 25, CodeView::Eia); }), 6);
     part = LinearPart();
-    part.Data[1] = 3e38F;
-    part.Data[14] = 10;
+    part.Data[Value::NominalCapacitance] = 3e38F;
+    part.Data[Value::TemperatureX] = 10;
     EXPECT_EQ(ErrorOf([&] { CalcCapDCVoltage(part, 125, CapacitanceAxis, CodeView::Eia); }), 6);
 }
 
 TEST(CapacitanceFault, OfAValueFarBelowZeroIs6)
 {
     auto part = LinearPart();
-    part.Data[1] = 3e38F;
-    part.Data[14] = -10;
+    part.Data[Value::NominalCapacitance] = 3e38F;
+    part.Data[Value::TemperatureX] = -10;
     // 125 °C: p = -1000, C = -9·C0
     EXPECT_EQ(ErrorOf([&] { CalcCapDCVoltage(part, 125, CapacitanceAxis, CodeView::Eia); }), 6);
 }
@@ -326,13 +326,13 @@ TEST(CapacitanceFault, IsNotRaisedByTheLargestSingleButByItsLimit)
 {
     constexpr float largest = std::numeric_limits<float>::max();
     auto part = LinearPart();
-    part.Data[2] = 1;
-    part.Data[8] = largest;
+    part.Data[Value::RatedVoltage] = 1;
+    part.Data[Value::BiasV] = largest;
     const auto curve = CalcCapDCVoltage(part, 25, CapacitanceChangeAxis, CodeView::Eia);
     EXPECT_EQ(curve.YData.back(), largest);
     EXPECT_EQ(curve.Limits.YMax, largest);
     part = LinearPart();
-    part.Data[1] = largest;
+    part.Data[Value::NominalCapacitance] = largest;
     // The axis would end at 4·10^38.
     EXPECT_EQ(ErrorOf([&] { CalcCapDCVoltage(part, 25, CapacitanceAxis, CodeView::Eia); }), 6);
 }
@@ -340,7 +340,7 @@ TEST(CapacitanceFault, IsNotRaisedByTheLargestSingleButByItsLimit)
 TEST(CapacitanceFault, IsNotRaisedByCoefficientsOutOfReach)
 {
     auto part = LinearPart();
-    part.Data[15] = std::numeric_limits<float>::quiet_NaN();
+    part.Data[Value::PeakAmplitude] = std::numeric_limits<float>::quiet_NaN();
     EXPECT_EQ(ErrorOf([&] { FirstChange(part, 25, CodeView::Jis); }), 0);
 }
 } // namespace

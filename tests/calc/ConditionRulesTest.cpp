@@ -31,8 +31,8 @@ PartRecord Part(float ratedVolts, float upperTemp = 125, std::string_view tcc = 
 {
     PartRecord part;
     part.Tcc = {tcc, "?"};
-    part.Data[2] = ratedVolts;
-    part.Data[65] = upperTemp;
+    part.Data[Value::RatedVoltage] = ratedVolts;
+    part.Data[Value::UpperTemperature] = upperTemp;
     return part;
 }
 

@@ -11,13 +11,13 @@
 inline PartRecord HeatedPart()
 {
     PartRecord part;
-    part.Data[2] = 10;
-    part.Data[29] = 4;
-    part.Data[31] = 50;
-    part.Data[46] = static_cast<float>(std::log10(0.25));
-    part.Data[55] = 1;
-    part.Data[64] = 2.5F;
-    part.Data[65] = 125;
+    part.Data[Value::RatedVoltage] = 10;
+    part.Data[Value::Current] = 4;
+    part.Data[Value::HeatResistance] = 50;
+    part.Data[Value::Amplitude] = static_cast<float>(std::log10(0.25));
+    part.Data[Value::FrequencyExponent] = 1;
+    part.Data[Value::VoltageExponent] = 2.5F;
+    part.Data[Value::UpperTemperature] = 125;
     return part;
 }
 

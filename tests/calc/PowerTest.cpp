@@ -15,8 +15,8 @@ namespace
 TEST(PowerModel, WeighsFrequencyAndHeatResistance)
 {
     auto part = HeatedPart();
-    part.Data[28] = 1000;
-    part.Data[30] = 0.25F;
+    part.Data[Value::CurrentPerF] = 1000;
+    part.Data[Value::CurrentF] = 0.25F;
     const auto model = PowerModelOf(part, 0, 20, 100);
     // (1000/2000 + 4 + 2000·0.25)·100/50
     EXPECT_DOUBLE_EQ(model.kI(2000), 1009);
@@ -27,13 +27,13 @@ TEST(PowerModel, WeighsFrequencyAndHeatResistance)
 TEST(PowerModel, IsQuadraticInTheTemperature)
 {
     auto part = HeatedPart();
-    part.Data[28] = 1;
-    part.Data[32] = 2;
-    part.Data[33] = 3;
-    part.Data[34] = 5;
-    part.Data[35] = 6;
-    part.Data[36] = 7;
-    part.Data[37] = 8;
+    part.Data[Value::CurrentPerF] = 1;
+    part.Data[Value::CurrentTPerF] = 2;
+    part.Data[Value::CurrentT2PerF] = 3;
+    part.Data[Value::CurrentT] = 5;
+    part.Data[Value::CurrentT2] = 6;
+    part.Data[Value::CurrentTF] = 7;
+    part.Data[Value::CurrentT2F] = 8;
     const auto model = PowerModelOf(part, 0, 30, 50);
     EXPECT_DOUBLE_EQ(model.Q1, 1 + 20 + 300);
     EXPECT_DOUBLE_EQ(model.Q2, 4 + 50 + 600);
@@ -86,13 +86,13 @@ TEST(PowerModel, HasACurrentLawOf1WhereItIsNotPositive)
 TEST(PowerModel, FaultsAtTheStepThatGoesWrong)
 {
     auto part = HeatedPart();
-    part.Data[2] = 0;
+    part.Data[Value::RatedVoltage] = 0;
     EXPECT_EQ(ErrorOf([&] { PowerModelOf(part, 0, 20, 50); }), 11);
     part = HeatedPart();
-    part.Data[46] = 400;
+    part.Data[Value::Amplitude] = 400;
     EXPECT_EQ(ErrorOf([&] { PowerModelOf(part, 0, 20, 50); }), 6);
     part = HeatedPart();
-    part.Data[33] = std::numeric_limits<float>::infinity();
+    part.Data[Value::CurrentT2PerF] = std::numeric_limits<float>::infinity();
     EXPECT_EQ(ErrorOf([&] { PowerModelOf(part, 0, 20, 50); }), 6);
     auto model = UnitModel();
     model.Rref = 0;

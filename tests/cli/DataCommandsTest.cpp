@@ -34,7 +34,7 @@ TEST(DataCheck, SucceedsWithWarningsOnly)
 TEST(DataCheck, FailsWithErrorsInEitherFormat)
 {
     SmallPair pair;
-    pair.Parts[1].Data[2] = 0;
+    pair.Parts[1].Data[Value::RatedVoltage] = 0;
     const TemporaryFolder folder;
     folder.Write("p.idx", pair.Index());
     folder.Write("p.dat", pair.Data());

@@ -49,7 +49,7 @@ protected:
         line.XAxisName = x;
         line.YAxisName = y;
         line.DCBiasVoltage = 12;
-        line.HeatResistance = Part(part).Data[31];
+        line.HeatResistance = Part(part).Data[Value::HeatResistance];
         line.AmbientTemp = 25;
         return line;
     }

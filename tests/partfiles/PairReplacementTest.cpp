@@ -42,7 +42,7 @@ Volts PartsIn(const PairPaths& paths)
     Volts parts;
     for (const auto& part : ReadPartPair(paths.Index, paths.Data).PartData)
     {
-        parts.emplace_back(part.PartNum[0], part.Data[2]);
+        parts.emplace_back(part.PartNum[0], part.Data[Value::RatedVoltage]);
     }
     return parts;
 }

@@ -235,7 +235,7 @@ TEST(TableReader, KnowsColumnsByTheirHeadings)
     const auto read = ReadTable(table.Text());
     ASSERT_THAT(read.Parts, testing::SizeIs(2));
     EXPECT_EQ(read.Parts[0].Names[0], "A1");
-    EXPECT_EQ(read.Parts[0].Data[2], 16);
+    EXPECT_EQ(read.Parts[0].Data[Value::RatedVoltage], 16);
 }
 
 TEST(TableReader, TakesTablesFromSpreadsheets)
@@ -272,7 +272,7 @@ TEST_P(SpecialNumberTest, ComesBackBitForBit)
     table.First[8] = row.Text;
     const auto read = ReadTable(table.Text());
     ASSERT_THAT(read.Errors, testing::IsEmpty());
-    EXPECT_EQ(std::bit_cast<std::uint32_t>(read.Parts.at(0).Data[0]), row.Bits);
+    EXPECT_EQ(std::bit_cast<std::uint32_t>(read.Parts.at(0).Data[Value::Capacitance]), row.Bits);
 }
 
 INSTANTIATE_TEST_SUITE_P(Numbers, SpecialNumberTest,

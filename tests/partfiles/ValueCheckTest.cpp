@@ -86,9 +86,9 @@ INSTANTIATE_TEST_SUITE_P(
         BrokenValue{"current heating is negative", X7R,
                     [](SmallPart& part)
                     {
-                        part.Data[28] = 1e4F;
-                        part.Data[29] = -2;
-                        part.Data[30] = 0;
+                        part.Data[Value::CurrentPerF] = 1e4F;
+                        part.Data[Value::Current] = -2;
+                        part.Data[Value::CurrentF] = 0;
                     },
                     Error, "current-heating", "kI", "-1"},
         BrokenValue{"current heating at 20 degrees is missing", X7R, Clear(28, 30), Error, "current-heating",
@@ -98,7 +98,7 @@ INSTANTIATE_TEST_SUITE_P(
                     [](SmallPart& part)
                     {
                         Clear(56, 64)(part);
-                        part.Data[64] = -2;
+                        part.Data[Value::VoltageExponent] = -2;
                     },
                     Error, "voltage-exponent", "S3", "-2"},
         BrokenValue{"heating by current is missing", X7R,
@@ -124,12 +124,12 @@ INSTANTIATE_TEST_SUITE_P(
                     {
                         // A peak at 0 °C that no exponent bends: exp(-0.001·|T|), at most 3 % off 0 below.
                         Clear(15, 25)(part);
-                        part.Data[15] = 100;
-                        part.Data[16] = -98;
-                        part.Data[22] = 1e-3F;
-                        part.Data[25] = 1e-3F;
-                        part.Data[26] = 1;
-                        part.Data[27] = 1;
+                        part.Data[Value::PeakAmplitude] = 100;
+                        part.Data[Value::PeakOffset] = -98;
+                        part.Data[Value::DecayBelow] = 1e-3F;
+                        part.Data[Value::DecayAbove] = 1e-3F;
+                        part.Data[Value::ExponentBelow] = 1;
+                        part.Data[Value::ExponentAbove] = 1;
                     },
                     Warning, "gap", "Data(17) to Data(19)", "0"},
         BrokenValue{"part has no data", X7R, Clear(3, 65), Warning, "no-data", "", ""},
@@ -139,8 +139,8 @@ INSTANTIATE_TEST_SUITE_P(
                     [](SmallPart& part)
                     {
                         Clear(3, 8)(part);
-                        part.Data[2] = 199;
-                        part.Data[8] = 1;
+                        part.Data[Value::RatedVoltage] = 199;
+                        part.Data[Value::BiasV] = 1;
                     },
                     Warning, "bias-growth", "", "1"},
         // -1 %/V up to 110 V, and no change by temperature; at three quarters of that it is still above zero.
@@ -148,9 +148,9 @@ INSTANTIATE_TEST_SUITE_P(
                     [](SmallPart& part)
                     {
                         Clear(3, 14)(part);
-                        part.Data[2] = 110;
-                        part.Data[8] = -1;
-                        part.Data[14] = 1e-9F;
+                        part.Data[Value::RatedVoltage] = 110;
+                        part.Data[Value::BiasV] = -1;
+                        part.Data[Value::TemperatureX] = 1e-9F;
                     },
                     Error, "below-zero", "", "-110"},
         // 0.25 %/°C: -20 % at -55 °C, the first point.
@@ -158,7 +158,7 @@ INSTANTIATE_TEST_SUITE_P(
                     [](SmallPart& part)
                     {
                         Clear(9, 14)(part);
-                        part.Data[14] = 0.25F;
+                        part.Data[Value::TemperatureX] = 0.25F;
                     },
                     Warning, "class-limit", "", "-20"},
         // 0.16 %/°C: above 15 % from 118.75 °C on; the first point there is -55 + 193·180/199 = 119.573 °C.
@@ -166,7 +166,7 @@ INSTANTIATE_TEST_SUITE_P(
                     [](SmallPart& part)
                     {
                         Clear(9, 14)(part);
-                        part.Data[14] = 0.16F;
+                        part.Data[Value::TemperatureX] = 0.16F;
                     },
                     Warning, "class-limit", "", "15.132"},
         BrokenValue{"peak amplitude alone is missing", Y5V, Clear(15, 16), Warning, "gap", "Data(15)", "0"}),
@@ -178,13 +178,13 @@ TEST(ValueCheck, FindsABiasBetweenTheQuartersOfTheRatedVoltage)
     SmallPair pair;
     auto& part = pair.Parts[X7R];
     Clear(3, 14)(part);
-    part.Data[2] = 10;
-    part.Data[4] = 0.3072F;
-    part.Data[5] = -7.68F;
-    part.Data[6] = 67.2F;
-    part.Data[7] = -240;
-    part.Data[8] = 288;
-    part.Data[14] = 1e-9F;
+    part.Data[Value::RatedVoltage] = 10;
+    part.Data[Value::BiasV5] = 0.3072F;
+    part.Data[Value::BiasV4] = -7.68F;
+    part.Data[Value::BiasV3] = 67.2F;
+    part.Data[Value::BiasV2] = -240;
+    part.Data[Value::BiasV] = 288;
+    part.Data[Value::TemperatureX] = 1e-9F;
     const auto findings = CheckFiles(pair.Index(), pair.Data()).Findings;
     ASSERT_THAT(findings, testing::SizeIs(2));
     EXPECT_EQ(findings[0].Rule, "bias-growth");
@@ -199,8 +199,8 @@ TEST(ValueCheck, FindsAPeakWhoseExponentHasNoValueThere)
     auto& part = pair.Parts[Y5V];
     // The sweep starts at the peak, -30 °C, where 0 to the power -1 has no value.
     Clear(17, 19)(part);
-    part.Data[19] = -30;
-    part.Data[27] = -1;
+    part.Data[Value::PeakTemperature] = -30;
+    part.Data[Value::ExponentAbove] = -1;
     const auto findings = CheckFiles(pair.Index(), pair.Data()).Findings;
     ASSERT_THAT(findings, testing::SizeIs(1));
     EXPECT_EQ(findings[0].Level, Error);
@@ -235,8 +235,8 @@ TEST(ValueCheck, LeavesPartsWithOneKindOfDataInPeace)
 TEST(ValueCheck, GoesOnBehindABrokenPart)
 {
     SmallPair pair;
-    pair.Parts[0].Data[2] = 0;
-    pair.Parts[2].Data[31] = 0;
+    pair.Parts[0].Data[Value::RatedVoltage] = 0;
+    pair.Parts[2].Data[Value::HeatResistance] = 0;
     const auto report = CheckFiles(pair.Index(), pair.Data());
     ASSERT_THAT(report.Findings, testing::SizeIs(2));
     EXPECT_EQ(report.Findings[0].Record, 1U);

@@ -45,7 +45,7 @@ TEST(Requests, AreAnsweredWithTheCurveOfTheCalculation)
     line.YAxisName = "Temperature Rise";
     line.DCBiasVoltage = 12;
     line.Frequency = 300;
-    line.HeatResistance = part.Data[31];
+    line.HeatResistance = part.Data[Value::HeatResistance];
     line.AmbientTemp = 25;
     ASSERT_FALSE(CalculateDataT(part, line));
     for (std::size_t i = 0; i < CurvePoints; ++i)

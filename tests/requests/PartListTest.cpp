@@ -23,8 +23,8 @@ struct Range
              std::array<std::string_view, 2> tcc, float capacitance, float rated, std::size_t dataAt)
     {
         PartRecord part{.PartNum = numbers, .SizeCode = size, .Tcc = tcc};
-        part.Data[0] = capacitance;
-        part.Data[2] = rated;
+        part.Data[Value::Capacitance] = capacitance;
+        part.Data[Value::RatedVoltage] = rated;
         if (dataAt != 0)
         {
             part.Data[dataAt] = 1;

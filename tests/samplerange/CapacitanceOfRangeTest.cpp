@@ -104,7 +104,7 @@ TEST(Capacitance, AtRatedVoltageIsWhatTheBiasPolynomialSays)
 {
     for (const PartRecord* part : PartsWithCapacitance())
     {
-        const double bias = BiasPolynomial(*part, part->Data[2]);
+        const double bias = BiasPolynomial(*part, part->Data[Value::RatedVoltage]);
         EXPECT_LT(bias, 0) << part->PartNum[0];
         EXPECT_GT(bias, -86) << part->PartNum[0];
         if (!IsPeaked(*part))
@@ -119,8 +119,8 @@ TEST(Capacitance, OfTheFullestPartsLosesSixtyToEightyFivePercent)
     std::map<std::tuple<std::string_view, std::string_view, float>, const PartRecord*> fullest;
     for (const PartRecord* part : PartsWithCapacitance())
     {
-        auto& most = fullest[{part->SizeCode[0], part->Tcc[0], part->Data[2]}];
-        if (most == nullptr || part->Data[0] > most->Data[0])
+        auto& most = fullest[{part->SizeCode[0], part->Tcc[0], part->Data[Value::RatedVoltage]}];
+        if (most == nullptr || part->Data[Value::Capacitance] > most->Data[Value::Capacitance])
         {
             most = part;
         }
@@ -138,14 +138,15 @@ TEST(Capacitance, OfSmallValuesInLargeCasesLosesAFewPercent)
     std::map<std::tuple<std::string_view, float>, float> highest;
     for (const PartRecord* part : PartsWithCapacitance())
     {
-        auto& most = highest[{part->SizeCode[0], part->Data[2]}];
-        most = part->Tcc[0] == "X7R" ? std::max(most, part->Data[0]) : most;
+        auto& most = highest[{part->SizeCode[0], part->Data[Value::RatedVoltage]}];
+        most = part->Tcc[0] == "X7R" ? std::max(most, part->Data[Value::Capacitance]) : most;
     }
     int judged = 0;
     for (const PartRecord* part : PartsWithCapacitance())
     {
         const bool large = part->SizeCode[0] >= "1206" && part->Tcc[0] == "X7R";
-        if (large && part->Data[0] < highest.at({part->SizeCode[0], part->Data[2]}) / 200)
+        if (large && part->Data[Value::Capacitance] <
+                         highest.at({part->SizeCode[0], part->Data[Value::RatedVoltage]}) / 200)
         {
             EXPECT_LT(-OverBias(*part, Change, 25).YData.back(), 10) << part->PartNum[0];
             ++judged;

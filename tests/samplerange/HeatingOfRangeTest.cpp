@@ -21,7 +21,7 @@ static ChartRecord RiseOver(std::string_view xAxis, const PartRecord& part, floa
     record.XAxisName = xAxis;
     record.YAxisName = "Temperature Rise";
     record.DCBiasVoltage = biasVolts;
-    record.HeatResistance = part.Data[31];
+    record.HeatResistance = part.Data[Value::HeatResistance];
     record.Frequency = kilohertz;
     record.AmbientTemp = ambientC;
     EXPECT_FALSE(CalculateDataT(part, record).has_value());
@@ -47,8 +47,10 @@ TEST(Heating, FollowsTheLossFactorAndAFewMilliohmsAt100kHz)
     for (const PartRecord* part : PartsWithPower())
     {
         const auto chart = RiseOver("Current", *part, 0, 20, 100);
-        const double ohms = chart.YData[199] / std::pow(chart.XData[199], 2) / part->Data[31];
-        const double reactance = 1 / (2 * std::numbers::pi * 1e5 * part->Data[1] * 1e-12);
+        const double ohms =
+            chart.YData[199] / std::pow(chart.XData[199], 2) / part->Data[Value::HeatResistance];
+        const double reactance =
+            1 / (2 * std::numbers::pi * 1e5 * part->Data[Value::NominalCapacitance] * 1e-12);
         const auto [least, most] = lossFactors.at(part->Tcc[0]);
         EXPECT_GT(ohms, least * reactance + 0.0005) << part->PartNum[0];
         EXPECT_LT(ohms, most * reactance + 0.008) << part->PartNum[0];
@@ -61,7 +63,7 @@ TEST(Heating, SpreadsBetterInLargerCases)
         {"0402", 350}, {"0603", 220}, {"0805", 150}, {"1206", 105}, {"1210", 75}, {"1812", 55}, {"2220", 40}};
     for (const PartRecord* part : PartsWithPower())
     {
-        EXPECT_EQ(part->Data[31], expected.at(part->SizeCode[0])) << part->PartNum[0];
+        EXPECT_EQ(part->Data[Value::HeatResistance], expected.at(part->SizeCode[0])) << part->PartNum[0];
     }
 }
 
@@ -71,7 +73,7 @@ TEST(Heating, GrowsNearlyWithTheSquareOfTheVoltage)
     {
         for (const float share : {0.0F, 0.5F, 1.0F})
         {
-            for (const float ambient : {20.0F, part->Data[65]})
+            for (const float ambient : {20.0F, part->Data[Value::UpperTemperature]})
             {
                 const auto chart = RiseOver("Voltage", *part, BiasOf(*part, share), ambient, 100);
                 EXPECT_GE(ExponentOf(chart), 1.8) << part->PartNum[0];
@@ -85,7 +87,7 @@ TEST(Heating, IsLimitedByTheHighestOperatingTemperature)
 {
     for (const PartRecord* part : PartsWithPower())
     {
-        EXPECT_EQ(part->Data[65], part->Tcc[0] == "X7R" ? 125 : 85) << part->PartNum[0];
+        EXPECT_EQ(part->Data[Value::UpperTemperature], part->Tcc[0] == "X7R" ? 125 : 85) << part->PartNum[0];
     }
 }
 
@@ -121,7 +123,7 @@ TEST(Heating, ByVoltageAndByCurrentAgreeWithoutBias)
 {
     for (const PartRecord* part : PartsWithPower())
     {
-        ExpectAgreement(*part, {.BiasVolts = 0, .AmbientC = 20}, {part->Data[1]});
+        ExpectAgreement(*part, {.BiasVolts = 0, .AmbientC = 20}, {part->Data[Value::NominalCapacitance]});
     }
 }
 
@@ -134,15 +136,16 @@ TEST_P(AgreementUnderBias, HoldsForTheCapacitanceOnTheChartAndForThePolynomial)
     const float ambient = GetParam();
     for (const PartRecord* part : PartsWithPower())
     {
-        if (BiasPolynomial(*part, part->Data[2]) == 0)
+        if (BiasPolynomial(*part, part->Data[Value::RatedVoltage]) == 0)
         {
             continue; // nothing measured under bias
         }
         const auto chart = OverBias(*part, "Capacitance", ambient);
         for (const std::size_t point : {0U, 25U, 50U, 100U, 150U, 199U})
         {
-            const float bias = std::min(chart.XData[point], part->Data[2]);
-            const double byPolynomial = part->Data[1] * (1 + BiasPolynomial(*part, bias) / 100);
+            const float bias = std::min(chart.XData[point], part->Data[Value::RatedVoltage]);
+            const double byPolynomial =
+                part->Data[Value::NominalCapacitance] * (1 + BiasPolynomial(*part, bias) / 100);
             ExpectAgreement(*part, {bias, ambient}, {chart.YData[point], byPolynomial});
         }
     }

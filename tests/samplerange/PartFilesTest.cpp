@@ -16,8 +16,8 @@ TEST(PartFiles, HoldQuotedTextsAndLittleEndianSingles)
 {
     RangePart part{
         .PartNum = {"G", "g2", "P", "p2"}, .SizeCode = {"0402", "1005"}, .Tcc = {"X7R", "R"}, .Data = {}};
-    part.Data[0] = 1.0F;    // 3F800000
-    part.Data[65] = 125.0F; // 42FA0000
+    part.Data[Value::Capacitance] = 1.0F;        // 3F800000
+    part.Data[Value::UpperTemperature] = 125.0F; // 42FA0000
     EXPECT_EQ(IndexText({part}), "\"G\",\"g2\",\"P\",\"p2\",\"0402\",\"1005\",\"X7R\",\"R\"\n");
     const auto bytes = DataBytes({part});
     ASSERT_EQ(bytes.size(), 264U);

@@ -72,9 +72,9 @@ TEST(PartList, IsRatedInE6ValuesAndUsualVoltages)
     std::set<float> volts;
     for (const PartRecord& part : Range().PartData)
     {
-        EXPECT_EQ(part.Data[0], part.Data[1]) << part.PartNum[0];
-        volts.insert(part.Data[2]);
-        double mantissa = part.Data[0];
+        EXPECT_EQ(part.Data[Value::Capacitance], part.Data[Value::NominalCapacitance]) << part.PartNum[0];
+        volts.insert(part.Data[Value::RatedVoltage]);
+        double mantissa = part.Data[Value::Capacitance];
         EXPECT_GE(mantissa, 100) << part.PartNum[0];
         EXPECT_LE(mantissa, 100e6) << part.PartNum[0];
         while (mantissa >= 100)
@@ -92,7 +92,7 @@ TEST(PartList, IsInTheOrderOfItsLists)
     const auto place = [](const PartRecord& part)
     {
         return std::tuple(PlaceIn(Sizes, part.SizeCode[0]), PlaceIn(Characteristics, part.Tcc[0]),
-                          part.Data[0], part.Data[2]);
+                          part.Data[Value::Capacitance], part.Data[Value::RatedVoltage]);
     };
     const auto& parts = Range().PartData;
     for (std::size_t i = 1; i < parts.size(); ++i)
@@ -106,8 +106,8 @@ TEST(PartList, HoldsNoMoreAtAHigherVoltage)
     std::map<std::tuple<std::string_view, std::string_view>, std::map<float, float>> highest;
     for (const PartRecord& part : Range().PartData)
     {
-        auto& most = highest[{part.SizeCode[0], part.Tcc[0]}][part.Data[2]];
-        most = std::max(most, part.Data[0]);
+        auto& most = highest[{part.SizeCode[0], part.Tcc[0]}][part.Data[Value::RatedVoltage]];
+        most = std::max(most, part.Data[Value::Capacitance]);
     }
     for (const auto& [family, byVolts] : highest)
     {
@@ -139,9 +139,10 @@ TEST_P(LimitOfRange, IsReachedAndNotPassed)
     float most = 0;
     for (const PartRecord& part : Range().PartData)
     {
-        if (part.SizeCode[0] == limit.Size && part.Tcc[0] == limit.Tcc && part.Data[2] == limit.Volts)
+        if (part.SizeCode[0] == limit.Size && part.Tcc[0] == limit.Tcc &&
+            part.Data[Value::RatedVoltage] == limit.Volts)
         {
-            most = std::max(most, part.Data[0]);
+            most = std::max(most, part.Data[Value::Capacitance]);
         }
     }
     EXPECT_EQ(most, limit.MostPf);
@@ -217,9 +218,11 @@ TEST(PartNumber, NamesSizeCharacteristicVoltageAndCapacitance)
         ASSERT_EQ(number.size(), 17U) << number;
         EXPECT_EQ(number.substr(0, 5), sizeCodes.at(part.SizeCode[0])) << number;
         EXPECT_EQ(number.substr(6, 2), characteristics.at(part.Tcc[0])) << number;
-        EXPECT_EQ(number.substr(8, 2), volts.at(part.Data[2])) << number;
+        EXPECT_EQ(number.substr(8, 2), volts.at(part.Data[Value::RatedVoltage])) << number;
         const double digits = (number[10] - '0') * 10 + (number[11] - '0');
-        EXPECT_FLOAT_EQ(static_cast<float>(digits * std::pow(10, number[12] - '0')), part.Data[0]) << number;
+        EXPECT_FLOAT_EQ(static_cast<float>(digits * std::pow(10, number[12] - '0')),
+                        part.Data[Value::Capacitance])
+            << number;
 
         std::string jis(number);
         jis[7] = '0';

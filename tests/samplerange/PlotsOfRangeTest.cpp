@@ -27,7 +27,7 @@ static ChartRecord PowerChart(ChartType type, const PartRecord& part, float bias
     record.XAxisName = "Frequency";
     record.YAxisName = "Temperature Rise";
     record.DCBiasVoltage = biasVolts;
-    record.HeatResistance = part.Data[31];
+    record.HeatResistance = part.Data[Value::HeatResistance];
     record.AmbientTemp = ambientC;
     return record;
 }
@@ -42,7 +42,7 @@ TEST(EveryPart, PlotsItsCapacitance)
             for (const auto axis : {"Capacitance", "Capacitance Change"})
             {
                 ExpectDrawable(*part, OverTemperature(*part, axis, 0, view));
-                ExpectDrawable(*part, OverTemperature(*part, axis, part->Data[2], view));
+                ExpectDrawable(*part, OverTemperature(*part, axis, part->Data[Value::RatedVoltage], view));
                 ExpectDrawable(*part, OverBias(*part, axis, low, view));
                 ExpectDrawable(*part, OverBias(*part, axis, 20, view));
                 ExpectDrawable(*part, OverBias(*part, axis, high, view));
@@ -55,9 +55,9 @@ TEST(EveryPart, PlotsItsTemperatureRiseOverLoad)
 {
     for (const PartRecord* part : PartsWithPower())
     {
-        for (const float bias : {0.0F, part->Data[2]})
+        for (const float bias : {0.0F, part->Data[Value::RatedVoltage]})
         {
-            for (const float ambient : {20.0F, part->Data[65]})
+            for (const float ambient : {20.0F, part->Data[Value::UpperTemperature]})
             {
                 for (const auto axis : ParameterNames)
                 {
@@ -77,9 +77,9 @@ TEST(EveryPart, PlotsItsTemperatureRiseOverFrequencyUpToTheShownLimit)
 {
     for (const PartRecord* part : PartsWithPower())
     {
-        for (const float bias : {0.0F, part->Data[2]})
+        for (const float bias : {0.0F, part->Data[Value::RatedVoltage]})
         {
-            for (const float ambient : {20.0F, part->Data[65]})
+            for (const float ambient : {20.0F, part->Data[Value::UpperTemperature]})
             {
                 for (const auto parameter : ParameterNames)
                 {
@@ -104,7 +104,7 @@ TEST(EveryPart, PlotsItsAllowablePower)
     {
         for (const float bias : {0.0F, BiasOf(*part, 0.99F)})
         {
-            for (const float ambient : {20.0F, part->Data[65]})
+            for (const float ambient : {20.0F, part->Data[Value::UpperTemperature]})
             {
                 for (const auto axis : ParameterNames)
                 {

@@ -50,8 +50,8 @@ const PartRecord& PartOf(std::string_view size, std::string_view tcc, float pico
 {
     for (const PartRecord& part : Range().PartData)
     {
-        if (part.SizeCode[0] == size && part.Tcc[0] == tcc && part.Data[0] == picofarads &&
-            part.Data[2] == volts)
+        if (part.SizeCode[0] == size && part.Tcc[0] == tcc && part.Data[Value::Capacitance] == picofarads &&
+            part.Data[Value::RatedVoltage] == volts)
         {
             return part;
         }
@@ -66,7 +66,7 @@ bool IsPeaked(const PartRecord& part)
 
 float BiasOf(const PartRecord& part, float share)
 {
-    return part.Data[2] * share;
+    return part.Data[Value::RatedVoltage] * share;
 }
 
 TemperatureRange OperatingRange(const PartRecord& part)

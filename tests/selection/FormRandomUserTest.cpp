@@ -339,10 +339,11 @@ private:
         QCOMPARE(desk->Text("txtAmbientTemp"), plain->Selection.Code == 0 ? "25" : "20");
         const bool heat = enabled.contains("txtHeatResistance");
         const auto part = desk->form->GetSelectedPart();
-        QCOMPARE(desk->Text("txtHeatResistance"),
-                 heat ? QString::fromStdString(
-                            NumberText(mdlPublic.Parts.PartData[static_cast<std::size_t>(part)].Data[31]))
-                      : "");
+        QCOMPARE(
+            desk->Text("txtHeatResistance"),
+            heat ? QString::fromStdString(NumberText(
+                       mdlPublic.Parts.PartData[static_cast<std::size_t>(part)].Data[Value::HeatResistance]))
+                 : "");
     }
 
     std::unique_ptr<Desk> desk;

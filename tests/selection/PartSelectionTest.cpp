@@ -100,7 +100,7 @@ TEST_F(Cascade, ComparesTheListedCapacitanceNotTheNominalOne)
 {
     for (auto& part : range.PartData)
     {
-        part.Data[1] = 7;
+        part.Data[Value::NominalCapacitance] = 7;
     }
     selection.AddPartNum(0, CodeView::Eia);
     selection.FillTccList("0805");
