@@ -4,7 +4,6 @@
 #include "calc/CheckedMath.h"
 #include "calc/Sweep.h"
 #include "partdata/RunTimeError.h"
-#include "partdata/SpecialParts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -182,6 +181,13 @@ void StorePoints(Curve& curve, const SweepValues& sweep, double nominal, const R
     curve.HasPoints = isCapacitance || yAxisName == CapacitanceChangeAxis;
 }
 
+/// Ends of the temperature sweep; both 0 for a characteristic that is not listed.
+TemperatureRange SweepRangeOf(const PartRecord& part, CodeView view)
+{
+    const auto* const characteristic = FindCharacteristic(part.Tcc[0]);
+    return characteristic == nullptr ? TemperatureRange{} : characteristic->RangeIn(view);
+}
+
 /// The finished curve: default limits around what was stored, or around 0 where nothing was.
 void SetLimits(Curve& curve, float xMax, float xMin, std::string_view yAxisName)
 {
@@ -190,39 +196,11 @@ void SetLimits(Curve& curve, float xMax, float xMin, std::string_view yAxisName)
 }
 } // namespace
 
-CapacitanceModel CapacitanceModelOf(const PartRecord& part)
-{
-    const auto tcc = part.Tcc[0];
-    if (IsSpecialPart(part.PartNum[0]) || tcc == "X7R" || tcc == "X5R")
-    {
-        return CapacitanceModel::Polynomial;
-    }
-    return tcc == "Y5V" ? CapacitanceModel::Peaked : CapacitanceModel::None;
-}
-
-TemperatureRange TemperatureRangeOf(std::string_view eiaTcc, CodeView view)
-{
-    const bool isJis = view == CodeView::Jis;
-    if (eiaTcc == "X7R")
-    {
-        return {.MaxC = 125, .MinC = -55};
-    }
-    if (eiaTcc == "X5R")
-    {
-        return {.MaxC = 85, .MinC = isJis ? -25.0F : -55.0F};
-    }
-    if (eiaTcc == "Y5V")
-    {
-        return {.MaxC = 85, .MinC = isJis ? -25.0F : -30.0F};
-    }
-    return {.MaxC = 0, .MinC = 0};
-}
-
 Curve CalcCapTemperature(const PartRecord& part, float biasVolts, std::string_view yAxisName, CodeView view)
 {
     const auto data = CoefficientsOf(part);
     const auto model = CapacitanceModelOf(part);
-    const auto range = TemperatureRangeOf(part.Tcc[0], view);
+    const auto range = SweepRangeOf(part, view);
     Curve curve;
     if (model != CapacitanceModel::None)
     {

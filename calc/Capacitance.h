@@ -8,30 +8,10 @@
 /// In the JIS view the change refers to the capacitance at 20 °C without bias, else to the nominal one.
 
 #include "calc/Curve.h"
+#include "partdata/Characteristic.h"
 #include "partdata/PartRecord.h"
 
 #include <string_view>
-
-/// How the capacitance of a part is modelled.
-enum class CapacitanceModel
-{
-    None,
-    Polynomial,
-    Peaked,
-};
-
-/// Polynomial for the special parts and the characteristics X7R and X5R, peaked for Y5V, none for the rest.
-CapacitanceModel CapacitanceModelOf(const PartRecord& part);
-
-/// Ends of the temperature sweep in °C.
-struct TemperatureRange
-{
-    float MaxC;
-    float MinC;
-};
-
-/// The range of a characteristic by its EIA name; 0 to 0 for one that is not listed.
-TemperatureRange TemperatureRangeOf(std::string_view eiaTcc, CodeView view);
 
 /// Capacitance (pF) or capacitance change (%), as `yAxisName` says, over the temperature range of the part's
 /// characteristic at a fixed bias. 200 points, both ends included. A part without a model, or another Y axis

@@ -2,25 +2,28 @@
 
 #include "calc/CheckedMath.h"
 #include "calc/Log10.h"
+#include "partdata/Characteristic.h"
 
 #include <cmath>
+#include <optional>
 
 namespace
 {
-struct WidenedRange
+/// The ends of the axis over the temperatures of a characteristic, or nothing for any other range.
+std::optional<TemperatureRange> RoundedRangeOf(const TemperatureRange& range)
 {
-    float XMax;
-    float XMin;
-    float WidenedMax;
-    float WidenedMin;
-};
-
-constexpr WidenedRange widenedRanges[] = {
-    {125, -55, 125, -75},
-    {85, -55, 100, -75},
-    {85, -30, 100, -50},
-    {85, -25, 100, -25},
-};
+    for (const auto& characteristic : Characteristics())
+    {
+        for (std::size_t view = 0; view < CodeForms; ++view)
+        {
+            if (characteristic.Range[view] == range)
+            {
+                return characteristic.AxisRange[view];
+            }
+        }
+    }
+    return std::nullopt;
+}
 
 /// The step of a limit; 0 where there is none.
 double StepOf(float limit, std::string_view yAxisName)
@@ -65,13 +68,10 @@ AxisLimits SetCapacitanceAxes(float xMax, float xMin, float largestY, float smal
                       .YMax = UpperLimit(largestY, StepOf(largestY, yAxisName)),
                       .XMin = xMin,
                       .YMin = LowerLimit(smallestY, StepOf(smallestY, yAxisName))};
-    for (const auto& range : widenedRanges)
+    if (const auto rounded = RoundedRangeOf({.MinC = xMin, .MaxC = xMax}))
     {
-        if (range.XMax == xMax && range.XMin == xMin)
-        {
-            limits.XMax = range.WidenedMax;
-            limits.XMin = range.WidenedMin;
-        }
+        limits.XMax = rounded->MaxC;
+        limits.XMin = rounded->MinC;
     }
     return limits;
 }

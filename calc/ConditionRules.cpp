@@ -1,6 +1,7 @@
 #include "calc/ConditionRules.h"
 
 #include "calc/NumberText.h"
+#include "partdata/Characteristic.h"
 
 #include <limits>
 #include <utility>
@@ -53,33 +54,21 @@ Refusal RefuseAmbientTemp1(std::string_view entry, const PartRecord& part, Entry
         Invalid("Ambient Temperature", "20 to " + NumberText(upper) + " [C]"));
 }
 
-struct TemperatureRange
-{
-    int lower;
-    int upper;
-};
+/// What can be entered for a characteristic that is not listed, in °C.
+static constexpr TemperatureRange UnlistedRange = {.MinC = -55, .MaxC = 125};
 
-static TemperatureRange RangeOf(std::string_view tcc, CodeView view)
+static TemperatureRange EntryRangeOf(const PartRecord& part, CodeView view)
 {
-    const bool jis = view == CodeView::Jis;
-    if (tcc == "X5R")
-    {
-        return {jis ? -25 : -55, 85};
-    }
-    if (tcc == "Y5V")
-    {
-        return {jis ? -25 : -30, 85};
-    }
-    return {-55, 125};
+    const auto* const characteristic = FindCharacteristic(part.Tcc[0]);
+    return characteristic == nullptr ? UnlistedRange : characteristic->RangeIn(view);
 }
 
 Refusal RefuseAmbientTemp2(std::string_view entry, const PartRecord& part, CodeView view, EntryLocale locale)
 {
-    const auto range = RangeOf(part.Tcc[0], view);
-    const auto permitted = std::to_string(range.lower) + " to " + std::to_string(range.upper) + " [C]";
+    const auto range = EntryRangeOf(part, view);
+    const auto permitted = NumberText(range.MinC) + " to " + NumberText(range.MaxC) + " [C]";
     return Judge(
-        entry, locale,
-        [=](float v) { return v >= static_cast<float>(range.lower) && v <= static_cast<float>(range.upper); },
+        entry, locale, [=](float v) { return v >= range.MinC && v <= range.MaxC; },
         Invalid("Ambient Temperature", permitted));
 }
 

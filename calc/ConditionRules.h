@@ -34,7 +34,7 @@ Refusal RefuseHeatResistance(std::string_view entry, EntryLocale locale);
 Refusal RefuseAmbientTemp1(std::string_view entry, const PartRecord& part, EntryLocale locale);
 
 /// Ambient temperature in °C of the capacitance charts: the range of the part's characteristic, which
-/// depends on the code on display; -55 to 125 for a characteristic other than X7R, X5R and Y5V.
+/// depends on the code on display; -55 to 125 for a characteristic that is not listed.
 Refusal RefuseAmbientTemp2(std::string_view entry, const PartRecord& part, CodeView view, EntryLocale locale);
 
 /// Parameter: any number; its upper limit is found by the calculation.

@@ -1,13 +1,13 @@
 #include "partfiles/PowerCheck.h"
 
 #include "calc/AllowablePower.h"
-#include "calc/Capacitance.h"
 #include "calc/ChartNames.h"
 #include "calc/NumberText.h"
 #include "calc/PowerModel.h"
 #include "calc/Sweep.h"
 #include "calc/TemperatureRise.h"
 #include "partdata/Availability.h"
+#include "partdata/Characteristic.h"
 #include "partdata/RunTimeError.h"
 #include "partfiles/Columns.h"
 
@@ -41,12 +41,12 @@ bool CheckUpperTemperature(const PartRecord& part, ValueFindings& findings)
                               NumberText(HottestC) + " °C");
         return false;
     }
-    const float classMax = TemperatureRangeOf(part.Tcc[0], CodeView::Eia).MaxC;
-    if (classMax != 0 && upper > classMax)
+    const auto* const characteristic = FindCharacteristic(part.Tcc[0]);
+    if (characteristic != nullptr && upper > characteristic->RangeIn(CodeView::Eia).MaxC)
     {
         findings.AddValue(Severity::Warning, "class-temperature", part, Value::UpperTemperature,
                           "the upper temperature lies above that of " + std::string(part.Tcc[0]) + ", " +
-                              NumberText(classMax) + " °C");
+                              NumberText(characteristic->RangeIn(CodeView::Eia).MaxC) + " °C");
     }
     return true;
 }

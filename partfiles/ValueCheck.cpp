@@ -5,6 +5,7 @@
 #include "calc/NumberText.h"
 #include "calc/Sweep.h"
 #include "partdata/Availability.h"
+#include "partdata/Characteristic.h"
 #include "partdata/RunTimeError.h"
 #include "partdata/Windows1252.h"
 #include "partfiles/Columns.h"
@@ -25,21 +26,17 @@ std::string RoundedText(double value)
     return FormatNumber(static_cast<float>(value), NumberFormat::ReadOut);
 }
 
-/// The change of capacitance that a characteristic permits over its temperature range, in percent.
-struct ClassLimits
+/// "X7R, X5R and Y5V".
+std::string ListedNames()
 {
-    float Least;
-    float Most;
-};
-
-ClassLimits ClassLimitsOf(std::string_view eiaTcc)
-{
-    return eiaTcc == "Y5V" ? ClassLimits{.Least = -82, .Most = 22} : ClassLimits{.Least = -15, .Most = 15};
-}
-
-bool IsListed(std::string_view eiaTcc)
-{
-    return eiaTcc == "X7R" || eiaTcc == "X5R" || eiaTcc == "Y5V";
+    const auto listed = Characteristics();
+    std::string names;
+    for (std::size_t i = 0; i < listed.size(); ++i)
+    {
+        names += i == 0 ? "" : i + 1 < listed.size() ? ", " : " and ";
+        names += listed[i].Names[0];
+    }
+    return names;
 }
 
 bool CheckFinite(const PartRecord& part, ValueFindings& findings)
@@ -137,19 +134,18 @@ void CheckBias(const PartRecord& part, ValueFindings& findings)
     }
 }
 
-void CheckClassLimits(const PartRecord& part, const Curve& unbiased, ValueFindings& findings)
+void CheckClassLimits(const Characteristic& limits, const Curve& unbiased, ValueFindings& findings)
 {
-    const auto limits = ClassLimitsOf(part.Tcc[0]);
     for (std::size_t i = 0; i < CurvePoints; ++i)
     {
         const float change = unbiased.YData[i];
-        if (change < limits.Least || change > limits.Most)
+        if (change < limits.LeastChange || change > limits.MostChange)
         {
             findings.Add(Severity::Warning, "class-limit", "", RoundedText(change),
                          "change of capacitance " + RoundedText(change) + " % at " +
                              RoundedText(unbiased.XData[i]) + " °C without bias; " +
-                             std::string(part.Tcc[0]) + " permits " + RoundedText(limits.Least) + " to " +
-                             RoundedText(limits.Most) + " %");
+                             std::string(limits.Names[0]) + " permits " + RoundedText(limits.LeastChange) +
+                             " to " + RoundedText(limits.MostChange) + " %");
             return;
         }
     }
@@ -171,13 +167,15 @@ bool CheckNotNegative(const Curve& curve, const std::string& conditions, const c
     return false;
 }
 
-void CheckCapacitanceCurves(const PartRecord& part, ValueFindings& findings)
+void CheckCapacitanceCurves(const PartRecord& part, const Characteristic& characteristic,
+                            ValueFindings& findings)
 {
-    const auto range = TemperatureRangeOf(part.Tcc[0], CodeView::Eia);
+    const auto& range = characteristic.RangeIn(CodeView::Eia);
     const float rated = part.Data[Value::RatedVoltage];
     try
     {
-        CheckClassLimits(part, CalcCapTemperature(part, 0, CapacitanceChangeAxis, CodeView::Eia), findings);
+        CheckClassLimits(characteristic, CalcCapTemperature(part, 0, CapacitanceChangeAxis, CodeView::Eia),
+                         findings);
         for (const float volts : {0.0F, rated / 4, rated / 2, rated / 4 * 3, rated})
         {
             if (!CheckNotNegative(CalcCapTemperature(part, volts, CapacitanceChangeAxis, CodeView::Eia),
@@ -203,11 +201,11 @@ void CheckCapacitanceCurves(const PartRecord& part, ValueFindings& findings)
     }
 }
 
-void CheckCapacitance(const PartRecord& part, ValueFindings& findings)
+void CheckCapacitance(const PartRecord& part, const Characteristic& characteristic, ValueFindings& findings)
 {
     CheckCapacitanceGaps(part, CapacitanceModelOf(part), findings);
     CheckBias(part, findings);
-    CheckCapacitanceCurves(part, findings);
+    CheckCapacitanceCurves(part, characteristic, findings);
 }
 } // namespace
 
@@ -232,11 +230,11 @@ void ValueFindings::AddValue(Severity level, std::string rule, const PartRecord&
 
 void CheckValues(const PartRecord& part, ValueFindings& findings)
 {
-    const bool listed = IsListed(part.Tcc[0]);
-    if (!listed)
+    const auto* const characteristic = FindCharacteristic(part.Tcc[0]);
+    if (characteristic == nullptr)
     {
         findings.Add(Severity::Error, "characteristic", "Tcc(0)", Utf8FromWindows1252(part.Tcc[0]),
-                     "the temperature characteristic is none of X7R, X5R and Y5V");
+                     "the temperature characteristic is none of " + ListedNames());
     }
     if (!CheckFinite(part, findings))
     {
@@ -254,9 +252,9 @@ void CheckValues(const PartRecord& part, ValueFindings& findings)
     {
         return;
     }
-    if (hasCapacitance && listed && part.Data[Value::NominalCapacitance] > 0)
+    if (hasCapacitance && characteristic != nullptr && part.Data[Value::NominalCapacitance] > 0)
     {
-        CheckCapacitance(part, findings);
+        CheckCapacitance(part, *characteristic, findings);
     }
     if (hasPower)
     {

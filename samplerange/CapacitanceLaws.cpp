@@ -35,15 +35,13 @@ struct CurveEnds
 CurveEnds EndsOf(const PartDesign& part)
 {
     const double thin = Thinness(part);
-    if (part.Characteristic == "X7R")
-    {
-        return {42 - 8 * thin, -55, -0.075 - 0.045 * thin, 125, -0.085 - 0.045 * thin};
-    }
-    if (part.Characteristic == "X5R")
-    {
-        return {14 - 8 * thin, -55, -0.055 - 0.06 * thin, 85, -0.075 - 0.055 * thin};
-    }
-    return {17 - 4 * thin, -30, -0.46, 85, -0.62 - 0.06 * thin};
+    const Ceramic& ceramic = CeramicOf(part.Characteristic);
+    const auto& range = CharacteristicNamed(part.Characteristic).RangeIn(CodeView::Eia);
+    return {.PeakC = ceramic.PeakC.At(thin),
+            .ColdC = range.MinC,
+            .ColdChange = ceramic.ColdChange.At(thin),
+            .HotC = range.MaxC,
+            .HotChange = ceramic.HotChange.At(thin)};
 }
 
 double Square(double x)
@@ -117,7 +115,7 @@ void WriteTemperaturePolynomial(const PartDesign& part, PartValues& data)
 namespace
 {
 
-/// The peaked model of Y5V: what is left far from the peak, and the two decays.
+/// The peaked model: what is left far from the peak, and the two decays.
 constexpr double FarOffset = -94.8;
 
 struct PeakedModel
@@ -133,6 +131,7 @@ struct PeakedModel
 PeakedModel PeakedModelOf(const PartDesign& part)
 {
     const double thin = Thinness(part);
+    const auto& range = CharacteristicNamed(part.Characteristic).RangeIn(CodeView::Eia);
     const double peakC = 16 + 5 * thin;
     const double hotExponent = 1.75 - 0.15 * thin;
     const double coldExponent = 1.6 - 0.1 * thin;
@@ -141,16 +140,16 @@ PeakedModel PeakedModelOf(const PartDesign& part)
 
     // Amplitude·exp(-decay·|T - peak|^exponent) is what is missing to the far offset, at 25 °C and at the
     // hot end; the quotient of both leaves the amplitude.
-    const double quotient = PlainPower((ReferenceC - peakC) / (85 - peakC), hotExponent);
+    const double quotient = PlainPower((ReferenceC - peakC) / (range.MaxC - peakC), hotExponent);
     const double logAtReference = PlainLog(-FarOffset);
     const double logAtHot = PlainLog(hotChange - FarOffset);
     const double logAmplitude = (logAtReference - quotient * logAtHot) / (1 - quotient);
     return {.Amplitude = PlainExp(logAmplitude),
             .PeakC = peakC,
-            .ColdDecay =
-                (logAmplitude - PlainLog(coldChange - FarOffset)) / PlainPower(peakC + 30, coldExponent),
+            .ColdDecay = (logAmplitude - PlainLog(coldChange - FarOffset)) /
+                         PlainPower(peakC - range.MinC, coldExponent),
             .ColdExponent = coldExponent,
-            .HotDecay = (logAmplitude - logAtHot) / PlainPower(85 - peakC, hotExponent),
+            .HotDecay = (logAmplitude - logAtHot) / PlainPower(range.MaxC - peakC, hotExponent),
             .HotExponent = hotExponent};
 }
 
@@ -183,9 +182,14 @@ static double PeakedCapacitance(const PartDesign& part, double temperatureC)
     return 1 + (model.Amplitude * PlainExp(-decay) + FarOffset) / 100;
 }
 
+static bool IsPeaked(const PartDesign& part)
+{
+    return CharacteristicNamed(part.Characteristic).Model == CapacitanceModel::Peaked;
+}
+
 double RelativeCapacitance(const PartDesign& part, double temperatureC)
 {
-    if (part.Characteristic == "Y5V")
+    if (IsPeaked(part))
     {
         return PeakedCapacitance(part, temperatureC) / PeakedCapacitance(part, 20);
     }

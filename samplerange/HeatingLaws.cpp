@@ -21,30 +21,11 @@ constexpr double ManyLayersFarads = 47e-6;
 /// The voltage law keeps this common logarithm below the current law, to the safe side.
 constexpr double SafeSide = 0.0245;
 
-/// A value that changes with temperature: value·(1 + Linear·t + Square·t²), t = T - 20.
-struct TemperatureFactor
-{
-    double Linear;
-    double Square;
-
-    double At(double t) const { return 1 + t * Linear + t * t * Square; }
-};
-
-/// Of the loss in the ceramic, and of the metal of the electrodes.
-TemperatureFactor LossFactorChange(const PartDesign& part)
-{
-    if (part.Characteristic == "X7R")
-    {
-        return {-0.0070, 3.2e-5};
-    }
-    return part.Characteristic == "X5R" ? TemperatureFactor{-0.0090, 5.5e-5}
-                                        : TemperatureFactor{-0.0110, 6.5e-5};
-}
 constexpr TemperatureFactor ElectrodeChange{0.0039, 0};
 
 double HighestOperatingC(const PartDesign& part)
 {
-    return part.Characteristic == "X7R" ? 125 : 85;
+    return CharacteristicNamed(part.Characteristic).RangeIn(CodeView::Eia).MaxC;
 }
 
 /// ESR = CeramicOhmHz/f + ElectrodeOhms·(1 + f/SkinHz).
@@ -64,7 +45,7 @@ SeriesResistance SeriesResistanceOf(const PartDesign& part)
 {
     const double farads = static_cast<double>(part.Picofarads) * 1e-12;
     const double electrodes = part.Size->ElectrodeMilliohms / 1000 / (1 + farads / ManyLayersFarads);
-    return {LossFactor(part) / (2 * Pi * farads), electrodes, LossFactorChange(part)};
+    return {LossFactor(part) / (2 * Pi * farads), electrodes, CeramicOf(part.Characteristic).LossChange};
 }
 
 void WriteCurrentLaw(const SeriesResistance& resistance, double heatResistance, PartValues& data)
@@ -154,9 +135,8 @@ struct Exponent
 /// Thin layers lose more than with the square of the voltage.
 Exponent ExponentOf(const PartDesign& part)
 {
-    const double thin = Thinness(part);
-    const double base = part.Characteristic == "X7R" ? 1.97 : part.Characteristic == "X5R" ? 2.04 : 2.0;
-    return {base + 0.2 * thin, 0.05 * BiasLoss(part, 1), -0.0006};
+    const double base = CeramicOf(part.Characteristic).LossExponent;
+    return {base + 0.2 * Thinness(part), 0.05 * BiasLoss(part, 1), -0.0006};
 }
 
 } // namespace

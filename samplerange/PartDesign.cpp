@@ -18,9 +18,60 @@ constexpr double ActiveWidth = 0.75;
 constexpr double ActiveThickness = 0.8;
 constexpr double ElectrodeUm = 0.8;
 constexpr std::array<std::pair<std::string_view, Ceramic>, 3> Ceramics = {{
-    {"X7R", {2500, 4.4, 1.7, 0.10, 0.8, 0.7, 0.62, 0.80, 0.020, 0.035}},
-    {"X5R", {3200, 3.35, 1.9, 0.12, 0.7, 0.9, 0.62, 0.845, 0.030, 0.100}},
-    {"Y5V", {11000, 1.1, 1.5, 0.14, 0.2, 1.95, 0.66, 0.70, 0.050, 0.120}},
+    {"X7R",
+     {.Permittivity = 2500,
+      .HalfField = 4.4,
+      .FallExponent = 1.7,
+      .FirmShare = 0.10,
+      .EasyField = 0.8,
+      .EasyStrain = 0.7,
+      .LeastLossOfFullest = 0.62,
+      .LargestLoss = 0.80,
+      .ThickLoss = 0.020,
+      .ThinLoss = 0.035,
+      .PeakC = {42, -8},
+      .ColdChange = {-0.075, -0.045},
+      .HotChange = {-0.085, -0.045},
+      .LossChange = {-0.0070, 3.2e-5},
+      .LossExponent = 1.97,
+      .Tolerance = 'K',
+      .LargeTolerance = 'K'}},
+    {"X5R",
+     {.Permittivity = 3200,
+      .HalfField = 3.35,
+      .FallExponent = 1.9,
+      .FirmShare = 0.12,
+      .EasyField = 0.7,
+      .EasyStrain = 0.9,
+      .LeastLossOfFullest = 0.62,
+      .LargestLoss = 0.845,
+      .ThickLoss = 0.030,
+      .ThinLoss = 0.100,
+      .PeakC = {14, -8},
+      .ColdChange = {-0.055, -0.06},
+      .HotChange = {-0.075, -0.055},
+      .LossChange = {-0.0090, 5.5e-5},
+      .LossExponent = 2.04,
+      .Tolerance = 'K',
+      .LargeTolerance = 'M'}},
+    {"Y5V",
+     {.Permittivity = 11000,
+      .HalfField = 1.1,
+      .FallExponent = 1.5,
+      .FirmShare = 0.14,
+      .EasyField = 0.2,
+      .EasyStrain = 1.95,
+      .LeastLossOfFullest = 0.66,
+      .LargestLoss = 0.70,
+      .ThickLoss = 0.050,
+      .ThinLoss = 0.120,
+      .PeakC = {17, -4},
+      .ColdChange = {-0.46, 0},
+      .HotChange = {-0.62, -0.06},
+      .LossChange = {-0.0110, 6.5e-5},
+      .LossExponent = 2.0,
+      .Tolerance = 'Z',
+      .LargeTolerance = 'Z'}},
 }};
 
 /// The layer thickness in µm at which layers and electrodes fill the case: layer·(layer + electrode) =
@@ -78,6 +129,16 @@ const Ceramic& CeramicOf(std::string_view characteristic)
         }
     }
     throw std::runtime_error("no such characteristic: " + std::string(characteristic));
+}
+
+const Characteristic& CharacteristicNamed(std::string_view eiaName)
+{
+    const auto* const found = FindCharacteristic(eiaName);
+    if (found == nullptr)
+    {
+        throw std::runtime_error("no such characteristic: " + std::string(eiaName));
+    }
+    return *found;
 }
 
 PartDesign DesignPart(const CaseSize& size, const Family& family, std::int64_t picofarads)

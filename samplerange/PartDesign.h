@@ -2,7 +2,26 @@
 
 /// How one part is built, and the properties of its ceramic that follow from that.
 
+#include "partdata/Characteristic.h"
 #include "samplerange/SourceTable.h"
+
+/// A value that depends on how thin the layers are: that of thick layers, and how much very thin ones add.
+struct ByThinness
+{
+    double Thick;
+    double Added;
+
+    double At(double thinness) const { return Thick + Added * thinness; }
+};
+
+/// A value that changes with temperature: value·(1 + Linear·t + Square·t²), t = T - 20.
+struct TemperatureFactor
+{
+    double Linear;
+    double Square;
+
+    double At(double t) const { return 1 + t * Linear + t * t * Square; }
+};
 
 /// A ceramic: what parts of one temperature characteristic have in common.
 struct Ceramic
@@ -23,10 +42,24 @@ struct Ceramic
     /// Loss factor at 100 kHz of thick and of very thin layers.
     double ThickLoss;
     double ThinLoss;
+    /// Temperature at which there is most capacitance without bias, in °C, and the relative changes of
+    /// capacitance at both ends of the characteristic's range.
+    ByThinness PeakC;
+    ByThinness ColdChange;
+    ByThinness HotChange;
+    /// How the loss changes with temperature, and the power of the voltage that it rises with.
+    TemperatureFactor LossChange;
+    double LossExponent;
+    /// Letters of the tolerance below and from 1 µF on.
+    char Tolerance;
+    char LargeTolerance;
 };
 
-/// The ceramic of a characteristic, by its EIA name.
+/// The ceramic of a characteristic, by its EIA name. Throws std::runtime_error for one that has none.
 const Ceramic& CeramicOf(std::string_view characteristic);
+
+/// The characteristic of an EIA name. Throws std::runtime_error for one that is not listed.
+const Characteristic& CharacteristicNamed(std::string_view eiaName);
 
 /// One part as it is built.
 struct PartDesign

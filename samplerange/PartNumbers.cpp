@@ -65,14 +65,10 @@ std::string CapacitanceCode(std::int64_t picofarads)
     return std::to_string(picofarads) + std::to_string(zeros);
 }
 
-/// -20/+80 % for Y5V, 20 % where layers are thin and values large, else 10 %.
 char ToleranceCode(const PartDesign& part)
 {
-    if (part.Characteristic == "Y5V")
-    {
-        return 'Z';
-    }
-    return part.Characteristic == "X5R" && part.Picofarads >= 1000000 ? 'M' : 'K';
+    const Ceramic& ceramic = CeramicOf(part.Characteristic);
+    return part.Picofarads >= 1000000 ? ceramic.LargeTolerance : ceramic.Tolerance;
 }
 
 /// Three places: "050", "6R3".
@@ -89,20 +85,11 @@ std::string PreviousVoltageCode(double volts)
 
 } // namespace
 
-std::string JisCharacteristic(std::string_view eia)
-{
-    if (eia == "X7R")
-    {
-        return "R";
-    }
-    return eia == "X5R" ? "B" : "F";
-}
-
 std::array<std::string, PartNumForms> PartNumbers(const PartDesign& part)
 {
     const auto& size = *part.Size;
     const auto& eia = part.Characteristic;
-    const auto jis = JisCharacteristic(eia);
+    const std::string jis(CharacteristicNamed(eia).Names[1]);
     const auto capacitance = CapacitanceCode(part.Picofarads);
     const auto tolerance = ToleranceCode(part);
 

@@ -8,9 +8,6 @@
 #include <array>
 #include <string>
 
-/// JIS name of a characteristic: "R", "B" or "F" for "X7R", "X5R" or "Y5V".
-std::string JisCharacteristic(std::string_view eia);
-
 /// Global EIA, global JIS, previous EIA and previous JIS number of a part.
 ///
 ///     0402, Y5V, 50 V, 2200 pF   // "KTU155F51H222ZA01", "KTU155F01H222ZA01",

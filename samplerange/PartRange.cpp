@@ -37,9 +37,8 @@ std::vector<PartDesign> DesignParts(const std::vector<CaseSize>& sizes, const st
         }
     }
     std::ranges::sort(parts, {},
-                      [](const PartDesign& part)
-                      {
-                          return std::tuple(part.Size, part.Characteristic != "X7R", part.Characteristic,
+                      [](const PartDesign& part) {
+                          return std::tuple(part.Size, FindCharacteristic(part.Characteristic),
                                             part.Picofarads, part.Volts);
                       });
     return parts;
@@ -52,16 +51,17 @@ void Clear(PartValues& data, ValueGroup group)
 
 RangePart MakePart(const PartDesign& design)
 {
+    const auto& characteristic = CharacteristicNamed(design.Characteristic);
     RangePart part{.PartNum = PartNumbers(design),
                    .SizeCode = {design.Size->Eia, design.Size->Jis},
-                   .Tcc = {design.Characteristic, JisCharacteristic(design.Characteristic)},
+                   .Tcc = {std::string(characteristic.Names[0]), std::string(characteristic.Names[1])},
                    .Data = {}};
     PartValues data{};
     data[Value::Capacitance] = static_cast<double>(design.Picofarads);
     data[Value::NominalCapacitance] = data[Value::Capacitance];
     data[Value::RatedVoltage] = design.Volts;
     WriteBiasLaw(design, data);
-    if (design.Characteristic == "Y5V" && !IsSpecialPart(part.PartNum[0]))
+    if (characteristic.Model == CapacitanceModel::Peaked && !IsSpecialPart(part.PartNum[0]))
     {
         WritePeakedModel(design, data);
     }

@@ -37,7 +37,7 @@ enum class Measured
 struct Family
 {
     std::string Size;
-    /// EIA name: "X7R", "X5R" or "Y5V".
+    /// EIA name, such as "X7R".
     std::string Characteristic;
     double Volts;
     /// Lowest and highest E6 capacitance in pF.
