@@ -33,7 +33,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     catch (const RunTimeError& error)
     {
         Require(error.Number() == 62, "an index ends within a record or is whole");
-        Require(error.Place().starts_with("parts.idx: record "), "the error names file and record");
+        const auto& where = error.Where();
+        Require(where.File == "parts.idx" && where.Record >= 1 && where.Field >= 1 && where.Field <= 8,
+                "the error names file, record and field");
+        Require(where.Offset && *where.Offset <= size, "the error tells where in the text it lies");
         return 0;
     }
     Require(parts.size() <= size / 8 + 1, "eight fields take eight bytes");

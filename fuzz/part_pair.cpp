@@ -88,12 +88,12 @@ static void RequireTable(const PartTable& table, std::string_view index, std::st
 
 static void RequireError(const RunTimeError& error)
 {
-    const std::string_view place = error.Place();
+    const auto& where = error.Where();
     Require(error.Number() == 62 || error.Number() == 457, "a pair that can be read fails with 62 or 457");
-    Require(place.starts_with("parts.idx: record ") && place[18] >= '1' && place[18] <= '9',
-            "the error names file and record");
-    Require(place.find(error.Number() == 62 ? ": field " : ": PartNum(") != std::string_view::npos,
-            "the error names the field");
+    Require(where.File == "parts.idx" && where.Record >= 1, "the error names file and record");
+    Require(where.Field >= 1 && where.Field <= 8, "the error names the field");
+    Require((error.Number() == 457) == where.FieldName.starts_with("PartNum("),
+            "a part number that stands twice is named");
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)

@@ -22,7 +22,8 @@ static bool EndsField(char c)
 }
 
 IndexReader::IndexReader(std::string_view indexText, std::string name)
-    : fileName(std::move(name))
+    : start(indexText.data())
+    , fileName(std::move(name))
 {
     if (indexText.starts_with("\xEF\xBB\xBF"))
     {
@@ -50,7 +51,7 @@ void IndexReader::ReadRecord(PartRecord& part)
     ++recordCount;
 }
 
-std::string_view IndexReader::ReadField(int field)
+std::string_view IndexReader::ReadField(std::size_t field)
 {
     SkipBlanks();
     if (next == end)
@@ -62,7 +63,7 @@ std::string_view IndexReader::ReadField(int field)
     return text;
 }
 
-std::string_view IndexReader::ReadQuoted(int field)
+std::string_view IndexReader::ReadQuoted(std::size_t field)
 {
     const auto* const first = next + 1;
     const auto* const last = std::find(first, end, '"');
@@ -109,8 +110,11 @@ void IndexReader::SkipSeparator()
     }
 }
 
-void IndexReader::FailAt(int field) const
+void IndexReader::FailAt(std::size_t field) const
 {
     throw RunTimeError(RunTimeErrorNumber::InputPastEndOfFile)
-        .At(fileName + ": record " + std::to_string(recordCount + 1) + ": field " + std::to_string(field));
+        .At(PlaceInFile{.File = fileName,
+                        .Record = recordCount + 1,
+                        .Field = field,
+                        .Offset = static_cast<std::uintmax_t>(next - start)});
 }

@@ -30,17 +30,19 @@ public:
     /// Reads the names of the record that has been found.
     ///
     /// Throws RunTimeError 62 "parts.idx: record 17: field 3", both counted from 1, for an end within the
-    /// record or an unclosed quote. An end right behind a comma is an end within the record.
+    /// record or an unclosed quote. An end right behind a comma is an end within the record. The offset is
+    /// that of the unclosed quote, or else of the end.
     void ReadRecord(PartRecord& part);
 
 private:
-    std::string_view ReadField(int field);
-    std::string_view ReadQuoted(int field);
+    std::string_view ReadField(std::size_t field);
+    std::string_view ReadQuoted(std::size_t field);
     std::string_view ReadUnquoted();
     void SkipBlanks();
     void SkipSeparator();
-    [[noreturn]] void FailAt(int field) const;
+    [[noreturn]] void FailAt(std::size_t field) const;
 
+    const char* start;
     const char* next;
     const char* end;
     std::string fileName;

@@ -62,7 +62,8 @@ std::string FindPartFile(const std::string& programFolder, std::string_view exte
     }
     if (first.empty())
     {
-        throw RunTimeError(RunTimeErrorNumber::FileNotFound).At("*" + std::string(extension));
+        throw RunTimeError(RunTimeErrorNumber::FileNotFound)
+            .At(PlaceInFile{.File = "*" + std::string(extension), .Folder = programFolder});
     }
     return programFolder + PathSepOf(programFolder) + first;
 }

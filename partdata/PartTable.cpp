@@ -38,7 +38,7 @@ static void ReadNames(PartTable& table, InputFile& file, std::size_t dataRecords
             PartRecord surplus;
             index.ReadRecord(surplus);
             throw RunTimeError(RunTimeErrorNumber::Overflow)
-                .At(file.Name() + ": record " + std::to_string(MostParts + 1));
+                .At(PlaceInFile{.File = file.Name(), .Record = MostParts + 1});
         }
         index.ReadRecord(table.PartData.emplace_back());
     }
@@ -57,8 +57,12 @@ static void IndexPartNumbers(PartTable& table, const std::string& fileName)
             if (!index.Add(static_cast<std::int16_t>(i), partNum))
             {
                 throw RunTimeError(RunTimeErrorNumber::DuplicateKey)
-                    .At(fileName + ": record " + std::to_string(i + 1) + ": PartNum(" + std::to_string(form) +
-                        ") \"" + OneLine(Utf8FromWindows1252(partNum.substr(0, ToldPartNumBytes))) + "\"");
+                    .At(PlaceInFile{.File = fileName,
+                                    .Record = i + 1,
+                                    .Field = form + 1,
+                                    .FieldName = "PartNum(" + std::to_string(form) + ")",
+                                    .FieldText =
+                                        OneLine(Utf8FromWindows1252(partNum.substr(0, ToldPartNumBytes)))});
             }
         }
     }

@@ -58,11 +58,16 @@ RunTimeError::RunTimeError(RunTimeErrorNumber errorNumber, std::string errorDesc
 {
 }
 
-RunTimeError RunTimeError::At(std::string where) const
+RunTimeError RunTimeError::At(PlaceInFile place) const
 {
     RunTimeError located = *this;
-    located.place = std::move(where);
+    located.where = std::move(place);
     located.line = "Run-time error '" + std::to_string(number) + "': " + description + ": " +
-                   WithoutControls(located.place);
+                   WithoutControls(located.Place());
     return located;
+}
+
+RunTimeError RunTimeError::At(std::string name) const
+{
+    return At(PlaceInFile{.File = std::move(name)});
 }

@@ -2,6 +2,8 @@
 
 /// The one error type of the program: what went wrong, and where in which file.
 
+#include "partdata/PlaceInFile.h"
+
 #include <exception>
 #include <string>
 
@@ -32,7 +34,8 @@ const char* DescriptionOf(RunTimeErrorNumber number);
 
 /// A run-time error: a number, a description and, where known, the place that caused it.
 ///
-///     throw RunTimeError(RunTimeErrorNumber::DuplicateKey).At("parts.idx: record 17: PartNum(0)");
+///     throw RunTimeError(RunTimeErrorNumber::InputPastEndOfFile).At(PlaceInFile{.File = "parts.idx", .Record
+///     = 17});
 ///
 class RunTimeError : public std::exception
 {
@@ -40,12 +43,17 @@ public:
     explicit RunTimeError(RunTimeErrorNumber number);
     RunTimeError(RunTimeErrorNumber number, std::string description);
 
-    /// The same error with its place: file, then record and field where known.
-    RunTimeError At(std::string place) const;
+    /// The same error with its place.
+    RunTimeError At(PlaceInFile place) const;
+    /// As above, where only a file, or the name of whatever else is to blame, is known.
+    RunTimeError At(std::string name) const;
 
     int Number() const { return number; }
     const std::string& Description() const { return description; }
-    const std::string& Place() const { return place; }
+    /// Where it lies; all is empty where that is not known.
+    const PlaceInFile& Where() const { return where; }
+    /// The same in words: "parts.idx: record 17: field 3".
+    std::string Place() const { return TextOf(where); }
 
     /// One line: "Run-time error '62': Input past end of file: parts.idx: record 17: field 3". A control
     /// character of the place reads as "\x0A".
@@ -54,6 +62,6 @@ public:
 private:
     int number;
     std::string description;
-    std::string place;
+    PlaceInFile where;
     std::string line;
 };

@@ -43,15 +43,15 @@ static std::string Indexed(std::string_view name, std::size_t index)
 
 std::string FieldName(std::size_t field)
 {
-    if (field < PartNumForms)
+    if (field < FirstSizeCodeField)
     {
         return Indexed("PartNum", field);
     }
-    if (field < PartNumForms + CodeForms)
+    if (field < FirstTccField)
     {
-        return Indexed("SizeCode", field - PartNumForms);
+        return Indexed("SizeCode", field - FirstSizeCodeField);
     }
-    return Indexed("Tcc", field - PartNumForms - CodeForms);
+    return Indexed("Tcc", field - FirstTccField);
 }
 
 std::string DataName(std::size_t index)

@@ -11,6 +11,9 @@
 
 /// The fields of an index record, in its order.
 inline constexpr std::size_t NameFields = PartNumForms + 2 * CodeForms;
+/// Where the size codes and the characteristics begin, EIA code first.
+inline constexpr std::size_t FirstSizeCodeField = PartNumForms;
+inline constexpr std::size_t FirstTccField = PartNumForms + CodeForms;
 inline constexpr std::size_t TableColumns = NameFields + DataValues;
 
 using PartNames = std::array<std::string_view, NameFields>;

@@ -20,18 +20,18 @@ struct Finding
 {
     Severity Level = Severity::Error;
     /// Short name of the broken rule, such as "rated-voltage".
-    std::string Rule;
+    std::string Rule = {};
     /// The file's name without its folder.
-    std::string File;
+    std::string File = {};
     /// Counted from 1; 0 when the finding is about the whole file.
     std::size_t Record = 0;
     /// The part's global EIA number, where known.
-    std::string PartNumber;
+    std::string PartNumber = {};
     /// "Data(2)", "PartNum(0)"; empty where no single field is to blame.
-    std::string Field;
+    std::string Field = {};
     /// The value of the field, or the one that was worked out.
-    std::string Value;
-    std::string Message;
+    std::string Value = {};
+    std::string Message = {};
 };
 
 /// All that was found in one pair.

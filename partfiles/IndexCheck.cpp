@@ -109,16 +109,16 @@ std::vector<PartRecord> IndexJudge::Read()
     {
         JudgeUnique(form);
     }
-    JudgePairing(PartNumForms, "size codes");
-    JudgePairing(PartNumForms + CodeForms, "temperature characteristics");
+    JudgePairing(FirstSizeCodeField, "size codes");
+    JudgePairing(FirstTccField, "temperature characteristics");
     return std::move(parts);
 }
 
 void IndexJudge::JudgeEnd(const RunTimeError& error)
 {
     const bool isOpenQuote = std::ranges::count(text.substr(wholeEnd), '"') % 2 != 0;
-    const auto field = error.Place().substr(error.Place().rfind(' ') + 1);
-    Add(Severity::Error, isOpenQuote ? "open-quote" : "index-end", count + 1, "field " + field, "",
+    Add(Severity::Error, isOpenQuote ? "open-quote" : "index-end", count + 1,
+        "field " + std::to_string(error.Where().Field), "",
         isOpenQuote ? "the file ends within a quoted field" : "the file ends within the record");
 }
 

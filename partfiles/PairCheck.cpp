@@ -5,7 +5,6 @@
 #include "partdata/KeyedCollection.h"
 #include "partdata/PartTable.h"
 #include "partdata/RunTimeError.h"
-#include "partdata/Windows1252.h"
 #include "partfiles/IndexCheck.h"
 #include "partfiles/PairFiles.h"
 #include "partfiles/ValueCheck.h"
@@ -41,7 +40,7 @@ bool Try(PairReport& report, const std::function<void()>& step)
     catch (const RunTimeError& error)
     {
         report.Findings.push_back(
-            FileFinding(Severity::Error, "unreadable", error.Place(), error.Description()));
+            FileFinding(Severity::Error, "unreadable", error.Where().File, error.Description()));
         return false;
     }
 }
@@ -91,21 +90,6 @@ void CheckFurtherFiles(const fs::path& folder, const std::string& taken, const s
     }
 }
 
-void CheckPartValues(const PartRecord& part, std::size_t record, PairReport& report)
-{
-    const auto before = report.Findings.size();
-    ValueFindings findings(report.Findings);
-    CheckValues(part, findings);
-    for (auto i = before; i < report.Findings.size(); ++i)
-    {
-        auto& finding = report.Findings[i];
-        // A name stands in the index, everything else in the data file.
-        finding.File = finding.Field.starts_with("Tcc") ? report.IndexFile : report.DataFile;
-        finding.Record = record;
-        finding.PartNumber = Utf8FromWindows1252(part.PartNum[0]);
-    }
-}
-
 void CheckData(const fs::path& dataFile, std::vector<PartRecord>& parts, PairReport& report)
 {
     InputFile file(dataFile);
@@ -114,7 +98,10 @@ void CheckData(const fs::path& dataFile, std::vector<PartRecord>& parts, PairRep
     const auto present = std::min<std::uintmax_t>(file.Size() / DataRecordBytes, parts.size());
     for (std::size_t i = 0; i < present; ++i)
     {
-        CheckPartValues(parts[i], i + 1, report);
+        ValueFindings findings(
+            report.Findings,
+            {.IndexFile = report.IndexFile, .DataFile = report.DataFile, .Record = i + 1, .Part = parts[i]});
+        CheckValues(parts[i], findings);
         // Not after every part: each time all findings are looked at.
         if (report.Findings.size() > 2 * MostFindings)
         {

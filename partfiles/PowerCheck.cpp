@@ -26,7 +26,7 @@ bool CheckHeatResistance(const PartRecord& part, ValueFindings& findings)
     {
         return true;
     }
-    findings.AddValue(Severity::Error, "heat-resistance", part, Value::HeatResistance,
+    findings.AddValue(Severity::Error, "heat-resistance", Value::HeatResistance,
                       "the heat resistance is not positive");
     return false;
 }
@@ -36,7 +36,7 @@ bool CheckUpperTemperature(const PartRecord& part, ValueFindings& findings)
     const float upper = part.Data[Value::UpperTemperature];
     if (upper < LowestAmbientC || upper > HottestC)
     {
-        findings.AddValue(Severity::Error, "upper-temperature", part, Value::UpperTemperature,
+        findings.AddValue(Severity::Error, "upper-temperature", Value::UpperTemperature,
                           "the upper temperature is not between " + NumberText(LowestAmbientC) + " and " +
                               NumberText(HottestC) + " °C");
         return false;
@@ -44,7 +44,7 @@ bool CheckUpperTemperature(const PartRecord& part, ValueFindings& findings)
     const auto* const characteristic = FindCharacteristic(part.Tcc[0]);
     if (characteristic != nullptr && upper > characteristic->RangeIn(CodeView::Eia).MaxC)
     {
-        findings.AddValue(Severity::Warning, "class-temperature", part, Value::UpperTemperature,
+        findings.AddValue(Severity::Warning, "class-temperature", Value::UpperTemperature,
                           "the upper temperature lies above that of " + std::string(part.Tcc[0]) + ", " +
                               NumberText(characteristic->RangeIn(CodeView::Eia).MaxC) + " °C");
     }

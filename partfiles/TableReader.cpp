@@ -2,6 +2,7 @@
 
 #include "partdata/KeyedCollection.h"
 #include "partdata/OneLine.h"
+#include "partdata/PartTable.h"
 #include "partdata/Windows1252.h"
 #include "partfiles/Finding.h"
 #include "partfiles/IndexWriter.h"
@@ -12,7 +13,6 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
-#include <limits>
 #include <system_error>
 #include <unordered_map>
 
@@ -23,8 +23,6 @@ static constexpr std::size_t MostErrors = 10000;
 
 namespace
 {
-constexpr std::size_t MostParts = std::numeric_limits<std::int16_t>::max();
-
 /// Reads a number cell into `value`; returns what is wrong with it, or nothing.
 std::string ReadNumber(std::string_view text, float& value)
 {
@@ -49,6 +47,12 @@ std::string ReadNumber(std::string_view text, float& value)
     return read.ptr == end && read.ec == std::errc() && std::isfinite(value) ? "" : "not a number";
 }
 
+/// The text, or none where it is empty: an empty name or heading shows nothing of what is wrong with it.
+std::optional<std::string> Filled(std::string text)
+{
+    return text.empty() ? std::nullopt : std::optional(std::move(text));
+}
+
 /// Reads one table; each step adds what is wrong to the contents.
 class TableReader
 {
@@ -66,9 +70,9 @@ private:
     void ReadPart(const TableRow& row);
     void ReadName(const TableRow& row, std::size_t cell, std::string& name);
     void CheckUnique(const TableRow& row, const TablePart& part);
-    void Add(std::size_t line, std::string_view column, std::string_view value, std::string message)
+    void Add(std::size_t line, std::string_view column, std::optional<std::string> value, std::string message)
     {
-        contents.Errors.push_back({line, std::string(column), std::string(value), std::move(message)});
+        contents.Errors.push_back({line, std::string(column), std::move(value), std::move(message)});
     }
 
     std::string_view text;
@@ -93,12 +97,12 @@ TableContents TableReader::Read()
     {
         if (++rows > MostParts)
         {
-            Add(row.Line, "", "", "more than " + std::to_string(MostParts) + " parts");
+            Add(row.Line, "", {}, "more than " + std::to_string(MostParts) + " parts");
             break;
         }
         if (contents.Errors.size() >= MostErrors)
         {
-            Add(row.Line, "", "", "too many errors: the rest of the table was not read");
+            Add(row.Line, "", {}, "too many errors: the rest of the table was not read");
             break;
         }
         ReadPart(row);
@@ -111,17 +115,17 @@ bool TableReader::ReadHeadings()
     TableRow row;
     if (!cells.Read(row))
     {
-        Add(1, "", "", "the line of headings is missing");
+        Add(1, "", {}, "the line of headings is missing");
         return false;
     }
     if (!row.Fault.empty())
     {
-        Add(row.Line, "", row.Cells.back(), row.Fault);
+        Add(row.Line, "", Filled(row.Cells.back()), row.Fault);
         return false;
     }
     if (row.Cells.size() > MostHeadings)
     {
-        Add(row.Line, "", "", std::to_string(row.Cells.size()) + " columns: this is no table of parts");
+        Add(row.Line, "", {}, std::to_string(row.Cells.size()) + " columns: this is no table of parts");
         return false;
     }
     for (const auto& heading : row.Cells)
@@ -133,11 +137,11 @@ bool TableReader::ReadHeadings()
         }
         if (column == TableColumns)
         {
-            Add(row.Line, "", heading, "no column of this name is known");
+            Add(row.Line, "", Filled(heading), "no column of this name is known");
         }
         else if (std::ranges::find(columns, column) != columns.end())
         {
-            Add(row.Line, heading, "", "the column stands twice");
+            Add(row.Line, heading, {}, "the column stands twice");
         }
         columns.push_back(column);
     }
@@ -145,7 +149,7 @@ bool TableReader::ReadHeadings()
     {
         if (std::ranges::find(columns, column) == columns.end())
         {
-            Add(row.Line, ColumnHeading(column), "", "the column is missing");
+            Add(row.Line, ColumnHeading(column), {}, "the column is missing");
         }
     }
     return contents.Errors.empty();
@@ -157,12 +161,13 @@ void TableReader::ReadPart(const TableRow& row)
     const auto last = row.Cells.size() - 1;
     if (!row.Fault.empty())
     {
-        Add(row.Line, last < columns.size() ? ColumnHeading(columns[last]) : "", row.Cells.back(), row.Fault);
+        Add(row.Line, last < columns.size() ? ColumnHeading(columns[last]) : "", Filled(row.Cells.back()),
+            row.Fault);
         return;
     }
     if (row.Cells.size() != columns.size())
     {
-        Add(row.Line, "", "",
+        Add(row.Line, "", {},
             std::to_string(row.Cells.size()) + " cells instead of " + std::to_string(columns.size()));
         return;
     }
@@ -211,7 +216,7 @@ void TableReader::CheckUnique(const TableRow& row, const TablePart& part)
         const auto [first, isNew] = lines[form].try_emplace(std::move(key), row.Line);
         if (!isNew)
         {
-            Add(row.Line, ColumnHeading(form), Utf8FromWindows1252(part.Names[form]),
+            Add(row.Line, ColumnHeading(form), Filled(Utf8FromWindows1252(part.Names[form])),
                 "the part number stands in line " + std::to_string(first->second) + " already");
         }
     }
@@ -230,9 +235,9 @@ std::string LineOf(const TableError& error, const std::string& file)
     {
         line += ": " + error.Column;
     }
-    if (!error.Value.empty() || error.Message.starts_with("not a"))
+    if (error.Value)
     {
-        line += ": \"" + OneLine(error.Value) + "\"";
+        line += ": \"" + OneLine(*error.Value) + "\"";
     }
     return line + ": " + error.Message;
 }

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,7 +25,8 @@ struct TableError
     std::size_t Line = 0;
     /// Heading of the column; empty where the whole line is to blame.
     std::string Column;
-    std::string Value;
+    /// What stands in the cell, even if that is nothing; no text where no cell is to blame.
+    std::optional<std::string> Value;
     std::string Message;
 };
 

@@ -46,7 +46,7 @@ bool CheckFinite(const PartRecord& part, ValueFindings& findings)
     {
         if (!std::isfinite(part.Data[i]))
         {
-            findings.AddValue(Severity::Error, "not-finite", part, i, "the value is not a finite number");
+            findings.AddValue(Severity::Error, "not-finite", i, "the value is not a finite number");
             allFinite = false;
         }
     }
@@ -59,12 +59,12 @@ void CheckRatings(const PartRecord& part, ValueFindings& findings)
     {
         if (part.Data[i] <= 0)
         {
-            findings.AddValue(Severity::Error, "capacitance", part, i, "the capacitance is not positive");
+            findings.AddValue(Severity::Error, "capacitance", i, "the capacitance is not positive");
         }
     }
     if (part.Data[Value::RatedVoltage] <= 0)
     {
-        findings.AddValue(Severity::Error, "rated-voltage", part, Value::RatedVoltage,
+        findings.AddValue(Severity::Error, "rated-voltage", Value::RatedVoltage,
                           "the rated voltage is not positive");
     }
 }
@@ -209,32 +209,13 @@ void CheckCapacitance(const PartRecord& part, const Characteristic& characterist
 }
 } // namespace
 
-void ValueFindings::Add(Severity level, std::string rule, std::string field, std::string value,
-                        std::string message)
-{
-    findings.push_back({.Level = level,
-                        .Rule = std::move(rule),
-                        .File = {},
-                        .Record = 0,
-                        .PartNumber = {},
-                        .Field = std::move(field),
-                        .Value = std::move(value),
-                        .Message = std::move(message)});
-}
-
-void ValueFindings::AddValue(Severity level, std::string rule, const PartRecord& part, std::size_t index,
-                             std::string message)
-{
-    Add(level, std::move(rule), DataName(index), NumberText(part.Data[index]), std::move(message));
-}
-
 void CheckValues(const PartRecord& part, ValueFindings& findings)
 {
     const auto* const characteristic = FindCharacteristic(part.Tcc[0]);
     if (characteristic == nullptr)
     {
-        findings.Add(Severity::Error, "characteristic", "Tcc(0)", Utf8FromWindows1252(part.Tcc[0]),
-                     "the temperature characteristic is none of " + ListedNames());
+        findings.AddName(Severity::Error, "characteristic", FirstTccField,
+                         "the temperature characteristic is none of " + ListedNames());
     }
     if (!CheckFinite(part, findings))
     {

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <vector>
 
 namespace
@@ -125,6 +126,31 @@ TEST(IndexReader, FailsAtAnUnclosedQuote)
 {
     EXPECT_EQ(PlaceOfEnd("a,b,\"c,d,e,f,g,h\r\n"), "parts.idx: record 1: field 3");
     EXPECT_EQ(PlaceOfEnd("a,b,c,d,e,f,g,\""), "parts.idx: record 1: field 8");
+}
+
+/// The place of the fault in numbers: record, field and offset.
+std::vector<std::uintmax_t> NumbersOfEnd(std::string_view text)
+{
+    try
+    {
+        RecordsOf(text);
+    }
+    catch (const RunTimeError& error)
+    {
+        const auto& where = error.Where();
+        return {where.Record, where.Field, where.Offset.value_or(9999)};
+    }
+    return {};
+}
+
+TEST(IndexReader, TellsWhereInTheTextItFails)
+{
+    EXPECT_THAT(NumbersOfEnd("a,b,c"), ElementsAre(1, 4, 5));
+    EXPECT_THAT(NumbersOfEnd("a,b,c,\x1A"), ElementsAre(1, 4, 6));
+    EXPECT_THAT(NumbersOfEnd("a,b, \"c,d,e,f,g,h\r\n"), ElementsAre(1, 3, 5));
+    EXPECT_THAT(NumbersOfEnd("\xEF\xBB\xBF"
+                             "a,b,c,d,e,f,g,h\r\ni,j,\"k"),
+                ElementsAre(2, 3, 24));
 }
 
 TEST(IndexReader, ReadsOrRefusesATextCutShortAnywhere)

@@ -46,12 +46,37 @@ TEST(RunTimeError, OfAnotherNumberIsOfNoKnownKind)
 
 TEST(RunTimeError, TellsItsPlaceBehindItsDescription)
 {
-    const auto error =
-        RunTimeError(RunTimeErrorNumber::InputPastEndOfFile, "Too short").At("parts.idx: record 3");
+    const auto error = RunTimeError(RunTimeErrorNumber::InputPastEndOfFile, "Too short")
+                           .At(PlaceInFile{.File = "parts.idx", .Record = 3});
     EXPECT_EQ(error.Number(), 62);
     EXPECT_EQ(error.Description(), "Too short");
     EXPECT_EQ(error.Place(), "parts.idx: record 3");
     EXPECT_STREQ(error.what(), "Run-time error '62': Too short: parts.idx: record 3");
     EXPECT_STREQ(error.At("elsewhere").what(), "Run-time error '62': Too short: elsewhere");
+}
+
+struct PlaceRow
+{
+    const char* Text;
+    PlaceInFile Place;
+};
+
+TEST(PlaceInFile, ReadsAsFileRecordAndField)
+{
+    const PlaceRow rows[] = {
+        {"", {}},
+        {"parts.idx", {.File = "parts.idx"}},
+        {"*.idx", {.File = "*.idx", .Folder = "/opt/parts"}},
+        {"parts.idx: record 17", {.File = "parts.idx", .Record = 17}},
+        {"parts.idx: record 17: field 3", {.File = "parts.idx", .Record = 17, .Field = 3, .Offset = 80}},
+        {"parts.idx: record 2: PartNum(0) \"ABC\"",
+         {.File = "parts.idx", .Record = 2, .Field = 1, .FieldName = "PartNum(0)", .FieldText = "ABC"}},
+        {"parts.idx: record 2: PartNum(3) \"\"",
+         {.File = "parts.idx", .Record = 2, .Field = 4, .FieldName = "PartNum(3)", .FieldText = ""}},
+    };
+    for (const auto& row : rows)
+    {
+        EXPECT_EQ(TextOf(row.Place), row.Text);
+    }
 }
 } // namespace
