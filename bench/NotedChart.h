@@ -2,8 +2,9 @@
 
 /// The raw painting that drawing is measured against: the same lines, curves and texts, painted at once.
 
-#include "chart/drawing/ChartDrawing.h"
 #include "chart/drawing/PainterSurface.h"
+#include "chart/drawing/QtColors.h"
+#include "chart/layout/ChartDrawing.h"
 
 #include <vector>
 
@@ -33,26 +34,26 @@ public:
     std::vector<NotedText> Texts;
     NotedText UpwardsText;
 
-    void Line(double x1, double y1, double x2, double y2, const QColor& color) override
+    void Line(double x1, double y1, double x2, double y2, const Color& color) override
     {
-        Lines.push_back({QLineF(At(x1, y1), At(x2, y2)), color});
+        Lines.push_back({QLineF(At(x1, y1), At(x2, y2)), QtColor(color)});
     }
-    void Polyline(std::span<const QPointF> points, const QColor& color) override
+    void Polyline(std::span<const Point> points, const Color& color) override
     {
-        NotedCurve curve{{}, color};
+        NotedCurve curve{{}, QtColor(color)};
         for (const auto& point : points)
         {
-            curve.Points.push_back(At(point.x(), point.y()));
+            curve.Points.push_back(At(point.X, point.Y));
         }
         Curves.push_back(std::move(curve));
     }
-    void Text(double x, double y, const QString& text, const QColor&) override
+    void Text(double x, double y, std::string_view text, const Color&) override
     {
-        Texts.push_back({At(x, y) + QPointF(0, 10), text});
+        Texts.push_back({At(x, y) + QPointF(0, 10), QString::fromUtf8(text)});
     }
-    void TextUpwards(double x, double y, const QString& text, const QColor&) override
+    void TextUpwards(double x, double y, std::string_view text, const Color&) override
     {
-        UpwardsText = {At(x, y), text};
+        UpwardsText = {At(x, y), QString::fromUtf8(text)};
     }
 
 private:

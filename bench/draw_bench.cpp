@@ -2,7 +2,7 @@
 
 #include "bench/NotedChart.h"
 #include "bench/Turns.h"
-#include "chart/drawing/ChartDrawing.h"
+#include "chart/layout/ChartDrawing.h"
 
 #include <QGuiApplication>
 #include <QImage>

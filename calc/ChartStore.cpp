@@ -10,7 +10,7 @@ ChartKey KeyOf(const ChartRecord& record)
     return {record.ChartType, record.XAxisName, record.YAxisName};
 }
 
-static bool BelongsTo(const ChartRecord& record, const ChartKey& key)
+bool BelongsTo(const ChartRecord& record, const ChartKey& key)
 {
     return record.ChartType == key.ChartType && record.XAxisName == key.XAxisName &&
            record.YAxisName == key.YAxisName;

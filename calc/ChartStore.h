@@ -18,8 +18,14 @@ struct ChartKey
     bool operator==(const ChartKey&) const = default;
 };
 
+/// Lines that a chart may hold, and panes beside it.
+inline constexpr int MaximumLines = 6;
+
 /// The chart that a line belongs to.
 ChartKey KeyOf(const ChartRecord& record);
+
+/// True when the line is of the chart.
+bool BelongsTo(const ChartRecord& record, const ChartKey& key);
 
 /// True when two lines are of the same chart, part, conditions and parameter.
 bool SameLine(const ChartRecord& a, const ChartRecord& b);

@@ -29,7 +29,7 @@ ConditionLine Ambient(const ChartRecord& line)
 
 ConditionLine Parameter(const ChartRecord& line)
 {
-    return {line.ParameterName, NumberText(line.ParameterValue), UnitOf(line.ParameterName)};
+    return {line.ParameterName, NumberText(line.ParameterValue), GetUnit(line.ParameterName, {})};
 }
 
 } // namespace

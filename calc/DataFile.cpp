@@ -41,7 +41,8 @@ std::string DataFileText(const ChartRecord& line, const PartRecord& part, CodeVi
     {
         AddLine(text, "!", condition.Name, "-> ", condition.Value, " ", condition.Unit);
     }
-    AddLine(text, line.XAxisName, UnitOf(line.XAxisName), "  ", line.YAxisName, UnitOf(line.YAxisName));
+    AddLine(text, line.XAxisName, GetUnit(line.XAxisName, {}), "  ", line.YAxisName,
+            GetUnit(line.YAxisName, {}));
     for (std::size_t point = 0; point < CurvePoints; ++point)
     {
         AddLine(text, DataXText(line, point), ColumnGap, DataYText(line, point));

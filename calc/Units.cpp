@@ -21,7 +21,7 @@ static constexpr std::array<NamedUnit, 8> namedUnits = {{
     {"Capacitance Change", "[%]"},
 }};
 
-std::string UnitOf(std::string_view name, std::string_view degreeSign)
+std::string GetUnit(std::string_view name, std::string_view degreeSign)
 {
     if (name == "Temperature Rise" || name == "Temperature")
     {

@@ -2,6 +2,7 @@
 
 #include "app/mdlPublic.h"
 #include "chart/drawing/PainterSurface.h"
+#include "chart/layout/ChartDrawing.h"
 
 #include <QMouseEvent>
 

@@ -2,7 +2,7 @@
 
 /// The chart surface of a chart window.
 
-#include "chart/drawing/ChartDrawing.h"
+#include "chart/layout/ChartView.h"
 
 #include <QWidget>
 

@@ -2,10 +2,12 @@
 
 #include "app/mdlPublic.h"
 #include "calc/ChartNames.h"
-#include "chart/drawing/Colors.h"
-#include "chart/drawing/PaneText.h"
+#include "chart/drawing/QtColors.h"
+#include "chart/layout/ChartDrawing.h"
+#include "chart/layout/PaneText.h"
 #include "formkit/Texts.h"
 #include "formkit/Twips.h"
+#include "partdata/Windows1252.h"
 #include "ui_frmGraph.h"
 
 #include <QCloseEvent>
@@ -171,7 +173,7 @@ void frmGraph::InitChartWindow(const ChartKey& chart)
     setGeometry(WindowLeft, top, WindowWidth, WindowHeight);
     for (std::size_t i = 0; i < MaximumLines; ++i)
     {
-        ColorPane(i, GetPaneColor(static_cast<int>(i)));
+        ColorPane(i, QtColor(GetPaneColor(static_cast<int>(i))));
     }
 }
 
@@ -192,8 +194,10 @@ void frmGraph::ColorPane(std::size_t index, const QColor& color)
 void frmGraph::Draw(const AxisRange& range)
 {
     axisRange = range;
-    const ChartView view{
-        .Chart = Chart(), .Range = range, .Rescaled = rescaled, .DegreeSign = FromAnsi(mdlPublic.DegreeSign)};
+    const ChartView view{.Chart = Chart(),
+                         .Range = range,
+                         .Rescaled = rescaled,
+                         .DegreeSign = Utf8FromWindows1252(mdlPublic.DegreeSign)};
     PlaceCurves(view, mdlPublic.Charts.Lines());
     ui->picGraph->Show(view);
     FillStatusPanes();
@@ -237,11 +241,12 @@ void frmGraph::FillStatusPanes()
 {
     const auto lines = Lines();
     const auto partNums = PartNums();
+    const auto degreeSign = Utf8FromWindows1252(mdlPublic.DegreeSign);
     for (std::size_t p = 0; p < MaximumLines; ++p)
     {
         const bool hasLine = p < lines.size();
         lblStatus[p]->setText(hasLine ? partNums[p] : QString());
-        lblPara[p]->setText(hasLine ? PaneText(*lines[p], FromAnsi(mdlPublic.DegreeSign)) : QString());
+        lblPara[p]->setText(hasLine ? QString::fromStdString(PaneText(*lines[p], degreeSign)) : QString());
     }
 }
 

@@ -3,7 +3,7 @@
 /// A chart window: one chart, up to six lines, and a pane for each.
 
 #include "chart/ChartHost.h"
-#include "chart/drawing/ChartDrawing.h"
+#include "chart/layout/ChartView.h"
 
 #include <QMdiSubWindow>
 
@@ -21,8 +21,6 @@ namespace Ui
 {
 class frmGraph;
 }
-
-inline constexpr std::size_t MaximumLines = 6;
 
 /// A chart window of fixed size. It belongs to all lines of the store whose chart its caption names, and
 /// takes them along when it closes.

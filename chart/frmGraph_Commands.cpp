@@ -4,9 +4,8 @@
 #include "calc/ChartNames.h"
 #include "chart/ElidedLabel.h"
 #include "chart/drawing/ChartSheet.h"
-#include "chart/drawing/PaneText.h"
-#include "chart/drawing/ReadOut.h"
 #include "chart/frmSetAxis.h"
+#include "chart/layout/ReadOut.h"
 #include "formkit/Messages.h"
 #include "formkit/Texts.h"
 #include "ui_frmGraph.h"
@@ -25,11 +24,11 @@ void frmGraph::picGraph_MouseMove(double xPosition, double yPosition)
     {
         return;
     }
-    panels[0]->setText(XReadOut(view, xPosition));
-    panels[1]->setText(YReadOut(view, yPosition));
-    for (std::size_t p = 0; p < std::min(lines.size(), MaximumLines); ++p)
+    panels[0]->setText(QString::fromStdString(XReadOut(view, xPosition)));
+    panels[1]->setText(QString::fromStdString(YReadOut(view, yPosition)));
+    for (std::size_t p = 0; p < std::min<std::size_t>(lines.size(), MaximumLines); ++p)
     {
-        lblPara[p]->setText(LineReadOut(view, *lines[p], xPosition));
+        lblPara[p]->setText(QString::fromStdString(LineReadOut(view, *lines[p], xPosition)));
     }
 }
 

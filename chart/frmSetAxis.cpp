@@ -1,7 +1,7 @@
 #include "chart/frmSetAxis.h"
 
 #include "calc/NumberText.h"
-#include "chart/drawing/AxisLimits.h"
+#include "chart/layout/AxisLimits.h"
 #include "formkit/Entries.h"
 #include "formkit/Messages.h"
 #include "ui_frmSetAxis.h"
@@ -35,8 +35,8 @@ frmSetAxis::frmSetAxis(const ChartView& shown, const AxisRange& chartDefaults, Q
     txtX[1]->setText(ShownText(view.Range.XMax, xName));
     txtY[0]->setText(ShownText(view.Range.YMin, yName));
     txtY[1]->setText(ShownText(view.Range.YMax, yName));
-    ui->lblXunit->setText(GetUnit(QString::fromStdString(xName), view.DegreeSign));
-    ui->lblYunit->setText(GetUnit(QString::fromStdString(yName), view.DegreeSign));
+    ui->lblXunit->setText(QString::fromStdString(GetUnit(xName, view.DegreeSign)));
+    ui->lblYunit->setText(QString::fromStdString(GetUnit(yName, view.DegreeSign)));
     // Both frames have the same labels.
     ui->lblYFrom->setObjectName(ui->lblFrom->objectName());
     ui->lblYTo->setObjectName(ui->lblTo->objectName());
@@ -144,7 +144,8 @@ bool frmSetAxis::CheckAxis(const char* axis, const std::string& quantity,
     const auto message =
         QStringLiteral("Set %1 Range of %2 from %3 to %4 %5")
             .arg(QString::fromLatin1(axis), name, QString::fromStdString(NumberText(permitted.Lowest)),
-                 QString::fromStdString(NumberText(permitted.Highest)), GetUnit(name, {}));
+                 QString::fromStdString(NumberText(permitted.Highest)),
+                 QString::fromStdString(GetUnit(quantity, {})));
     Refuse(permitted.Contains(from) ? boxes[1] : boxes[0], message);
     return false;
 }

@@ -2,7 +2,7 @@
 
 /// The dialog in which the user sets the axis ranges of one chart.
 
-#include "chart/drawing/ChartDrawing.h"
+#include "chart/layout/ChartView.h"
 
 #include <QDialog>
 

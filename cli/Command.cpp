@@ -40,8 +40,10 @@ PartTable LoadParts(const std::string& givenFolder)
     }
     catch (const RunTimeError& error)
     {
-        const bool isPattern = error.Place().starts_with('*');
-        throw isPattern ? error.At((std::filesystem::path(folder) / error.Place()).string()) : error;
+        // Nothing of the kind in the folder: name the folder too, which the user has chosen.
+        const auto& where = error.Where();
+        throw where.Folder.empty() ? error
+                                   : error.At((std::filesystem::path(where.Folder) / where.File).string());
     }
 }
 

@@ -32,7 +32,7 @@ struct Picture
         const double factor =
             std::min(Extent.width() / sheetSize.width(), Extent.height() / sheetSize.height());
         const QSizeF drawn = sheetSize * factor;
-        painter.fillRect(QRectF(QPointF(0, 0), Extent), sheetColor);
+        painter.fillRect(QRectF(QPointF(0, 0), Extent), QtColor(sheetColor));
         painter.translate((Extent.width() - drawn.width()) / 2, (Extent.height() - drawn.height()) / 2);
         painter.scale(factor, factor);
         DrawChartSheet(View, Lines, PartNums, painter);

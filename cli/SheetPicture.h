@@ -2,7 +2,7 @@
 
 /// A chart with its panes as a picture in a file format.
 
-#include "chart/drawing/ChartDrawing.h"
+#include "chart/layout/ChartView.h"
 
 #include <QByteArray>
 #include <QSizeF>

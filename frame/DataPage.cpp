@@ -3,7 +3,7 @@
 #include "calc/ChartNames.h"
 #include "calc/ConditionLines.h"
 #include "calc/NumberText.h"
-#include "chart/drawing/Colors.h"
+#include "chart/drawing/QtColors.h"
 #include "formkit/Messages.h"
 #include "formkit/Texts.h"
 
@@ -53,7 +53,7 @@ public:
     void Write(double x, double y, const QString& text)
     {
         const auto room = (pageRight - x) * unitWidth;
-        painter.setPen(frameColor);
+        painter.setPen(QtColor(frameColor));
         DrawFittedText(painter, ToTwips(x, y) + QPointF(0, baselineDrop), text, room);
     }
 
@@ -62,7 +62,7 @@ public:
         const auto from = ToTwips(left, y);
         const auto to = ToTwips(right, y);
         painter.fillRect(QRectF(from.x(), from.y() - ruleWidth / 2, to.x() - from.x(), ruleWidth),
-                         frameColor);
+                         QtColor(frameColor));
     }
 
 private:
@@ -121,9 +121,9 @@ void DrawTableHeading(const DataPage& page, DataSheet& sheet)
     {
         const auto left = columnWidth * static_cast<double>(column);
         sheet.Write(left, namesTop, xName);
-        sheet.Write(left, unitsTop, GetUnit(xName, page.DegreeSign));
+        sheet.Write(left, unitsTop, Utf8(GetUnit(page.Line.XAxisName, page.DegreeSign)));
         sheet.Write(left + yOffset, namesTop, yName);
-        sheet.Write(left + yOffset, unitsTop, GetUnit(yName, page.DegreeSign));
+        sheet.Write(left + yOffset, unitsTop, Utf8(GetUnit(page.Line.YAxisName, page.DegreeSign)));
         sheet.Rule(left, ruleEnds[column], unitsTop);
     }
 }

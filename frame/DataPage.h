@@ -3,8 +3,8 @@
 /// The printed data page: what a curve is of, and all its points in three columns.
 
 #include "calc/ChartRecord.h"
+#include "calc/Units.h"
 #include "chart/drawing/PageArea.h"
-#include "chart/drawing/Units.h"
 #include "partdata/PartRecord.h"
 
 #include <QString>
@@ -19,7 +19,7 @@ struct DataPage
     CodeView View;
     /// Today in the user's short format.
     QString Date;
-    QString DegreeSign = defaultDegreeSign;
+    std::string DegreeSign = std::string(defaultDegreeSign);
 };
 
 /// Draws the page. The printable area is scaled from -5 to 95 from left to right and from 110 to -5

@@ -2,8 +2,8 @@
 
 /// Prints single pages on the application's printer.
 
-#include "chart/drawing/ChartSurface.h"
 #include "chart/drawing/PageArea.h"
+#include "chart/layout/ChartSurface.h"
 
 #include <functional>
 

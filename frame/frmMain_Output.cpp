@@ -11,6 +11,7 @@
 #include "frame/PrintJob.h"
 #include "frame/clsComdlg.h"
 #include "frame/frmPrinting.h"
+#include "partdata/Windows1252.h"
 
 #include <QPrinter>
 
@@ -168,7 +169,7 @@ void frmMain::PrintData(const ChartRecord& line)
                         .Part = PartOf(line),
                         .View = GetCodeView(),
                         .Date = Today(),
-                        .DegreeSign = FromAnsi(mdlPublic.DegreeSign)};
+                        .DegreeSign = Utf8FromWindows1252(mdlPublic.DegreeSign)};
     PrintWithNotice([&](QPainter& painter, const PageArea& area) { DrawDataPage(page, area, painter); });
 }
 

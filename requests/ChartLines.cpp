@@ -2,8 +2,8 @@
 
 #include "calc/NumberText.h"
 #include "calc/Units.h"
-#include "chart/drawing/AxisLimits.h"
-#include "chart/drawing/ChartSheet.h"
+#include "chart/layout/AxisLimits.h"
+#include "chart/layout/ChartDrawing.h"
 #include "requests/Quantity.h"
 #include "requests/RequestError.h"
 
@@ -21,7 +21,7 @@ std::vector<RequestedCurve> CurvesOf(const std::vector<CurveRequest>& requests, 
             throw RequestError(RequestErrorKind::Line, "part", "This Chart is already opened!")
                 .OfPart(request.Part);
         }
-        if (curves.size() == static_cast<std::size_t>(maximumLines))
+        if (curves.size() == static_cast<std::size_t>(MaximumLines))
         {
             throw RequestError(RequestErrorKind::Line, "part", "Maximum Numbers of this Chart Type open!")
                 .OfPart(request.Part);
@@ -59,7 +59,7 @@ static void Take(float& from, float& to, const std::optional<std::string>& typed
         throw RequestError(RequestErrorKind::AxisRange, axis.FromKey,
                            "Set " + std::string(axis.Name) + " Range of " + axis.Quantity + " from " +
                                NumberText(axis.Permitted.Lowest) + " to " +
-                               NumberText(axis.Permitted.Highest) + " " + UnitOf(axis.Quantity));
+                               NumberText(axis.Permitted.Highest) + " " + GetUnit(axis.Quantity, {}));
     }
     from = shownFrom * factor;
     to = shownTo * factor;

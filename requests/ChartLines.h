@@ -2,7 +2,7 @@
 
 /// The lines of a chart that is asked for, and the ranges of its axes.
 
-#include "chart/drawing/ChartDrawing.h"
+#include "chart/layout/ChartView.h"
 #include "requests/CurveRequest.h"
 
 #include <string>

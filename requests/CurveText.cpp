@@ -17,7 +17,7 @@ static std::string StoredUnit(const std::string& axisName)
     {
         return "Hz";
     }
-    const auto unit = UnitOf(axisName, "\u00B0");
+    const auto unit = GetUnit(axisName, defaultDegreeSign);
     return unit.substr(1, unit.size() - 2);
 }
 

@@ -13,9 +13,6 @@
 #include <algorithm>
 #include <utility>
 
-/// Six lines per chart, matching its six panes.
-static constexpr int MaximumLines = 6;
-
 // ---- Chart type, axes and parameter ----
 
 /// Index of the first button that is on; 0 when none is.

@@ -7,8 +7,8 @@
 #include "bench/Turns.h"
 #include "bench/desk/BareWindows.h"
 #include "calc/DefaultAxes.h"
-#include "chart/drawing/ChartDrawing.h"
 #include "chart/frmGraph.h"
+#include "chart/layout/ChartDrawing.h"
 #include "tests/frame/Desk.h"
 
 #include <QApplication>

@@ -3,9 +3,9 @@
 #include "calc/ChartNames.h"
 #include "calc/ConditionLines.h"
 #include "calc/NumberText.h"
-#include "chart/drawing/Colors.h"
 #include "chart/drawing/PainterSurface.h"
-#include "chart/drawing/PaneText.h"
+#include "chart/drawing/QtColors.h"
+#include "chart/layout/PaneText.h"
 
 #include <algorithm>
 #include <array>
@@ -29,7 +29,6 @@ constexpr double headingTop = 8450;
 constexpr double headingLineHeight = 210;
 constexpr double firstRowTop = 8950;
 constexpr double rowHeight = 300;
-constexpr int tableRows = 6;
 /// Between the texts of neighbouring columns, at least.
 constexpr double columnGap = 80;
 
@@ -60,8 +59,8 @@ struct Heading
 
 std::array<Heading, Columns> Headings(const ChartView& view)
 {
-    const auto degree = '[' + view.DegreeSign;
-    const auto yUnit = GetUnit(QString::fromStdString(view.Chart.YAxisName), view.DegreeSign);
+    const auto degree = '[' + QString::fromStdString(view.DegreeSign);
+    const auto yUnit = QString::fromStdString(GetUnit(view.Chart.YAxisName, view.DegreeSign));
     return {{{{}, QStringLiteral("No.")},
              {{}, QStringLiteral("Line")},
              {{}, QStringLiteral("Halvex Part Number")},
@@ -122,7 +121,7 @@ std::array<QString, Columns> RowTexts(const ChartPage& page, const ChartRecord& 
     }
     if (line.ChartType == static_cast<std::int16_t>(ChartType::AllowablePower))
     {
-        texts[LargestColumn] = LargestValueText(line.ExtraValue);
+        texts[LargestColumn] = QString::fromStdString(LargestValueText(line.ExtraValue));
     }
     return texts;
 }
@@ -136,7 +135,7 @@ public:
         , ascent(QFontMetricsF(font, pagePainter.device()).ascent())
     {
         painter.setFont(font);
-        painter.setPen(frameColor);
+        painter.setPen(QtColor(frameColor));
     }
 
     void Write(double left, double top, const QString& text, double right)
@@ -170,13 +169,13 @@ void DrawTableLines(std::size_t lines, SurfaceKind kind, QPainter& painter)
     for (std::size_t i = 0; i < lines; ++i)
     {
         const auto middle = firstRowTop + rowHeight * static_cast<double>(i) + 100;
-        const std::array<QPointF, 2> piece = {
+        const std::array<Point, 2> piece = {
             {{columnLeft[LineColumn], middle}, {columnLeft[LineColumn + 1] - 2 * columnGap, middle}}};
-        const auto look = LookOfCurve(kind, static_cast<int>(i));
+        const auto look = LookOfCurve(surface, static_cast<int>(i));
         surface.SetCurveDashes(look.Dashes);
         surface.Polyline(piece, look.Color);
     }
-    for (const auto y : {headingTop - 40, firstRowTop - 50, firstRowTop + tableRows * rowHeight - 60})
+    for (const auto y : {headingTop - 40, firstRowTop - 50, firstRowTop + MaximumLines * rowHeight - 60})
     {
         surface.Line(tableLeft, y, tableRight, y, frameColor);
     }

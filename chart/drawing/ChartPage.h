@@ -3,8 +3,8 @@
 /// The printed chart: the chart and, below it, a table of its lines and their conditions, on one portrait
 /// page.
 
-#include "chart/drawing/ChartDrawing.h"
 #include "chart/drawing/PageArea.h"
+#include "chart/layout/ChartDrawing.h"
 
 #include <functional>
 

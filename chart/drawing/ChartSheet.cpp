@@ -1,60 +1,57 @@
 #include "chart/drawing/ChartSheet.h"
 
-#include "chart/drawing/Colors.h"
 #include "chart/drawing/PainterSurface.h"
-#include "chart/drawing/PaneText.h"
+#include "chart/layout/PaneText.h"
 
-static QRectF PaneRect(int index)
+static constexpr QRectF QtRect(const Box& box)
 {
-    return {377, index * 620 / 15.0 + 7.5, 333, 33};
+    return {box.Left, box.Top, box.Width, box.Height};
 }
 
-static void DrawText(QPainter& painter, const QRectF& place, const QString& text)
+static void DrawText(QPainter& painter, const Box& place, const QString& text)
 {
     const QFontMetricsF metrics(painter.font(), painter.device());
-    painter.drawText(place, Qt::AlignLeft | Qt::AlignTop,
-                     metrics.elidedText(text, Qt::ElideRight, place.width()));
+    painter.drawText(QtRect(place), Qt::AlignLeft | Qt::AlignTop,
+                     metrics.elidedText(text, Qt::ElideRight, place.Width));
 }
 
 /// The frame of a pane with its caption in the upper edge.
 static void DrawPaneFrame(QPainter& painter, int index)
 {
-    const QRectF frame = PaneRect(index);
+    const auto pane = LayOutPane(index);
     const auto caption = QStringLiteral("No.%1").arg(index + 1);
-    const QRectF captionPlace(frame.left() + 6, frame.top() - 7, 40, 14);
     const double captionWidth = QFontMetricsF(painter.font(), painter.device()).horizontalAdvance(caption);
 
-    painter.setPen(QPen(QColor(184, 184, 184), 1));
-    painter.drawRect(frame);
-    painter.fillRect(QRectF(captionPlace.left() - 2, captionPlace.top(), captionWidth + 4, 14), sheetColor);
-    painter.setPen(GetPaneColor(index));
-    DrawText(painter, captionPlace, caption);
+    painter.setPen(QPen(QtColor(paneFrameColor), 1));
+    painter.drawRect(QtRect(pane.Frame));
+    painter.fillRect(QRectF(pane.Caption.Left - 2, pane.Caption.Top, captionWidth + 4, pane.Caption.Height),
+                     QtColor(sheetColor));
+    painter.setPen(QtColor(GetPaneColor(index)));
+    DrawText(painter, pane.Caption, caption);
 }
 
 void DrawChartSheet(const ChartView& view, std::span<const ChartRecord> lines,
                     std::span<const QString> partNums, QPainter& painter)
 {
-    painter.fillRect(QRectF(QPointF(0, 0), sheetSize), sheetColor);
-    PainterSurface surface(painter, sheetChart, chartScale);
+    painter.fillRect(QRectF(QPointF(0, 0), sheetSize), QtColor(sheetColor));
+    PainterSurface surface(painter, QtRect(sheetChart), chartScale);
     surface.Clear();
     DrawAxes(view, surface);
     DrawCurves(view, lines, surface);
 
-    for (int index = 0; index < maximumLines; ++index)
+    for (int index = 0; index < MaximumLines; ++index)
     {
         DrawPaneFrame(painter, index);
     }
     int position = 0;
     for (const ChartRecord& line : lines)
     {
-        if (KeyOf(line) == view.Chart && position < maximumLines)
+        if (KeyOf(line) == view.Chart && position < MaximumLines)
         {
-            const QRectF frame = PaneRect(position);
-            painter.setPen(GetPaneColor(position));
-            DrawText(painter, QRectF(frame.left() + 8, frame.top() + 9, 143, 17),
-                     partNums[static_cast<std::size_t>(position)]);
-            DrawText(painter, QRectF(frame.left() + 152, frame.top() + 9, 177, 17),
-                     PaneText(line, view.DegreeSign));
+            const auto pane = LayOutPane(position);
+            painter.setPen(QtColor(GetPaneColor(position)));
+            DrawText(painter, pane.PartNum, partNums[static_cast<std::size_t>(position)]);
+            DrawText(painter, pane.Conditions, QString::fromStdString(PaneText(line, view.DegreeSign)));
             ++position;
         }
     }

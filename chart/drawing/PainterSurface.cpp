@@ -1,5 +1,7 @@
 #include "chart/drawing/PainterSurface.h"
 
+#include "chart/drawing/QtColors.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -35,6 +37,7 @@ PainterSurface::PainterSurface(QPainter& surfacePainter, const QRectF& targetRec
     , scale(userScale)
     , kind(surfaceKind)
     , pixel(pixelExtent)
+    , buttonText(::ButtonTextColor())
     , metrics(ChartFont(pixelExtent), surfacePainter.device())
     , xFactor(targetRect.width() / userScale.ScaleWidth)
     , yFactor(targetRect.height() / userScale.ScaleHeight)
@@ -52,14 +55,14 @@ QPointF PainterSurface::ToPainter(double x, double y) const
     return {target.left() + (x - scale.ScaleLeft) * xFactor, target.top() + (y - scale.ScaleTop) * yFactor};
 }
 
-void PainterSurface::Line(double x1, double y1, double x2, double y2, const QColor& color)
+void PainterSurface::Line(double x1, double y1, double x2, double y2, const Color& color)
 {
     const auto from = ToPainter(x1, y1);
     const auto to = ToPainter(x2, y2);
     painter.setRenderHint(QPainter::Antialiasing, false);
     if (x1 != x2 && y1 != y2)
     {
-        painter.setPen(QPen(color, pixel));
+        painter.setPen(QPen(QtColor(color), pixel));
         painter.drawLine(from, to);
         return;
     }
@@ -71,19 +74,20 @@ void PainterSurface::Line(double x1, double y1, double x2, double y2, const QCol
     const auto top = std::round(box.top() - width / 2);
     const auto right = std::round(box.right() - width / 2) + width;
     const auto bottom = std::round(box.bottom() - width / 2) + width;
-    painter.fillRect(toDevice.inverted().mapRect(QRectF(left, top, right - left, bottom - top)), color);
+    painter.fillRect(toDevice.inverted().mapRect(QRectF(left, top, right - left, bottom - top)),
+                     QtColor(color));
 }
 
-void PainterSurface::Polyline(std::span<const QPointF> points, const QColor& color)
+void PainterSurface::Polyline(std::span<const Point> points, const Color& color)
 {
     curve.clear();
     for (const auto& point : points)
     {
-        curve.push_back(ToPainter(point.x(), point.y()));
+        curve.push_back(ToPainter(point.X, point.Y));
     }
     painter.setRenderHint(QPainter::Antialiasing, true);
     // Round joins look the same on lines as fine as these, and take twice as long.
-    QPen pen(color, curveWidth * pixel, Qt::SolidLine, Qt::RoundCap, Qt::BevelJoin);
+    QPen pen(QtColor(color), curveWidth * pixel, Qt::SolidLine, Qt::RoundCap, Qt::BevelJoin);
     if (curveDashes > 0)
     {
         pen.setCapStyle(Qt::FlatCap);
@@ -93,25 +97,26 @@ void PainterSurface::Polyline(std::span<const QPointF> points, const QColor& col
     painter.drawPolyline(curve.data(), static_cast<int>(curve.size()));
 }
 
-void PainterSurface::Text(double x, double y, const QString& text, const QColor& color)
+void PainterSurface::Text(double x, double y, std::string_view text, const Color& color)
 {
-    painter.setPen(color);
-    painter.drawText(ToPainter(x, y) + QPointF(0, metrics.ascent()), text);
+    painter.setPen(QtColor(color));
+    painter.drawText(ToPainter(x, y) + QPointF(0, metrics.ascent()), QString::fromUtf8(text));
 }
 
-void PainterSurface::TextUpwards(double x, double y, const QString& text, const QColor& color)
+void PainterSurface::TextUpwards(double x, double y, std::string_view text, const Color& color)
 {
     painter.save();
     painter.translate(ToPainter(x, y));
     painter.rotate(-90);
-    painter.setPen(color);
-    painter.drawText(QPointF(-metrics.horizontalAdvance(text) / 2, metrics.ascent()), text);
+    painter.setPen(QtColor(color));
+    const auto line = QString::fromUtf8(text);
+    painter.drawText(QPointF(-metrics.horizontalAdvance(line) / 2, metrics.ascent()), line);
     painter.restore();
 }
 
-double PainterSurface::TextWidth(const QString& text) const
+double PainterSurface::TextWidth(std::string_view text) const
 {
-    return metrics.horizontalAdvance(text) / std::abs(xFactor);
+    return metrics.horizontalAdvance(QString::fromUtf8(text)) / std::abs(xFactor);
 }
 
 double PainterSurface::TextHeight() const

@@ -2,7 +2,7 @@
 
 /// A chart surface on a painter: a window, an image, a printer page or a vector file.
 
-#include "chart/drawing/ChartSurface.h"
+#include "chart/layout/ChartSurface.h"
 
 #include <QFont>
 #include <QFontMetricsF>
@@ -30,17 +30,18 @@ public:
     /// Paints the surface white.
     void Clear();
 
-    void Line(double x1, double y1, double x2, double y2, const QColor& color) override;
+    void Line(double x1, double y1, double x2, double y2, const Color& color) override;
     /// 0 to 5, each told apart at a glance.
     void SetCurveDashes(int dashes) override { curveDashes = dashes; }
-    void Polyline(std::span<const QPointF> points, const QColor& color) override;
-    void Text(double x, double y, const QString& text, const QColor& color) override;
-    void TextUpwards(double x, double y, const QString& text, const QColor& color) override;
-    double TextWidth(const QString& text) const override;
+    void Polyline(std::span<const Point> points, const Color& color) override;
+    void Text(double x, double y, std::string_view text, const Color& color) override;
+    void TextUpwards(double x, double y, std::string_view text, const Color& color) override;
+    double TextWidth(std::string_view text) const override;
     double TextHeight() const override;
     double UpwardsTextWidth() const override;
     SurfaceKind Kind() const override { return kind; }
     const UserScale& Scale() const override { return scale; }
+    Color ButtonTextColor() const override { return buttonText; }
 
 private:
     QPointF ToPainter(double x, double y) const;
@@ -50,6 +51,7 @@ private:
     UserScale scale;
     SurfaceKind kind;
     double pixel;
+    Color buttonText;
     QFontMetricsF metrics;
     /// Painter units per user unit, of either sign.
     double xFactor;

@@ -1,6 +1,6 @@
 #include "chart/drawing/PainterSurface.h"
-#include "chart/drawing/ChartDrawing.h"
-#include "chart/drawing/Colors.h"
+#include "chart/drawing/QtColors.h"
+#include "chart/layout/ChartDrawing.h"
 
 #include <QGuiApplication>
 #include <QImage>
@@ -27,20 +27,20 @@ public:
     struct Box
     {
         double Left, Bottom, Right, Top;
-        QString Text;
+        std::string Text;
     };
     std::vector<Box> Boxes;
 
-    void Text(double x, double y, const QString& text, const QColor& color) override
+    void Text(double x, double y, std::string_view text, const Color& color) override
     {
-        Boxes.push_back({x, y - TextHeight(), x + TextWidth(text), y, text});
+        Boxes.push_back({x, y - TextHeight(), x + TextWidth(text), y, std::string(text)});
         PainterSurface::Text(x, y, text, color);
     }
-    void TextUpwards(double x, double y, const QString& text, const QColor& color) override
+    void TextUpwards(double x, double y, std::string_view text, const Color& color) override
     {
         const auto halfLength = TextWidth(text) / 2 * (chartArea.width() / Scale().ScaleWidth) /
                                 (chartArea.height() / -Scale().ScaleHeight);
-        Boxes.push_back({x, y - halfLength, x + UpwardsTextWidth(), y + halfLength, text});
+        Boxes.push_back({x, y - halfLength, x + UpwardsTextWidth(), y + halfLength, std::string(text)});
         PainterSurface::TextUpwards(x, y, text, color);
     }
 };
@@ -79,8 +79,8 @@ void PainterSurfaceTest::LinesAreCrisp()
     auto picture = Picture(pixelRatio);
     QPainter painter(&picture);
     PainterSurface surface(painter, chartArea, chartScale);
-    surface.Line(0, 0, 0, 100, Qt::black);
-    surface.Line(0, 0, 100, 0, Qt::black);
+    surface.Line(0, 0, 0, 100, frameColor);
+    surface.Line(0, 0, 100, 0, frameColor);
     painter.end();
     const int middleRow = picture.height() / 2;
     const int middleColumn = picture.width() / 2;
@@ -100,8 +100,8 @@ void PainterSurfaceTest::CurvesAreSmooth()
     auto picture = Picture(1);
     QPainter painter(&picture);
     PainterSurface surface(painter, chartArea, chartScale);
-    const std::vector<QPointF> points = {{0, 0}, {100, 30}};
-    surface.Polyline(points, Qt::black);
+    const std::vector<Point> points = {{0, 0}, {100, 30}};
+    surface.Polyline(points, frameColor);
     painter.end();
     bool anyGrey = false;
     for (int row = 0; row < picture.height(); ++row)
@@ -169,14 +169,14 @@ void PainterSurfaceTest::TextsNeitherTouchNorLeaveTheSurface()
         for (std::size_t i = 0; i < boxes.size(); ++i)
         {
             // The note stands 0.3 units above the surface's edge, where its line of text is empty.
-            QVERIFY2(boxes[i].Left >= -21 && boxes[i].Right <= 105 + 1e-9, qPrintable(boxes[i].Text));
-            QVERIFY2(boxes[i].Bottom >= -15 && boxes[i].Top <= 107.3, qPrintable(boxes[i].Text));
+            QVERIFY2(boxes[i].Left >= -21 && boxes[i].Right <= 105 + 1e-9, boxes[i].Text.c_str());
+            QVERIFY2(boxes[i].Bottom >= -15 && boxes[i].Top <= 107.3, boxes[i].Text.c_str());
             for (std::size_t k = 0; k < i; ++k)
             {
                 const bool apart = boxes[i].Left >= boxes[k].Right || boxes[k].Left >= boxes[i].Right ||
                                    boxes[i].Bottom >= boxes[k].Top - 1e-9 ||
                                    boxes[k].Bottom >= boxes[i].Top - 1e-9;
-                QVERIFY2(apart, qPrintable(boxes[k].Text + " touches " + boxes[i].Text));
+                QVERIFY2(apart, (boxes[k].Text + " touches " + boxes[i].Text).c_str());
             }
         }
     }
@@ -187,7 +187,7 @@ void PainterSurfaceTest::UpwardsTextStandsUprightAtTheLeftEdge()
     auto picture = Picture(1);
     QPainter painter(&picture);
     PainterSurface surface(painter, chartArea, chartScale);
-    surface.TextUpwards(-21, 50, "Capacitance Change [%]", Qt::black);
+    surface.TextUpwards(-21, 50, "Capacitance Change [%]", frameColor);
     painter.end();
     QRect ink;
     for (int row = 0; row < picture.height(); ++row)
@@ -213,13 +213,13 @@ void PainterSurfaceTest::ButtonTextColorIsUsedWhileDark()
     auto palette = former;
     palette.setColor(QPalette::ButtonText, QColor(20, 30, 90));
     QGuiApplication::setPalette(palette);
-    const auto dark = GetLineColor(2);
+    const auto dark = ButtonTextColor();
     palette.setColor(QPalette::ButtonText, QColor(240, 240, 240));
     QGuiApplication::setPalette(palette);
-    const auto light = GetLineColor(2);
+    const auto light = ButtonTextColor();
     QGuiApplication::setPalette(former);
-    QCOMPARE(dark, QColor(20, 30, 90));
-    QCOMPARE(light, QColor(0, 0, 0));
+    QCOMPARE(QtColor(dark), QColor(20, 30, 90));
+    QCOMPARE(QtColor(light), QColor(0, 0, 0));
 }
 
 QTEST_MAIN(PainterSurfaceTest)

@@ -2,7 +2,7 @@
 
 /// What chart windows and store are to hold, told plainly: lines, windows, ranges and panes.
 
-#include "chart/drawing/ChartDrawing.h"
+#include "chart/layout/ChartView.h"
 #include "tests/calc/PlainCurves.h"
 
 #include <QString>

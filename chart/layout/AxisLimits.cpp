@@ -1,0 +1,52 @@
+#include "chart/layout/AxisLimits.h"
+
+#include "chart/layout/Mapping.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+/// The decimal that the value stands for, so that the limits read as plainly as the defaults.
+static double DecimalOf(float value)
+{
+    std::array<char, 32> text{};
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
+    double decimal = 0;
+    std::from_chars(text.data(), end, decimal);
+    return decimal;
+}
+
+static bool CanBeNegative(std::string_view quantity)
+{
+    return quantity == "Temperature" || quantity == "Capacitance Change";
+}
+
+/// One span further than the default range on either side.
+static PermittedRange OneSpanFurther(std::string_view quantity, float minimum, float maximum)
+{
+    const double least = DecimalOf(minimum);
+    const double most = DecimalOf(maximum);
+    const double span = most > least ? most - least : 1;
+    const auto lowest = static_cast<float>(least - span);
+    return {.Lowest = CanBeNegative(quantity) ? lowest : std::max(lowest, 0.0F),
+            .Highest = static_cast<float>(most + span)};
+}
+
+PermittedRange PermittedXRange(const ChartKey& chart, const AxisRange& defaultRange)
+{
+    if (chart.XAxisName == "Frequency")
+    {
+        return {.Lowest = 10, .Highest = 1000};
+    }
+    return OneSpanFurther(chart.XAxisName, defaultRange.XMin, defaultRange.XMax);
+}
+
+PermittedRange PermittedYRange(const ChartKey& chart, const AxisRange& defaultRange)
+{
+    if (YAxisKind(chart) == AxisKind::Logarithmic)
+    {
+        return {.Lowest = static_cast<float>(DecimalOf(defaultRange.YMin) / 10),
+                .Highest = static_cast<float>(DecimalOf(defaultRange.YMax) * 10)};
+    }
+    return OneSpanFurther(chart.YAxisName, defaultRange.YMin, defaultRange.YMax);
+}
