@@ -53,13 +53,9 @@ ChartRecord RecordOf(const Case& with)
     return record;
 }
 
-void Calculate(const PartRecord& part, ChartRecord& record, CodeView view)
+void CalculatePermitted(const PartRecord& part, ChartRecord& record, CodeView view)
 {
-    if (record.ChartType >= 2)
-    {
-        CalculateDataS(part, record, view);
-    }
-    else if (CalculateDataT(part, record))
+    if (Calculate(part, record, view))
     {
         throw std::logic_error("the parameter of this benchmark is refused");
     }
@@ -82,7 +78,7 @@ void CompareCurve(const std::string& name, const Case& with)
                 {
                     for (int i = 0; i < curvesARound; ++i)
                     {
-                        Calculate(part, record, with.View);
+                        CalculatePermitted(part, record, with.View);
                         lastValue = record.YData.back();
                     }
                 });

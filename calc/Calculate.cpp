@@ -23,11 +23,6 @@ void WriteCurve(ChartRecord& record, const Curve& curve)
     record.ExtraValue = curve.ExtraValue;
 }
 
-bool IsType(const ChartRecord& record, ChartType type)
-{
-    return record.ChartType == static_cast<std::int16_t>(type);
-}
-
 PowerModel ModelOf(const PartRecord& part, const ChartRecord& record)
 {
     return PowerModelOf(part, record.DCBiasVoltage, record.AmbientTemp, record.HeatResistance);
@@ -61,27 +56,21 @@ void CalculateAllowable(const PartRecord& part, ChartRecord& record)
 }
 } // namespace
 
-void CalculateDataS(const PartRecord& part, ChartRecord& record, CodeView view)
+std::optional<ParameterRefusal> Calculate(const PartRecord& part, ChartRecord& record, CodeView view)
 {
-    if (IsType(record, ChartType::CapacitanceTemperature))
+    switch (static_cast<ChartType>(record.ChartType))
     {
-        WriteCurve(record, CalcCapTemperature(part, record.DCBiasVoltage, record.YAxisName, view));
-    }
-    else if (IsType(record, ChartType::CapacitanceDCVoltage))
-    {
-        WriteCurve(record, CalcCapDCVoltage(part, record.AmbientTemp, record.YAxisName, view));
-    }
-}
-
-std::optional<ParameterRefusal> CalculateDataT(const PartRecord& part, ChartRecord& record)
-{
-    if (IsType(record, ChartType::TemperatureRise))
-    {
+    case ChartType::TemperatureRise:
         return CalculateRise(part, record);
-    }
-    if (IsType(record, ChartType::AllowablePower))
-    {
+    case ChartType::AllowablePower:
         CalculateAllowable(part, record);
+        break;
+    case ChartType::CapacitanceTemperature:
+        WriteCurve(record, CalcCapTemperature(part, record.DCBiasVoltage, record.YAxisName, view));
+        break;
+    case ChartType::CapacitanceDCVoltage:
+        WriteCurve(record, CalcCapDCVoltage(part, record.AmbientTemp, record.YAxisName, view));
+        break;
     }
     return std::nullopt;
 }

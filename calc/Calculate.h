@@ -19,15 +19,11 @@ struct ParameterRefusal
     std::string Message;
 };
 
-/// Capacitance curves (chart types 2 and 3; any other type does nothing): reads type, Y axis name, bias
-/// and ambient temperature of the record, writes points and default limits.
+/// Computes the curve of a line: reads its chart type, axis names and conditions, writes points, default limits
+/// and `ExtraValue`. A number that is no chart type does nothing. Returns a refusal, with the record as it was,
+/// when the parameter of a temperature rise over frequency is out of range.
+///
+/// @param view the naming on display, which capacitance curves take their reference temperature from
 ///
 /// Throws RunTimeError 5, 6 or 11 at the step that goes wrong; the record is then as it was.
-void CalculateDataS(const PartRecord& part, ChartRecord& record, CodeView view);
-
-/// Temperature rise and allowable power (chart types 0 and 1): reads the conditions of the record, writes
-/// points, default limits and `ExtraValue`. Returns a refusal, with the record as it was, when the
-/// parameter of a temperature rise over frequency is out of range.
-///
-/// Throws RunTimeError 5, 6 or 11 at the step that goes wrong; the record is then as it was.
-std::optional<ParameterRefusal> CalculateDataT(const PartRecord& part, ChartRecord& record);
+std::optional<ParameterRefusal> Calculate(const PartRecord& part, ChartRecord& record, CodeView view);

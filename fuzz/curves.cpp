@@ -83,11 +83,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     try
     {
-        if (record.ChartType >= 2)
-        {
-            CalculateDataS(part, record, view);
-        }
-        else if (CalculateDataT(part, record))
+        if (Calculate(part, record, view))
         {
             Require(record.XMax == 0 && record.YMax == 0, "a refusal leaves the record as it was");
             return 0;

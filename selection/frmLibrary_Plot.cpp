@@ -150,12 +150,7 @@ void frmLibrary::ShowSameChart()
 std::optional<ParameterRefusal> frmLibrary::Calculate(ChartRecord& record)
 {
     const PartRecord& part = mdlPublic.Parts.PartData[static_cast<std::size_t>(record.PartDataIndex)];
-    if (record.ChartType <= 1)
-    {
-        return CalculateDataT(part, record);
-    }
-    CalculateDataS(part, record, GetCodeView());
-    return std::nullopt;
+    return ::Calculate(part, record, GetCodeView());
 }
 
 void frmLibrary::ReportParameter(const ParameterRefusal& refusal)

@@ -51,39 +51,39 @@ void ExpectMarked(const ChartRecord& record)
     EXPECT_EQ(record.ExtraValue, -7);
 }
 
-TEST(CalculateDataT, LeavesTheRecordOfARefusedParameter)
+TEST(Calculate, LeavesTheRecordOfARefusedParameter)
 {
     auto record = MarkedRecord(ChartType::TemperatureRise);
     record.ParameterValue = 9;
-    const auto refusal = CalculateDataT(Part(), record);
+    const auto refusal = Calculate(Part(), record, CodeView::Eia);
     ASSERT_TRUE(refusal);
     EXPECT_FLOAT_EQ(static_cast<float>(refusal->Limit), std::sqrt(80.0F));
     EXPECT_EQ(refusal->Message, "Parameter is invalid!\r\nPlease enter a Number from 0 to 8.944");
     ExpectMarked(record);
 }
 
-TEST(CalculateDataT, LeavesTheRecordOnAFault)
+TEST(Calculate, LeavesTheRecordOnAFault)
 {
     auto part = Part();
     part.Data[Value::RatedVoltage] = 0;
     for (const auto type : {ChartType::TemperatureRise, ChartType::AllowablePower})
     {
         auto record = MarkedRecord(type);
-        EXPECT_THROW(CalculateDataT(part, record), RunTimeError);
+        EXPECT_THROW(Calculate(part, record, CodeView::Eia), RunTimeError);
         ExpectMarked(record);
     }
 }
 
-TEST(CalculateDataT, FaultsWithoutARatedVoltageOnEveryAxis)
+TEST(Calculate, FaultsWithoutARatedVoltageOnEveryAxis)
 {
     auto part = Part();
     part.Data[Value::RatedVoltage] = 0;
     auto record = MarkedRecord(ChartType::TemperatureRise);
     record.XAxisName = "Effective Power";
-    EXPECT_THROW(CalculateDataT(part, record), RunTimeError);
+    EXPECT_THROW(Calculate(part, record, CodeView::Eia), RunTimeError);
 }
 
-TEST(CalculateDataT, TakesTheFrequencyInKilohertz)
+TEST(Calculate, TakesTheFrequencyInKilohertz)
 {
     auto part = Part();
     part.Data[Value::CurrentPerF] = 1000;
@@ -91,7 +91,7 @@ TEST(CalculateDataT, TakesTheFrequencyInKilohertz)
     auto record = MarkedRecord(ChartType::TemperatureRise);
     record.XAxisName = "Current";
     record.Frequency = 100;
-    ASSERT_FALSE(CalculateDataT(part, record));
+    ASSERT_FALSE(Calculate(part, record, CodeView::Eia));
     // kI = 1000 / 100000 Hz
     EXPECT_FLOAT_EQ(record.XData.back(), static_cast<float>(std::sqrt(8000.0)));
     EXPECT_EQ(record.YData.back(), 80);
@@ -100,46 +100,47 @@ TEST(CalculateDataT, TakesTheFrequencyInKilohertz)
     EXPECT_EQ(record.ExtraValue, 0);
 }
 
-TEST(CalculateDataT, StoresTheLargestAllowableLoad)
+TEST(Calculate, StoresTheLargestAllowableLoad)
 {
     auto record = MarkedRecord(ChartType::AllowablePower);
     record.AmbientTemp = 121;
-    ASSERT_FALSE(CalculateDataT(Part(), record));
+    ASSERT_FALSE(Calculate(Part(), record, CodeView::Eia));
     EXPECT_EQ(record.ExtraValue, 2);
     EXPECT_EQ(record.YMax, 10);
     EXPECT_EQ(record.YMin, 1);
 }
 
-TEST(CalculateDataS, LeavesTheRecordOnAFault)
+TEST(Calculate, LeavesTheRecordOfACapacitanceOnAFault)
 {
     auto part = Part();
     part.Data[Value::TemperatureX] = HUGE_VALF;
     auto record = MarkedRecord(ChartType::CapacitanceTemperature);
     record.YAxisName = "Capacitance";
-    EXPECT_THROW(CalculateDataS(part, record, CodeView::Eia), RunTimeError);
+    EXPECT_THROW(Calculate(part, record, CodeView::Eia), RunTimeError);
     ExpectMarked(record);
 }
 
-TEST(CalculateDataS, LeavesThePointsOfAnUnlistedCharacteristic)
+TEST(Calculate, LeavesThePointsOfAnUnlistedCharacteristic)
 {
     auto part = Part();
     part.Tcc[0] = "C0G";
     auto record = MarkedRecord(ChartType::CapacitanceDCVoltage);
     record.YAxisName = "Capacitance Change";
-    CalculateDataS(part, record, CodeView::Eia);
+    Calculate(part, record, CodeView::Eia);
     EXPECT_EQ(record.XData.front(), -7);
     EXPECT_EQ(record.YData.back(), -7);
     EXPECT_EQ(record.XMax, 10);
     EXPECT_EQ(record.YMax, 10);
 }
 
-TEST(Calculation, DoesNothingForTheChartTypesOfTheOther)
+TEST(Calculate, DoesNothingForANumberThatIsNoChartType)
 {
-    auto rise = MarkedRecord(ChartType::TemperatureRise);
-    CalculateDataS(Part(), rise, CodeView::Eia);
-    ExpectMarked(rise);
-    auto capacitance = MarkedRecord(ChartType::CapacitanceTemperature);
-    EXPECT_FALSE(CalculateDataT(Part(), capacitance));
-    ExpectMarked(capacitance);
+    for (const std::int16_t number : {std::int16_t{4}, std::int16_t{-1}})
+    {
+        auto record = MarkedRecord(ChartType::TemperatureRise);
+        record.ChartType = number;
+        EXPECT_FALSE(Calculate(Part(), record, CodeView::Eia));
+        ExpectMarked(record);
+    }
 }
 } // namespace

@@ -117,7 +117,7 @@ TEST(UnlistedCharacteristic, WithoutANumberAsRatedVoltageIsAnOverflow)
     record.YAxisName = CapacitanceAxis;
     try
     {
-        CalculateDataS(part, record, CodeView::Eia);
+        Calculate(part, record, CodeView::Eia);
         FAIL() << "no error";
     }
     catch (const RunTimeError& error)

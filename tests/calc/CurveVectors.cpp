@@ -52,13 +52,3 @@ std::vector<CurveVector> ReadCurveVectors()
     }
     return vectors;
 }
-
-std::optional<ParameterRefusal> Calculate(const PartRecord& part, ChartRecord& record, CodeView view)
-{
-    if (record.ChartType >= static_cast<std::int16_t>(ChartType::CapacitanceTemperature))
-    {
-        CalculateDataS(part, record, view);
-        return std::nullopt;
-    }
-    return CalculateDataT(part, record);
-}

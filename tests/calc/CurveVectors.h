@@ -2,7 +2,7 @@
 
 /// The vectors: parts of every kind, and curves of them that were computed independently of this program.
 
-#include "calc/Calculate.h"
+#include "calc/ChartRecord.h"
 #include "partdata/PartTable.h"
 
 #include <nlohmann/json.hpp>
@@ -30,6 +30,3 @@ const PartTable& VectorParts();
 
 /// All curves, one a line of the file.
 std::vector<CurveVector> ReadCurveVectors();
-
-/// Runs the calculation that the record's chart type asks for.
-std::optional<ParameterRefusal> Calculate(const PartRecord& part, ChartRecord& record, CodeView view);

@@ -1,6 +1,7 @@
 /// Every stored single of every curve against the plain formulas: at most one last digit apart.
 
 #include "tests/calc/PlainCurves.h"
+#include "calc/Calculate.h"
 #include "calc/Capacitance.h"
 #include "partdata/RunTimeError.h"
 #include "tests/calc/CurveVectors.h"

@@ -91,7 +91,7 @@ TEST_P(BookFigures, TellTheRiseOfOneAndAHalfAmperes)
         {
             ChartRecord line = Line(part, 0, "Current", "Temperature Rise");
             line.Frequency = static_cast<float>(kilohertz);
-            ASSERT_FALSE(CalculateDataT(Part(part), line));
+            ASSERT_FALSE(Calculate(Part(part), line, CodeView::Eia));
             rises[static_cast<std::size_t>(part)] = At(line, 1.5);
         }
         ExpectCells(rises, 1, "°C");
@@ -107,7 +107,7 @@ TEST_P(BookFigures, TellTheAllowableCurrent)
         {
             ChartRecord line = Line(part, 1, "Frequency", "Current");
             line.AmbientTemp = ambient;
-            ASSERT_FALSE(CalculateDataT(Part(part), line));
+            ASSERT_FALSE(Calculate(Part(part), line, CodeView::Eia));
             currents[static_cast<std::size_t>(part)] = At(line, 300000);
         }
         ExpectCells(currents, 2, "A");
@@ -123,10 +123,10 @@ TEST_P(BookFigures, TellWhatIsLeftAtTwelveVolts)
     {
         const auto at = static_cast<std::size_t>(part);
         ChartRecord line = Line(part, 3, "DC Bias Voltage", "Capacitance");
-        CalculateDataS(Part(part), line, CodeView::Eia);
+        Calculate(Part(part), line, CodeView::Eia);
         left[at] = At(line, 12) / 1e6;
         line.YAxisName = "Capacitance Change";
-        CalculateDataS(Part(part), line, BookView());
+        Calculate(Part(part), line, BookView());
         change[at] = At(line, 12);
         ripple[at] = 1.5 / (2 * std::numbers::pi * 300e3 * left[at] * 1e-6);
     }
@@ -141,7 +141,7 @@ TEST_P(BookFigures, TellTheCapacitanceOfAWarmBoard)
     for (int part = 0; part < 3; ++part)
     {
         ChartRecord line = Line(part, 2, "Temperature", "Capacitance");
-        CalculateDataS(Part(part), line, CodeView::Eia);
+        Calculate(Part(part), line, CodeView::Eia);
         warm[static_cast<std::size_t>(part)] = At(line, 60) / 1e6;
     }
     ExpectCells(warm, 2, "µF");
@@ -151,7 +151,7 @@ TEST_P(BookFigures, TellTheLinesOfADataFile)
 {
     ChartRecord line = Line(0, 0, "Current", "Temperature Rise");
     line.Frequency = 300;
-    ASSERT_FALSE(CalculateDataT(Part(0), line));
+    ASSERT_FALSE(Calculate(Part(0), line, CodeView::Eia));
     const auto dataLine = [&line](std::size_t point)
     { return "\n" + DataXText(line, point) + "            " + DataYText(line, point) + "\n"; };
     EXPECT_THAT(book, testing::HasSubstr(dataLine(0) + dataLine(1).substr(1) + "..." + dataLine(199)));

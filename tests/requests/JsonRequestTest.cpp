@@ -47,7 +47,7 @@ TEST(Requests, AreAnsweredWithTheCurveOfTheCalculation)
     line.Frequency = 300;
     line.HeatResistance = part.Data[Value::HeatResistance];
     line.AmbientTemp = 25;
-    ASSERT_FALSE(CalculateDataT(part, line));
+    ASSERT_FALSE(Calculate(part, line, CodeView::Eia));
     for (std::size_t i = 0; i < CurvePoints; ++i)
     {
         EXPECT_EQ(std::stof(answer.at("x").at(i).dump()), line.XData[i]);

@@ -24,7 +24,7 @@ static ChartRecord RiseOver(std::string_view xAxis, const PartRecord& part, floa
     record.HeatResistance = part.Data[Value::HeatResistance];
     record.Frequency = kilohertz;
     record.AmbientTemp = ambientC;
-    EXPECT_FALSE(CalculateDataT(part, record).has_value());
+    EXPECT_FALSE(Calculate(part, record, CodeView::Eia).has_value());
     return record;
 }
 

@@ -64,7 +64,7 @@ TEST(EveryPart, PlotsItsTemperatureRiseOverLoad)
                     auto record = PowerChart(ChartType::TemperatureRise, *part, bias, ambient);
                     record.XAxisName = axis;
                     record.Frequency = 100;
-                    EXPECT_FALSE(CalculateDataT(*part, record).has_value());
+                    EXPECT_FALSE(Calculate(*part, record, CodeView::Eia).has_value());
                     ExpectDrawable(*part, record);
                     EXPECT_LE(*std::ranges::max_element(record.YData), 80.001F) << part->PartNum[0];
                 }
@@ -86,11 +86,11 @@ TEST(EveryPart, PlotsItsTemperatureRiseOverFrequencyUpToTheShownLimit)
                     auto record = PowerChart(ChartType::TemperatureRise, *part, bias, ambient);
                     record.ParameterName = parameter;
                     record.ParameterValue = 1e30F;
-                    const auto refusal = CalculateDataT(*part, record);
+                    const auto refusal = Calculate(*part, record, CodeView::Eia);
                     ASSERT_TRUE(refusal.has_value()) << part->PartNum[0];
                     EXPECT_GT(refusal->Shown, 0) << part->PartNum[0] << ' ' << parameter;
                     record.ParameterValue = refusal->Shown;
-                    EXPECT_FALSE(CalculateDataT(*part, record).has_value()) << part->PartNum[0];
+                    EXPECT_FALSE(Calculate(*part, record, CodeView::Eia).has_value()) << part->PartNum[0];
                     ExpectDrawable(*part, record);
                 }
             }
@@ -110,7 +110,7 @@ TEST(EveryPart, PlotsItsAllowablePower)
                 {
                     auto record = PowerChart(ChartType::AllowablePower, *part, bias, ambient);
                     record.YAxisName = axis;
-                    EXPECT_FALSE(CalculateDataT(*part, record).has_value());
+                    EXPECT_FALSE(Calculate(*part, record, CodeView::Eia).has_value());
                     ExpectDrawable(*part, record);
                     // At the highest temperature no rise is permitted; below it every part bears a load.
                     EXPECT_EQ(record.ExtraValue > 0, ambient == 20.0F) << part->PartNum[0] << ' ' << axis;

@@ -87,7 +87,7 @@ static ChartRecord CapacitanceChart(ChartType type, const PartRecord& part, std:
     record.YAxisName = yAxis;
     record.DCBiasVoltage = biasVolts;
     record.AmbientTemp = ambientC;
-    CalculateDataS(part, record, view);
+    Calculate(part, record, view);
     return record;
 }
 
