@@ -27,14 +27,20 @@ bool SameLine(const ChartRecord& a, const ChartRecord& b)
     return identity(a) == identity(b);
 }
 
-std::span<const ChartRecord> ChartStore::Lines() const
+const ChartRecord& ChartStore::WorkingRecord() const
 {
-    return std::span(ChartData).first(static_cast<std::size_t>(CurrentChart));
+    assert(records.size() > static_cast<std::size_t>(plotted));
+    return records[static_cast<std::size_t>(plotted)];
 }
 
-std::span<ChartRecord> ChartStore::Lines()
+std::span<const ChartRecord> ChartStore::Lines() const
 {
-    return std::span(ChartData).first(static_cast<std::size_t>(CurrentChart));
+    return std::span(records).first(static_cast<std::size_t>(plotted));
+}
+
+std::span<ChartRecord> ChartStore::LinesToPlace()
+{
+    return std::span(records).first(static_cast<std::size_t>(plotted));
 }
 
 int ChartStore::CountSameCharts(const ChartKey& key) const
@@ -46,8 +52,8 @@ int ChartStore::CountSameCharts(const ChartKey& key) const
 
 void ChartStore::Write(ChartRecord record)
 {
-    ChartData.resize(static_cast<std::size_t>(CurrentChart) + 1);
-    ChartData.back() = std::move(record);
+    records.resize(static_cast<std::size_t>(plotted) + 1);
+    records.back() = std::move(record);
 }
 
 void ChartStore::ClearWorkingRecord()
@@ -55,15 +61,44 @@ void ChartStore::ClearWorkingRecord()
     Write({});
 }
 
+void ChartStore::Commit()
+{
+    assert(records.size() == static_cast<std::size_t>(plotted) + 1);
+    ++plotted;
+}
+
+void ChartStore::RollBack()
+{
+    assert(plotted > 0);
+    --plotted;
+    ClearWorkingRecord();
+}
+
 int ChartStore::RemoveChart(const ChartKey& key)
 {
-    ChartData.resize(static_cast<std::size_t>(CurrentChart));
+    records.resize(static_cast<std::size_t>(plotted));
     const auto removed = static_cast<int>(
-        std::erase_if(ChartData, [&](const ChartRecord& line) { return BelongsTo(line, key); }));
-    CurrentChart = static_cast<std::int16_t>(CurrentChart - removed);
-    if (ChartData.empty())
+        std::erase_if(records, [&](const ChartRecord& line) { return BelongsTo(line, key); }));
+    plotted = static_cast<std::int16_t>(plotted - removed);
+    if (records.empty())
     {
-        ChartData.resize(1);
+        records.resize(1);
     }
     return removed;
+}
+
+Plotting::Plotting(ChartStore& chartStore, ChartRecord line)
+    : store(chartStore)
+    , index(chartStore.CurrentChart())
+{
+    store.Write(std::move(line));
+}
+
+Plotting::~Plotting()
+{
+    // The record was there to be written, so that to empty it takes no memory.
+    if (store.CurrentChart() == index)
+    {
+        store.ClearWorkingRecord();
+    }
 }

@@ -23,7 +23,7 @@ void ChartPicture::paintEvent(QPaintEvent*)
     QPainter painter(this);
     PainterSurface surface(painter, QRectF(0, 0, chartSurfaceWidth, chartSurfaceHeight), chartScale);
     surface.Clear();
-    const auto lines = std::as_const(mdlPublic.Charts).Lines();
+    const auto lines = mdlPublic.Charts.Lines();
     if (mdlPublic.Charts.CountSameCharts(view.Chart) > 0)
     {
         DrawAxes(view, surface);

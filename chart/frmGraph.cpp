@@ -128,10 +128,10 @@ void frmGraph::mnuView_Click()
 void frmGraph::Form_Load()
 {
     ChartStore& store = mdlPublic.Charts;
-    const ChartKey chart = KeyOf(store.ChartData[static_cast<std::size_t>(store.CurrentChart)]);
+    const ChartKey chart = KeyOf(store.WorkingRecord());
     const bool formerRescaled = rescaled;
     const AxisRange formerRange = axisRange;
-    ++store.CurrentChart;
+    store.Commit();
     try
     {
         rescaled = false;
@@ -142,7 +142,7 @@ void frmGraph::Form_Load()
     catch (...)
     {
         // A line that could not be drawn does not count as plotted; the others are shown as before.
-        --store.CurrentChart;
+        store.RollBack();
         rescaled = formerRescaled;
         Draw(formerRange);
         throw;
@@ -198,7 +198,7 @@ void frmGraph::Draw(const AxisRange& range)
                          .Range = range,
                          .Rescaled = rescaled,
                          .DegreeSign = Utf8FromWindows1252(mdlPublic.DegreeSign)};
-    PlaceCurves(view, mdlPublic.Charts.Lines());
+    PlaceCurves(view, mdlPublic.Charts.LinesToPlace());
     ui->picGraph->Show(view);
     FillStatusPanes();
 }
@@ -214,7 +214,7 @@ std::vector<const ChartRecord*> frmGraph::Lines() const
 {
     std::vector<const ChartRecord*> lines;
     const ChartKey chart = Chart();
-    for (const ChartRecord& line : std::as_const(mdlPublic.Charts).Lines())
+    for (const ChartRecord& line : mdlPublic.Charts.Lines())
     {
         if (KeyOf(line) == chart)
         {

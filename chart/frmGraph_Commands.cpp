@@ -58,7 +58,7 @@ void frmGraph::mnuChartClipboard_Click()
     QImage picture((sheetSize * scale).toSize(), QImage::Format_RGB32);
     picture.setDevicePixelRatio(scale);
     QPainter painter(&picture);
-    DrawChartSheet(ui->picGraph->View(), std::as_const(mdlPublic.Charts).Lines(), PartNums(), painter);
+    DrawChartSheet(ui->picGraph->View(), mdlPublic.Charts.Lines(), PartNums(), painter);
     painter.end();
     QGuiApplication::clipboard()->setImage(picture);
 }
@@ -80,7 +80,7 @@ void frmGraph::mnuFilePrint_Click()
         return FromAnsi(mdlPublic.Parts.PartData[static_cast<std::size_t>(part)].PartNum[form]);
     };
     // The command may move the store's records, so the page has lines of its own.
-    const auto plotted = std::as_const(mdlPublic.Charts).Lines();
+    const auto plotted = mdlPublic.Charts.Lines();
     const std::vector<ChartRecord> lines(plotted.begin(), plotted.end());
     host.PrintChart({.View = ui->picGraph->View(),
                      .Lines = lines,

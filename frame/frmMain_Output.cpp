@@ -43,7 +43,7 @@ template <class Steps> static void RunCommand(QWidget* window, Steps steps)
 std::optional<ChartRecord> frmMain::CurrentCurve()
 {
     ChartRecord line = library->WriteChartData(library->GetSelectedPart(), library->GetChartType());
-    if (const auto refusal = frmLibrary::Calculate(line))
+    if (const auto refusal = Calculate(PartOf(line), line, GetCodeView()))
     {
         library->ReportParameter(*refusal);
         return std::nullopt;

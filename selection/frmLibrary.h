@@ -98,9 +98,6 @@ public:
     void IsNewChart(bool& isNew) const;
     int CountSameCharts() const;
     void ShowSameChart();
-    /// Computes the curve of a written record, or tells why its parameter is refused. Throws RunTimeError
-    /// when the curve cannot be computed.
-    static std::optional<ParameterRefusal> Calculate(ChartRecord& record);
     /// Shows why a parameter is refused and puts the focus into its box.
     void ReportParameter(const ParameterRefusal& refusal);
 
@@ -136,6 +133,7 @@ private:
     void cmbXaxis_Click();
     void cmdPlot_Click();
     void Plot(int lines);
+    std::optional<ParameterRefusal> PlotLine(int lines);
 
     // Leaving a box: false when its entry is refused.
     bool txtDCBiasVol_LostFocus();

@@ -1,8 +1,8 @@
 #include "selection/frmLibrary.h"
 
+#include "app/CalculateData.h"
 #include "app/mdlPublic.h"
 #include "calc/AxisLists.h"
-#include "calc/Calculate.h"
 #include "calc/ChartNames.h"
 #include "calc/NumberText.h"
 #include "formkit/Entries.h"
@@ -130,7 +130,7 @@ ChartRecord frmLibrary::WriteChartData(std::int16_t part, std::int16_t chartType
 void frmLibrary::IsNewChart(bool& isNew) const
 {
     const ChartRecord shown = WriteChartData(GetSelectedPart(), GetChartType());
-    const auto lines = std::as_const(mdlPublic.Charts).Lines();
+    const auto lines = mdlPublic.Charts.Lines();
     isNew = std::ranges::none_of(lines, [&](const ChartRecord& line) { return SameLine(line, shown); });
 }
 
@@ -147,10 +147,15 @@ void frmLibrary::ShowSameChart()
     }
 }
 
-std::optional<ParameterRefusal> frmLibrary::Calculate(ChartRecord& record)
+/// Computes the curve of the line being plotted, by its chart type.
+static std::optional<ParameterRefusal> CalculateCurve(std::int16_t part)
 {
-    const PartRecord& part = mdlPublic.Parts.PartData[static_cast<std::size_t>(record.PartDataIndex)];
-    return ::Calculate(part, record, GetCodeView());
+    if (mdlPublic.Charts.WorkingRecord().ChartType <= 1)
+    {
+        return CalculateDataT(part);
+    }
+    CalculateDataS(part);
+    return std::nullopt;
 }
 
 void frmLibrary::ReportParameter(const ParameterRefusal& refusal)
@@ -187,24 +192,27 @@ void frmLibrary::Plot(int lines)
     std::optional<ParameterRefusal> refusal;
     try
     {
-        const HourglassScope hourglass;
-        ChartRecord record = WriteChartData(GetSelectedPart(), GetChartType());
-        refusal = Calculate(record);
-        if (!refusal)
-        {
-            mdlPublic.Charts.Write(std::move(record));
-            lines == 0 ? windows.ShowNewChart() : ShowSameChart();
-        }
+        refusal = PlotLine(lines);
     }
     catch (const RunTimeError& error)
     {
-        // A line that could not be shown is not kept.
-        mdlPublic.Charts.ClearWorkingRecord();
         ShowUnexpectedError(this, error);
     }
     if (refusal)
     {
-        mdlPublic.Charts.ClearWorkingRecord();
         ReportParameter(*refusal);
     }
+}
+
+std::optional<ParameterRefusal> frmLibrary::PlotLine(int lines)
+{
+    const HourglassScope hourglass;
+    const std::int16_t part = GetSelectedPart();
+    const Plotting plotting(mdlPublic.Charts, WriteChartData(part, GetChartType()));
+    if (auto refusal = CalculateCurve(part))
+    {
+        return refusal;
+    }
+    lines == 0 ? windows.ShowNewChart() : ShowSameChart();
+    return std::nullopt;
 }

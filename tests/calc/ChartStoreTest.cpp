@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <new>
+
 namespace
 {
 using testing::ElementsAre;
@@ -18,8 +20,8 @@ void Plot(ChartStore& store, const ChartKey& chart, std::int32_t part)
     record.ParameterName = "Voltage";
     record.YData[199] = static_cast<float>(part);
     record.ExtraValue = static_cast<float>(part);
-    store.Write(record);
-    ++store.CurrentChart;
+    const Plotting plotting(store, record);
+    store.Commit();
 }
 
 std::vector<std::int32_t> PartsOf(const ChartStore& store)
@@ -45,9 +47,9 @@ const ChartKey Bias = {3, "DC Bias Voltage", "Capacitance"};
 TEST(ChartStore, StartsWithOneEmptyRecord)
 {
     const ChartStore store;
-    ASSERT_EQ(store.ChartData.size(), 1U);
-    EXPECT_TRUE(IsEmpty(store.ChartData[0]));
-    EXPECT_EQ(store.CurrentChart, 0);
+    ASSERT_EQ(store.ChartData().size(), 1U);
+    EXPECT_TRUE(IsEmpty(store.ChartData()[0]));
+    EXPECT_EQ(store.CurrentChart(), 0);
     EXPECT_TRUE(store.Lines().empty());
 }
 
@@ -71,8 +73,8 @@ TEST(ChartStore, DoesNotCountTheWorkingRecord)
     working.XAxisName = Rise.XAxisName;
     working.YAxisName = Rise.YAxisName;
     store.Write(working);
-    EXPECT_EQ(store.ChartData.size(), 2U);
-    EXPECT_EQ(store.CurrentChart, 1);
+    EXPECT_EQ(store.ChartData().size(), 2U);
+    EXPECT_EQ(store.CurrentChart(), 1);
     EXPECT_EQ(store.CountSameCharts(Rise), 1);
     EXPECT_EQ(store.CountSameCharts({}), 0);
 }
@@ -85,9 +87,67 @@ TEST(ChartStore, ClearsTheWorkingRecordAlone)
     working.PartDataIndex = 9;
     store.Write(working);
     store.ClearWorkingRecord();
-    ASSERT_EQ(store.ChartData.size(), 2U);
-    EXPECT_TRUE(IsEmpty(store.ChartData[1]));
+    ASSERT_EQ(store.ChartData().size(), 2U);
+    EXPECT_TRUE(IsEmpty(store.ChartData()[1]));
     EXPECT_THAT(PartsOf(store), ElementsAre(1));
+}
+
+TEST(ChartStore, CountsALineThatIsCommitted)
+{
+    ChartStore store;
+    {
+        const Plotting plotting(store, {.XAxisName = "Frequency", .PartDataIndex = 7});
+        EXPECT_EQ(store.CurrentChart(), 0);
+        EXPECT_EQ(store.WorkingRecord().PartDataIndex, 7);
+        store.Commit();
+    }
+    EXPECT_EQ(store.CurrentChart(), 1);
+    EXPECT_EQ(store.ChartData().size(), 1U);
+    EXPECT_THAT(PartsOf(store), ElementsAre(7));
+}
+
+TEST(ChartStore, KeepsNoLineThatIsNotCommitted)
+{
+    ChartStore store;
+    Plot(store, Rise, 1);
+    {
+        const Plotting plotting(store, {.XAxisName = "Frequency", .PartDataIndex = 7});
+        EXPECT_EQ(store.CountSameCharts({0, "Frequency", ""}), 0);
+    }
+    EXPECT_THAT(PartsOf(store), ElementsAre(1));
+    ASSERT_EQ(store.ChartData().size(), 2U);
+    EXPECT_TRUE(IsEmpty(store.WorkingRecord()));
+}
+
+TEST(ChartStore, KeepsNoLineThatIsTakenBack)
+{
+    ChartStore store;
+    Plot(store, Rise, 1);
+    {
+        const Plotting plotting(store, {.XAxisName = "Frequency", .PartDataIndex = 7});
+        store.Commit();
+        EXPECT_THAT(PartsOf(store), ElementsAre(1, 7));
+        store.RollBack();
+        EXPECT_THAT(PartsOf(store), ElementsAre(1));
+        EXPECT_TRUE(IsEmpty(store.WorkingRecord()));
+    }
+    EXPECT_EQ(store.CurrentChart(), 1);
+    ASSERT_EQ(store.ChartData().size(), 2U);
+    EXPECT_TRUE(IsEmpty(store.WorkingRecord()));
+}
+
+TEST(ChartStore, KeepsNoLineWhoseCommandEndsInAnError)
+{
+    ChartStore store;
+    EXPECT_THROW(
+        {
+            const Plotting plotting(store, {.XAxisName = "Frequency", .PartDataIndex = 7});
+            throw std::bad_alloc();
+        },
+        std::bad_alloc);
+    EXPECT_EQ(store.CurrentChart(), 0);
+    ASSERT_EQ(store.ChartData().size(), 1U);
+    EXPECT_TRUE(IsEmpty(store.WorkingRecord()));
 }
 
 TEST(ChartStore, TellsLinesApartByEveryCondition)
@@ -133,13 +193,13 @@ TEST(ChartStore, KeepsTheOrderOfTheOtherLinesWhenAChartGoes)
     Plot(store, Rise, 4);
     Plot(store, Bias, 5);
     EXPECT_EQ(store.RemoveChart(Rise), 2);
-    EXPECT_EQ(store.CurrentChart, 3);
-    EXPECT_EQ(store.ChartData.size(), 3U);
+    EXPECT_EQ(store.CurrentChart(), 3);
+    EXPECT_EQ(store.ChartData().size(), 3U);
     EXPECT_THAT(PartsOf(store), ElementsAre(1, 3, 5));
-    EXPECT_EQ(KeyOf(store.ChartData[1]), Power);
-    EXPECT_EQ(store.ChartData[2].ParameterName, "Voltage");
-    EXPECT_EQ(store.ChartData[2].YData[199], 5);
-    EXPECT_EQ(store.ChartData[2].ExtraValue, 5);
+    EXPECT_EQ(KeyOf(store.ChartData()[1]), Power);
+    EXPECT_EQ(store.ChartData()[2].ParameterName, "Voltage");
+    EXPECT_EQ(store.ChartData()[2].YData[199], 5);
+    EXPECT_EQ(store.ChartData()[2].ExtraValue, 5);
 }
 
 TEST(ChartStore, IsOneEmptyRecordAfterTheLastChart)
@@ -148,9 +208,9 @@ TEST(ChartStore, IsOneEmptyRecordAfterTheLastChart)
     Plot(store, Rise, 1);
     Plot(store, Rise, 2);
     EXPECT_EQ(store.RemoveChart(Rise), 2);
-    ASSERT_EQ(store.ChartData.size(), 1U);
-    EXPECT_TRUE(IsEmpty(store.ChartData[0]));
-    EXPECT_EQ(store.CurrentChart, 0);
+    ASSERT_EQ(store.ChartData().size(), 1U);
+    EXPECT_TRUE(IsEmpty(store.ChartData()[0]));
+    EXPECT_EQ(store.CurrentChart(), 0);
 }
 
 TEST(ChartStore, StaysAsItIsWhenNoLineIsOfTheChart)
@@ -158,7 +218,7 @@ TEST(ChartStore, StaysAsItIsWhenNoLineIsOfTheChart)
     ChartStore store;
     Plot(store, Rise, 1);
     EXPECT_EQ(store.RemoveChart(Power), 0);
-    EXPECT_EQ(store.CurrentChart, 1);
+    EXPECT_EQ(store.CurrentChart(), 1);
     EXPECT_THAT(PartsOf(store), ElementsAre(1));
 }
 
@@ -168,13 +228,13 @@ TEST(ChartStore, LetsPlottedLinesBeChangedAndNoOther)
     Plot(store, Rise, 1);
     Plot(store, Power, 2);
     store.ClearWorkingRecord();
-    for (auto& line : store.Lines())
+    for (auto& line : store.LinesToPlace())
     {
         line.XPos[3] = 50;
     }
-    EXPECT_EQ(store.ChartData[0].XPos[3], 50);
-    EXPECT_EQ(store.ChartData[1].XPos[3], 50);
-    EXPECT_EQ(store.ChartData[2].XPos[3], 0);
+    EXPECT_EQ(store.ChartData()[0].XPos[3], 50);
+    EXPECT_EQ(store.ChartData()[1].XPos[3], 50);
+    EXPECT_EQ(store.ChartData()[2].XPos[3], 0);
 }
 
 TEST(ChartStore, DropsTheWorkingRecordWithoutCountingIt)
@@ -187,8 +247,8 @@ TEST(ChartStore, DropsTheWorkingRecordWithoutCountingIt)
     working.YAxisName = Rise.YAxisName;
     store.Write(working);
     EXPECT_EQ(store.RemoveChart(Rise), 1);
-    EXPECT_EQ(store.CurrentChart, 1);
-    EXPECT_EQ(store.ChartData.size(), 1U);
+    EXPECT_EQ(store.CurrentChart(), 1);
+    EXPECT_EQ(store.ChartData().size(), 1U);
     EXPECT_THAT(PartsOf(store), ElementsAre(2));
 }
 } // namespace

@@ -324,14 +324,14 @@ std::pair<QString, QString> Desk::SaveAs(const QString& path)
 bool StoreIsWhole()
 {
     const ChartStore& store = mdlPublic.Charts;
-    const auto lines = static_cast<std::size_t>(store.CurrentChart);
-    if (lines > 0 && store.ChartData.size() == lines)
+    const auto lines = static_cast<std::size_t>(store.CurrentChart());
+    if (lines > 0 && store.ChartData().size() == lines)
     {
         return true;
     }
     // Behind the lines stands the working record of the last command, empty.
-    const ChartRecord& working = store.ChartData.back();
-    return store.ChartData.size() == lines + 1 && working.ChartType == 0 && working.XAxisName.empty() &&
+    const ChartRecord& working = store.ChartData().back();
+    return store.ChartData().size() == lines + 1 && working.ChartType == 0 && working.XAxisName.empty() &&
            working.YAxisName.empty();
 }
 

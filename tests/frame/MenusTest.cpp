@@ -317,7 +317,7 @@ void MenusTest::ResetSelectionFromChartMenu()
     desk.Choose("mnuFileReset");
     VerifyStartState(desk);
     QCOMPARE(desk.Charts().size(), std::size_t{1});
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{1});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{1});
     QCOMPARE(desk.MenuTitles(), MainTitles);
 }
 
@@ -345,7 +345,7 @@ static void VerifyNoCharts(const Desk& desk)
 {
     QCOMPARE(desk.Charts().size(), std::size_t{0});
     QCOMPARE(desk.main->OpenForms(), 2);
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{0});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{0});
     QVERIFY(StoreIsWhole());
     QVERIFY(IsAtRest());
     QCOMPARE(desk.MenuTitles(), MainTitles);
@@ -431,7 +431,7 @@ void MenusTest::ExitFromChartMenuKeepsStore()
     desk.Choose("mnuFileExit");
     QVERIFY(!desk.main->isVisible());
     QCOMPARE(desk.TakeBoxes().size(), std::size_t{0});
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{4});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{4});
 }
 
 void MenusTest::MainWindowIsCaptioned()

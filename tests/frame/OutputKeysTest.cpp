@@ -70,7 +70,7 @@ static void Key(Desk& desk, int key)
 
 static void VerifyNothingIsUnderWay(std::int16_t lines)
 {
-    QCOMPARE(mdlPublic.Charts.CurrentChart, lines);
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), lines);
     QVERIFY(StoreIsWhole());
     QVERIFY(IsAtRest());
     for (const QWidget* window : QApplication::topLevelWidgets())

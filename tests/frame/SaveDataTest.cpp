@@ -208,13 +208,13 @@ void SaveDataTest::FileHoldsTheCurveByteForByte()
         desk.Type("txtParameter", ".0002");
     }
     desk.ClickPlot();
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{1});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{1});
     desk.SaveAs(folder->filePath("a.tvk"));
     QCOMPARE(desk.TakeBoxes().size(), std::size_t{1});
     const QByteArray file = Contents(folder->filePath("a.tvk"));
     QCOMPARE(file.left(file.indexOf("\r\n", file.indexOf("\r\n" + x.toLatin1()) + 2) + 2),
              TitleLine() + head);
-    QCOMPARE(file, TitleLine() + head + DataLines(mdlPublic.Charts.ChartData[0]));
+    QCOMPARE(file, TitleLine() + head + DataLines(mdlPublic.Charts.ChartData()[0]));
 }
 
 void SaveDataTest::FileNamesThePartInTheCodeOnDisplay()
@@ -326,7 +326,7 @@ void SaveDataTest::CancelLeavesEverythingAsItWas()
     desk.Type("txtDCBiasVol", "1");
     desk.SaveAs("");
     QCOMPARE(desk.TakeBoxes().size(), std::size_t{0});
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{1});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{1});
     QVERIFY(StoreIsWhole());
     QVERIFY(IsAtRest());
     QVERIFY(!QDir(settings->filePath("tavik")).exists());
@@ -380,7 +380,7 @@ void SaveDataTest::FileThatCannotBeWrittenIsTold()
     QCOMPARE(boxes[1].title, desk.main->windowTitle());
     // The folder was chosen all the same.
     QCOMPARE(LastFolder(), folder->path());
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{1});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{1});
     QVERIFY(StoreIsWhole());
     QVERIFY(IsAtRest());
 }
@@ -399,7 +399,7 @@ void SaveDataTest::RefusedParameterStopsBeforeTheDialog()
     QCOMPARE(boxes[0].icon, QMessageBox::Warning);
     QVERIFY(desk.HasFocus("txtParameter"));
     QVERIFY(QDir(folder->path()).isEmpty());
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{0});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{0});
     QVERIFY(StoreIsWhole());
 }
 
@@ -423,14 +423,14 @@ void SaveDataTest::SavingTouchesNoPlottedLine()
     desk.Type("txtDCBiasVol", "3");
     desk.SaveAs(folder->filePath("a.tvk"));
     desk.TakeBoxes();
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{1});
-    QCOMPARE(mdlPublic.Charts.ChartData[0].DCBiasVoltage, 0.0F);
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{1});
+    QCOMPARE(mdlPublic.Charts.ChartData()[0].DCBiasVoltage, 0.0F);
     QVERIFY(StoreIsWhole());
     // What was saved was not plotted, and can be.
     desk.ClickPlot();
     QCOMPARE(desk.TakeBoxes().size(), std::size_t{0});
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{2});
-    QCOMPARE(Contents(folder->filePath("a.tvk")).endsWith(DataLines(mdlPublic.Charts.ChartData[1])), true);
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{2});
+    QCOMPARE(Contents(folder->filePath("a.tvk")).endsWith(DataLines(mdlPublic.Charts.ChartData()[1])), true);
 }
 
 void SaveDataTest::ChartsOwnEntrySavesTheSelection()
@@ -452,8 +452,8 @@ void SaveDataTest::ChartsOwnEntrySavesTheSelection()
     QVERIFY(file.contains("!ChartType-> Capacitance-DC Voltage Characteristics\r\n"));
     QVERIFY(file.contains("!Ambient Temperature-> 60 [C]\r\n"
                           "DC Bias Voltage[V]  Capacitance Change[%]\r\n"));
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{1});
-    QVERIFY(!file.contains(DataLines(mdlPublic.Charts.ChartData[0]).left(60)));
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{1});
+    QVERIFY(!file.contains(DataLines(mdlPublic.Charts.ChartData()[0]).left(60)));
 }
 
 void SaveDataTest::FolderIsRememberedAcrossRuns()

@@ -166,7 +166,7 @@ void SwitchesTest::CodeSwitchClosesAllChartsAfterOneNotice()
     QCOMPARE(boxes.front().icon, QMessageBox::Information);
     QCOMPARE(boxes.front().title, desk.main->windowTitle());
     QCOMPARE(desk.Charts().size(), std::size_t{0});
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{0});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{0});
     QVERIFY(StoreIsWhole());
     QVERIFY(IsAtRest());
     QCOMPARE(Marks(desk), QList<bool>({false, true, true, false}));

@@ -40,13 +40,13 @@ void Desk::ShowNewChart()
         throw RunTimeError(RunTimeErrorNumber::DeviceIoError);
     }
     ++newCharts;
-    ++mdlPublic.Charts.CurrentChart;
+    mdlPublic.Charts.Commit();
 }
 
 bool Desk::ShowSameChart(const QString&)
 {
     ++redrawnCharts;
-    ++mdlPublic.Charts.CurrentChart;
+    mdlPublic.Charts.Commit();
     return true;
 }
 

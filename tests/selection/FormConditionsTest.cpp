@@ -222,7 +222,7 @@ private Q_SLOTS:
         QCOMPARE(desk->messages.Taken(), QStringList{message});
         desk->Press(Qt::Key_Return);
         QCOMPARE(desk->newCharts + desk->redrawnCharts, 0);
-        QCOMPARE(mdlPublic.Charts.ChartData.size(), std::size_t{1});
+        QCOMPARE(mdlPublic.Charts.ChartData().size(), std::size_t{1});
         QCOMPARE(desk->Text(name.constData()), entry);
     }
 
@@ -302,7 +302,7 @@ private Q_SLOTS:
         desk->Enter("txtDCBiasVol", "2,5");
         desk->Click("cmdPlot");
         QCOMPARE(desk->newCharts, 1);
-        QCOMPARE(mdlPublic.Charts.ChartData[0].DCBiasVoltage, 2.5F);
+        QCOMPARE(mdlPublic.Charts.ChartData()[0].DCBiasVoltage, 2.5F);
     }
 };
 

@@ -227,7 +227,7 @@ private Q_SLOTS:
         QTRY_COMPARE(Find<QComboBox>("cmbXaxis")->currentText(), "Temperature");
         Find<QLineEdit>("txtDCBiasVol")->setText("1");
         QTest::keyClick(window.get(), Qt::Key_P, Qt::AltModifier);
-        QTRY_COMPARE(mdlPublic.Charts.CurrentChart, 1);
+        QTRY_COMPARE(mdlPublic.Charts.CurrentChart(), 1);
     }
 
     void ComesBackFromAChartByKeys()
@@ -375,7 +375,7 @@ private:
         QTest::mouseClick(Find<QRadioButton>("optChartType_2"), Qt::LeftButton, {}, QPoint(6, 8));
         ChoosePart("P0-0", "Temperature");
         QTest::mouseClick(Find<QPushButton>("cmdPlot"), Qt::LeftButton);
-        QCOMPARE(mdlPublic.Charts.CurrentChart, 1);
+        QCOMPARE(mdlPublic.Charts.CurrentChart(), 1);
     }
 
     /// No control lies above the one before it, except to its right.

@@ -31,8 +31,8 @@ private Q_SLOTS:
         desk->Enter("txtDCBiasVol", "7");
         desk->Click("cmdPlot");
         QCOMPARE(desk->messages.Taken(), QStringList{"Maximum Numbers of this Chart Type open!"});
-        QCOMPARE(mdlPublic.Charts.CurrentChart, 6);
-        QCOMPARE(mdlPublic.Charts.ChartData.size(), std::size_t{6});
+        QCOMPARE(mdlPublic.Charts.CurrentChart(), 6);
+        QCOMPARE(mdlPublic.Charts.ChartData().size(), std::size_t{6});
         QCOMPARE(desk->Text("txtDCBiasVol"), "7");
         desk->Pick("cmbYaxis", "Capacitance Change");
         desk->Click("cmdPlot");
@@ -48,9 +48,9 @@ private Q_SLOTS:
         desk->chartsFail = true;
         desk->Click("cmdPlot");
         QCOMPARE(desk->messages.Taken(), QStringList{"other icon: Unexpected Error 57|Device I/O error"});
-        QCOMPARE(mdlPublic.Charts.CurrentChart, 0);
-        QCOMPARE(mdlPublic.Charts.ChartData.size(), std::size_t{1});
-        QCOMPARE(mdlPublic.Charts.ChartData[0].XAxisName, std::string());
+        QCOMPARE(mdlPublic.Charts.CurrentChart(), 0);
+        QCOMPARE(mdlPublic.Charts.ChartData().size(), std::size_t{1});
+        QCOMPARE(mdlPublic.Charts.ChartData()[0].XAxisName, std::string());
         QVERIFY(QGuiApplication::overrideCursor() == nullptr);
         desk->chartsFail = false;
         desk->Click("cmdPlot");
@@ -73,7 +73,7 @@ private Q_SLOTS:
         QCOMPARE(desk->Focus(), "txtParameter");
         QCOMPARE(desk->Box("txtParameter")->selectedText(), "1e9");
         QCOMPARE(desk->newCharts, 0);
-        QCOMPARE(mdlPublic.Charts.ChartData[0].XAxisName, std::string());
+        QCOMPARE(mdlPublic.Charts.ChartData()[0].XAxisName, std::string());
         desk->Enter("txtParameter", "-1");
         desk->Click("cmdPlot");
         QCOMPARE(desk->messages.Taken(), shown);

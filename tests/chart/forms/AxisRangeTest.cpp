@@ -171,7 +171,7 @@ void AxisRangeTest::RedrawsAtOnce()
 {
     Desk desk;
     frmGraph* chart = PlotCapacitance(desk);
-    const auto lines = mdlPublic.Charts.CurrentChart;
+    const auto lines = mdlPublic.Charts.CurrentChart();
     chart->move(321, 123);
     chart->findChild<QLabel*>("sbr1_1")->setText("Temperature 20");
     const auto* picture = chart->findChild<ChartPicture*>("picGraph");
@@ -187,10 +187,10 @@ void AxisRangeTest::RedrawsAtOnce()
     QVERIFY(chart->findChild<ChartPicture*>("picGraph")->grab().toImage() != before);
     QCOMPARE(chart->geometry(), QRect(200, 123, 733, 295));
     QCOMPARE(chart->findChild<QLabel*>("sbr1_1")->text(), QString());
-    QCOMPARE(mdlPublic.Charts.CurrentChart, lines);
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), lines);
     QVERIFY(StoreIsWhole());
     // X -55 is left of the plot now: -34.5 of a span of 100.5.
-    QVERIFY(std::abs(mdlPublic.Charts.ChartData[0].XPos[0] - -34.3284F) < 0.001F);
+    QVERIFY(std::abs(mdlPublic.Charts.ChartData()[0].XPos[0] - -34.3284F) < 0.001F);
 }
 
 void AxisRangeTest::FrequencyRangeIsTakenInKilohertz()
@@ -242,7 +242,7 @@ void AxisRangeTest::NextLineReturnsToTheDefaults()
     QVERIFY(RangeOf(chart) != before);
     desk.Type("txtDCBiasVol", "1");
     desk.ClickPlot();
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{2});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{2});
     QCOMPARE(chart->Range().XMin, -75.0F);
     QCOMPARE(chart->Range().XMax, 125.0F);
     QVERIFY(chart->Range().YMin <= before[3] && chart->Range().YMax >= before[1]);

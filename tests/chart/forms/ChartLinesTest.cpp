@@ -48,7 +48,7 @@ static void VerifyRangeCoversLines(const frmGraph* chart)
     float yMax = -1E30F;
     float xMin = 1E30F;
     float yMin = 1E30F;
-    for (const ChartRecord& line : mdlPublic.Charts.ChartData)
+    for (const ChartRecord& line : mdlPublic.Charts.ChartData())
     {
         xMax = std::max(xMax, line.XMax);
         yMax = std::max(yMax, line.YMax);
@@ -110,8 +110,8 @@ void ChartLinesTest::SixLinesStandAndTheSeventhIsRefused()
     QCOMPARE(boxes.front().text, QString("Maximum Numbers of this Chart Type open!"));
     QCOMPARE(boxes.front().icon, QMessageBox::Warning);
     QCOMPARE(boxes.front().title, desk.main->windowTitle());
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{6});
-    QCOMPARE(mdlPublic.Charts.ChartData.size(), std::size_t{6});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{6});
+    QCOMPARE(mdlPublic.Charts.ChartData().size(), std::size_t{6});
     QCOMPARE(Pane(chart, "lblStatus", 5), numbers[5]);
     QVERIFY(IsAtRest());
 }
@@ -131,7 +131,7 @@ void ChartLinesTest::SeventhLineOfOneChartLeavesOthersFree()
     Settle();
     desk.PlotCapacitance(ListedPart(desk, 6), "0");
     QCOMPARE(desk.TakeBoxes().size(), std::size_t{0});
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{2});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{2});
 }
 
 void ChartLinesTest::SameLineIsRefusedEvenAfterMove()
@@ -149,7 +149,7 @@ void ChartLinesTest::SameLineIsRefusedEvenAfterMove()
     desk.Charts().front()->showMinimized();
     desk.ClickPlot();
     QCOMPARE(desk.TakeText(), QString("This Chart is already opened!"));
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{1});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{1});
     QVERIFY(StoreIsWhole());
 }
 
@@ -160,7 +160,7 @@ void ChartLinesTest::OtherAmbientTemperatureIsSecondLine()
     desk.PlotRise(0, "30");
     QCOMPARE(desk.TakeBoxes().size(), std::size_t{0});
     QVERIFY(OnlyChart(desk) != nullptr);
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{2});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{2});
 }
 
 void ChartLinesTest::OtherXAxisOpensAnotherWindow()
@@ -252,7 +252,7 @@ void ChartLinesTest::RefusedParameterOpensNoWindow()
     QCOMPARE(boxes.size(), std::size_t{1});
     QCOMPARE(boxes.front().icon, QMessageBox::Warning);
     QCOMPARE(desk.Charts().size(), std::size_t{1});
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{1});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{1});
     QVERIFY(StoreIsWhole());
     QVERIFY(IsAtRest());
     QVERIFY(desk.HasFocus("txtParameter"));
@@ -277,7 +277,7 @@ void ChartLinesTest::CalculationErrorLeavesEverythingAsBefore()
     QCOMPARE(boxes.front().text, QString("Unexpected Error 11\nDivision by zero"));
     QCOMPARE(boxes.front().title, desk.main->windowTitle());
     QCOMPARE(desk.Charts().size(), std::size_t{0});
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{0});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{0});
     QVERIFY(StoreIsWhole());
     QVERIFY(IsAtRest());
     QCOMPARE(desk.Text("txtHeatResistance"), QString("50"));
@@ -286,7 +286,7 @@ void ChartLinesTest::CalculationErrorLeavesEverythingAsBefore()
     // Beside an open chart the error changes neither window nor store.
     desk.ClickChartType(2);
     desk.PlotCapacitance("HVX1210X7R00042", "0");
-    const auto before = mdlPublic.Charts.ChartData.front().YData;
+    const auto before = mdlPublic.Charts.ChartData().front().YData;
     desk.ClickChartType(0);
     desk.TypePart("HVX0603X7R00286");
     desk.Type("txtDCBiasVol", "0");
@@ -295,8 +295,8 @@ void ChartLinesTest::CalculationErrorLeavesEverythingAsBefore()
     desk.ClickPlot();
     QCOMPARE(desk.TakeText(), QString("Unexpected Error 11\nDivision by zero"));
     QCOMPARE(desk.Charts().size(), std::size_t{1});
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{1});
-    QVERIFY(mdlPublic.Charts.ChartData.front().YData == before);
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{1});
+    QVERIFY(mdlPublic.Charts.ChartData().front().YData == before);
     QVERIFY(StoreIsWhole());
     QVERIFY(IsAtRest());
 }
@@ -322,7 +322,7 @@ void ChartLinesTest::LineThatCannotBeShownOpensNoWindow()
     Settle();
     QCOMPARE(desk.main->OpenForms(), 2);
     QCOMPARE(desk.Area()->subWindowList().size(), 1);
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{0});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{0});
     // The next window is the first one, 50 twips from the top.
     desk.ClickChartType(2);
     desk.PlotCapacitance(ListedPart(desk, 0), "0");
@@ -342,7 +342,7 @@ void ChartLinesTest::LineThatCannotBeShownLeavesTheOpenWindow()
     mdlPublic.Charts.Write(LineWithoutUnit());
     QVERIFY_EXCEPTION_THROWN(desk.main->ShowSameChart(chart->windowTitle()), RunTimeError);
     mdlPublic.Charts.ClearWorkingRecord();
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{1});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{1});
     QVERIFY(StoreIsWhole());
     QCOMPARE(OnlyChart(desk), chart);
     QCOMPARE(Pane(chart, "lblStatus", 0), ListedPart(desk, 0));

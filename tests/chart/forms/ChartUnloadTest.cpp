@@ -32,7 +32,7 @@ static const QString Change = "Capacitance-Temperature Characteristics(Temperatu
 static QStringList StoredParts()
 {
     QStringList parts;
-    for (const ChartRecord& line : mdlPublic.Charts.ChartData)
+    for (const ChartRecord& line : mdlPublic.Charts.ChartData())
     {
         const auto& part = mdlPublic.Parts.PartData[static_cast<std::size_t>(line.PartDataIndex)];
         parts << QString::fromLatin1(part.PartNum[0].data(), part.PartNum[0].size());
@@ -48,9 +48,9 @@ void ChartUnloadTest::OnlyWindowLeavesOneEmptyRecord()
     desk.PlotCapacitance(ListedPart(desk, 5), "1");
     desk.ClickCloseBox(desk.Charts().front());
     QCOMPARE(desk.Charts().size(), std::size_t{0});
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{0});
-    QCOMPARE(mdlPublic.Charts.ChartData.size(), std::size_t{1});
-    const ChartRecord& left = mdlPublic.Charts.ChartData.front();
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{0});
+    QCOMPARE(mdlPublic.Charts.ChartData().size(), std::size_t{1});
+    const ChartRecord& left = mdlPublic.Charts.ChartData().front();
     QVERIFY(left.XAxisName.empty() && left.YAxisName.empty() && left.ParameterName.empty());
     QCOMPARE(left.DCBiasVoltage, 0.0F);
     QCOMPARE(left.PartDataIndex, 0);
@@ -73,12 +73,12 @@ void ChartUnloadTest::LinesBetweenOthersLeaveTheirOrder()
     desk.PlotCapacitance(n[2], "0");
     desk.PlotCapacitance(n[3], "0", "Capacitance Change");
     desk.PlotCapacitance(n[4], "0");
-    const CurveValues kept = mdlPublic.Charts.ChartData[2].YData;
+    const CurveValues kept = mdlPublic.Charts.ChartData()[2].YData;
     QCOMPARE(StoredParts(), n);
     desk.ClickCloseBox(desk.Chart(Change));
     QCOMPARE(StoredParts(), QStringList({n[0], n[2], n[4]}));
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{3});
-    QVERIFY(mdlPublic.Charts.ChartData[1].YData == kept);
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{3});
+    QVERIFY(mdlPublic.Charts.ChartData()[1].YData == kept);
     QVERIFY(StoreIsWhole());
     // The next line is written behind them.
     desk.PlotCapacitance(n[3], "0", "Capacitance Change");
@@ -111,7 +111,7 @@ void ChartUnloadTest::ClosedWindowIsDestroyed()
     const QPointer<frmGraph> chart = desk.Charts().front();
     chart->close();
     // The store and the count know at once; the window itself goes with the next events.
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{0});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{0});
     QCOMPARE(desk.main->OpenForms(), 2);
     Settle();
     QVERIFY(chart.isNull());
@@ -127,8 +127,8 @@ void ChartUnloadTest::MinimisedWindowTakesItsLinesAlong()
     Settle();
     desk.Chart(Absolute)->close();
     Settle();
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{1});
-    QCOMPARE(mdlPublic.Charts.ChartData.front().YAxisName, std::string("Capacitance Change"));
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{1});
+    QCOMPARE(mdlPublic.Charts.ChartData().front().YAxisName, std::string("Capacitance Change"));
 }
 
 void ChartUnloadTest::ChartCanBeOpenedAgain()
@@ -142,7 +142,7 @@ void ChartUnloadTest::ChartCanBeOpenedAgain()
         QCOMPARE(desk.Charts().size(), std::size_t{1});
         QCOMPARE(desk.Charts().front()->geometry(), QRect(200, 3, 733, 295));
         desk.ClickCloseBox(desk.Charts().front());
-        QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{0});
+        QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{0});
     }
 }
 
@@ -152,12 +152,13 @@ void ChartUnloadTest::LinesOfOtherTypeWithSameAxesStay()
     desk.ClickChartType(2);
     desk.PlotCapacitance(ListedPart(desk, 0), "0");
     // A line of another chart whose axes bear the same names.
-    mdlPublic.Charts.ChartData.push_back(mdlPublic.Charts.ChartData.front());
-    mdlPublic.Charts.ChartData.back().ChartType = 3;
-    mdlPublic.Charts.CurrentChart = 2;
+    ChartRecord other = mdlPublic.Charts.ChartData().front();
+    other.ChartType = 3;
+    mdlPublic.Charts.Write(other);
+    mdlPublic.Charts.Commit();
     desk.ClickCloseBox(desk.Charts().front());
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{1});
-    QCOMPARE(mdlPublic.Charts.ChartData.front().ChartType, std::int16_t{3});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{1});
+    QCOMPARE(mdlPublic.Charts.ChartData().front().ChartType, std::int16_t{3});
 }
 
 void ChartUnloadTest::SelectionFormCannotBeClosed()

@@ -106,7 +106,7 @@ void ChartWindowTest::UnknownChartTypeLeavesTheCaption()
     const QString caption = chart->windowTitle();
     for (const std::int16_t type : {std::int16_t{4}, std::int16_t{-1}})
     {
-        ChartRecord line = mdlPublic.Charts.ChartData[0];
+        ChartRecord line = mdlPublic.Charts.ChartData()[0];
         line.ChartType = type;
         mdlPublic.Charts.Write(line);
         chart->Form_Load();
@@ -156,7 +156,7 @@ void ChartWindowTest::UserRangeKeepsTopButResetsLeftAndSize()
     QCOMPARE(chart->Range().XMin, -10.0F);
     QCOMPARE(chart->Range().YMin, 1000.0F);
     QVERIFY(chart->findChild<ChartPicture*>("picGraph")->View().Rescaled);
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{1});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{1});
     chart->WriteMagnification(100, 5000, -10, 1000, 1);
     QCOMPARE(chart->geometry(), FirstPlace);
     QVERIFY(!chart->findChild<ChartPicture*>("picGraph")->View().Rescaled);
@@ -260,7 +260,7 @@ void ChartWindowTest::MinimisingClearsTheReadOut()
     chart->showMinimized();
     QCOMPARE(chart->findChild<QLabel*>("sbr1_1")->text(), QString());
     QCOMPARE(chart->findChild<QLabel*>("sbr1_2")->text(), QString());
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{1});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{1});
 }
 
 void ChartWindowTest::AddedLineRestoresMinimisedWindow()

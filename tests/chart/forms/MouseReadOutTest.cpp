@@ -94,7 +94,7 @@ void MouseReadOutTest::PointerShowsXYAndEachLine()
     for (std::size_t line = 0; line < 2; ++line)
     {
         // Points 88 and 89 lie on both sides of 25 degrees: -55 + 180 * i / 199.
-        const ChartRecord& record = mdlPublic.Charts.ChartData[line];
+        const ChartRecord& record = mdlPublic.Charts.ChartData()[line];
         const double share = (25 - record.XData[88]) / (double{record.XData[89]} - record.XData[88]);
         QVERIFY(share >= 0 && share <= 1);
         const double own = record.YData[88] + share * (double{record.YData[89]} - record.YData[88]);
@@ -122,7 +122,7 @@ void MouseReadOutTest::LogarithmicAxesReadInPowersOfTen()
     QVERIFY(Near(Number(Text(chart, "sbr1_2"), "Current ", "[Arms]"),
                  std::sqrt(double{range.YMin} * range.YMax), 0.0011));
     // Points 49 and 50 lie on both sides of 10^4.5 Hz.
-    const ChartRecord& line = mdlPublic.Charts.ChartData[0];
+    const ChartRecord& line = mdlPublic.Charts.ChartData()[0];
     const double own = Number(Text(chart, "lblPara_0"), "", "[Arms]");
     QVERIFY(own >= std::min(line.YData[49], line.YData[50]) - 0.001);
     QVERIFY(own <= std::max(line.YData[49], line.YData[50]) + 0.001);
@@ -269,7 +269,7 @@ void MouseReadOutTest::ClipboardHoldsTheChartAtTwiceItsSize()
     PlotTwoLines(desk);
     // 725 by 248 on the screen.
     QCOMPARE(Copied(desk).size(), QSize(1450, 496));
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{2});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{2});
     QCOMPARE(desk.TakeBoxes().size(), std::size_t{0});
 }
 

@@ -208,12 +208,12 @@ std::string Visit::PlotDifference(int chartType)
             return "a picked part that cannot be plotted";
         }
         FillBoxes();
-        const auto before = mdlPublic.Charts.CurrentChart;
+        const auto before = mdlPublic.Charts.CurrentChart();
         desk.TakeBoxes();
         if (desk.CanPlot())
         {
             desk.ClickPlot();
-            const auto lines = mdlPublic.Charts.CurrentChart - before;
+            const auto lines = mdlPublic.Charts.CurrentChart() - before;
             const auto boxes = desk.TakeBoxes().size();
             if (!(lines == 1 && boxes == 0) && !(lines == 0 && boxes == 1))
             {

@@ -108,7 +108,7 @@ void PrintCommandsTest::ChartIsPrintedOnTheChosenPrinter()
     QVERIFY(Holds(pages, ListedPart(desk, 0)));
     QVERIFY(Holds(pages, "Resistance["));
     QVERIFY(pages[0].Paper.height() > pages[0].Paper.width());
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{1});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{1});
     QVERIFY(StoreIsWhole());
     QVERIFY(IsAtRest());
 }
@@ -124,7 +124,7 @@ void PrintCommandsTest::DataIsPrintedOnThePrinterOfTheSetUp()
     const auto pages = Printed("gray");
     QVERIFY(Holds(pages, ListedPart(desk, 0) + "("));
     // The last of the 200 points.
-    const QString last = QString::asprintf("%.2E", double{mdlPublic.Charts.ChartData[0].YData[199]});
+    const QString last = QString::asprintf("%.2E", double{mdlPublic.Charts.ChartData()[0].YData[199]});
     QVERIFY(Holds(pages, last));
     QVERIFY(IsAtRest());
 }
@@ -138,7 +138,7 @@ void PrintCommandsTest::CancelledDialogEndsSilently()
     QCOMPARE(desk.TakeBoxes().size(), std::size_t{1});
     QTest::qWait(500);
     QVERIFY(!QFile::exists(folder + "/color.pdf"));
-    QCOMPARE(mdlPublic.Charts.CurrentChart, std::int16_t{1});
+    QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{1});
     QVERIFY(StoreIsWhole());
     QVERIFY(IsAtRest());
 }

@@ -147,7 +147,7 @@ void User::ComparePanes(const frmGraph* chart, const PlainWindow& window)
     std::size_t pane = 0;
     const auto text = [&](const char* kind)
     { return chart->findChild<QLabel*>(QStringLiteral("%1_%2").arg(kind).arg(pane))->text(); };
-    for (const ChartRecord& line : std::as_const(mdlPublic.Charts).Lines())
+    for (const ChartRecord& line : mdlPublic.Charts.Lines())
     {
         if (CaptionOf(line) == window.Caption && pane < 6)
         {
@@ -171,7 +171,7 @@ void User::ComparePanes(const frmGraph* chart, const PlainWindow& window)
 /// Every record holds what was asked for, the curve of the plain formulas, and the limits that follow.
 void User::CompareStore()
 {
-    const auto lines = std::as_const(mdlPublic.Charts).Lines();
+    const auto lines = mdlPublic.Charts.Lines();
     found.Check(StoreIsWhole(), "the store is not whole");
     found.Same("the number of lines", lines.size(), charts.Lines.size());
     for (std::size_t i = 0; i < std::min(lines.size(), charts.Lines.size()); ++i)
@@ -212,7 +212,7 @@ static double PlaceOf(bool logarithmic, float minimum, float maximum, float valu
 /// The drawn places of one line after the other, in the ranges of its window.
 void User::ComparePlaces()
 {
-    const auto lines = std::as_const(mdlPublic.Charts).Lines();
+    const auto lines = mdlPublic.Charts.Lines();
     if (lines.empty())
     {
         return;

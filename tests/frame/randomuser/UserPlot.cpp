@@ -81,7 +81,7 @@ void User::Plot()
 AxisRange User::Defaults(const QString& caption) const
 {
     std::optional<AxisRange> range;
-    for (const ChartRecord& line : std::as_const(mdlPublic.Charts).Lines())
+    for (const ChartRecord& line : mdlPublic.Charts.Lines())
     {
         if (CaptionOf(line) == caption)
         {
