@@ -1,5 +1,6 @@
 #include "chart/frmGraph.h"
 
+#include "app/PartNumText.h"
 #include "app/mdlPublic.h"
 #include "calc/ChartNames.h"
 #include "chart/drawing/QtColors.h"
@@ -153,7 +154,7 @@ void frmGraph::WriteMagnification(float xMax, float yMax, float xMin, float yMin
 {
     rescaled = notRescaled != 1;
     ClearReadOut();
-    InitChartWindow(Chart());
+    InitChartWindow(key);
     Draw({.XMax = xMax, .YMax = yMax, .XMin = xMin, .YMin = yMin});
 }
 
@@ -167,7 +168,10 @@ void frmGraph::InitChartWindow(const ChartKey& chart)
     }
     if (HasChartTypeName(chart.ChartType))
     {
-        setWindowTitle(QString::fromStdString(ChartCaption(chart)));
+        const std::string caption = ChartCaption(chart);
+        setWindowTitle(QString::fromStdString(caption));
+        // Where an axis name holds a comma or a bracket, the window is of the chart that its caption spells.
+        key = ChartOfCaption(caption);
     }
     const int top = rescaled ? y() : Twips((host.OpenForms() - 3) * 300 + 50);
     setGeometry(WindowLeft, top, WindowWidth, WindowHeight);
@@ -194,7 +198,7 @@ void frmGraph::ColorPane(std::size_t index, const QColor& color)
 void frmGraph::Draw(const AxisRange& range)
 {
     axisRange = range;
-    const ChartView view{.Chart = Chart(),
+    const ChartView view{.Chart = key,
                          .Range = range,
                          .Rescaled = rescaled,
                          .DegreeSign = Utf8FromWindows1252(mdlPublic.DegreeSign)};
@@ -203,20 +207,13 @@ void frmGraph::Draw(const AxisRange& range)
     FillStatusPanes();
 }
 
-/// The chart that the window shows: its caption names it.
-ChartKey frmGraph::Chart() const
-{
-    return ChartOfCaption(windowTitle().toStdString());
-}
-
 /// The window's lines in store order.
 std::vector<const ChartRecord*> frmGraph::Lines() const
 {
     std::vector<const ChartRecord*> lines;
-    const ChartKey chart = Chart();
     for (const ChartRecord& line : mdlPublic.Charts.Lines())
     {
-        if (KeyOf(line) == chart)
+        if (KeyOf(line) == key)
         {
             lines.push_back(&line);
         }
@@ -224,15 +221,13 @@ std::vector<const ChartRecord*> frmGraph::Lines() const
     return lines;
 }
 
-/// The part numbers of the window's lines, in the form on display.
-std::vector<QString> frmGraph::PartNums() const
+/// The part numbers of the window's lines in a part-number form.
+std::vector<QString> frmGraph::PartNums(int partNumForm) const
 {
-    const auto form = static_cast<std::size_t>(GetPartNumForm());
     std::vector<QString> partNums;
     for (const ChartRecord* line : Lines())
     {
-        const auto part = static_cast<std::size_t>(line->PartDataIndex);
-        partNums.push_back(FromAnsi(mdlPublic.Parts.PartData[part].PartNum[form]));
+        partNums.push_back(PartNumText(line->PartDataIndex, partNumForm));
     }
     return partNums;
 }
@@ -240,7 +235,7 @@ std::vector<QString> frmGraph::PartNums() const
 void frmGraph::FillStatusPanes()
 {
     const auto lines = Lines();
-    const auto partNums = PartNums();
+    const auto partNums = PartNums(GetPartNumForm());
     const auto degreeSign = Utf8FromWindows1252(mdlPublic.DegreeSign);
     for (std::size_t p = 0; p < MaximumLines; ++p)
     {
@@ -250,20 +245,13 @@ void frmGraph::FillStatusPanes()
     }
 }
 
-void frmGraph::RelabelParts(int fromForm, int toForm)
+void frmGraph::RelabelParts(int partNumForm)
 {
-    const auto& former = mdlPublic.Parts.PartIndex[static_cast<std::size_t>(fromForm)];
-    for (ElidedLabel* label : lblStatus)
+    const auto partNums = PartNums(partNumForm);
+    const std::size_t shown = std::min(partNums.size(), MaximumLines);
+    for (std::size_t p = 0; p < shown && !lblStatus[p]->text().isEmpty(); ++p)
     {
-        if (label->text().isEmpty())
-        {
-            break;
-        }
-        if (const auto* part = former.Find(ToAnsi(label->text())))
-        {
-            const PartRecord& record = mdlPublic.Parts.PartData[static_cast<std::size_t>(*part)];
-            label->setText(FromAnsi(record.PartNum[static_cast<std::size_t>(toForm)]));
-        }
+        lblStatus[p]->setText(partNums[p]);
     }
 }
 
@@ -316,7 +304,7 @@ void frmGraph::Form_Unload()
     {
         return;
     }
-    mdlPublic.Charts.RemoveChart(Chart());
+    mdlPublic.Charts.RemoveChart(key);
     host.ChartUnloaded(this);
 }
 

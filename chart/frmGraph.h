@@ -22,8 +22,8 @@ namespace Ui
 class frmGraph;
 }
 
-/// A chart window of fixed size. It belongs to all lines of the store whose chart its caption names, and
-/// takes them along when it closes.
+/// A chart window of fixed size. It belongs to all lines of the store that are of its chart, and takes them
+/// along when it closes.
 class frmGraph : public QMdiSubWindow
 {
     Q_OBJECT
@@ -44,11 +44,14 @@ public:
     /// Offers the output commands or not.
     void EnableOutput(bool enabled);
 
+    /// The chart that the window shows, as its caption names it; {} before the first `Form_Load`.
+    const ChartKey& Chart() const { return key; }
+
     /// The ranges in force.
     const AxisRange& Range() const { return axisRange; }
 
-    /// Renames the parts in the panes from one part-number form to another, up to the first empty pane.
-    void RelabelParts(int fromForm, int toForm);
+    /// Names the parts in the panes in a part-number form, up to the first pane that shows none.
+    void RelabelParts(int partNumForm);
 
     /// The window's menus, which stand in the main window's place while it is active.
     QList<QAction*> Menus() const;
@@ -71,9 +74,8 @@ private:
     void ColorPane(std::size_t index, const QColor& color);
     void Draw(const AxisRange& range);
     void FillStatusPanes();
-    ChartKey Chart() const;
     std::vector<const ChartRecord*> Lines() const;
-    std::vector<QString> PartNums() const;
+    std::vector<QString> PartNums(int partNumForm) const;
     void ClearReadOut();
     void Form_Resize();
     void Form_Unload();
@@ -85,6 +87,7 @@ private:
     std::array<ElidedLabel*, MaximumLines> lblPara;
     std::array<QLabel*, 2> panels;
 
+    ChartKey key;
     AxisRange axisRange{};
     bool rescaled = false;
     bool unloaded = false;

@@ -1,5 +1,6 @@
 #include "chart/frmGraph.h"
 
+#include "app/PartNumText.h"
 #include "app/mdlPublic.h"
 #include "calc/ChartNames.h"
 #include "chart/ElidedLabel.h"
@@ -42,7 +43,7 @@ void frmGraph::picGraph_MouseLeave()
 
 void frmGraph::mnuChartExpand_Click()
 {
-    const AxisRange defaults = DefaultRange(Chart(), mdlPublic.Charts.Lines());
+    const AxisRange defaults = DefaultRange(key, mdlPublic.Charts.Lines());
     frmSetAxis dialog(ui->picGraph->View(), defaults, this);
     if (dialog.exec() == QDialog::Accepted)
     {
@@ -58,7 +59,7 @@ void frmGraph::mnuChartClipboard_Click()
     QImage picture((sheetSize * scale).toSize(), QImage::Format_RGB32);
     picture.setDevicePixelRatio(scale);
     QPainter painter(&picture);
-    DrawChartSheet(ui->picGraph->View(), mdlPublic.Charts.Lines(), PartNums(), painter);
+    DrawChartSheet(ui->picGraph->View(), mdlPublic.Charts.Lines(), PartNums(GetPartNumForm()), painter);
     painter.end();
     QGuiApplication::clipboard()->setImage(picture);
 }
@@ -67,18 +68,13 @@ void frmGraph::mnuChartClipboard_Click()
 
 void frmGraph::mnuFilePrint_Click()
 {
-    const ChartKey chart = Chart();
-    const auto name = ChartTypeNames[static_cast<std::size_t>(chart.ChartType)];
+    const auto name = ChartTypeNames[static_cast<std::size_t>(key.ChartType)];
     const auto question = QStringLiteral("Would you print %1 Chart ?").arg(FromAnsi(name));
     if (!AskOkCancel(this, question))
     {
         return;
     }
-    const auto partNumber = [](std::int32_t part)
-    {
-        const auto form = static_cast<std::size_t>(GetPartNumForm());
-        return FromAnsi(mdlPublic.Parts.PartData[static_cast<std::size_t>(part)].PartNum[form]);
-    };
+    const auto partNumber = [](std::int32_t part) { return PartNumText(part, GetPartNumForm()); };
     // The command may move the store's records, so the page has lines of its own.
     const auto plotted = mdlPublic.Charts.Lines();
     const std::vector<ChartRecord> lines(plotted.begin(), plotted.end());

@@ -147,11 +147,10 @@ void frmMain::ShowNewChart()
     chart->show();
 }
 
-bool frmMain::ShowSameChart(const QString& caption)
+bool frmMain::ShowSameChart(const ChartKey& chart)
 {
     const auto charts = Charts();
-    const auto same =
-        std::ranges::find_if(charts, [&](const frmGraph* chart) { return chart->windowTitle() == caption; });
+    const auto same = std::ranges::find(charts, chart, &frmGraph::Chart);
     if (same == charts.end())
     {
         return false;
@@ -318,7 +317,7 @@ void frmMain::UpdateChartPartLabels(int newForm)
 {
     for (frmGraph* chart : Charts())
     {
-        chart->RelabelParts(GetPartNumForm(), newForm);
+        chart->RelabelParts(newForm);
     }
 }
 

@@ -39,7 +39,7 @@ public:
     void ChartUnloaded(QWidget* chart) override;
     bool CanPlot() const override;
     void ShowNewChart() override;
-    bool ShowSameChart(const QString& caption) override;
+    bool ShowSameChart(const ChartKey& chart) override;
     void SwitchCodeView(int index) override;
     void PrintChart(const ChartPage& page) override;
 

@@ -1,5 +1,6 @@
 #include "selection/PartNumBox.h"
 
+#include "app/PartNumText.h"
 #include "app/mdlPublic.h"
 #include "formkit/Texts.h"
 
@@ -7,12 +8,6 @@
 #include <QListView>
 
 #include <algorithm>
-
-QString PartNumText(std::int16_t part, int form)
-{
-    const PartRecord& record = mdlPublic.Parts.PartData[static_cast<std::size_t>(part)];
-    return FromAnsi(record.PartNum[static_cast<std::size_t>(form)]);
-}
 
 void PartNumModel::SetParts(std::vector<std::int16_t> indices, int partNumForm)
 {

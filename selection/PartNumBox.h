@@ -8,9 +8,6 @@
 #include <cstdint>
 #include <vector>
 
-/// A part's number in a part-number form, 0 to 3.
-QString PartNumText(std::int16_t part, int form);
-
 /// Part numbers by the index of their part; the texts are made as they come into view.
 class PartNumModel : public QAbstractListModel
 {

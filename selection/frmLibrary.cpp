@@ -1,5 +1,6 @@
 #include "selection/frmLibrary.h"
 
+#include "app/PartNumText.h"
 #include "app/mdlPublic.h"
 #include "calc/AxisLists.h"
 #include "calc/ChartNames.h"

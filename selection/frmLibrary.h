@@ -33,8 +33,8 @@ public:
 
     /// Opens a new chart window for the line just written.
     virtual void ShowNewChart() = 0;
-    /// Draws the open chart window of this caption again and gives it the focus; false without one.
-    virtual bool ShowSameChart(const QString& caption) = 0;
+    /// Draws the open window of this chart again and gives it the focus; false without one.
+    virtual bool ShowSameChart(const ChartKey& chart) = 0;
     /// Switches the code view as the menu entry of that index does.
     virtual void SwitchCodeView(int index) = 0;
 };

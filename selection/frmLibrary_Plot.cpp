@@ -141,7 +141,7 @@ int frmLibrary::CountSameCharts() const
 
 void frmLibrary::ShowSameChart()
 {
-    if (!windows.ShowSameChart(QString::fromStdString(ChartCaption(ShownChart()))))
+    if (!windows.ShowSameChart(ShownChart()))
     {
         windows.ShowNewChart();
     }

@@ -43,7 +43,7 @@ void Desk::ShowNewChart()
     mdlPublic.Charts.Commit();
 }
 
-bool Desk::ShowSameChart(const QString&)
+bool Desk::ShowSameChart(const ChartKey&)
 {
     ++redrawnCharts;
     mdlPublic.Charts.Commit();

@@ -22,7 +22,7 @@ public:
 
     // What the main window does for the form.
     void ShowNewChart() override;
-    bool ShowSameChart(const QString& caption) override;
+    bool ShowSameChart(const ChartKey& chart) override;
     void SwitchCodeView(int index) override;
     void SwitchNumbering(int index);
 

@@ -340,7 +340,7 @@ void ChartLinesTest::LineThatCannotBeShownLeavesTheOpenWindow()
     chart->WriteMagnification(5e5F, 60, 2e4F, 10);
     const QString para = Pane(chart, "lblPara", 0);
     mdlPublic.Charts.Write(LineWithoutUnit());
-    QVERIFY_EXCEPTION_THROWN(desk.main->ShowSameChart(chart->windowTitle()), RunTimeError);
+    QVERIFY_EXCEPTION_THROWN(desk.main->ShowSameChart(chart->Chart()), RunTimeError);
     mdlPublic.Charts.ClearWorkingRecord();
     QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{1});
     QVERIFY(StoreIsWhole());

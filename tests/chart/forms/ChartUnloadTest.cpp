@@ -1,10 +1,12 @@
 /// Closing chart windows: whose lines leave the store, and what stays.
 
 #include "app/mdlPublic.h"
+#include "calc/ChartNames.h"
 #include "chart/frmGraph.h"
 #include "tests/frame/Desk.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QMdiArea>
 #include <QPointer>
 #include <QTest>
@@ -21,6 +23,7 @@ private Q_SLOTS:
     void MinimisedWindowTakesItsLinesAlong();
     void ChartCanBeOpenedAgain();
     void LinesOfOtherTypeWithSameAxesStay();
+    void WindowKnowsItsChartWhateverItsTitle();
     void SelectionFormCannotBeClosed();
     void MainWindowGoesWithOpenCharts();
 };
@@ -159,6 +162,41 @@ void ChartUnloadTest::LinesOfOtherTypeWithSameAxesStay()
     desk.ClickCloseBox(desk.Charts().front());
     QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{1});
     QCOMPARE(mdlPublic.Charts.ChartData().front().ChartType, std::int16_t{3});
+}
+
+void ChartUnloadTest::WindowKnowsItsChartWhateverItsTitle()
+{
+    Desk desk;
+    desk.ClickChartType(2);
+    const QStringList parts = {ListedPart(desk, 0), ListedPart(desk, 1)};
+    desk.PlotCapacitance(parts[0], "0");
+    desk.PlotCapacitance(parts[0], "0", "Capacitance Change");
+    frmGraph* chart = desk.Chart(Absolute);
+    // Each window is of the chart that its caption names.
+    for (const frmGraph* window : desk.Charts())
+    {
+        QVERIFY(window->Chart() == ChartOfCaption(window->windowTitle().toStdString()));
+    }
+    // Titles and pane texts are for the eye alone.
+    chart->setWindowTitle(Change);
+    chart->findChild<QLabel*>("lblStatus_0")->setText("some part");
+    desk.PlotCapacitance(parts[1], "0");
+    QCOMPARE(desk.Charts().size(), std::size_t{2});
+    QCOMPARE(chart->windowTitle(), Absolute);
+    chart->setWindowTitle(Change);
+    chart->findChild<QLabel*>("lblStatus_0")->setText("some part");
+    desk.main->mnuPartNum_Click(1);
+    const auto previous = [](const frmGraph* window, const char* pane)
+    {
+        const QString number = window->findChild<QLabel*>(pane)->text();
+        return mdlPublic.Parts.PartIndex[2].Find(number.toStdString()) != nullptr;
+    };
+    QVERIFY(previous(chart, "lblStatus_0"));
+    QVERIFY(previous(chart, "lblStatus_1"));
+    chart->close();
+    Settle();
+    QCOMPARE(StoredParts(), QStringList(parts[0]));
+    QCOMPARE(mdlPublic.Charts.ChartData().front().YAxisName, std::string("Capacitance Change"));
 }
 
 void ChartUnloadTest::SelectionFormCannotBeClosed()
