@@ -12,7 +12,7 @@ template <class Item> static void AddIfAbsent(std::vector<Item>& list, const Ite
     }
 }
 
-/// A text list ends in an unseen empty entry, so that an empty text counts as present.
+/// No list offers an empty text: nobody could pick it.
 static void AddTextIfAbsent(std::vector<std::string_view>& list, std::string_view text)
 {
     if (!text.empty())
@@ -108,6 +108,7 @@ void PartSelection::FillPartNums()
 void PartSelection::ForgetPart()
 {
     completePart.reset();
+    partChosen = false;
     chosenByNumber = false;
 }
 
@@ -172,6 +173,7 @@ void PartSelection::FillPartNumList(float chosen)
     if (!partNums.empty())
     {
         completePart = partNums.back();
+        partChosen = true;
     }
 }
 
@@ -179,6 +181,7 @@ void PartSelection::ShowPart(std::int16_t index)
 {
     const PartRecord& part = parts.PartData[static_cast<std::size_t>(index)];
     completePart = index;
+    partChosen = true;
     chosenByNumber = true;
     ownLists = 3;
     choice = {SizeCodeOf(part), TccOf(part), part.Data[Value::Capacitance], part.Data[Value::RatedVoltage]};

@@ -43,6 +43,8 @@ public:
     /// After a part number is chosen: the lower three lists hold that part's values only; the lists of
     /// sizes and part numbers stay.
     void ShowPart(std::int16_t part);
+    /// After a text is typed that is no part number: no part is chosen any more; lists and choices stay.
+    void LeavePart() { partChosen = false; }
 
     /// Names size codes and characteristics in the other code. Where two entries would read the same one is
     /// kept; the choices follow their names, and the lists hold what agrees with them. A complete part stays.
@@ -56,6 +58,9 @@ public:
     const std::vector<std::int16_t>& PartNums() const { return partNums; }
 
     const PartChoice& Choice() const { return choice; }
+
+    /// True while one part is chosen whole, by its number or by all four choices.
+    bool IsPartChosen() const { return partChosen; }
 
 private:
     std::string_view SizeCodeOf(const PartRecord& part) const;
@@ -74,8 +79,10 @@ private:
     std::optional<std::int16_t> chartType;
     CodeView view = CodeView::Eia;
     PartChoice choice;
-    /// The complete part, chosen by number or left over last by the four choices.
+    /// The complete part, chosen by number or left over last by the four choices. A text typed over its number
+    /// leaves it the part that the choices are named after.
     std::optional<std::int16_t> completePart;
+    bool partChosen = false;
     bool chosenByNumber = false;
     /// How many of the lower three lists, from the top, hold only the value of a part chosen by number.
     int ownLists = 0;

@@ -325,21 +325,27 @@ const PartRecord& frmLibrary::SelectedPart() const
 
 void frmLibrary::IncompletePart()
 {
-    ui->cmdPlot->setEnabled(false);
-    Q_EMIT CanPlotChanged(false);
+    selection.LeavePart();
+    ShowCanPlot();
     DisableConditions();
 }
 
 void frmLibrary::CompletePart()
 {
-    ui->cmdPlot->setEnabled(true);
-    Q_EMIT CanPlotChanged(true);
+    ShowCanPlot();
     EnableConditions(GetChartType());
+}
+
+/// Plot, and all that goes with it, is offered while a part is chosen.
+void frmLibrary::ShowCanPlot()
+{
+    ui->cmdPlot->setEnabled(CanPlot());
+    Q_EMIT CanPlotChanged(CanPlot());
 }
 
 bool frmLibrary::CanPlot() const
 {
-    return ui->cmdPlot->isEnabled();
+    return selection.IsPartChosen();
 }
 
 // ---- The naming on display ----

@@ -105,7 +105,7 @@ public:
     /// form that is in front.
     void KeepFocus();
 
-    /// Plot is enabled: a complete part is selected.
+    /// A complete part is selected, so that it can be plotted; Plot is enabled just then.
     bool CanPlot() const;
 
 Q_SIGNALS:
@@ -153,6 +153,7 @@ private:
     void ShowStep();
     void IncompletePart();
     void CompletePart();
+    void ShowCanPlot();
     void SetParameterEnabled(bool enabled);
     void SetFrequencyEnabled(bool enabled);
     void ResetParameter();

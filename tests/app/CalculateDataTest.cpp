@@ -29,18 +29,23 @@ protected:
 
     static ChartRecord RiseOverFrequency(float current)
     {
-        return {.ChartType = 0,
-                .XAxisName = "Frequency",
-                .YAxisName = "Temperature Rise",
-                .HeatResistance = 50,
-                .AmbientTemp = 25,
-                .ParameterName = "Current",
-                .ParameterValue = current};
+        ChartRecord line;
+        line.XAxisName = "Frequency";
+        line.YAxisName = "Temperature Rise";
+        line.HeatResistance = 50;
+        line.AmbientTemp = 25;
+        line.ParameterName = "Current";
+        line.ParameterValue = current;
+        return line;
     }
 
     static ChartRecord ChangeOverTemperature()
     {
-        return {.ChartType = 2, .XAxisName = "Temperature", .YAxisName = "Capacitance Change"};
+        ChartRecord line;
+        line.ChartType = 2;
+        line.XAxisName = "Temperature";
+        line.YAxisName = "Capacitance Change";
+        return line;
     }
 
     ChartStore& store = mdlPublic.Charts;

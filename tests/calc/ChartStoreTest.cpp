@@ -9,8 +9,7 @@ namespace
 {
 using testing::ElementsAre;
 
-/// Plots a line: the record is written at `CurrentChart`, which then moves on.
-void Plot(ChartStore& store, const ChartKey& chart, std::int32_t part)
+ChartRecord LineOf(const ChartKey& chart, std::int32_t part)
 {
     ChartRecord record;
     record.ChartType = chart.ChartType;
@@ -20,7 +19,13 @@ void Plot(ChartStore& store, const ChartKey& chart, std::int32_t part)
     record.ParameterName = "Voltage";
     record.YData[199] = static_cast<float>(part);
     record.ExtraValue = static_cast<float>(part);
-    const Plotting plotting(store, record);
+    return record;
+}
+
+/// Plots a line: the record is written at `CurrentChart`, which then moves on.
+void Plot(ChartStore& store, const ChartKey& chart, std::int32_t part)
+{
+    const Plotting plotting(store, LineOf(chart, part));
     store.Commit();
 }
 
@@ -96,7 +101,7 @@ TEST(ChartStore, CountsALineThatIsCommitted)
 {
     ChartStore store;
     {
-        const Plotting plotting(store, {.XAxisName = "Frequency", .PartDataIndex = 7});
+        const Plotting plotting(store, LineOf(Rise, 7));
         EXPECT_EQ(store.CurrentChart(), 0);
         EXPECT_EQ(store.WorkingRecord().PartDataIndex, 7);
         store.Commit();
@@ -111,8 +116,8 @@ TEST(ChartStore, KeepsNoLineThatIsNotCommitted)
     ChartStore store;
     Plot(store, Rise, 1);
     {
-        const Plotting plotting(store, {.XAxisName = "Frequency", .PartDataIndex = 7});
-        EXPECT_EQ(store.CountSameCharts({0, "Frequency", ""}), 0);
+        const Plotting plotting(store, LineOf(Power, 7));
+        EXPECT_EQ(store.CountSameCharts(Power), 0);
     }
     EXPECT_THAT(PartsOf(store), ElementsAre(1));
     ASSERT_EQ(store.ChartData().size(), 2U);
@@ -124,7 +129,7 @@ TEST(ChartStore, KeepsNoLineThatIsTakenBack)
     ChartStore store;
     Plot(store, Rise, 1);
     {
-        const Plotting plotting(store, {.XAxisName = "Frequency", .PartDataIndex = 7});
+        const Plotting plotting(store, LineOf(Rise, 7));
         store.Commit();
         EXPECT_THAT(PartsOf(store), ElementsAre(1, 7));
         store.RollBack();
@@ -141,7 +146,7 @@ TEST(ChartStore, KeepsNoLineWhoseCommandEndsInAnError)
     ChartStore store;
     EXPECT_THROW(
         {
-            const Plotting plotting(store, {.XAxisName = "Frequency", .PartDataIndex = 7});
+            const Plotting plotting(store, LineOf(Rise, 7));
             throw std::bad_alloc();
         },
         std::bad_alloc);

@@ -315,6 +315,7 @@ private:
         QCOMPARE(desk->Entries("cmbPartNum"), Listed(selection.PartNumbers()));
         QCOMPARE(desk->Text("cmbPartNum"), FromAnsi(plain->PartText));
         QCOMPARE(desk->Enabled("cmdPlot"), plain->CanPlot);
+        QCOMPARE(desk->form->CanPlot(), plain->CanPlot);
         CompareBoxes();
     }
 

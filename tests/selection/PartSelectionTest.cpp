@@ -182,6 +182,49 @@ TEST_F(Cascade, KeepsOrderAndChoiceWhenTheNamingChanges)
     EXPECT_EQ(selection.Choice().Tcc, "B");
 }
 
+TEST_F(Cascade, HasAPartOnceAllFourAreChosen)
+{
+    EXPECT_FALSE(selection.IsPartChosen());
+    selection.AddPartNum(2, CodeView::Eia);
+    selection.FillTccList("0805");
+    selection.FillCapList("X7R");
+    selection.FillRatedVolList(100);
+    // One rated voltage is left, but it is for the user to choose.
+    EXPECT_THAT(selection.RatedVoltages(), ElementsAre(50));
+    EXPECT_FALSE(selection.IsPartChosen());
+    selection.FillPartNumList(50);
+    EXPECT_TRUE(selection.IsPartChosen());
+    selection.ChangeNaming(CodeView::Jis);
+    EXPECT_TRUE(selection.IsPartChosen());
+    selection.FillRatedVolList(1000);
+    EXPECT_FALSE(selection.IsPartChosen());
+}
+
+TEST_F(Cascade, HasNoPartWhereNoneIsLeft)
+{
+    selection.AddPartNum(2, CodeView::Eia);
+    selection.FillPartNumList(1000);
+    EXPECT_THAT(selection.PartNums(), IsEmpty());
+    EXPECT_FALSE(selection.IsPartChosen());
+}
+
+TEST_F(Cascade, HasThePartChosenByNumberUntilItIsLeft)
+{
+    selection.AddPartNum(2, CodeView::Eia);
+    selection.ShowPart(3);
+    EXPECT_TRUE(selection.IsPartChosen());
+    selection.LeavePart();
+    EXPECT_FALSE(selection.IsPartChosen());
+    // What was chosen stays to be seen, under the part's own names.
+    selection.ChangeNaming(CodeView::Jis);
+    EXPECT_EQ(selection.Choice().SizeCode, "2012");
+    EXPECT_EQ(selection.Choice().Capacitance, 100);
+    EXPECT_FALSE(selection.IsPartChosen());
+    selection.ShowPart(3);
+    selection.AddPartNum(2, CodeView::Jis);
+    EXPECT_FALSE(selection.IsPartChosen());
+}
+
 TEST(Sizes, OfOneJisNameStandOnceAndComeBackAsBefore)
 {
     const auto range = MakeRange({{"P0", {"A1", "J"}, {"X7R", "R"}, 1, 16},
