@@ -5,6 +5,7 @@
 #include "calc/DataFile.h"
 #include "formkit/HourglassScope.h"
 #include "formkit/Messages.h"
+#include "formkit/RunCommand.h"
 #include "formkit/Texts.h"
 #include "frame/DataPage.h"
 #include "frame/LastFolder.h"
@@ -20,22 +21,15 @@ static const PartRecord& PartOf(const ChartRecord& line)
     return mdlPublic.Parts.PartData[static_cast<std::size_t>(line.PartDataIndex)];
 }
 
-/// Runs the steps of a command that plots no line: a cancelled dialog ends it silently, any other error is
-/// shown.
-template <class Steps> static void RunCommand(QWidget* window, Steps steps)
+/// Runs a command that plots no line.
+template <class Steps> static void RunOutput(QWidget* window, const Steps& steps)
 {
-    mdlPublic.Charts.ClearWorkingRecord();
-    try
-    {
-        steps();
-    }
-    catch (const RunTimeError& error)
-    {
-        if (error.Number() != static_cast<int>(RunTimeErrorNumber::Cancelled))
-        {
-            ShowUnexpectedError(window, error);
-        }
-    }
+    RunCommand(window,
+               [&]
+               {
+                   mdlPublic.Charts.ClearWorkingRecord();
+                   steps();
+               });
 }
 
 /// The curve of the current selection, beside the store of plotted lines; nothing when its parameter is
@@ -77,7 +71,7 @@ void frmMain::mnuSaveDataToFile_Click()
     {
         return;
     }
-    RunCommand(this,
+    RunOutput(this,
                [this]
                {
                    if (const auto line = CurrentCurve())
@@ -121,7 +115,7 @@ QPrinter& frmMain::Printer()
 
 void frmMain::mnuFilePageSetup_Click()
 {
-    RunCommand(this,
+    RunOutput(this,
                [this]
                {
                    clsComdlg dialog(&Printer());
@@ -133,7 +127,7 @@ void frmMain::mnuFilePageSetup_Click()
 
 void frmMain::PrintChart(const ChartPage& page)
 {
-    RunCommand(this,
+    RunOutput(this,
                [&]
                {
                    clsComdlg dialog(&Printer());
@@ -151,7 +145,7 @@ void frmMain::mnuPrintData_Click()
     {
         return;
     }
-    RunCommand(this,
+    RunOutput(this,
                [this]
                {
                    const auto line = CurrentCurve();

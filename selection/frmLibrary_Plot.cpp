@@ -8,6 +8,7 @@
 #include "formkit/Entries.h"
 #include "formkit/HourglassScope.h"
 #include "formkit/Messages.h"
+#include "formkit/RunCommand.h"
 #include "ui_frmLibrary.h"
 
 #include <algorithm>
@@ -190,14 +191,7 @@ void frmLibrary::cmdPlot_Click()
 void frmLibrary::Plot(int lines)
 {
     std::optional<ParameterRefusal> refusal;
-    try
-    {
-        refusal = PlotLine(lines);
-    }
-    catch (const RunTimeError& error)
-    {
-        ShowUnexpectedError(this, error);
-    }
+    RunCommand(this, [&] { refusal = PlotLine(lines); });
     if (refusal)
     {
         ReportParameter(*refusal);

@@ -4,6 +4,7 @@
 #include "app/mdlPublic.h"
 #include "formkit/HourglassScope.h"
 #include "formkit/Messages.h"
+#include "formkit/RunCommand.h"
 #include "formkit/Twips.h"
 #include "partdata/RunTimeError.h"
 
@@ -13,6 +14,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <new>
 
 class SharedStateTest : public QObject
 {
@@ -28,6 +30,9 @@ private Q_SLOTS:
     void BoxesBearTitleIconAndText();
     void QuestionIsAnsweredByItsButtons();
     void BoxShowsNormalPointerInLongCommand();
+    void CommandTellsWhatEndedIt_data();
+    void CommandTellsWhatEndedIt();
+    void CancelledCommandEndsInSilence();
 };
 
 void SharedStateTest::SelectorsReadTheMarks_data()
@@ -163,6 +168,45 @@ void SharedStateTest::BoxShowsNormalPointerInLongCommand()
     const Seen seen = SeeBox([] { ShowInformation(nullptr, "n"); });
     QCOMPARE(seen.pointer, Qt::ArrowCursor);
     QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+}
+
+/// Throws what a command may end in.
+static void Fail(const QString& how)
+{
+    if (how == "memory")
+    {
+        throw std::bad_alloc();
+    }
+    throw RunTimeError(how == "cancel" ? RunTimeErrorNumber::Cancelled : RunTimeErrorNumber::DiskFull);
+}
+
+void SharedStateTest::CommandTellsWhatEndedIt_data()
+{
+    QTest::addColumn<QString>("how");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("an error") << "disk" << "Unexpected Error 61\nDisk full";
+    QTest::newRow("no memory") << "memory" << "Unexpected Error 7\nOut of memory";
+}
+
+void SharedStateTest::CommandTellsWhatEndedIt()
+{
+    QFETCH(QString, how);
+    const Seen seen = SeeBox([&] { RunCommand(nullptr, [&] { Fail(how); }); });
+    QTEST(seen.text, "text");
+    QCOMPARE(seen.icon, QMessageBox::Critical);
+}
+
+void SharedStateTest::CancelledCommandEndsInSilence()
+{
+    bool ran = false;
+    RunCommand(nullptr,
+               [&]
+               {
+                   ran = true;
+                   Fail("cancel");
+               });
+    QVERIFY(ran);
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
 QTEST_MAIN(SharedStateTest)

@@ -1,7 +1,6 @@
 #include "tests/selection/Desk.h"
 
 #include "app/mdlPublic.h"
-#include "partdata/RunTimeError.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -35,9 +34,9 @@ Desk::~Desk()
 
 void Desk::ShowNewChart()
 {
-    if (chartsFail)
+    if (chartFault)
     {
-        throw RunTimeError(RunTimeErrorNumber::DeviceIoError);
+        std::rethrow_exception(chartFault);
     }
     ++newCharts;
     mdlPublic.Charts.Commit();

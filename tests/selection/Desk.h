@@ -12,6 +12,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include <exception>
+
 /// A main window with the selection form, whose charts are only counted. The part table of the program is
 /// exchanged for the given one.
 class Desk : public ChartWindows
@@ -58,8 +60,8 @@ public:
     QMainWindow window;
     frmLibrary* form = nullptr;
     MessageWatch messages;
-    /// Charts cannot be shown.
-    bool chartsFail = false;
+    /// What is thrown where a chart is to be shown, if anything.
+    std::exception_ptr chartFault;
     int newCharts = 0;
     int redrawnCharts = 0;
     int code = 0;

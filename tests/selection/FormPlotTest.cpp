@@ -1,10 +1,13 @@
 /// Plotting the line that the form describes.
 
 #include "app/mdlPublic.h"
+#include "partdata/RunTimeError.h"
 #include "tests/selection/ConditionsTest.h"
 #include "tests/selection/Ranges.h"
 
 #include <QTest>
+
+#include <new>
 
 class FormPlotTest : public ConditionsTest
 {
@@ -40,19 +43,29 @@ private Q_SLOTS:
         QVERIFY(QGuiApplication::overrideCursor() == nullptr);
     }
 
+    void KeepsNoLineThatCouldNotBeShown_data()
+    {
+        QTest::addColumn<bool>("memory");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("an error") << false << "other icon: Unexpected Error 57|Device I/O error";
+        QTest::newRow("no memory") << true << "other icon: Unexpected Error 7|Out of memory";
+    }
     void KeepsNoLineThatCouldNotBeShown()
     {
+        QFETCH(bool, memory);
         desk->ChooseChartType(2);
         desk->Pick("cmbPartNum", "P0-0");
         desk->Enter("txtDCBiasVol", "1");
-        desk->chartsFail = true;
+        desk->chartFault =
+            memory ? std::make_exception_ptr(std::bad_alloc())
+                   : std::make_exception_ptr(RunTimeError(RunTimeErrorNumber::DeviceIoError));
         desk->Click("cmdPlot");
-        QCOMPARE(desk->messages.Taken(), QStringList{"other icon: Unexpected Error 57|Device I/O error"});
+        QTEST(desk->messages.Taken().join(u','), "message");
         QCOMPARE(mdlPublic.Charts.CurrentChart(), 0);
         QCOMPARE(mdlPublic.Charts.ChartData().size(), std::size_t{1});
         QCOMPARE(mdlPublic.Charts.ChartData()[0].XAxisName, std::string());
         QVERIFY(QGuiApplication::overrideCursor() == nullptr);
-        desk->chartsFail = false;
+        desk->chartFault = nullptr;
         desk->Click("cmdPlot");
         QCOMPARE(desk->newCharts, 1);
     }
