@@ -1,5 +1,7 @@
 #include "frame/PrinterChoices.h"
 
+#include "partdata/RunTimeError.h"
+
 #include <QDialogButtonBox>
 #include <QPrintDialog>
 #include <QPrinterInfo>
@@ -59,8 +61,8 @@ static void ChooseSystemPrinter(QPrinter& printer)
     }
 }
 
-bool AskForPrinter(QPrinter& printer, const PrinterLimits& first, std::int32_t flags, const QString& title,
-                   QWidget* owner)
+static bool RunDialog(QPrinter& printer, const PrinterLimits& first, std::int32_t flags, const QString& title,
+                      QWidget* owner)
 {
     ChooseSystemPrinter(printer);
     if (first.copies > 0)
@@ -90,4 +92,20 @@ bool AskForPrinter(QPrinter& printer, const PrinterLimits& first, std::int32_t f
         buttons->button(QDialogButtonBox::Ok)->setText(QStringLiteral("OK"));
     }
     return dialog.exec() == QDialog::Accepted;
+}
+
+bool AskForPrinter(QPrinter& printer, const PrinterLimits& first, std::int32_t flags, const QString& title,
+                   QWidget* owner)
+{
+    if (QPrinterInfo::availablePrinterNames().isEmpty())
+    {
+        throw RunTimeError(RunTimeErrorNumber::NoPrinter).At(DialogsPlace);
+    }
+    const auto before = ChoicesOf(printer);
+    const bool accepted = RunDialog(printer, first, flags, title, owner);
+    if (!accepted)
+    {
+        SetChoices(printer, before);
+    }
+    return accepted;
 }

@@ -11,13 +11,11 @@
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QFontDialog>
-#include <QPrinterInfo>
 #include <QSettings>
 
 #include <cmath>
 #include <optional>
 
-static constexpr const char* DialogsPlace = "COMDLG32.DLL";
 static constexpr int NameDoesNotFit = 12291;
 
 namespace FileFlag
@@ -202,29 +200,21 @@ void clsComdlg::ShowSave()
 
 void clsComdlg::ShowPrinter()
 {
-    if (QPrinterInfo::availablePrinterNames().isEmpty())
-    {
-        throw RunTimeError(RunTimeErrorNumber::NoPrinter).At(DialogsPlace);
-    }
     QPrinter ownPrinter;
     QPrinter& target = printer != nullptr ? *printer : ownPrinter;
     const auto before = ChoicesOf(target);
 
     PrinterLimits pages{.copies = Copies, .fromPage = FromPage, .toPage = ToPage, .min = Min, .max = Max};
-    const bool accepted = AskForPrinter(target, pages, Flags, DialogTitle, hWndOwner);
-    if (accepted)
+    if (!AskForPrinter(target, pages, Flags, DialogTitle, hWndOwner))
     {
-        Copies = target.copyCount();
-        FromPage = target.fromPage();
-        ToPage = target.toPage();
+        return RaiseCancel();
     }
-    if (!accepted || !PrinterDefault)
+    Copies = target.copyCount();
+    FromPage = target.fromPage();
+    ToPage = target.toPage();
+    if (!PrinterDefault)
     {
         SetChoices(target, before);
-    }
-    if (!accepted)
-    {
-        RaiseCancel();
     }
 }
 

@@ -1,9 +1,9 @@
 #include "frame/frmHelp.h"
 
 #include "formkit/Messages.h"
+#include "formkit/RunCommand.h"
 #include "frame/HelpBook.h"
-#include "frame/clsComdlg.h"
-#include "partdata/RunTimeError.h"
+#include "frame/PrinterChoices.h"
 #include "ui_frmHelp.h"
 
 #include <QKeyEvent>
@@ -188,21 +188,15 @@ void frmHelp::Escape()
 
 void frmHelp::Print()
 {
-    try
-    {
-        QPrinter printer;
-        clsComdlg dialog(&printer);
-        dialog.hWndOwner = this;
-        dialog.ShowPrinter();
-        ui->txtBook->print(&printer);
-    }
-    catch (const RunTimeError& error)
-    {
-        if (error.Number() != static_cast<int>(RunTimeErrorNumber::Cancelled))
-        {
-            ShowUnexpectedError(this, error);
-        }
-    }
+    RunCommand(this,
+               [this]
+               {
+                   QPrinter printer;
+                   if (AskForPrinter(printer, {}, 0, {}, this))
+                   {
+                       ui->txtBook->print(&printer);
+                   }
+               });
 }
 
 // The window.
