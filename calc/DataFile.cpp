@@ -3,9 +3,9 @@
 #include "calc/ChartNames.h"
 #include "calc/ConditionLines.h"
 #include "calc/NumberText.h"
+#include "calc/ProgramTitle.h"
 #include "calc/Units.h"
 
-static constexpr std::string_view Title = "Halvex Chip Capacitor Characteristics Data Library  ";
 static constexpr std::string_view ColumnGap = "            ";
 static constexpr std::string_view LineEnd = "\r\n";
 
@@ -34,7 +34,7 @@ std::string DataFileText(const ChartRecord& line, const PartRecord& part, CodeVi
     const auto conditions = ConditionLines(line);
     const auto code = static_cast<std::size_t>(view);
     std::string text;
-    AddLine(text, "!", Title, date);
+    AddLine(text, "!", ProgramTitleText, "  ", date);
     AddLine(text, "!ChartType-> ", ChartTypeNames[static_cast<std::size_t>(line.ChartType)]);
     AddLine(text, "!Halvex Part Number-> ", part.PartNum[code], " (", part.PartNum[code + 2], ")");
     for (const ConditionLine& condition : conditions)

@@ -27,6 +27,7 @@ frmSetAxis::frmSetAxis(const ChartView& shown, const AxisRange& chartDefaults, Q
     , defaults(chartDefaults)
 {
     ui->setupUi(this);
+    setWindowTitle(ProgramTitle());
     txtX = {ui->txtX_0, ui->txtX_1};
     txtY = {ui->txtY_0, ui->txtY_1};
     const std::string& xName = view.Chart.XAxisName;

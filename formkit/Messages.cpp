@@ -1,14 +1,18 @@
 #include "formkit/Messages.h"
 
+#include "calc/ProgramTitle.h"
+
 #include <QCursor>
 #include <QGuiApplication>
 #include <QMessageBox>
 
 QString ProgramTitle()
 {
-    return QStringLiteral("Halvex Chip Capacitor Characteristics Data Library");
+    return QString::fromLatin1(ProgramTitleText.data(), static_cast<qsizetype>(ProgramTitleText.size()));
 }
 
+namespace
+{
 /// Shows the normal pointer while a box waits for the user, even if a long command is under way.
 class PointerPause
 {
@@ -18,6 +22,7 @@ public:
     PointerPause(const PointerPause&) = delete;
     PointerPause& operator=(const PointerPause&) = delete;
 };
+} // namespace
 
 static int Show(QWidget* parent, QMessageBox::Icon icon, QString text,
                 QMessageBox::StandardButtons buttons = QMessageBox::Ok)

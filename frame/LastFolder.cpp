@@ -7,9 +7,11 @@
 #include <QFileInfo>
 #include <QSettings>
 
-static const QString FilePathKey = QStringLiteral("Settings/FilePath");
+namespace
+{
+const QString FilePathKey = QStringLiteral("Settings/FilePath");
 
-static const QString Program = QStringLiteral("tavik");
+const QString Program = QStringLiteral("tavik");
 
 #if defined(Q_OS_WIN) || defined(Q_OS_DARWIN)
 /// The per-user settings of the application.
@@ -41,6 +43,7 @@ private:
     }
 };
 #endif
+} // namespace
 
 QString LastFolder()
 {

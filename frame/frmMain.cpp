@@ -25,6 +25,7 @@ frmMain::frmMain(QWidget* parent)
     , ui(std::make_unique<Ui::frmMain>())
 {
     ui->setupUi(this);
+    setWindowTitle(ProgramTitle());
     resize(FirstSize.boundedTo(screen()->availableSize()));
     mainMenus = ui->mnuBar->actions();
 

@@ -16,8 +16,10 @@
 #include <memory>
 #include <utility>
 
+namespace
+{
 /// Whether somebody can see a box and answer it.
-static bool HasDisplay()
+bool HasDisplay()
 {
     const QString platform = QGuiApplication::platformName();
     return platform != QStringLiteral("offscreen") && platform != QStringLiteral("minimal");
@@ -58,11 +60,12 @@ private:
     inline static QStringList remarks;
 };
 
-static std::unique_ptr<QApplication> StartWindowSystem(int& argc, char** argv)
+std::unique_ptr<QApplication> StartWindowSystem(int& argc, char** argv)
 {
     const WindowSystemGuard guard;
     return std::make_unique<QApplication>(argc, argv);
 }
+} // namespace
 
 int main(int argc, char* argv[])
 {
