@@ -1,5 +1,6 @@
 #include "app/Main.h"
 
+#include "app/HelpLanguages.h"
 #include "app/SingleInstance.h"
 #include "app/mdlPublic.h"
 #include "formkit/Messages.h"
@@ -8,9 +9,16 @@
 
 static std::int16_t HelpLanguageIn(const std::string& programFolder)
 {
-    std::error_code ignored;
-    const auto book = programFolder + mdlPublic.PathSep + "tavikj.hlp";
-    return std::filesystem::is_regular_file(book, ignored) ? 1 : 2;
+    for (const HelpLanguageRow& language : HelpLanguages)
+    {
+        std::error_code ignored;
+        const auto book = programFolder + mdlPublic.PathSep + std::string(language.Book);
+        if (std::filesystem::is_regular_file(book, ignored))
+        {
+            return language.Number;
+        }
+    }
+    return HelpLanguages.back().Number;
 }
 
 bool Main(const std::string& programFolder, const std::function<void()>& showMainWindow)

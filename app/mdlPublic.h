@@ -25,7 +25,7 @@ struct PublicModule
 {
     /// Separator between the program folder and a file name.
     std::string PathSep;
-    /// 1 when the Japanese help book lies in the program folder, else 2.
+    /// 1 when the Japanese help book lies in the program folder, else 2; see `HelpLanguages`.
     std::int16_t HelpLanguage = 2;
     /// The degree sign of temperature units, in the single-byte code page.
     std::string DegreeSign;

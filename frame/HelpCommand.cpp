@@ -1,5 +1,6 @@
 #include "frame/HelpCommand.h"
 
+#include "app/HelpLanguages.h"
 #include "app/mdlPublic.h"
 #include "formkit/Messages.h"
 #include "frame/clsComdlg.h"
@@ -8,17 +9,16 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
-static constexpr int EnglishHelp = 2;
 static constexpr int ContentsCommand = 3;
 
 void ShowHelpContents(QWidget* owner)
 {
-    const bool english = mdlPublic.HelpLanguage == EnglishHelp;
+    const std::string_view book = HelpLanguageOf(mdlPublic.HelpLanguage).Book;
     clsComdlg help;
     help.hWndOwner = owner;
     help.HelpCommand = ContentsCommand;
     help.HelpFile = QCoreApplication::applicationDirPath() + QString::fromStdString(mdlPublic.PathSep) +
-                    (english ? QStringLiteral("tavike.hlp") : QStringLiteral("tavikj.hlp"));
+                    QString::fromLatin1(book.data(), static_cast<qsizetype>(book.size()));
     if (!QFileInfo::exists(help.HelpFile))
     {
         ShowInformation(owner, QStringLiteral("There is no Help File."));

@@ -4,6 +4,5 @@
 
 class QWidget;
 
-/// Opens the help book of the program's help language, "tavike.hlp" or "tavikj.hlp" in the program
-/// folder. Tells the user where there is no book, and what is wrong with one that cannot be read.
+/// Opens the help book of the program's help language, which lies in the program folder. Tells the user where there is no book, and what is wrong with one that cannot be read.
 void ShowHelpContents(QWidget* owner);

@@ -1,5 +1,6 @@
 #include "selection/frmLibrary.h"
 
+#include "app/HelpLanguages.h"
 #include "app/PartNumText.h"
 #include "app/mdlPublic.h"
 #include "calc/AxisLists.h"
@@ -72,7 +73,7 @@ void frmLibrary::Form_Load()
 {
     SelectChartType(0);
     mdlPublic.Charts = ChartStore{};
-    if (mdlPublic.HelpLanguage == 1)
+    if (HelpLanguageOf(mdlPublic.HelpLanguage).StartView == CodeView::Jis)
     {
         windows.SwitchCodeView(1);
     }
