@@ -2,7 +2,7 @@
 
 #include "calc/ChartNames.h"
 #include "calc/ConditionLines.h"
-#include "calc/NumberText.h"
+#include "calc/DataFile.h"
 #include "chart/drawing/QtColors.h"
 #include "formkit/Messages.h"
 #include "formkit/Texts.h"
@@ -91,7 +91,7 @@ QString Utf8(const std::string& text)
     return QString::fromStdString(text);
 }
 
-void DrawHeader(const DataPage& page, DataSheet& sheet)
+void DrawNames(const DataPage& page, DataSheet& sheet)
 {
     const auto form = static_cast<std::size_t>(page.View);
     const auto type = ChartTypeNames.at(static_cast<std::size_t>(page.Line.ChartType));
@@ -130,16 +130,28 @@ void DrawTableHeading(const DataPage& page, DataSheet& sheet)
 
 void DrawPoints(const ChartRecord& line, DataSheet& sheet)
 {
-    const auto text = [](float value) { return Utf8(FormatNumber(value, NumberFormat::ScientificTwo)); };
-    const float xUnit = line.XAxisName == "Frequency" ? 1000.0F : 1.0F;
     for (std::size_t i = 0; i < CurvePoints; ++i)
     {
         const auto column = i / pointsPerColumn;
         const auto left = columnWidth * static_cast<double>(column);
         const auto top = pointsTop - pointPitch * static_cast<double>(i - pointsPerColumn * column);
-        sheet.Write(left, top, text(line.XData[i] / xUnit));
-        sheet.Write(left + yOffset, top, text(line.YData[i]));
+        sheet.Write(left, top, Utf8(DataXText(line, i)));
+        sheet.Write(left + yOffset, top, Utf8(DataYText(line, i)));
     }
+}
+
+/// Title, date, chart type, part number and conditions.
+void PrintDataHeader(const DataPage& page, const std::vector<ConditionLine>& conditions, DataSheet& sheet)
+{
+    DrawNames(page, sheet);
+    DrawConditions(conditions, sheet);
+}
+
+/// The 200 points under their headings and rules.
+void PrintDataTable(const DataPage& page, DataSheet& sheet)
+{
+    DrawTableHeading(page, sheet);
+    DrawPoints(page.Line, sheet);
 }
 
 } // namespace
@@ -149,8 +161,6 @@ void DrawDataPage(const DataPage& page, const PageArea& area, QPainter& painter)
     const auto conditions = ConditionLines(page.Line);
     const TwipsScope twips(painter, area);
     DataSheet sheet(painter, twips.Extent());
-    DrawHeader(page, sheet);
-    DrawConditions(conditions, sheet);
-    DrawTableHeading(page, sheet);
-    DrawPoints(page.Line, sheet);
+    PrintDataHeader(page, conditions, sheet);
+    PrintDataTable(page, sheet);
 }
