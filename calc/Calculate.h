@@ -19,9 +19,9 @@ struct ParameterRefusal
     std::string Message;
 };
 
-/// Computes the curve of a line: reads its chart type, axis names and conditions, writes points, default limits
-/// and `ExtraValue`. A number that is no chart type does nothing. Returns a refusal, with the record as it was,
-/// when the parameter of a temperature rise over frequency is out of range.
+/// Computes the curve of a line: reads its chart type, axis names and conditions, writes points, default
+/// limits and `ExtraValue`. A number that is no chart type does nothing. Returns a refusal, with the record
+/// as it was, when the parameter of a temperature rise over frequency is out of range.
 ///
 /// @param view the naming on display, which capacitance curves take their reference temperature from
 ///

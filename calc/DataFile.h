@@ -21,8 +21,8 @@
 std::string DataFileText(const ChartRecord& line, const PartRecord& part, CodeView view,
                          std::string_view date);
 
-/// "0.00E+00" text of a curve's X value, in kHz when the axis is a frequency, as data files and printed data pages
-/// show it.
+/// "0.00E+00" text of a curve's X value, in kHz when the axis is a frequency, as data files and printed data
+/// pages show it.
 std::string DataXText(const ChartRecord& line, std::size_t point);
 /// "0.00E+00" text of a curve's Y value.
 std::string DataYText(const ChartRecord& line, std::size_t point);

@@ -248,7 +248,7 @@ void frmGraph::FillStatusPanes()
 void frmGraph::RelabelParts(int partNumForm)
 {
     const auto partNums = PartNums(partNumForm);
-    const std::size_t shown = std::min(partNums.size(), MaximumLines);
+    const std::size_t shown = std::min<std::size_t>(partNums.size(), MaximumLines);
     for (std::size_t p = 0; p < shown && !lblStatus[p]->text().isEmpty(); ++p)
     {
         lblStatus[p]->setText(partNums[p]);

@@ -4,5 +4,6 @@
 
 class QWidget;
 
-/// Opens the help book of the program's help language, which lies in the program folder. Tells the user where there is no book, and what is wrong with one that cannot be read.
+/// Opens the help book of the program's help language, which lies in the program folder. Tells the user where
+/// there is no book, and what is wrong with one that cannot be read.
 void ShowHelpContents(QWidget* owner);

@@ -43,8 +43,8 @@ struct PrinterLimits
 /// The source that errors of the common dialogs name.
 inline constexpr const char* DialogsPlace = "COMDLG32.DLL";
 
-/// Runs the dialog on `printer`; true for OK, and on Cancel the printer is as before. `flags`: 2 starts with the
-/// page range, 8 offers no page range, 64 is print set-up.
+/// Runs the dialog on `printer`; true for OK, and on Cancel the printer is as before. `flags`: 2 starts with
+/// the page range, 8 offers no page range, 64 is print set-up.
 ///
 /// Throws RunTimeError 65534 "There is no printer in this system."
 bool AskForPrinter(QPrinter& printer, const PrinterLimits& first, std::int32_t flags, const QString& title,

@@ -72,13 +72,13 @@ void frmMain::mnuSaveDataToFile_Click()
         return;
     }
     RunOutput(this,
-               [this]
-               {
-                   if (const auto line = CurrentCurve())
-                   {
-                       SaveData(*line);
-                   }
-               });
+              [this]
+              {
+                  if (const auto line = CurrentCurve())
+                  {
+                      SaveData(*line);
+                  }
+              });
 }
 
 /// Asks for a file and writes a curve to it.
@@ -116,27 +116,27 @@ QPrinter& frmMain::Printer()
 void frmMain::mnuFilePageSetup_Click()
 {
     RunOutput(this,
-               [this]
-               {
-                   clsComdlg dialog(&Printer());
-                   dialog.hWndOwner = this;
-                   dialog.Flags = 64;
-                   dialog.ShowPrinter();
-               });
+              [this]
+              {
+                  clsComdlg dialog(&Printer());
+                  dialog.hWndOwner = this;
+                  dialog.Flags = 64;
+                  dialog.ShowPrinter();
+              });
 }
 
 void frmMain::PrintChart(const ChartPage& page)
 {
     RunOutput(this,
-               [&]
-               {
-                   clsComdlg dialog(&Printer());
-                   dialog.hWndOwner = this;
-                   dialog.ShowPrinter();
-                   const SurfaceKind kind = KindOf(Printer());
-                   PrintWithNotice([&](QPainter& painter, const PageArea& area)
-                                   { DrawChartPage(page, area, kind, painter); });
-               });
+              [&]
+              {
+                  clsComdlg dialog(&Printer());
+                  dialog.hWndOwner = this;
+                  dialog.ShowPrinter();
+                  const SurfaceKind kind = KindOf(Printer());
+                  PrintWithNotice([&](QPainter& painter, const PageArea& area)
+                                  { DrawChartPage(page, area, kind, painter); });
+              });
 }
 
 void frmMain::mnuPrintData_Click()
@@ -146,15 +146,15 @@ void frmMain::mnuPrintData_Click()
         return;
     }
     RunOutput(this,
-               [this]
-               {
-                   const auto line = CurrentCurve();
-                   const auto question = QStringLiteral("Would you print %1 Data ?");
-                   if (line && AskOkCancel(this, question.arg(library->ShownPartNum())))
-                   {
-                       PrintData(*line);
-                   }
-               });
+              [this]
+              {
+                  const auto line = CurrentCurve();
+                  const auto question = QStringLiteral("Would you print %1 Data ?");
+                  if (line && AskOkCancel(this, question.arg(library->ShownPartNum())))
+                  {
+                      PrintData(*line);
+                  }
+              });
 }
 
 void frmMain::PrintData(const ChartRecord& line)

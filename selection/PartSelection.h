@@ -79,8 +79,8 @@ private:
     std::optional<std::int16_t> chartType;
     CodeView view = CodeView::Eia;
     PartChoice choice;
-    /// The complete part, chosen by number or left over last by the four choices. A text typed over its number
-    /// leaves it the part that the choices are named after.
+    /// The complete part, chosen by number or left over last by the four choices. A text typed over its
+    /// number leaves it the part that the choices are named after.
     std::optional<std::int16_t> completePart;
     bool partChosen = false;
     bool chosenByNumber = false;

@@ -184,8 +184,10 @@ void SharedStateTest::CommandTellsWhatEndedIt_data()
 {
     QTest::addColumn<QString>("how");
     QTest::addColumn<QString>("text");
-    QTest::newRow("an error") << "disk" << "Unexpected Error 61\nDisk full";
-    QTest::newRow("no memory") << "memory" << "Unexpected Error 7\nOut of memory";
+    QTest::newRow("an error") << "disk"
+                              << "Unexpected Error 61\nDisk full";
+    QTest::newRow("no memory") << "memory"
+                               << "Unexpected Error 7\nOut of memory";
 }
 
 void SharedStateTest::CommandTellsWhatEndedIt()

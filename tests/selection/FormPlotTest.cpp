@@ -56,9 +56,8 @@ private Q_SLOTS:
         desk->ChooseChartType(2);
         desk->Pick("cmbPartNum", "P0-0");
         desk->Enter("txtDCBiasVol", "1");
-        desk->chartFault =
-            memory ? std::make_exception_ptr(std::bad_alloc())
-                   : std::make_exception_ptr(RunTimeError(RunTimeErrorNumber::DeviceIoError));
+        desk->chartFault = memory ? std::make_exception_ptr(std::bad_alloc())
+                                  : std::make_exception_ptr(RunTimeError(RunTimeErrorNumber::DeviceIoError));
         desk->Click("cmdPlot");
         QTEST(desk->messages.Taken().join(u','), "message");
         QCOMPARE(mdlPublic.Charts.CurrentChart(), 0);

@@ -3,6 +3,8 @@
 #include "app/mdlPublic.h"
 #include "tests/frame/randomuser/PlainNumbers.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
