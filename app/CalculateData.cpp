@@ -1,11 +1,13 @@
 #include "app/CalculateData.h"
 
 #include "app/mdlPublic.h"
+#include "calc/ChartKinds.h"
 
-static bool IsWorkingRecordOf(ChartType one, ChartType other)
+/// True when the working record is of a chart type that lives on these data.
+static bool Needs(ValueGroup data)
 {
-    const auto type = static_cast<ChartType>(mdlPublic.Charts.WorkingRecord().ChartType);
-    return type == one || type == other;
+    const ChartKind* kind = FindChartKind(mdlPublic.Charts.WorkingRecord().ChartType);
+    return kind != nullptr && kind->Needs == data;
 }
 
 static std::optional<ParameterRefusal> CalculateWorkingRecord(std::int16_t partIndex)
@@ -22,7 +24,7 @@ static std::optional<ParameterRefusal> CalculateWorkingRecord(std::int16_t partI
 
 void CalculateDataS(std::int16_t partIndex)
 {
-    if (IsWorkingRecordOf(ChartType::CapacitanceTemperature, ChartType::CapacitanceDCVoltage))
+    if (Needs(Values::OfCapacitance))
     {
         CalculateWorkingRecord(partIndex);
     }
@@ -30,6 +32,5 @@ void CalculateDataS(std::int16_t partIndex)
 
 std::optional<ParameterRefusal> CalculateDataT(std::int16_t partIndex)
 {
-    const bool isPower = IsWorkingRecordOf(ChartType::TemperatureRise, ChartType::AllowablePower);
-    return isPower ? CalculateWorkingRecord(partIndex) : std::nullopt;
+    return Needs(Values::OfPower) ? CalculateWorkingRecord(partIndex) : std::nullopt;
 }

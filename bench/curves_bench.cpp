@@ -3,6 +3,7 @@
 
 #include "bench/Turns.h"
 #include "calc/Calculate.h"
+#include "calc/ChartKinds.h"
 #include "tests/calc/PlainCurves.h"
 
 #include <cstdint>
@@ -30,7 +31,7 @@ PartRecord TypicalPart(std::string_view tcc)
 struct Case
 {
     std::string_view Tcc;
-    ChartType Type;
+    ChartId Type;
     const char* XAxisName;
     const char* YAxisName;
     const char* ParameterName = "";
@@ -41,7 +42,7 @@ struct Case
 ChartRecord RecordOf(const Case& with)
 {
     ChartRecord record;
-    record.ChartType = static_cast<std::int16_t>(with.Type);
+    record.ChartType = NumberOf(with.Type);
     record.XAxisName = with.XAxisName;
     record.YAxisName = with.YAxisName;
     record.ParameterName = with.ParameterName;
@@ -96,10 +97,10 @@ void CompareCurve(const std::string& name, const Case& with)
         });
 }
 
-constexpr auto rise = ChartType::TemperatureRise;
-constexpr auto allowable = ChartType::AllowablePower;
-constexpr auto overTemperature = ChartType::CapacitanceTemperature;
-constexpr auto overBias = ChartType::CapacitanceDCVoltage;
+constexpr auto rise = ChartId::TemperatureRise;
+constexpr auto allowable = ChartId::AllowablePower;
+constexpr auto overTemperature = ChartId::CapacitanceTemperature;
+constexpr auto overBias = ChartId::CapacitanceDCVoltage;
 constexpr auto jis = CodeView::Jis;
 
 const std::pair<const char*, Case> cases[] = {

@@ -1,5 +1,6 @@
 #include "calc/AllowablePower.h"
 
+#include "calc/Bounds.h"
 #include "calc/CheckedMath.h"
 #include "calc/FrequencyLaws.h"
 #include "calc/Log10.h"
@@ -14,7 +15,10 @@ void SetLogarithmicAxes(Curve& curve)
 {
     const auto [smallest, largest] = std::ranges::minmax_element(curve.YData);
     curve.ExtraValue = *largest;
-    curve.Limits = {.XMax = 1e6F, .YMax = 1, .XMin = 1e4F, .YMin = 0.1F};
+    curve.Limits = {.XMax = static_cast<float>(HighestFrequencyHz),
+                    .YMax = 1,
+                    .XMin = static_cast<float>(LowestFrequencyHz),
+                    .YMin = 0.1F};
     if (*smallest > 0)
     {
         curve.Limits.YMax = StoredSingle(std::pow(10.0, std::floor(Log10(*largest)) + 1));
@@ -33,6 +37,31 @@ template <class LoadAt> Curve CurveOverFrequency(LoadAt loadAt)
     SetLogarithmicAxes(curve);
     return curve;
 }
+
+Curve LargestCurrents(const PowerModel& model, double permittedRise)
+{
+    const auto kI = kIOverFrequency(model);
+    return CurveOverFrequency([&](std::size_t i) { return CurrentOfRise(permittedRise, kI[i]); });
+}
+
+Curve LargestVoltages(const PowerModel& model, double voltageBound, double permittedRise)
+{
+    const auto volts = VoltageOverFrequency(model, permittedRise);
+    return CurveOverFrequency([&](std::size_t i) { return std::min(volts[i], voltageBound); });
+}
+
+Curve LargestApparentPowers(const PowerModel& model, double voltageBound, double permittedRise)
+{
+    const auto loads = ApparentPowerOverFrequency(model, permittedRise, voltageBound);
+    return CurveOverFrequency([&](std::size_t i) { return loads[i]; });
+}
+
+Curve LargestEffectivePowers(const PowerModel& model, double voltageBound, double permittedRise)
+{
+    const auto volts = VoltageOverFrequency(model, permittedRise);
+    const auto rises = BoundedRise(model, volts, permittedRise, voltageBound);
+    return CurveOverFrequency([&](std::size_t i) { return CheckedQuotient(rises[i], model.Rth); });
+}
 } // namespace
 
 double AllowableVoltageBound(double ratedVolts, double biasVolts)
@@ -40,29 +69,19 @@ double AllowableVoltageBound(double ratedVolts, double biasVolts)
     return biasVolts <= 0.5 * ratedVolts ? 0.354 * ratedVolts : 0.707 * (ratedVolts - biasVolts);
 }
 
-Curve AllowableLoad(const PowerModel& model, double voltageBound, double permittedRise,
-                    std::string_view yAxisName)
+Curve AllowableLoad(const PowerModel& model, double voltageBound, double permittedRise, Quantity load)
 {
-    if (yAxisName == "Current")
+    switch (load)
     {
-        const auto kI = kIOverFrequency(model);
-        return CurveOverFrequency([&](std::size_t i) { return CurrentOfRise(permittedRise, kI[i]); });
+    case Quantity::Current:
+        return LargestCurrents(model, permittedRise);
+    case Quantity::RmsVoltage:
+        return LargestVoltages(model, voltageBound, permittedRise);
+    case Quantity::ApparentPower:
+        return LargestApparentPowers(model, voltageBound, permittedRise);
+    case Quantity::EffectivePower:
+        return LargestEffectivePowers(model, voltageBound, permittedRise);
+    default:
+        FailOn(load);
     }
-    if (yAxisName == "Voltage")
-    {
-        const auto volts = VoltageOverFrequency(model, permittedRise);
-        return CurveOverFrequency([&](std::size_t i) { return std::min(volts[i], voltageBound); });
-    }
-    if (yAxisName == "Apparent Power")
-    {
-        const auto loads = ApparentPowerOverFrequency(model, permittedRise, voltageBound);
-        return CurveOverFrequency([&](std::size_t i) { return loads[i]; });
-    }
-    if (yAxisName == "Effective Power")
-    {
-        const auto volts = VoltageOverFrequency(model, permittedRise);
-        const auto rises = BoundedRise(model, volts, permittedRise, voltageBound);
-        return CurveOverFrequency([&](std::size_t i) { return CheckedQuotient(rises[i], model.Rth); });
-    }
-    return {};
 }

@@ -1,15 +1,10 @@
 #include "calc/Calculate.h"
 
-#include "calc/AllowablePower.h"
-#include "calc/Capacitance.h"
-#include "calc/TemperatureRise.h"
+#include "calc/ChartKinds.h"
 
-#include <cmath>
 #include <variant>
 
-namespace
-{
-void WriteCurve(ChartRecord& record, const Curve& curve)
+static void WriteCurve(ChartRecord& record, const Curve& curve)
 {
     if (curve.HasPoints)
     {
@@ -23,54 +18,18 @@ void WriteCurve(ChartRecord& record, const Curve& curve)
     record.ExtraValue = curve.ExtraValue;
 }
 
-PowerModel ModelOf(const PartRecord& part, const ChartRecord& record)
+std::optional<ParameterRefusal> Calculate(const PartRecord& part, ChartRecord& record, CodeView view)
 {
-    return PowerModelOf(part, record.DCBiasVoltage, record.AmbientTemp, record.HeatResistance);
-}
-
-std::optional<ParameterRefusal> CalculateRise(const PartRecord& part, ChartRecord& record)
-{
-    const auto model = ModelOf(part, record);
-    if (record.XAxisName != "Frequency")
-    {
-        const double frequencyHz = record.Frequency * std::pow(10.0, 3);
-        WriteCurve(record, RiseOverLoad(model, RatedVoltage(part), frequencyHz, record.XAxisName));
-        return std::nullopt;
-    }
-    const auto result =
-        RiseOverFrequency(model, RatedVoltage(part), record.ParameterName, record.ParameterValue);
+    const ChartSweep& sweep = SweepOf(record.ChartType, record.XAxisName);
+    const auto result = sweep.CurveOf({.Part = part,
+                                       .Line = record,
+                                       .X = QuantityNamed(record.XAxisName),
+                                       .Y = QuantityNamed(record.YAxisName),
+                                       .View = view});
     if (const auto* refusal = std::get_if<ParameterRefusal>(&result))
     {
         return *refusal;
     }
     WriteCurve(record, std::get<Curve>(result));
-    return std::nullopt;
-}
-
-void CalculateAllowable(const PartRecord& part, ChartRecord& record)
-{
-    const auto model = ModelOf(part, record);
-    const double voltageBound = AllowableVoltageBound(RatedVoltage(part), record.DCBiasVoltage);
-    const double permittedRise = dTallow(part.Data[Value::UpperTemperature], record.AmbientTemp);
-    WriteCurve(record, AllowableLoad(model, voltageBound, permittedRise, record.YAxisName));
-}
-} // namespace
-
-std::optional<ParameterRefusal> Calculate(const PartRecord& part, ChartRecord& record, CodeView view)
-{
-    switch (static_cast<ChartType>(record.ChartType))
-    {
-    case ChartType::TemperatureRise:
-        return CalculateRise(part, record);
-    case ChartType::AllowablePower:
-        CalculateAllowable(part, record);
-        break;
-    case ChartType::CapacitanceTemperature:
-        WriteCurve(record, CalcCapTemperature(part, record.DCBiasVoltage, record.YAxisName, view));
-        break;
-    case ChartType::CapacitanceDCVoltage:
-        WriteCurve(record, CalcCapDCVoltage(part, record.AmbientTemp, record.YAxisName, view));
-        break;
-    }
     return std::nullopt;
 }

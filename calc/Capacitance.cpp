@@ -1,5 +1,6 @@
 #include "calc/Capacitance.h"
 
+#include "calc/Bounds.h"
 #include "calc/CapacitanceAxes.h"
 #include "calc/CheckedMath.h"
 #include "calc/Sweep.h"
@@ -12,10 +13,6 @@
 
 namespace
 {
-/// Temperature of the coefficients, and the reference of the JIS view, in °C.
-constexpr double measuredAtC = 25;
-constexpr double jisReferenceC = 20;
-
 /// The values of a part, widened once to the precision of the arithmetic.
 using Coefficients = std::array<double, DataValues>;
 
@@ -53,7 +50,7 @@ double BiasChange(const Coefficients& data, double volts)
 /// Change by the temperature alone in the polynomial model, in percent.
 double TemperatureChange(const Coefficients& data, double celsius)
 {
-    return SixthDegree(data, Values::TemperaturePolynomial, celsius - measuredAtC);
+    return SixthDegree(data, Values::TemperaturePolynomial, celsius - double{EiaReferenceC});
 }
 
 /// Two changes in percent, one upon the other.
@@ -118,8 +115,8 @@ Reference ReferenceOf(const Coefficients& data, CapacitanceModel model, CodeView
     {
         return std::nullopt;
     }
-    const double change = model == CapacitanceModel::Peaked ? PeakAt(data, 0).ChangeAt(jisReferenceC)
-                                                            : TemperatureChange(data, jisReferenceC);
+    const double change = model == CapacitanceModel::Peaked ? PeakAt(data, 0).ChangeAt(JisReferenceC)
+                                                            : TemperatureChange(data, JisReferenceC);
     return CheckedFinite(CapacitanceAt(data[Value::NominalCapacitance], change));
 }
 
@@ -157,7 +154,7 @@ CurveValues StoredSingles(const SweepValues& values)
 /// does one simple thing to all points, so that it can work on several at a time.
 template <class ChangeAt>
 void StorePoints(Curve& curve, const SweepValues& sweep, double nominal, const Reference& reference,
-                 std::string_view yAxisName, ChangeAt changeAt)
+                 Quantity y, ChangeAt changeAt)
 {
     // A fault of the first point comes before that of a reference of zero.
     CheckedFinite(CapacitanceAt(nominal, changeAt(sweep[0])));
@@ -165,7 +162,7 @@ void StorePoints(Curve& curve, const SweepValues& sweep, double nominal, const R
 
     SweepValues values;
     std::ranges::transform(sweep, values.begin(), changeAt);
-    const bool isCapacitance = yAxisName == CapacitanceAxis;
+    const bool isCapacitance = y == Quantity::Capacitance;
     if (isCapacitance || reference)
     {
         std::ranges::transform(values, values.begin(),
@@ -178,7 +175,7 @@ void StorePoints(Curve& curve, const SweepValues& sweep, double nominal, const R
     }
     curve.XData = StoredSingles(sweep);
     curve.YData = StoredSingles(values);
-    curve.HasPoints = isCapacitance || yAxisName == CapacitanceChangeAxis;
+    curve.HasPoints = true;
 }
 
 /// Ends of the temperature sweep; both 0 for a characteristic that is not listed.
@@ -189,14 +186,14 @@ TemperatureRange SweepRangeOf(const PartRecord& part, CodeView view)
 }
 
 /// The finished curve: default limits around what was stored, or around 0 where nothing was.
-void SetLimits(Curve& curve, float xMax, float xMin, std::string_view yAxisName)
+void SetLimits(Curve& curve, float xMax, float xMin, Quantity quantity)
 {
     const Extremes y = curve.HasPoints ? ExtremesOf(curve.YData) : Extremes{};
-    curve.Limits = SetCapacitanceAxes(xMax, xMin, y.Largest, y.Smallest, yAxisName);
+    curve.Limits = SetCapacitanceAxes(xMax, xMin, y.Largest, y.Smallest, quantity);
 }
 } // namespace
 
-Curve CalcCapTemperature(const PartRecord& part, float biasVolts, std::string_view yAxisName, CodeView view)
+Curve CalcCapTemperature(const PartRecord& part, float biasVolts, Quantity y, CodeView view)
 {
     const auto data = CoefficientsOf(part);
     const auto model = CapacitanceModelOf(part);
@@ -209,21 +206,21 @@ Curve CalcCapTemperature(const PartRecord& part, float biasVolts, std::string_vi
         if (model == CapacitanceModel::Peaked)
         {
             const Peak peak = PeakAt(data, biasVolts);
-            StorePoints(curve, sweep, data[Value::NominalCapacitance], reference, yAxisName,
+            StorePoints(curve, sweep, data[Value::NominalCapacitance], reference, y,
                         [&](double celsius) { return peak.ChangeAt(celsius); });
         }
         else
         {
             const double b = BiasChange(data, biasVolts);
-            StorePoints(curve, sweep, data[Value::NominalCapacitance], reference, yAxisName,
+            StorePoints(curve, sweep, data[Value::NominalCapacitance], reference, y,
                         [&](double celsius) { return Combined(TemperatureChange(data, celsius), b); });
         }
     }
-    SetLimits(curve, range.MaxC, range.MinC, yAxisName);
+    SetLimits(curve, range.MaxC, range.MinC, y);
     return curve;
 }
 
-Curve CalcCapDCVoltage(const PartRecord& part, float ambientC, std::string_view yAxisName, CodeView view)
+Curve CalcCapDCVoltage(const PartRecord& part, float ambientC, Quantity y, CodeView view)
 {
     const auto data = CoefficientsOf(part);
     const auto model = CapacitanceModelOf(part);
@@ -234,16 +231,16 @@ Curve CalcCapDCVoltage(const PartRecord& part, float ambientC, std::string_view 
         const auto reference = ReferenceOf(data, model, view);
         if (model == CapacitanceModel::Peaked)
         {
-            StorePoints(curve, sweep, data[Value::NominalCapacitance], reference, yAxisName,
+            StorePoints(curve, sweep, data[Value::NominalCapacitance], reference, y,
                         [&](double volts) { return PeakAt(data, volts).ChangeAt(ambientC); });
         }
         else
         {
             const double p = TemperatureChange(data, ambientC);
-            StorePoints(curve, sweep, data[Value::NominalCapacitance], reference, yAxisName,
+            StorePoints(curve, sweep, data[Value::NominalCapacitance], reference, y,
                         [&](double volts) { return Combined(p, BiasChange(data, volts)); });
         }
     }
-    SetLimits(curve, part.Data[Value::RatedVoltage], 0, yAxisName);
+    SetLimits(curve, part.Data[Value::RatedVoltage], 0, y);
     return curve;
 }

@@ -8,17 +8,16 @@
 /// In the JIS view the change refers to the capacitance at 20 °C without bias, else to the nominal one.
 
 #include "calc/Curve.h"
+#include "calc/Quantities.h"
 #include "partdata/Characteristic.h"
 #include "partdata/PartRecord.h"
 
-#include <string_view>
-
-/// Capacitance (pF) or capacitance change (%), as `yAxisName` says, over the temperature range of the part's
-/// characteristic at a fixed bias. 200 points, both ends included. A part without a model, or another Y axis
-/// name, has no points, but default limits.
+/// Capacitance (pF) or capacitance change (%), as `y` says, over the temperature range of the part's
+/// characteristic at a fixed bias. 200 points, both ends included. A part without a model has no points, but
+/// default limits.
 ///
-/// Throws RunTimeError 5, 6 or 11 at the step that goes wrong.
-Curve CalcCapTemperature(const PartRecord& part, float biasVolts, std::string_view yAxisName, CodeView view);
+/// Throws RunTimeError 5 for another quantity, and 5, 6 or 11 at the step that goes wrong.
+Curve CalcCapTemperature(const PartRecord& part, float biasVolts, Quantity y, CodeView view);
 
 /// As `CalcCapTemperature`, over the bias from 0 to the rated voltage at a fixed temperature.
-Curve CalcCapDCVoltage(const PartRecord& part, float ambientC, std::string_view yAxisName, CodeView view);
+Curve CalcCapDCVoltage(const PartRecord& part, float ambientC, Quantity y, CodeView view);

@@ -26,17 +26,17 @@ std::optional<TemperatureRange> RoundedRangeOf(const TemperatureRange& range)
 }
 
 /// The step of a limit; 0 where there is none.
-double StepOf(float limit, std::string_view yAxisName)
+double StepOf(float limit, Quantity y)
 {
-    if (yAxisName == CapacitanceChangeAxis)
+    if (y == Quantity::CapacitanceChange)
     {
         return 10;
     }
-    if (yAxisName != CapacitanceAxis || limit == 0)
+    if (y != Quantity::Capacitance)
     {
-        return 0;
+        FailOn(y);
     }
-    return std::pow(10.0, std::floor(Log10(std::abs(double{limit}))));
+    return limit == 0 ? 0 : std::pow(10.0, std::floor(Log10(std::abs(double{limit}))));
 }
 
 /// Makes a limit whole unless its step is a fraction, which a whole number could not show.
@@ -61,13 +61,12 @@ float LowerLimit(double smallest, double step)
 }
 } // namespace
 
-AxisLimits SetCapacitanceAxes(float xMax, float xMin, float largestY, float smallestY,
-                              std::string_view yAxisName)
+AxisLimits SetCapacitanceAxes(float xMax, float xMin, float largestY, float smallestY, Quantity y)
 {
-    AxisLimits limits{.XMax = StoredSingle(xMax),
-                      .YMax = UpperLimit(largestY, StepOf(largestY, yAxisName)),
+    AxisLimits limits{.XMax = static_cast<float>(CheckedFinite(xMax)),
+                      .YMax = UpperLimit(largestY, StepOf(largestY, y)),
                       .XMin = xMin,
-                      .YMin = LowerLimit(smallestY, StepOf(smallestY, yAxisName))};
+                      .YMin = LowerLimit(smallestY, StepOf(smallestY, y))};
     if (const auto rounded = RoundedRangeOf({.MinC = xMin, .MaxC = xMax}))
     {
         limits.XMax = rounded->MaxC;

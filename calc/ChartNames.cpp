@@ -1,23 +1,19 @@
 #include "calc/ChartNames.h"
 
-#include <cassert>
+#include "calc/ChartKinds.h"
+
+#include <algorithm>
 
 std::int16_t GetChartTypeNumber(std::string_view name)
 {
-    for (std::size_t i = 0; i < ChartTypeNames.size(); ++i)
-    {
-        if (ChartTypeNames[i] == name)
-        {
-            return static_cast<std::int16_t>(i);
-        }
-    }
-    return 0;
+    const auto kinds = ChartKinds();
+    const auto found = std::ranges::find(kinds, name, &ChartKind::Caption);
+    return found != kinds.end() ? NumberOf(found->Id) : std::int16_t{0};
 }
 
 std::string ChartCaption(const ChartKey& chart)
 {
-    assert(HasChartTypeName(chart.ChartType));
-    std::string caption(ChartTypeNames[static_cast<std::size_t>(chart.ChartType)]);
+    std::string caption(ChartKindOf(chart.ChartType).Caption);
     caption.append("(").append(chart.XAxisName).append(",").append(chart.YAxisName).append(")");
     return caption;
 }

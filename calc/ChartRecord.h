@@ -10,19 +10,11 @@
 inline constexpr std::size_t CurvePoints = 200;
 using CurveValues = std::array<float, CurvePoints>;
 
-/// Chart type numbers, the indices of the chart type buttons.
-enum class ChartType : std::int16_t
-{
-    TemperatureRise = 0,
-    AllowablePower = 1,
-    CapacitanceTemperature = 2,
-    CapacitanceDCVoltage = 3,
-};
-
 /// One line of a chart. Voltages in V, frequency in kHz, temperatures in °C, heat resistance in °C/W;
 /// X and Y in the unit of their axis, except that an X of frequency is in Hz.
 struct ChartRecord
 {
+    /// The number of the chart type, the index of its button.
     std::int16_t ChartType = 0;
     std::string XAxisName;
     std::string YAxisName;

@@ -3,6 +3,7 @@
 /// Which conditions a curve was computed under, as the saved file and the printed pages tell them.
 
 #include "calc/ChartRecord.h"
+#include "calc/Conditions.h"
 
 #include <string>
 #include <vector>
@@ -10,6 +11,7 @@
 /// One condition of a line: "DC Bias Voltage", "2.5", "[V]".
 struct ConditionLine
 {
+    Condition Id;
     std::string Name;
     /// Number text of the value.
     std::string Value;

@@ -1,18 +1,18 @@
 #include "calc/DataFile.h"
 
-#include "calc/ChartNames.h"
+#include "calc/ChartKinds.h"
 #include "calc/ConditionLines.h"
 #include "calc/NumberText.h"
 #include "calc/ProgramTitle.h"
-#include "calc/Units.h"
+#include "calc/Quantities.h"
 
 static constexpr std::string_view ColumnGap = "            ";
 static constexpr std::string_view LineEnd = "\r\n";
 
 std::string DataXText(const ChartRecord& line, std::size_t point)
 {
-    const float hzPerShown = line.XAxisName == "Frequency" ? 1000.0F : 1.0F;
-    return FormatNumber(line.XData[point] / hzPerShown, NumberFormat::ScientificTwo);
+    const float perShown = KindOf(QuantityNamed(line.XAxisName)).StoredPerShown;
+    return FormatNumber(line.XData[point] / perShown, NumberFormat::ScientificTwo);
 }
 
 std::string DataYText(const ChartRecord& line, std::size_t point)
@@ -35,7 +35,7 @@ std::string DataFileText(const ChartRecord& line, const PartRecord& part, CodeVi
     const auto code = static_cast<std::size_t>(view);
     std::string text;
     AddLine(text, "!", ProgramTitleText, "  ", date);
-    AddLine(text, "!ChartType-> ", ChartTypeNames[static_cast<std::size_t>(line.ChartType)]);
+    AddLine(text, "!ChartType-> ", ChartKindOf(line.ChartType).Caption);
     AddLine(text, "!Halvex Part Number-> ", part.PartNum[code], " (", part.PartNum[code + 2], ")");
     for (const ConditionLine& condition : conditions)
     {

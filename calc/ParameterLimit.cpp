@@ -3,11 +3,12 @@
 #include "calc/CheckedMath.h"
 #include "calc/NumberText.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <string_view>
 
-std::optional<ParameterRefusal> RefuseParameter(float parameter, double limit)
+std::optional<ParameterRefusal> RefuseLoad(float parameter, double limit)
 {
     const float storedLimit = StoredSingle(limit);
     if (parameter >= 0 && parameter <= storedLimit)
@@ -26,8 +27,9 @@ float CutToFourDigits(float number)
     // The shortest decimal, so that a limit of 0.3 is not cut to 0.2999; "d.ddd" are its first five
     // characters.
     std::array<char, 32> text{};
-    const auto end = std::to_chars(text.begin(), text.end(), number, std::chars_format::scientific).ptr;
-    const std::string_view digits(text.begin(), end);
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::scientific).ptr;
+    const std::string_view digits(text.data(), end);
     const auto exponentAt = digits.find('e');
     const std::string cut =
         std::string(digits.substr(0, std::min<std::size_t>(exponentAt, 5))).append(digits.substr(exponentAt));

@@ -1,5 +1,6 @@
 #include "calc/PowerModel.h"
 
+#include "calc/Bounds.h"
 #include "calc/Log10.h"
 #include "partdata/RunTimeError.h"
 
@@ -7,12 +8,6 @@
 
 namespace
 {
-/// Temperature that the heating was measured at, in °C.
-constexpr double measuredAtC = 20;
-
-/// Rise that is permitted well below the upper operating temperature, in °C.
-constexpr float fullRise = 20;
-
 using PartData = std::array<float, DataValues>;
 
 double QuadraticIn(double t, float constant, float linear, float square)
@@ -39,7 +34,7 @@ PowerModel PowerModelOf(const PartRecord& part, float biasVolts, float ambientC,
 {
     const auto& data = part.Data;
     const double r = CheckedQuotient(biasVolts, RatedVoltage(part));
-    const double t = ambientC - measuredAtC;
+    const double t = ambientC - double{HeatingReferenceC};
     return {
         .Q1 = QuadraticIn(t, data[Value::CurrentPerF], data[Value::CurrentTPerF], data[Value::CurrentT2PerF]),
         .Q2 = QuadraticIn(t, data[Value::Current], data[Value::CurrentT], data[Value::CurrentT2]),
@@ -67,10 +62,10 @@ double PowerModel::kV(double frequencyHz) const
 
 double dTallow(float maxC, float ambientC)
 {
-    const float fullRiseBelow = maxC - fullRise;
+    const float fullRiseBelow = maxC - RecommendedRise;
     if (ambientC < fullRiseBelow)
     {
-        return fullRise;
+        return RecommendedRise;
     }
     return ambientC <= maxC ? double{maxC} - double{ambientC} : 0;
 }

@@ -1,5 +1,6 @@
 #include "calc/TemperatureRise.h"
 
+#include "calc/Bounds.h"
 #include "calc/CheckedMath.h"
 #include "calc/DefaultAxes.h"
 #include "calc/FrequencyLaws.h"
@@ -80,9 +81,9 @@ Curve CurveOverEffectivePower(const PowerModel& model)
 AxisLimits FrequencyLimits(float largestRise)
 {
     constexpr auto ceiling = static_cast<float>(RiseCeiling);
-    return {.XMax = 1e6F,
+    return {.XMax = static_cast<float>(HighestFrequencyHz),
             .YMax = largestRise >= ceiling ? ceiling : NextTenAbove(largestRise),
-            .XMin = 1e4F,
+            .XMin = static_cast<float>(LowestFrequencyHz),
             .YMin = 0};
 }
 
@@ -111,7 +112,7 @@ RiseResult RiseByCurrent(const PowerModel& model, float amperes)
 {
     const auto kI = kIOverFrequency(model);
     const double limit = CurrentOfRise(RiseCeiling, std::ranges::max(kI));
-    if (auto refusal = RefuseParameter(amperes, limit))
+    if (auto refusal = RefuseLoad(amperes, limit))
     {
         return *refusal;
     }
@@ -125,7 +126,7 @@ RiseResult RiseByVoltage(const PowerModel& model, double ratedVolts, float volts
     const double limit =
         std::min({RiseVoltageBound * ratedVolts, VoltageOfRise(RiseCeiling, model.kV(hz.front()), model.S3),
                   VoltageOfRise(RiseCeiling, model.kV(hz.back()), model.S3)});
-    if (auto refusal = RefuseParameter(volts, limit))
+    if (auto refusal = RefuseLoad(volts, limit))
     {
         return *refusal;
     }
@@ -138,7 +139,7 @@ RiseResult RiseByApparentPower(const PowerModel& model, double ratedVolts, float
 {
     const auto loads = ApparentPowerOverFrequency(model, RiseCeiling, RiseVoltageBound * ratedVolts);
     const double exponent = ApparentPowerExponent(model.S3);
-    if (auto refusal = RefuseParameter(voltAmperes, std::ranges::min(loads)))
+    if (auto refusal = RefuseLoad(voltAmperes, std::ranges::min(loads)))
     {
         return *refusal;
     }
@@ -158,7 +159,7 @@ RiseResult RiseByApparentPower(const PowerModel& model, double ratedVolts, float
 
 RiseResult RiseByEffectivePower(const PowerModel& model, float watts)
 {
-    if (auto refusal = RefuseParameter(watts, CheckedQuotient(RiseCeiling, model.Rth)))
+    if (auto refusal = RefuseLoad(watts, CheckedQuotient(RiseCeiling, model.Rth)))
     {
         return *refusal;
     }
@@ -166,45 +167,37 @@ RiseResult RiseByEffectivePower(const PowerModel& model, float watts)
 }
 } // namespace
 
-Curve RiseOverLoad(const PowerModel& model, double ratedVolts, double frequencyHz, std::string_view xAxisName)
+Curve RiseOverLoad(const PowerModel& model, double ratedVolts, double frequencyHz, Quantity load)
 {
-    if (xAxisName == "Current")
+    switch (load)
     {
+    case Quantity::Current:
         return CurveOverCurrent(model, frequencyHz);
-    }
-    if (xAxisName == "Voltage")
-    {
+    case Quantity::RmsVoltage:
         return CurveOverVoltage(model, ratedVolts, frequencyHz);
-    }
-    if (xAxisName == "Apparent Power")
-    {
+    case Quantity::ApparentPower:
         return CurveOverApparentPower(model, ratedVolts, frequencyHz);
-    }
-    if (xAxisName == "Effective Power")
-    {
+    case Quantity::EffectivePower:
         return CurveOverEffectivePower(model);
+    default:
+        FailOn(load);
     }
-    return {};
 }
 
 std::variant<Curve, ParameterRefusal> RiseOverFrequency(const PowerModel& model, double ratedVolts,
-                                                        std::string_view parameterName, float parameter)
+                                                        Quantity load, float parameter)
 {
-    if (parameterName == "Current")
+    switch (load)
     {
+    case Quantity::Current:
         return RiseByCurrent(model, parameter);
-    }
-    if (parameterName == "Voltage")
-    {
+    case Quantity::RmsVoltage:
         return RiseByVoltage(model, ratedVolts, parameter);
-    }
-    if (parameterName == "Apparent Power")
-    {
+    case Quantity::ApparentPower:
         return RiseByApparentPower(model, ratedVolts, parameter);
-    }
-    if (parameterName == "Effective Power")
-    {
+    case Quantity::EffectivePower:
         return RiseByEffectivePower(model, parameter);
+    default:
+        FailOn(load);
     }
-    return Curve{};
 }

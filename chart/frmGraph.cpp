@@ -2,6 +2,7 @@
 
 #include "app/PartNumText.h"
 #include "app/mdlPublic.h"
+#include "calc/ChartKinds.h"
 #include "calc/ChartNames.h"
 #include "chart/drawing/QtColors.h"
 #include "chart/layout/ChartDrawing.h"
@@ -166,7 +167,7 @@ void frmGraph::InitChartWindow(const ChartKey& chart)
     {
         showNormal();
     }
-    if (HasChartTypeName(chart.ChartType))
+    if (FindChartKind(chart.ChartType) != nullptr)
     {
         const std::string caption = ChartCaption(chart);
         setWindowTitle(QString::fromStdString(caption));

@@ -2,7 +2,7 @@
 
 #include "app/PartNumText.h"
 #include "app/mdlPublic.h"
-#include "calc/ChartNames.h"
+#include "calc/ChartKinds.h"
 #include "chart/ElidedLabel.h"
 #include "chart/drawing/ChartSheet.h"
 #include "chart/frmSetAxis.h"
@@ -68,7 +68,7 @@ void frmGraph::mnuChartClipboard_Click()
 
 void frmGraph::mnuFilePrint_Click()
 {
-    const auto name = ChartTypeNames[static_cast<std::size_t>(key.ChartType)];
+    const auto name = ChartKindOf(key.ChartType).Caption;
     const auto question = QStringLiteral("Would you print %1 Chart ?").arg(FromAnsi(name));
     if (!AskOkCancel(this, question))
     {

@@ -1,6 +1,7 @@
 #include "chart/frmSetAxis.h"
 
 #include "calc/NumberText.h"
+#include "calc/Quantities.h"
 #include "chart/layout/AxisLimits.h"
 #include "formkit/Entries.h"
 #include "formkit/Messages.h"
@@ -9,10 +10,9 @@
 #include <QFocusEvent>
 #include <QLineEdit>
 
-/// Frequencies are kept in Hz and shown in kHz; every other quantity is shown as it is kept.
-static float ShownFactor(const std::string& quantity)
+static float ShownFactor(const std::string& axisName)
 {
-    return quantity == "Frequency" ? 1000.0F : 1.0F;
+    return KindOf(QuantityNamed(axisName)).StoredPerShown;
 }
 
 static QString ShownText(float value, const std::string& quantity)

@@ -1,6 +1,6 @@
 #include "cli/LineOption.h"
 
-#include "calc/ChartNames.h"
+#include "calc/ChartKinds.h"
 #include "cli/Command.h"
 #include "cli/RequestWords.h"
 #include "requests/Names.h"
@@ -13,26 +13,36 @@
 static std::vector<std::string> LineNames()
 {
     std::vector<std::string> names;
-    std::ranges::transform(ConditionFields, std::back_inserter(names), OptionNameOf, &RequestField::Key);
-    std::ranges::transform(ParameterNames, std::back_inserter(names), RequestNameOf);
+    for (const ConditionKind& kind : ConditionKinds())
+    {
+        if (kind.Measures)
+        {
+            names.push_back(OptionNameOf(kind.Key));
+        }
+    }
+    for (const Quantity load : Parameters)
+    {
+        names.push_back(RequestNameOf(NameOf(load)));
+    }
     return names;
 }
 
 static void TakeCondition(CurveRequest& request, const std::string& name, const std::string& value)
 {
-    const auto names = LineNames();
-    const auto found = static_cast<std::size_t>(std::ranges::find(names, name) - names.begin());
-    if (found == names.size())
+    const auto conditions = ConditionKinds();
+    const auto condition = std::ranges::find_if(conditions, [&](const ConditionKind& kind)
+                                                { return kind.Measures && OptionNameOf(kind.Key) == name; });
+    if (condition != conditions.end())
     {
-        throw UsageError('"' + name + "\" is none of: " + ListOf(names));
-    }
-    if (found < ConditionFields.size())
-    {
-        request.*ConditionFields[found].Text = value;
+        request.Conditions[condition->Id] = value;
         return;
     }
+    if (std::ranges::none_of(Parameters, [&](Quantity load) { return RequestNameOf(NameOf(load)) == name; }))
+    {
+        throw UsageError('"' + name + "\" is none of: " + ListOf(LineNames()));
+    }
     request.Parameter = name;
-    request.ParameterValue = value;
+    request.Conditions[Condition::Parameter] = value;
 }
 
 CurveRequest RequestOfLine(const std::string& line, const CurveRequest& defaults)

@@ -5,8 +5,8 @@
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
 #include "requests/PartList.h"
-#include "requests/Quantity.h"
 #include "requests/RequestError.h"
+#include "requests/UnitEntry.h"
 
 #include <CLI/CLI.hpp>
 
@@ -87,7 +87,7 @@ void AddPartsCommand(CLI::App& app)
               { filter.Capacitance = ValueInUnit(value, Quantity::Capacitance); });
     AddFilter(command, "--rated-voltage", "V", "Rated voltage, such as 25V",
               [&filter](const std::string& value)
-              { filter.RatedVoltage = ValueInUnit(value, Quantity::Voltage); });
+              { filter.RatedVoltage = ValueInUnit(value, Quantity::DCVoltage); });
     AddCodeOption(command, options->Code);
     AddNumberingOption(command, options->Settings);
     AddDataOption(command, options->DataFolder);

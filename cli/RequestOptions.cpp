@@ -23,7 +23,7 @@ void TakeParameter(CurveRequest& request, const std::string& text)
         throw UsageError("--parameter \"" + text + "\": wants NAME=VALUE, for example current=1.5");
     }
     request.Parameter = text.substr(0, equals);
-    request.ParameterValue = text.substr(equals + 1);
+    request.Conditions[Condition::Parameter] = text.substr(equals + 1);
 }
 
 void AddRequestOptions(CLI::App& command, CurveRequest& request)
@@ -35,11 +35,12 @@ void AddRequestOptions(CLI::App& command, CurveRequest& request)
         ->group("Curve");
     AddText(command, "--x", request.X, "NAME", "X axis, for example \"Apparent Power\"");
     AddText(command, "--y", request.Y, "NAME", "Y axis, for example \"Capacitance Change\"");
-    AddText(command, "--dc-bias", request.DCBias, "V", "DC bias voltage");
-    AddText(command, "--frequency", request.Frequency, "kHz", "Frequency, 10 to 1000 kHz");
-    AddText(command, "--heat-resistance", request.HeatResistance, "C/W",
+    AddText(command, "--dc-bias", request.Conditions[Condition::DCBias], "V", "DC bias voltage");
+    AddText(command, "--frequency", request.Conditions[Condition::Frequency], "kHz",
+            "Frequency, 10 to 1000 kHz");
+    AddText(command, "--heat-resistance", request.Conditions[Condition::HeatResistance], "C/W",
             "Heat resistance (left out: the part's own)");
-    AddText(command, "--ambient", request.Ambient, "C",
+    AddText(command, "--ambient", request.Conditions[Condition::AmbientTemperature], "C",
             "Ambient temperature (left out: 25 in EIA, 20 in JIS code)");
     command
         .add_option_function<std::string>(

@@ -1,6 +1,6 @@
 #include "frame/DataPage.h"
 
-#include "calc/ChartNames.h"
+#include "calc/ChartKinds.h"
 #include "calc/ConditionLines.h"
 #include "calc/DataFile.h"
 #include "chart/drawing/QtColors.h"
@@ -94,7 +94,7 @@ QString Utf8(const std::string& text)
 void DrawNames(const DataPage& page, DataSheet& sheet)
 {
     const auto form = static_cast<std::size_t>(page.View);
-    const auto type = ChartTypeNames.at(static_cast<std::size_t>(page.Line.ChartType));
+    const auto type = ChartKindOf(page.Line.ChartType).Caption;
     sheet.Write(0, 105, ProgramTitle() + "  " + page.Date);
     sheet.Write(0, 103, "ChartType -> " + Utf8(std::string(type)));
     sheet.Write(0, 101,

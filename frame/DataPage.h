@@ -3,7 +3,7 @@
 /// The printed data page: what a curve is of, and all its points in three columns.
 
 #include "calc/ChartRecord.h"
-#include "calc/Units.h"
+#include "calc/Quantities.h"
 #include "chart/drawing/PageArea.h"
 #include "partdata/PartRecord.h"
 

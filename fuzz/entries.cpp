@@ -1,7 +1,7 @@
 /// What a user types into a box: a number that reads back from its own text, or none; judged without a fault.
 
 #include "calc/ChartNames.h"
-#include "calc/ConditionRules.h"
+#include "calc/Conditions.h"
 #include "calc/NumberText.h"
 #include "fuzz/Require.h"
 #include "partdata/Windows1252.h"
@@ -17,18 +17,21 @@ static void TryRules(std::string_view entry, EntryLocale locale, std::optional<f
     part.Data[Value::RatedVoltage] = 50;
     part.Data[Value::UpperTemperature] = 85;
     const bool permitted = value && *value >= 0 && *value <= 50;
-    Require(!RefuseDCBiasVol(entry, part, 0, locale) == permitted,
+    Require(!RefuseDCBias(entry, part, CodeView::Eia, locale) == permitted,
             "a bias is permitted from 0 to the rating");
-    Require(!RefuseFrequency(entry, locale) == (value && *value >= 10 && *value <= 1000),
+    Require(!RefuseFrequency(entry, part, CodeView::Eia, locale) == (value && *value >= 10 && *value <= 1000),
             "a frequency is permitted from 10 to 1000");
-    Require(!RefuseHeatResistance(entry, locale) == (value && *value > 0 && std::isfinite(*value)),
+    Require(!RefuseHeatResistance(entry, part, CodeView::Eia, locale) ==
+                (value && *value > 0 && std::isfinite(*value)),
             "a heat resistance is permitted above 0");
-    Require(!RefuseAmbientTemp1(entry, part, locale) == (value && *value >= 20 && *value <= 85),
+    Require(!RefuseHeatingAmbient(entry, part, CodeView::Eia, locale) ==
+                (value && *value >= 20 && *value <= 85),
             "an ambient temperature is permitted from 20 to the part's limit");
-    Require(!RefuseAmbientTemp2(entry, part, CodeView::Jis, locale) ==
+    Require(!RefuseClassAmbient(entry, part, CodeView::Jis, locale) ==
                 (value && *value >= -25 && *value <= 85),
             "an ambient temperature is permitted within the characteristic's range");
-    Require(!RefuseParameter(entry, locale) == value.has_value(), "a parameter is any number");
+    Require(!RefuseNoNumber(entry, part, CodeView::Eia, locale) == value.has_value(),
+            "a parameter is any number");
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

@@ -1,10 +1,10 @@
 /// A pair of part files as the program loads it: a table that agrees with itself and with both files, or one
 /// run-time error that names the place.
 
+#include "calc/ChartKinds.h"
 #include "fuzz/Allocations.h"
 #include "fuzz/PairInput.h"
 #include "fuzz/Require.h"
-#include "partdata/Availability.h"
 #include "partdata/DataReader.h"
 #include "partdata/PartTable.h"
 #include "partdata/RunTimeError.h"

@@ -2,8 +2,9 @@
 
 #include "calc/NumberText.h"
 #include "fuzz/Require.h"
-#include "requests/Quantity.h"
+#include "partdata/RunTimeError.h"
 #include "requests/RequestError.h"
+#include "requests/UnitEntry.h"
 
 #include <array>
 #include <cmath>
@@ -22,7 +23,7 @@ struct Unit
 };
 } // namespace
 
-static constexpr std::array<Unit, 10> Units = {{{Quantity::Voltage, "Vdc", 0},
+static constexpr std::array<Unit, 10> Units = {{{Quantity::DCVoltage, "Vdc", 0},
                                                 {Quantity::RmsVoltage, "Vrms", 0},
                                                 {Quantity::Current, "Arms", 0},
                                                 {Quantity::EffectivePower, "W", 0},
@@ -31,7 +32,7 @@ static constexpr std::array<Unit, 10> Units = {{{Quantity::Voltage, "Vdc", 0},
                                                 {Quantity::Temperature, "\u00B0C", 0},
                                                 {Quantity::HeatResistance, "K/W", 0},
                                                 {Quantity::Capacitance, "F", -12},
-                                                {Quantity::Change, "%", 0}}};
+                                                {Quantity::CapacitanceChange, "%", 0}}};
 
 /// What a number and the blanks around it consist of.
 static constexpr std::string_view NumberLetters = " \t.+-0123456789eE";
@@ -46,7 +47,8 @@ static int PowerOf(const Unit& unit, std::string_view typed)
         return unit.BareExponent;
     }
     const bool takesPrefix = unit.Measures != Quantity::Temperature &&
-                             unit.Measures != Quantity::HeatResistance && unit.Measures != Quantity::Change;
+                             unit.Measures != Quantity::HeatResistance &&
+                             unit.Measures != Quantity::CapacitanceChange;
     if (!takesPrefix)
     {
         return 0;
@@ -136,11 +138,11 @@ static void TryQuantityName(std::string_view typed)
 {
     try
     {
-        QuantityOf(typed);
+        QuantityNamed(typed);
     }
-    catch (const RequestError& error)
+    catch (const RunTimeError& error)
     {
-        Require(error.Message() == '"' + std::string(typed) + "\" is no quantity",
+        Require(error.Description().ends_with("no quantity " + std::string(typed)),
                 "a refusal names the quantity");
     }
 }

@@ -96,6 +96,8 @@ struct ValueGroup
 {
     std::size_t First;
     std::size_t Last;
+
+    bool operator==(const ValueGroup&) const = default;
 };
 
 /// Groups of values that are used, checked or missing together.

@@ -1,7 +1,8 @@
 #include "partfiles/PowerCheck.h"
 
 #include "calc/AllowablePower.h"
-#include "calc/ChartNames.h"
+#include "calc/Bounds.h"
+#include "calc/ChartKinds.h"
 #include "calc/NumberText.h"
 #include "calc/PowerModel.h"
 #include "calc/Sweep.h"
@@ -15,8 +16,6 @@
 
 namespace
 {
-/// The lowest ambient temperature that can be entered for the power charts, and that of the measurement.
-constexpr float LowestAmbientC = 20;
 /// No ceramic capacitor of these characteristics works hotter.
 constexpr float HottestC = 200;
 
@@ -34,11 +33,11 @@ bool CheckHeatResistance(const PartRecord& part, ValueFindings& findings)
 bool CheckUpperTemperature(const PartRecord& part, ValueFindings& findings)
 {
     const float upper = part.Data[Value::UpperTemperature];
-    if (upper < LowestAmbientC || upper > HottestC)
+    if (upper < LowestHeatingAmbientC || upper > HottestC)
     {
         findings.AddValue(Severity::Error, "upper-temperature", Value::UpperTemperature,
-                          "the upper temperature is not between " + NumberText(LowestAmbientC) + " and " +
-                              NumberText(HottestC) + " °C");
+                          "the upper temperature is not between " + NumberText(LowestHeatingAmbientC) +
+                              " and " + NumberText(HottestC) + " °C");
         return false;
     }
     const auto* const characteristic = FindCharacteristic(part.Tcc[0]);
@@ -94,8 +93,9 @@ bool CheckVoltageLaw(const PartRecord& part, ValueFindings& findings)
         for (int j = 0; j <= Steps; ++j)
         {
             const float volts = part.Data[Value::RatedVoltage] * static_cast<float>(j) / Steps;
-            const float celsius = LowestAmbientC + (part.Data[Value::UpperTemperature] - LowestAmbientC) *
-                                                       static_cast<float>(i) / Steps;
+            const float celsius =
+                LowestHeatingAmbientC +
+                (part.Data[Value::UpperTemperature] - LowestHeatingAmbientC) * static_cast<float>(i) / Steps;
             const double exponent = PowerModelOf(part, volts, celsius, part.Data[Value::HeatResistance]).S3;
             if (exponent <= 0)
             {
@@ -115,22 +115,20 @@ bool CheckVoltageLaw(const PartRecord& part, ValueFindings& findings)
 /// Draws every kind of curve at the ends of what can be entered, for what no single value shows.
 void CheckPowerCurves(const PartRecord& part)
 {
-    constexpr double LowestHertz = 1e4;
-    constexpr double HighestHertz = 1e6;
     const double rated = RatedVoltage(part);
-    for (const float ambient : {LowestAmbientC, part.Data[Value::UpperTemperature]})
+    for (const float ambient : {LowestHeatingAmbientC, part.Data[Value::UpperTemperature]})
     {
         for (const float bias : {0.0F, part.Data[Value::RatedVoltage] / 2, part.Data[Value::RatedVoltage]})
         {
             const auto model = PowerModelOf(part, bias, ambient, part.Data[Value::HeatResistance]);
-            for (const auto name : ParameterNames)
+            for (const auto load : Parameters)
             {
-                RiseOverLoad(model, rated, LowestHertz, name);
-                RiseOverLoad(model, rated, HighestHertz, name);
+                RiseOverLoad(model, rated, LowestFrequencyHz, load);
+                RiseOverLoad(model, rated, HighestFrequencyHz, load);
                 if (bias < part.Data[Value::RatedVoltage])
                 {
                     AllowableLoad(model, AllowableVoltageBound(rated, bias),
-                                  dTallow(part.Data[Value::UpperTemperature], ambient), name);
+                                  dTallow(part.Data[Value::UpperTemperature], ambient), load);
                 }
             }
         }

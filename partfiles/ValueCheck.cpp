@@ -174,11 +174,11 @@ void CheckCapacitanceCurves(const PartRecord& part, const Characteristic& charac
     const float rated = part.Data[Value::RatedVoltage];
     try
     {
-        CheckClassLimits(characteristic, CalcCapTemperature(part, 0, CapacitanceChangeAxis, CodeView::Eia),
-                         findings);
+        CheckClassLimits(characteristic,
+                         CalcCapTemperature(part, 0, Quantity::CapacitanceChange, CodeView::Eia), findings);
         for (const float volts : {0.0F, rated / 4, rated / 2, rated / 4 * 3, rated})
         {
-            if (!CheckNotNegative(CalcCapTemperature(part, volts, CapacitanceChangeAxis, CodeView::Eia),
+            if (!CheckNotNegative(CalcCapTemperature(part, volts, Quantity::CapacitanceChange, CodeView::Eia),
                                   " and " + RoundedText(volts) + " V", " °C", findings))
             {
                 return;
@@ -186,13 +186,13 @@ void CheckCapacitanceCurves(const PartRecord& part, const Characteristic& charac
         }
         for (const float celsius : {range.MinC, 25.0F, range.MaxC})
         {
-            if (!CheckNotNegative(CalcCapDCVoltage(part, celsius, CapacitanceChangeAxis, CodeView::Eia),
+            if (!CheckNotNegative(CalcCapDCVoltage(part, celsius, Quantity::CapacitanceChange, CodeView::Eia),
                                   " and " + RoundedText(celsius) + " °C", " V", findings))
             {
                 return;
             }
         }
-        CalcCapTemperature(part, rated, CapacitanceAxis, CodeView::Jis);
+        CalcCapTemperature(part, rated, Quantity::Capacitance, CodeView::Jis);
     }
     catch (const RunTimeError& error)
     {

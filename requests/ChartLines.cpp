@@ -1,11 +1,11 @@
 #include "requests/ChartLines.h"
 
 #include "calc/NumberText.h"
-#include "calc/Units.h"
+#include "calc/Quantities.h"
 #include "chart/layout/AxisLimits.h"
 #include "chart/layout/ChartDrawing.h"
-#include "requests/Quantity.h"
 #include "requests/RequestError.h"
+#include "requests/UnitEntry.h"
 
 #include <algorithm>
 
@@ -49,9 +49,8 @@ struct Axis
 static void Take(float& from, float& to, const std::optional<std::string>& typedFrom,
                  const std::optional<std::string>& typedTo, const Axis& axis)
 {
-    // A frequency is kept in Hz and shown in kHz.
-    const float factor = axis.Quantity == "Frequency" ? 1000.0F : 1.0F;
-    const auto quantity = QuantityOf(axis.Quantity);
+    const auto quantity = QuantityNamed(axis.Quantity);
+    const float factor = KindOf(quantity).StoredPerShown;
     const float shownFrom = typedFrom ? ValueInUnit(*typedFrom, quantity, axis.FromKey) : from / factor;
     const float shownTo = typedTo ? ValueInUnit(*typedTo, quantity, axis.ToKey) : to / factor;
     if (!axis.Permitted.Contains(shownFrom) || !axis.Permitted.Contains(shownTo) || !(shownFrom < shownTo))

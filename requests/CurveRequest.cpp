@@ -1,42 +1,35 @@
 #include "requests/CurveRequest.h"
 
-#include "calc/AxisLists.h"
 #include "calc/Calculate.h"
-#include "calc/ChartNames.h"
-#include "calc/ConditionRules.h"
+#include "calc/ChartKinds.h"
 #include "calc/NumberText.h"
-#include "partdata/Availability.h"
 #include "partdata/RunTimeError.h"
 #include "partdata/Windows1252.h"
 #include "requests/Names.h"
-#include "requests/Quantity.h"
 #include "requests/RequestError.h"
+#include "requests/UnitEntry.h"
 
 #include <algorithm>
 #include <array>
+#include <iterator>
+#include <span>
 
 namespace
 {
-/// The keys of the conditions.
-constexpr const char* biasKey = "dcBias";
-constexpr const char* frequencyKey = "frequency";
-constexpr const char* resistanceKey = "heatResistance";
-constexpr const char* ambientKey = "ambient";
-constexpr const char* parameterKey = "parameterValue";
-
 /// Entries never depend on the user's locale: a script means the same everywhere.
 constexpr EntryLocale pointOnly{.CommaIsDecimal = false};
 
 /// The conditions as they would stand in the boxes of the form.
-struct Entries
-{
-    std::string DCBias;
-    std::string Frequency;
-    std::string HeatResistance;
-    std::string Ambient;
-    std::string Parameter;
-};
+using Entries = std::array<std::string, ConditionCount>;
 } // namespace
+
+ConditionTexts::ConditionTexts(std::initializer_list<std::pair<Condition, std::string>> typed)
+{
+    for (const auto& [condition, text] : typed)
+    {
+        (*this)[condition] = text;
+    }
+}
 
 std::size_t FindPart(const PartTable& parts, std::string_view partNum, std::size_t shownForm)
 {
@@ -66,7 +59,9 @@ std::string ShownPartNum(const PartRecord& part, CodeView code, const CurveSetti
 
 std::int16_t ChartTypeOf(std::string_view commandName)
 {
-    return static_cast<std::int16_t>(IndexOfName(commandName, ChartCommandNames, "chart", "chart"));
+    std::vector<std::string_view> names;
+    std::ranges::transform(ChartKinds(), std::back_inserter(names), &ChartKind::CommandName);
+    return NumberOf(ChartKinds()[IndexOfName(commandName, names, "chart", "chart")].Id);
 }
 
 CodeView CodeViewOf(std::string_view name)
@@ -81,22 +76,16 @@ std::size_t NumberingOffsetOf(std::string_view name)
     return 2 * IndexOfName(name, numberings, "numbering", "numbering");
 }
 
-static std::string EntryFor(const std::optional<std::string>& typed, Quantity quantity, const char* key)
-{
-    return typed ? EntryInUnit(*typed, quantity, key) : std::string();
-}
-
-static Entries EntriesOf(const CurveRequest& request, const PartRecord& part, const std::string& parameter)
+static Entries EntriesOf(const CurveRequest& request, const PartRecord& part, Quantity parameter)
 {
     Entries entries;
-    entries.DCBias = EntryFor(request.DCBias, Quantity::Voltage, biasKey);
-    entries.Frequency = EntryFor(request.Frequency, Quantity::Frequency, frequencyKey);
-    entries.HeatResistance = request.HeatResistance
-                                 ? EntryFor(request.HeatResistance, Quantity::HeatResistance, resistanceKey)
-                                 : NumberText(part.Data[Value::HeatResistance]);
-    entries.Ambient = request.Ambient ? EntryFor(request.Ambient, Quantity::Temperature, ambientKey)
-                                      : (request.Code == CodeView::Eia ? "25" : "20");
-    entries.Parameter = EntryFor(request.ParameterValue, QuantityOf(parameter), parameterKey);
+    for (const ConditionKind& kind : ConditionKinds())
+    {
+        const auto& typed = request.Conditions[kind.Id];
+        const auto quantity = kind.Measures.value_or(parameter);
+        entries[static_cast<std::size_t>(kind.Id)] =
+            typed ? EntryInUnit(*typed, quantity, kind.Key) : FirstEntry(kind.Id, part, request.Code);
+    }
     return entries;
 }
 
@@ -108,81 +97,67 @@ static std::string OnOneLine(std::string words)
     return words;
 }
 
-static void Judge(const Refusal& refusal, const char* key, const std::string& entry)
-{
-    if (refusal)
-    {
-        throw RequestError(RequestErrorKind::Condition, key, OnOneLine(*refusal)).Of(entry);
-    }
-}
-
 /// A number that no rule has judged.
-static float PlainValue(const std::string& entry, const char* key)
+static float PlainValue(const std::string& entry, const ConditionKind& kind)
 {
     const auto value = ReadEntry(entry.empty() ? "0" : entry);
     if (!value)
     {
-        throw RequestError(RequestErrorKind::Condition, key, "is not a number").Of(entry);
+        throw RequestError(RequestErrorKind::Condition, std::string(kind.Key), "is not a number").Of(entry);
     }
     return *value;
 }
 
-static bool IsFrequencySweep(const ChartRecord& line)
-{
-    return line.ChartType == 0 && line.XAxisName == "Frequency";
-}
-
-/// Conditions as the form's checks and disabled boxes leave them.
+/// Conditions as the form's checks and disabled boxes leave them: those that the sweep does not use are 0.
 static void JudgeConditions(ChartRecord& line, const Entries& entries, const PartRecord& part, CodeView code)
 {
-    const auto type = line.ChartType;
-    if (type <= 2)
+    const ChartKind& chart = ChartKindOf(line.ChartType);
+    const ChartSweep& sweep = SweepOf(line.ChartType, line.XAxisName);
+    for (const Condition condition : JudgingOrder)
     {
-        Judge(RefuseDCBiasVol(entries.DCBias, part, type, pointOnly), biasKey, entries.DCBias);
-        line.DCBiasVoltage = PlainValue(entries.DCBias, biasKey);
-    }
-    if (type <= 1)
-    {
-        Judge(RefuseHeatResistance(entries.HeatResistance, pointOnly), resistanceKey, entries.HeatResistance);
-        line.HeatResistance = PlainValue(entries.HeatResistance, resistanceKey);
-    }
-    if (type != 2)
-    {
-        Judge(type == 3 ? RefuseAmbientTemp2(entries.Ambient, part, code, pointOnly)
-                        : RefuseAmbientTemp1(entries.Ambient, part, pointOnly),
-              ambientKey, entries.Ambient);
-        line.AmbientTemp = PlainValue(entries.Ambient, ambientKey);
-    }
-    if (IsFrequencySweep(line))
-    {
-        Judge(RefuseParameter(entries.Parameter, pointOnly), parameterKey, entries.Parameter);
-        line.ParameterValue = PlainValue(entries.Parameter, parameterKey);
-    }
-    else if (type == 0)
-    {
-        Judge(RefuseFrequency(entries.Frequency, pointOnly), frequencyKey, entries.Frequency);
-        line.Frequency = PlainValue(entries.Frequency, frequencyKey);
+        if (!sweep.Uses(condition))
+        {
+            continue;
+        }
+        const ConditionKind& kind = KindOf(condition);
+        const auto& entry = entries[static_cast<std::size_t>(condition)];
+        if (const auto refusal = RuleOf(chart, condition)(entry, part, code, pointOnly))
+        {
+            throw RequestError(RequestErrorKind::Condition, std::string(kind.Key), OnOneLine(*refusal))
+                .Of(entry);
+        }
+        line.*kind.Value = PlainValue(entry, kind);
     }
 }
 
 static void TakeConditions(ChartRecord& line, const Entries& entries)
 {
-    line.DCBiasVoltage = PlainValue(entries.DCBias, biasKey);
-    line.HeatResistance = PlainValue(entries.HeatResistance, resistanceKey);
-    line.Frequency = PlainValue(entries.Frequency, frequencyKey);
-    line.AmbientTemp = PlainValue(entries.Ambient, ambientKey);
-    line.ParameterValue = PlainValue(entries.Parameter, parameterKey);
+    for (const ConditionKind& kind : ConditionKinds())
+    {
+        line.*kind.Value = PlainValue(entries[static_cast<std::size_t>(kind.Id)], kind);
+    }
 }
 
 static void CalculateOrRefuse(const PartRecord& part, ChartRecord& line, CodeView code,
-                              const std::string& parameter)
+                              const Entries& entries)
 {
     if (const auto refusal = Calculate(part, line, code))
     {
-        throw RequestError(RequestErrorKind::Condition, parameterKey, OnOneLine(refusal->Message))
-            .Of(parameter)
+        const ConditionKind& parameter = KindOf(Condition::Parameter);
+        throw RequestError(RequestErrorKind::Condition, std::string(parameter.Key),
+                           OnOneLine(refusal->Message))
+            .Of(entries[static_cast<std::size_t>(parameter.Id)])
             .Within(refusal->Limit);
     }
+}
+
+/// The quantity of a list that is named, or the first where none is.
+static Quantity Meant(const std::optional<std::string>& name, std::span<const Quantity> quantities,
+                      std::string_view what, std::string_view key)
+{
+    std::vector<std::string_view> names;
+    std::ranges::transform(quantities, std::back_inserter(names), NameOf);
+    return quantities[name ? IndexOfName(*name, names, what, key) : 0];
 }
 
 /// As `CurveOf`, but that errors do not tell the part.
@@ -191,20 +166,19 @@ static RequestedCurve CurveOfPart(const CurveRequest& request, const PartTable& 
 {
     RequestedCurve curve{.Part = nullptr, .Code = request.Code, .Line = {}};
     ChartRecord& line = curve.Line;
-    line.ChartType = ChartTypeOf(request.Chart);
-    const auto axes = AxisListsOf(line.ChartType);
-    line.XAxisName = axes.XAxes[request.X ? IndexOfName(*request.X, axes.XAxes, "X axis", "x") : 0];
-    line.YAxisName = axes.YAxes[request.Y ? IndexOfName(*request.Y, axes.YAxes, "Y axis", "y") : 0];
-    line.ParameterName = ParameterNames[request.Parameter ? IndexOfName(*request.Parameter, ParameterNames,
-                                                                        "parameter", "parameter")
-                                                          : 0];
+    const ChartKind& chart = ChartKindOf(ChartTypeOf(request.Chart));
+    const auto parameter = Meant(request.Parameter, Parameters, "parameter", "parameter");
+    line.ChartType = NumberOf(chart.Id);
+    line.XAxisName = NameOf(Meant(request.X, XAxesOf(chart), "X axis", "x"));
+    line.YAxisName = NameOf(Meant(request.Y, chart.YAxes, "Y axis", "y"));
+    line.ParameterName = NameOf(parameter);
 
     const auto shownForm = static_cast<std::size_t>(request.Code) + settings.NumberingOffset;
     const auto index = FindPart(parts, request.Part, shownForm);
     line.PartDataIndex = static_cast<std::int32_t>(index);
     curve.Part = &parts.PartData[index];
 
-    const auto entries = EntriesOf(request, *curve.Part, line.ParameterName);
+    const auto entries = EntriesOf(request, *curve.Part, parameter);
     if (settings.Unchecked)
     {
         TakeConditions(line, entries);
@@ -212,14 +186,13 @@ static RequestedCurve CurveOfPart(const CurveRequest& request, const PartTable& 
     else if (!IsAvailable(*curve.Part, line.ChartType))
     {
         throw RequestError(RequestErrorKind::NoData, "chart",
-                           "has no data for chart " +
-                               std::string(ChartCommandNames[static_cast<std::size_t>(line.ChartType)]));
+                           "has no data for chart " + std::string(chart.CommandName));
     }
     else
     {
         JudgeConditions(line, entries, *curve.Part, request.Code);
     }
-    CalculateOrRefuse(*curve.Part, line, request.Code, entries.Parameter);
+    CalculateOrRefuse(*curve.Part, line, request.Code, entries);
     return curve;
 }
 

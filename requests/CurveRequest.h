@@ -3,17 +3,37 @@
 /// One curve that is asked for by name, and how it is judged and computed.
 
 #include "calc/ChartRecord.h"
+#include "calc/Conditions.h"
 #include "partdata/PartTable.h"
 
 #include <array>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
-/// The chart types by number, as commands name them.
-inline constexpr std::string_view ChartCommandNames[] = {"temperature-rise", "allowable-power",
-                                                         "capacitance-temperature", "capacitance-dc-voltage"};
+/// What is typed for each condition; nothing where it is left out.
+class ConditionTexts
+{
+public:
+    ConditionTexts() = default;
+    /// {{Condition::DCBias, "12V"}, {Condition::Frequency, "300kHz"}}
+    ConditionTexts(std::initializer_list<std::pair<Condition, std::string>> typed);
+
+    std::optional<std::string>& operator[](Condition condition)
+    {
+        return texts[static_cast<std::size_t>(condition)];
+    }
+    const std::optional<std::string>& operator[](Condition condition) const
+    {
+        return texts[static_cast<std::size_t>(condition)];
+    }
+
+private:
+    std::array<std::optional<std::string>, ConditionCount> texts;
+};
 
 /// What is asked for. Texts are as typed, in UTF-8; values may bear a unit ("12V"). What is left out is what
 /// the form shows first: the first axes, ambient temperature 25 °C in the EIA code and 20 °C in the JIS code,
@@ -22,35 +42,16 @@ struct CurveRequest
 {
     /// Part number in any of its four forms, in any letter case.
     std::string Part;
-    /// One of `ChartCommandNames`.
+    /// The command name of a chart type.
     std::string Chart;
     /// Axis texts of the form, in any letter case: "Apparent Power" or "apparent-power".
     std::optional<std::string> X = {};
     std::optional<std::string> Y = {};
-    std::optional<std::string> DCBias = {};
-    std::optional<std::string> Frequency = {};
-    std::optional<std::string> HeatResistance = {};
-    std::optional<std::string> Ambient = {};
-    /// Name of the parameter, as axis texts are named.
+    ConditionTexts Conditions = {};
+    /// Name of the load that the parameter condition is of, as axis texts are named.
     std::optional<std::string> Parameter = {};
-    std::optional<std::string> ParameterValue = {};
     CodeView Code = CodeView::Eia;
 };
-
-/// One text of a request by its key.
-struct RequestField
-{
-    std::string_view Key;
-    std::optional<std::string> CurveRequest::*Text;
-};
-
-/// The conditions by the keys that requests and answers call them.
-inline constexpr std::array<RequestField, 4> ConditionFields = {{
-    {"dcBias", &CurveRequest::DCBias},
-    {"frequency", &CurveRequest::Frequency},
-    {"heatResistance", &CurveRequest::HeatResistance},
-    {"ambient", &CurveRequest::Ambient},
-}};
 
 /// How requests are answered.
 struct CurveSettings

@@ -1,9 +1,9 @@
 #include "requests/CurveText.h"
 
-#include "calc/ChartNames.h"
+#include "calc/ChartKinds.h"
 #include "calc/ConditionLines.h"
 #include "calc/NumberText.h"
-#include "calc/Units.h"
+#include "calc/Quantities.h"
 #include "requests/Names.h"
 
 #include <nlohmann/json.hpp>
@@ -13,19 +13,15 @@
 /// "Arms" of the axis text "Current"; an X of frequency is stored in Hz.
 static std::string StoredUnit(const std::string& axisName)
 {
-    if (axisName == "Frequency")
-    {
-        return "Hz";
-    }
-    const auto unit = GetUnit(axisName, defaultDegreeSign);
-    return unit.substr(1, unit.size() - 2);
+    const QuantityKind& kind = KindOf(QuantityNamed(axisName));
+    return std::string(kind.HasDegrees ? defaultDegreeSign : "") + std::string(kind.StoredUnit);
 }
 
 std::string CurveCsv(const RequestedCurve& curve, const CurveSettings& settings)
 {
     const ChartRecord& line = curve.Line;
     std::string text = "# part: " + ShownPartNum(*curve.Part, curve.Code, settings) + '\n';
-    text.append("# chart: ").append(ChartTypeNames[static_cast<std::size_t>(line.ChartType)]).append("\n");
+    text.append("# chart: ").append(ChartKindOf(line.ChartType).Caption).append("\n");
     for (const ConditionLine& condition : ConditionLines(line))
     {
         text += "# " + condition.Name + ": " + condition.Value + ' ' + condition.Unit + '\n';
@@ -52,18 +48,18 @@ static void AppendText(std::string& text, std::string_view value)
     text += nlohmann::json(value).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 
-static void AppendKey(std::string& text, const char* key)
+static void AppendKey(std::string& text, std::string_view key)
 {
     text.append(text.ends_with('{') ? "\"" : ",\"").append(key).append("\":");
 }
 
-static void AddNumber(std::string& text, const char* key, float value)
+static void AddNumber(std::string& text, std::string_view key, float value)
 {
     AppendKey(text, key);
     AppendNumber(text, value);
 }
 
-static void AddText(std::string& text, const char* key, std::string_view value)
+static void AddText(std::string& text, std::string_view key, std::string_view value)
 {
     AppendKey(text, key);
     AppendText(text, value);
@@ -75,27 +71,12 @@ static void AddConditions(std::string& text, const ChartRecord& line)
     text += '{';
     for (const ConditionLine& condition : ConditionLines(line))
     {
-        if (condition.Name == "DC Bias Voltage")
-        {
-            AddNumber(text, "dcBias", line.DCBiasVoltage);
-        }
-        else if (condition.Name == "Heat Resistance")
-        {
-            AddNumber(text, "heatResistance", line.HeatResistance);
-        }
-        else if (condition.Name == "Frequency")
-        {
-            AddNumber(text, "frequency", line.Frequency);
-        }
-        else if (condition.Name == "Ambient Temperature")
-        {
-            AddNumber(text, "ambient", line.AmbientTemp);
-        }
-        else
+        const ConditionKind& kind = KindOf(condition.Id);
+        if (!kind.Measures)
         {
             AddText(text, "parameter", RequestNameOf(line.ParameterName));
-            AddNumber(text, "parameterValue", line.ParameterValue);
         }
+        AddNumber(text, kind.Key, line.*kind.Value);
     }
     text += '}';
 }
@@ -106,7 +87,7 @@ void AppendCurveJson(std::string& text, const RequestedCurve& curve, const Curve
     const ChartRecord& line = curve.Line;
     text += '{';
     AddText(text, "part", ShownPartNum(*curve.Part, curve.Code, settings));
-    AddText(text, "chart", ChartCommandNames[static_cast<std::size_t>(line.ChartType)]);
+    AddText(text, "chart", ChartKindOf(line.ChartType).CommandName);
     AddText(text, "xName", line.XAxisName);
     AddText(text, "xUnit", StoredUnit(line.XAxisName));
     AddText(text, "yName", line.YAxisName);

@@ -7,8 +7,6 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
-#include <array>
-#include <span>
 
 using nlohmann::json;
 
@@ -31,20 +29,22 @@ static std::string TextOf(const std::string& key, const json& value)
 /// Puts a value into the request; false for a key that no request has.
 static bool Take(CurveRequest& request, const std::string& key, const std::string& text)
 {
-    static constexpr std::array<RequestField, 4> others = {{
-        {"x", &CurveRequest::X},
-        {"y", &CurveRequest::Y},
-        {"parameter", &CurveRequest::Parameter},
-        {"parameterValue", &CurveRequest::ParameterValue},
-    }};
-    for (const std::span<const RequestField> fields : {std::span(ConditionFields), std::span(others)})
+    const auto conditions = ConditionKinds();
+    const auto condition = std::ranges::find(conditions, key, &ConditionKind::Key);
+    if (condition != conditions.end())
     {
-        const auto field = std::ranges::find(fields, key, &RequestField::Key);
-        if (field != fields.end())
-        {
-            request.*field->Text = text;
-            return true;
-        }
+        request.Conditions[condition->Id] = text;
+        return true;
+    }
+    if (key == "x" || key == "y")
+    {
+        (key == "x" ? request.X : request.Y) = text;
+        return true;
+    }
+    if (key == "parameter")
+    {
+        request.Parameter = text;
+        return true;
     }
     if (key == "part" || key == "chart")
     {

@@ -1,7 +1,7 @@
 #include "requests/PartList.h"
 
+#include "calc/ChartKinds.h"
 #include "calc/NumberText.h"
-#include "partdata/Availability.h"
 #include "partdata/Windows1252.h"
 
 #include <nlohmann/json.hpp>
@@ -35,8 +35,8 @@ static bool IsOffered(const PartRecord& part, std::optional<std::int16_t> chartT
     {
         return IsAvailable(part, *chartType);
     }
-    // Both power charts need the same data, and so do both capacitance charts.
-    return IsAvailable(part, 0) || IsAvailable(part, 2);
+    return std::ranges::any_of(ChartKinds(),
+                               [&](const ChartKind& kind) { return IsAvailable(part, NumberOf(kind.Id)); });
 }
 
 std::vector<const PartRecord*> FilterParts(const PartTable& parts, const PartFilter& filter)
@@ -72,11 +72,11 @@ using Row = std::array<std::string, 6>;
 static std::vector<std::string> ChartsOf(const PartRecord& part)
 {
     std::vector<std::string> charts;
-    for (std::int16_t type = 0; type < 4; ++type)
+    for (const ChartKind& kind : ChartKinds())
     {
-        if (IsAvailable(part, type))
+        if (IsAvailable(part, NumberOf(kind.Id)))
         {
-            charts.emplace_back(ChartCommandNames[static_cast<std::size_t>(type)]);
+            charts.emplace_back(kind.CommandName);
         }
     }
     return charts;

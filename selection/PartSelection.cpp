@@ -1,6 +1,6 @@
 #include "selection/PartSelection.h"
 
-#include "partdata/Availability.h"
+#include "calc/ChartKinds.h"
 
 #include <algorithm>
 

@@ -3,8 +3,6 @@
 #include "app/HelpLanguages.h"
 #include "app/PartNumText.h"
 #include "app/mdlPublic.h"
-#include "calc/AxisLists.h"
-#include "calc/ChartNames.h"
 #include "calc/NumberText.h"
 #include "formkit/Messages.h"
 #include "formkit/Texts.h"

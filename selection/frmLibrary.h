@@ -5,7 +5,7 @@
 #include "calc/Calculate.h"
 #include "calc/ChartRecord.h"
 #include "calc/ChartStore.h"
-#include "calc/ConditionRules.h"
+#include "calc/Conditions.h"
 #include "selection/PartSelection.h"
 
 #include <QMdiSubWindow>
@@ -15,6 +15,7 @@
 #include <string_view>
 #include <vector>
 
+struct ChartSweep;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -158,8 +159,10 @@ private:
     void SetFrequencyEnabled(bool enabled);
     void ResetParameter();
     bool IsFrequencySweep() const;
+    const ChartSweep& ShownSweep() const;
     const PartRecord& SelectedPart() const;
-    void Report(QLineEdit* box, const Refusal& refusal, bool& ok);
+    Check CheckOf(Condition condition) const;
+    void Report(QLineEdit* box, ConditionRule rule, bool& ok);
     /// Puts the focus into a refused box, with its text ready to be replaced.
     void OfferForCorrection(QLineEdit* box);
     void ComeToFront(QWidget* control);

@@ -1,6 +1,8 @@
 #include "selection/frmLibrary.h"
 
 #include "app/mdlPublic.h"
+#include "calc/Bounds.h"
+#include "calc/ChartKinds.h"
 #include "calc/NumberText.h"
 #include "formkit/Entries.h"
 #include "formkit/Messages.h"
@@ -28,9 +30,10 @@ static std::string TextOf(const QLineEdit* box)
 
 // ---- The checks ----
 
-/// Shows what is wrong with a box and puts the focus back into it.
-void frmLibrary::Report(QLineEdit* box, const Refusal& refusal, bool& ok)
+/// Judges a box by a rule; where it refuses, shows what is wrong and puts the focus back into the box.
+void frmLibrary::Report(QLineEdit* box, ConditionRule rule, bool& ok)
 {
+    const Refusal refusal = rule(TextOf(box), SelectedPart(), GetCodeView(), UserLocale());
     ok = !refusal;
     if (refusal)
     {
@@ -47,35 +50,32 @@ void frmLibrary::OfferForCorrection(QLineEdit* box)
 
 void frmLibrary::CheckDCBiasVol(bool& ok)
 {
-    Report(ui->txtDCBiasVol,
-           RefuseDCBiasVol(TextOf(ui->txtDCBiasVol), SelectedPart(), GetChartType(), UserLocale()), ok);
+    Report(ui->txtDCBiasVol, RuleOf(ChartKindOf(GetChartType()), Condition::DCBias), ok);
 }
 
 void frmLibrary::CheckFrequency(bool& ok)
 {
-    Report(ui->txtFrequency, RefuseFrequency(TextOf(ui->txtFrequency), UserLocale()), ok);
+    Report(ui->txtFrequency, RefuseFrequency, ok);
 }
 
 void frmLibrary::CheckHeatResistance(bool& ok)
 {
-    Report(ui->txtHeatResistance, RefuseHeatResistance(TextOf(ui->txtHeatResistance), UserLocale()), ok);
+    Report(ui->txtHeatResistance, RefuseHeatResistance, ok);
 }
 
 void frmLibrary::CheckAmbientTemp1(bool& ok)
 {
-    Report(ui->txtAmbientTemp, RefuseAmbientTemp1(TextOf(ui->txtAmbientTemp), SelectedPart(), UserLocale()),
-           ok);
+    Report(ui->txtAmbientTemp, RefuseHeatingAmbient, ok);
 }
 
 void frmLibrary::CheckAmbientTemp2(bool& ok)
 {
-    Report(ui->txtAmbientTemp,
-           RefuseAmbientTemp2(TextOf(ui->txtAmbientTemp), SelectedPart(), GetCodeView(), UserLocale()), ok);
+    Report(ui->txtAmbientTemp, RefuseClassAmbient, ok);
 }
 
 void frmLibrary::CheckParameter1(bool& ok)
 {
-    Report(ui->txtParameter, RefuseParameter(TextOf(ui->txtParameter), UserLocale()), ok);
+    Report(ui->txtParameter, RefuseNoNumber, ok);
 }
 
 /// Runs one check; false when it refuses.
@@ -86,28 +86,32 @@ bool frmLibrary::Passes(Check check)
     return ok;
 }
 
-bool frmLibrary::CheckChartConditions()
+/// The check of a condition; the ambient temperature has one for each kind of chart.
+frmLibrary::Check frmLibrary::CheckOf(Condition condition) const
 {
-    std::vector<Check> checks;
-    switch (GetChartType())
+    switch (condition)
     {
-    case 0:
-        checks = {&frmLibrary::CheckDCBiasVol, &frmLibrary::CheckHeatResistance,
-                  &frmLibrary::CheckAmbientTemp1,
-                  IsFrequencySweep() ? &frmLibrary::CheckParameter1 : &frmLibrary::CheckFrequency};
-        break;
-    case 1:
-        checks = {&frmLibrary::CheckDCBiasVol, &frmLibrary::CheckHeatResistance,
-                  &frmLibrary::CheckAmbientTemp1};
-        break;
-    case 2:
-        checks = {&frmLibrary::CheckDCBiasVol};
-        break;
-    default:
-        checks = {&frmLibrary::CheckAmbientTemp2};
+    case Condition::DCBias:
+        return &frmLibrary::CheckDCBiasVol;
+    case Condition::HeatResistance:
+        return &frmLibrary::CheckHeatResistance;
+    case Condition::AmbientTemperature:
+        return RuleOf(ChartKindOf(GetChartType()), condition) == &RefuseClassAmbient
+                   ? &frmLibrary::CheckAmbientTemp2
+                   : &frmLibrary::CheckAmbientTemp1;
+    case Condition::Frequency:
+        return &frmLibrary::CheckFrequency;
+    case Condition::Parameter:
         break;
     }
-    return std::ranges::all_of(checks, [this](Check check) { return Passes(check); });
+    return &frmLibrary::CheckParameter1;
+}
+
+bool frmLibrary::CheckChartConditions()
+{
+    const ChartSweep& sweep = ShownSweep();
+    return std::ranges::all_of(JudgingOrder, [&](Condition condition)
+                               { return !sweep.Uses(condition) || Passes(CheckOf(condition)); });
 }
 
 // ---- Leaving and entering a box ----
@@ -129,7 +133,7 @@ bool frmLibrary::txtHeatResistance_LostFocus()
 
 bool frmLibrary::txtAmbientTemp_LostFocus()
 {
-    return Passes(GetChartType() <= 1 ? &frmLibrary::CheckAmbientTemp1 : &frmLibrary::CheckAmbientTemp2);
+    return Passes(CheckOf(Condition::AmbientTemperature));
 }
 
 bool frmLibrary::txtParameter_LostFocus()
@@ -319,14 +323,14 @@ static void Empty(QLineEdit* box)
 
 void frmLibrary::optParameter_Click(int index)
 {
-    static constexpr std::array<const char*, 4> Units = {"[Arms]", "[Vrms]", "[W]", "[VA]"};
     Empty(ui->txtParameter);
-    ui->lblParameter->setText(QString::fromLatin1(Units[static_cast<std::size_t>(index)]));
+    ui->lblParameter->setText(QString::fromStdString(UnitOf(Parameters.at(static_cast<std::size_t>(index)))));
 }
 
 void frmLibrary::ResetAmbientTemp(int codeForm)
 {
-    ui->txtAmbientTemp->setText(codeForm == 0 ? QStringLiteral("25") : QStringLiteral("20"));
+    ui->txtAmbientTemp->setText(
+        QString::fromStdString(NumberText(ReferenceC(static_cast<CodeView>(codeForm)))));
 }
 
 void frmLibrary::DisableConditions()
@@ -347,22 +351,28 @@ void frmLibrary::DisableConditions()
 void frmLibrary::EnableConditions(int chartType)
 {
     ui->fraCondition->setEnabled(true);
-    const bool power = chartType == 0 || chartType == 1;
-    if (power || chartType == 2)
+    const ChartKind* kind = FindChartKind(chartType);
+    if (kind == nullptr)
+    {
+        return;
+    }
+    // What every way through the chart type uses; frequency and parameter go by the X axis.
+    const ChartSweep& common = kind->Sweeps.front();
+    if (common.Uses(Condition::DCBias))
     {
         SetConditionEnabled(ui->lblDCBiasVol, ui->txtDCBiasVol, true);
     }
-    if (power || chartType == 3)
+    if (common.Uses(Condition::AmbientTemperature))
     {
         SetConditionEnabled(ui->lblAmbientTemp, ui->txtAmbientTemp, true);
     }
-    if (power)
+    if (common.Uses(Condition::HeatResistance))
     {
         SetConditionEnabled(ui->lblHeatResistance, ui->txtHeatResistance, true);
         ui->txtHeatResistance->setText(
-            QString::fromStdString(NumberText(SelectedPart().Data[Value::HeatResistance])));
+            QString::fromStdString(FirstEntry(Condition::HeatResistance, SelectedPart(), GetCodeView())));
     }
-    if (chartType == 0)
+    if (common.Uses(Condition::Frequency))
     {
         SetFrequencyEnabled(!IsFrequencySweep());
         if (IsFrequencySweep())

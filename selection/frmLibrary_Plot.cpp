@@ -2,7 +2,7 @@
 
 #include "app/CalculateData.h"
 #include "app/mdlPublic.h"
-#include "calc/AxisLists.h"
+#include "calc/ChartKinds.h"
 #include "calc/ChartNames.h"
 #include "calc/NumberText.h"
 #include "formkit/Entries.h"
@@ -35,33 +35,43 @@ std::int16_t frmLibrary::GetParameterType() const
 
 std::string_view frmLibrary::GetChartTypeName() const
 {
-    return ChartTypeNames[static_cast<std::size_t>(GetChartType())];
+    return ChartKindOf(GetChartType()).Caption;
 }
 
 std::string_view frmLibrary::GetParameterName() const
 {
-    return ParameterNames[static_cast<std::size_t>(GetParameterType())];
+    return NameOf(Parameters[static_cast<std::size_t>(GetParameterType())]);
+}
+
+/// The sweep over the X axis that is shown.
+const ChartSweep& frmLibrary::ShownSweep() const
+{
+    const ChartKind& kind = ChartKindOf(GetChartType());
+    const auto x = FindQuantity(ui->cmbXaxis->currentText().toStdString());
+    const ChartSweep* sweep = x ? FindSweep(kind, *x) : nullptr;
+    return sweep != nullptr ? *sweep : kind.Sweeps.front();
 }
 
 bool frmLibrary::IsFrequencySweep() const
 {
-    return GetChartType() == 0 && ui->cmbXaxis->currentText() == QStringLiteral("Frequency");
+    return ShownSweep().Uses(Condition::Parameter);
 }
 
-static void ShowAxes(QComboBox* box, std::span<const std::string_view> names)
+static void ShowAxes(QComboBox* box, std::span<const Quantity> axes)
 {
     box->clear();
-    for (const auto name : names)
+    for (const Quantity axis : axes)
     {
+        const auto name = NameOf(axis);
         box->addItem(QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size())));
     }
 }
 
 void frmLibrary::FillAxisLists(int chartType)
 {
-    const AxisLists lists = AxisListsOf(static_cast<std::int16_t>(chartType));
-    ShowAxes(ui->cmbXaxis, lists.XAxes);
-    ShowAxes(ui->cmbYaxis, lists.YAxes);
+    const ChartKind& kind = ChartKindOf(chartType);
+    ShowAxes(ui->cmbXaxis, XAxesOf(kind));
+    ShowAxes(ui->cmbYaxis, kind.YAxes);
 }
 
 void frmLibrary::optChartType_Click(int index)

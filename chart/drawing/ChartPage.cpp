@@ -1,5 +1,6 @@
 #include "chart/drawing/ChartPage.h"
 
+#include "calc/ChartKinds.h"
 #include "calc/ChartNames.h"
 #include "calc/ConditionLines.h"
 #include "calc/NumberText.h"
@@ -97,29 +98,27 @@ std::array<QString, Columns> RowTexts(const ChartPage& page, const ChartRecord& 
     for (const auto& condition : ConditionLines(line))
     {
         const auto value = QString::fromStdString(condition.Value);
-        if (condition.Name == "DC Bias Voltage")
+        switch (condition.Id)
         {
+        case Condition::DCBias:
             texts[BiasColumn] = value;
-        }
-        else if (condition.Name == "Heat Resistance")
-        {
+            break;
+        case Condition::HeatResistance:
             texts[ResistanceColumn] = value;
-        }
-        else if (condition.Name == "Ambient Temperature")
-        {
+            break;
+        case Condition::AmbientTemperature:
             texts[AmbientColumn] = value;
-        }
-        else if (condition.Name == "Frequency")
-        {
+            break;
+        case Condition::Frequency:
             texts[FrequencyColumn] = Megahertz(condition.Value);
-        }
-        else
-        {
+            break;
+        case Condition::Parameter:
             texts[ParameterColumn] =
                 QString::fromStdString(condition.Name + ' ' + condition.Value + condition.Unit);
+            break;
         }
     }
-    if (line.ChartType == static_cast<std::int16_t>(ChartType::AllowablePower))
+    if (ChartKindOf(line.ChartType).TellsLargestValue)
     {
         texts[LargestColumn] = QString::fromStdString(LargestValueText(line.ExtraValue));
     }

@@ -1,5 +1,6 @@
 #include "chart/layout/AxisLayout.h"
 
+#include "calc/Quantities.h"
 #include "chart/layout/Colors.h"
 #include "chart/layout/Divisions.h"
 #include "chart/layout/LinearAxis.h"
@@ -75,12 +76,6 @@ std::vector<AxisLabel> ReadableLabels(std::vector<Candidate> candidates, double 
         labels.push_back(std::move(candidates[i].Label));
     }
     return labels;
-}
-
-/// The unit of labels by the unit of values: frequency is kept in Hz and shown in kHz.
-float LabelUnit(const std::string& axisName)
-{
-    return axisName == "Frequency" ? 1000.0F : 1.0F;
 }
 
 std::vector<GridLine> LogGrid(const LogTicks& ticks)
@@ -219,7 +214,7 @@ AxisLayout LayOutLinearY(const ChartView& view, YLabelPlacer placer)
 
 AxisLayout LayOutXAxis(const ChartView& view, const ChartSurface& surface)
 {
-    const auto unit = LabelUnit(view.Chart.XAxisName);
+    const auto unit = KindOf(QuantityNamed(view.Chart.XAxisName)).StoredPerShown;
     if (XAxisKind(view.Chart) == AxisKind::Logarithmic)
     {
         return LayOutLogX(view.Range, unit, surface);

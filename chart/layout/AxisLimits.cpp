@@ -1,5 +1,7 @@
 #include "chart/layout/AxisLimits.h"
 
+#include "calc/Bounds.h"
+#include "calc/Quantities.h"
 #include "chart/layout/Mapping.h"
 
 #include <algorithm>
@@ -16,27 +18,25 @@ static double DecimalOf(float value)
     return decimal;
 }
 
-static bool CanBeNegative(std::string_view quantity)
-{
-    return quantity == "Temperature" || quantity == "Capacitance Change";
-}
-
 /// One span further than the default range on either side.
-static PermittedRange OneSpanFurther(std::string_view quantity, float minimum, float maximum)
+static PermittedRange OneSpanFurther(std::string_view axisName, float minimum, float maximum)
 {
     const double least = DecimalOf(minimum);
     const double most = DecimalOf(maximum);
     const double span = most > least ? most - least : 1;
     const auto lowest = static_cast<float>(least - span);
-    return {.Lowest = CanBeNegative(quantity) ? lowest : std::max(lowest, 0.0F),
+    const bool canBeNegative = KindOf(QuantityNamed(axisName)).CanBeNegative;
+    return {.Lowest = canBeNegative ? lowest : std::max(lowest, 0.0F),
             .Highest = static_cast<float>(most + span)};
 }
 
 PermittedRange PermittedXRange(const ChartKey& chart, const AxisRange& defaultRange)
 {
-    if (chart.XAxisName == "Frequency")
+    const auto& quantity = KindOf(QuantityNamed(chart.XAxisName));
+    if (quantity.Id == Quantity::Frequency)
     {
-        return {.Lowest = 10, .Highest = 1000};
+        return {.Lowest = static_cast<float>(LowestFrequencyHz) / quantity.StoredPerShown,
+                .Highest = static_cast<float>(HighestFrequencyHz) / quantity.StoredPerShown};
     }
     return OneSpanFurther(chart.XAxisName, defaultRange.XMin, defaultRange.XMax);
 }

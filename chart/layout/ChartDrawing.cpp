@@ -1,5 +1,8 @@
 #include "chart/layout/ChartDrawing.h"
 
+#include "calc/Bounds.h"
+#include "calc/ChartKinds.h"
+#include "calc/NumberText.h"
 #include "chart/layout/AxisLayout.h"
 #include "chart/layout/Colors.h"
 #include "chart/layout/Mapping.h"
@@ -73,9 +76,12 @@ static void DrawTitles(const ChartView& view, ChartSurface& surface)
     {
         surface.Text(0, 107.5, yUnit, frameColor);
     }
-    if (view.Chart.ChartType == static_cast<std::int16_t>(ChartType::TemperatureRise))
+    const ChartKind* kind = FindChartKind(view.Chart.ChartType);
+    if (kind != nullptr && kind->RecommendsRise)
     {
-        surface.Text(10, 107.3, "-Recommendation of temp. Rise is within 20[" + view.DegreeSign + "C]-",
+        surface.Text(10, 107.3,
+                     "-Recommendation of temp. Rise is within " + NumberText(RecommendedRise) +
+                         UnitOf(Quantity::TemperatureRise, view.DegreeSign) + "-",
                      frameColor);
     }
 }

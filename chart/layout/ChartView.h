@@ -3,7 +3,7 @@
 /// What is to be drawn: a chart and the ranges of its axes.
 
 #include "calc/ChartStore.h"
-#include "calc/Units.h"
+#include "calc/Quantities.h"
 
 /// The axis ranges of a chart in the order in which a chart window keeps them.
 struct AxisRange

@@ -1,33 +1,18 @@
 #include "chart/layout/Divisions.h"
 
-#include "calc/ChartRecord.h"
+#include "calc/ChartKinds.h"
 
-#include <algorithm>
-#include <cmath>
-
-/// To the nearest whole number, halves to even.
-static int Rounded(double divisions)
-{
-    return static_cast<int>(std::nearbyint(std::clamp(divisions, 0.0, double{mostDivisions})));
-}
+/// Divisions of an axis whose range the user has set.
+static constexpr int rescaledDivisions = 5;
 
 int GetXDivisions(std::int16_t chartType, float xMax, float xMin, bool rescaled)
 {
     if (rescaled)
     {
-        return 5;
+        return rescaledDivisions;
     }
-    switch (static_cast<ChartType>(chartType))
-    {
-    case ChartType::TemperatureRise:
-    case ChartType::CapacitanceDCVoltage:
-        return 5;
-    case ChartType::CapacitanceTemperature:
-        return Rounded((double{xMax} - double{xMin}) / 25);
-    case ChartType::AllowablePower:
-        break;
-    }
-    return 0;
+    const ChartKind* kind = FindChartKind(chartType);
+    return kind != nullptr ? kind->Sweeps.front().XDivisions(double{xMax} - double{xMin}) : 0;
 }
 
 int GetYDivisions(std::int16_t chartType, std::string_view xAxisName, std::string_view yAxisName, float yMax,
@@ -35,26 +20,9 @@ int GetYDivisions(std::int16_t chartType, std::string_view xAxisName, std::strin
 {
     if (rescaled)
     {
-        return 5;
+        return rescaledDivisions;
     }
-    switch (static_cast<ChartType>(chartType))
-    {
-    case ChartType::TemperatureRise:
-        return xAxisName == "Frequency" ? 8 : 10;
-    case ChartType::CapacitanceTemperature:
-    case ChartType::CapacitanceDCVoltage:
-        if (yAxisName == "Capacitance")
-        {
-            return 5;
-        }
-        if (yAxisName == "Capacitance Change")
-        {
-            const auto span = double{yMax} - double{yMin};
-            return Rounded(span <= 20 ? span / 5 : span / 10);
-        }
-        break;
-    case ChartType::AllowablePower:
-        break;
-    }
-    return 0;
+    const ChartSweep* sweep = FindSweep(chartType, xAxisName);
+    const auto y = FindQuantity(yAxisName);
+    return sweep != nullptr && y ? sweep->YDivisions(*y, double{yMax} - double{yMin}) : 0;
 }

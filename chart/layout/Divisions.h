@@ -5,9 +5,6 @@
 #include <cstdint>
 #include <string_view>
 
-/// Finest grid of an axis; far closer lines than this would be one grey field.
-inline constexpr int mostDivisions = 1000;
-
 /// Divisions of the X axis: 5 for a range that the user has set, for temperature rise and for DC voltage;
 /// one per 25 degrees for temperature, to the nearest whole number with halves to even; else 0.
 int GetXDivisions(std::int16_t chartType, float xMax, float xMin, bool rescaled);

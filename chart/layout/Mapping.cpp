@@ -6,15 +6,14 @@
 
 AxisKind XAxisKind(const ChartKey& chart)
 {
-    const auto type = static_cast<ChartType>(chart.ChartType);
-    const bool overFrequency = type == ChartType::TemperatureRise && chart.XAxisName == "Frequency";
-    return type == ChartType::AllowablePower || overFrequency ? AxisKind::Logarithmic : AxisKind::Linear;
+    const ChartSweep* sweep = FindSweep(chart.ChartType, chart.XAxisName);
+    return sweep != nullptr ? sweep->XKind : AxisKind::Linear;
 }
 
 AxisKind YAxisKind(const ChartKey& chart)
 {
-    const auto type = static_cast<ChartType>(chart.ChartType);
-    return type == ChartType::AllowablePower ? AxisKind::Logarithmic : AxisKind::Linear;
+    const ChartSweep* sweep = FindSweep(chart.ChartType, chart.XAxisName);
+    return sweep != nullptr ? sweep->YKind : AxisKind::Linear;
 }
 
 AxisMapping::AxisMapping(AxisKind axisKind, float rangeMinimum, float rangeMaximum)

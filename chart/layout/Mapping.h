@@ -2,17 +2,10 @@
 
 /// Where a value lies on an axis of the plot area.
 
+#include "calc/ChartKinds.h"
 #include "calc/ChartStore.h"
 
-/// How an axis is divided.
-enum class AxisKind
-{
-    Linear,
-    Logarithmic,
-};
-
-/// Allowable power has logarithmic axes, and so has temperature rise over "Frequency" along X; every other
-/// axis is linear.
+/// How the axes of a chart are divided; linear where the chart type has no such axis.
 AxisKind XAxisKind(const ChartKey& chart);
 AxisKind YAxisKind(const ChartKey& chart);
 

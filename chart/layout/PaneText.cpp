@@ -1,5 +1,7 @@
 #include "chart/layout/PaneText.h"
 
+#include "calc/ChartKinds.h"
+#include "calc/ConditionLines.h"
 #include "calc/NumberText.h"
 
 #include <algorithm>
@@ -11,38 +13,33 @@ std::string LargestValueText(float value)
     return anyDigit ? text : "0";
 }
 
-/// Bias and heat resistance, as all power charts have them.
-static std::string BiasAndResistance(const ChartRecord& line, const std::string& degreeSign)
+/// A condition with its unit. Where it is the only one it stands apart: "(2.5[V] )", "(25[ °C] )".
+static std::string ConditionText(const ConditionLine& condition, const ChartRecord& line, bool isOnly,
+                                 std::string_view degreeSign)
 {
-    return NumberText(line.DCBiasVoltage) + "[V]," + NumberText(line.HeatResistance) + '[' + degreeSign +
-           "C/W],";
+    const auto measures = KindOf(condition.Id).Measures;
+    const auto quantity = measures ? *measures : QuantityNamed(line.ParameterName);
+    const std::string sign = (isOnly ? " " : "") + std::string(degreeSign);
+    return condition.Value + UnitOf(quantity, sign) + (isOnly ? " " : "");
 }
 
-static std::string Conditions(const ChartRecord& line, const std::string& degreeSign)
+static std::string ConditionTexts(const ChartRecord& line, std::string_view degreeSign)
 {
-    const auto ambient = NumberText(line.AmbientTemp) + '[' + degreeSign + "C]";
-    switch (static_cast<ChartType>(line.ChartType))
+    std::string text;
+    if (ChartKindOf(line.ChartType).TellsLargestValue)
     {
-    case ChartType::TemperatureRise:
-        if (line.XAxisName == "Frequency")
-        {
-            const auto unit = GetUnit(line.ParameterName, degreeSign);
-            return BiasAndResistance(line, degreeSign) + ambient + ',' + NumberText(line.ParameterValue) +
-                   unit;
-        }
-        return BiasAndResistance(line, degreeSign) + NumberText(line.Frequency) + "[kHz]," + ambient;
-    case ChartType::AllowablePower:
-        return LargestValueText(line.ExtraValue) + GetUnit(line.YAxisName, degreeSign) + ',' +
-               BiasAndResistance(line, degreeSign) + ambient;
-    case ChartType::CapacitanceTemperature:
-        return NumberText(line.DCBiasVoltage) + "[V] ";
-    case ChartType::CapacitanceDCVoltage:
-        return NumberText(line.AmbientTemp) + "[ " + degreeSign + "C] ";
+        text = LargestValueText(line.ExtraValue) + GetUnit(line.YAxisName, degreeSign);
     }
-    return {};
+    const auto conditions = ConditionLines(line);
+    for (const auto& condition : conditions)
+    {
+        text += text.empty() ? "" : ",";
+        text += ConditionText(condition, line, conditions.size() == 1, degreeSign);
+    }
+    return text;
 }
 
 std::string PaneText(const ChartRecord& line, std::string_view degreeSign)
 {
-    return '(' + Conditions(line, std::string(degreeSign)) + ')';
+    return '(' + ConditionTexts(line, degreeSign) + ')';
 }

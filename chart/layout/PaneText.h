@@ -3,7 +3,7 @@
 /// What the status pane of a line tells about its conditions.
 
 #include "calc/ChartRecord.h"
-#include "calc/Units.h"
+#include "calc/Quantities.h"
 
 /// The conditions of a line in parentheses, numbers as number text, for example of a temperature rise over
 /// current "(5[V],50[°C/W],100[kHz],25[°C])".

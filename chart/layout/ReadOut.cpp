@@ -16,10 +16,10 @@ static AxisMapping YMapping(const ChartView& view)
     return {YAxisKind(view.Chart), view.Range.YMin, view.Range.YMax};
 }
 
-/// A value of a quantity as the read-out shows it; frequencies come in Hz and are shown in kHz.
+/// A value of an axis as the read-out shows it.
 static std::string ValueText(const std::string& quantity, double value, const std::string& degreeSign)
 {
-    const double shown = quantity == "Frequency" ? value / 1000 : value;
+    const double shown = value / double{KindOf(QuantityNamed(quantity)).StoredPerShown};
     return FormatNumber(static_cast<float>(shown), NumberFormat::ReadOut) + GetUnit(quantity, degreeSign);
 }
 

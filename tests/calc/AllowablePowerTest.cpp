@@ -53,11 +53,11 @@ class AllowableLoads : public testing::TestWithParam<LoadRow>
 TEST_P(AllowableLoads, HeatThePartByThePermittedRise)
 {
     const auto model = HeatedModel();
-    const auto load = [&](std::string_view name) { return AllowableLoad(model, GetParam().Bound, 20, name); };
-    const auto current = load("Current");
-    const auto voltage = load("Voltage");
-    const auto apparent = load("Apparent Power");
-    const auto effective = load("Effective Power");
+    const auto largest = [&](Quantity load) { return AllowableLoad(model, GetParam().Bound, 20, load); };
+    const auto current = largest(Quantity::Current);
+    const auto voltage = largest(Quantity::RmsVoltage);
+    const auto apparent = largest(Quantity::ApparentPower);
+    const auto effective = largest(Quantity::EffectivePower);
     for (const std::size_t i : {0U, 1U, 99U, 199U})
     {
         const double hz = voltage.XData[i];
@@ -78,11 +78,12 @@ INSTANTIATE_TEST_SUITE_P(Rows, AllowableLoads,
 
 TEST(AllowableLoad, OfNoPermittedRiseIsZero)
 {
-    for (const std::string_view name : {"Current", "Voltage", "Apparent Power", "Effective Power"})
+    for (const auto load :
+         {Quantity::Current, Quantity::RmsVoltage, Quantity::ApparentPower, Quantity::EffectivePower})
     {
-        const auto curve = AllowableLoad(HeatedModel(), 3.54, 0, name);
+        const auto curve = AllowableLoad(HeatedModel(), 3.54, 0, load);
         EXPECT_TRUE(curve.HasPoints);
-        EXPECT_TRUE(std::ranges::all_of(curve.YData, [](float y) { return y == 0; })) << name;
+        EXPECT_TRUE(std::ranges::all_of(curve.YData, [](float y) { return y == 0; })) << NameOf(load);
         EXPECT_EQ(curve.Limits, (AxisLimits{.XMax = 1e6F, .YMax = 1, .XMin = 1e4F, .YMin = 0.1F}));
         EXPECT_EQ(curve.ExtraValue, 0);
     }
@@ -91,7 +92,7 @@ TEST(AllowableLoad, OfNoPermittedRiseIsZero)
 TEST(AllowableLoad, HasPowersOfTenAroundItAndItsLargestAsExtraValue)
 {
     // kV = 1 at 10 kHz and 1.5 at 1 MHz: 20^0.4 = 3.314 V down to 2.818 V
-    const auto curve = AllowableLoad(HeatedModel(), 1000, 20, "Voltage");
+    const auto curve = AllowableLoad(HeatedModel(), 1000, 20, Quantity::RmsVoltage);
     EXPECT_EQ(curve.ExtraValue, curve.YData.front());
     EXPECT_FLOAT_EQ(curve.ExtraValue, static_cast<float>(std::pow(20, 0.4)));
     EXPECT_EQ(curve.Limits, (AxisLimits{.XMax = 1e6F, .YMax = 10, .XMin = 1e4F, .YMin = 1}));
@@ -101,7 +102,7 @@ TEST(AllowableLoad, OfExactly1000EndsThere)
 {
     auto model = UnitModel();
     model.Q2 = 20e-6;
-    const auto curve = AllowableLoad(model, 10, 20, "Current");
+    const auto curve = AllowableLoad(model, 10, 20, Quantity::Current);
     ASSERT_EQ(curve.ExtraValue, 1000);
     EXPECT_EQ(curve.Limits.YMax, 1000);
     EXPECT_EQ(curve.Limits.YMin, 100);
@@ -112,9 +113,9 @@ TEST(AllowableLoad, WhoseAxisNoSingleCanEndIsAnOverflow)
     auto model = UnitModel();
     // 20/5e-76 = (2·10^38)² A²; the axis would end at 10^39.
     model.Q2 = 5e-76;
-    EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, "Current"); }), 6);
+    EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, Quantity::Current); }), 6);
     model.Q2 = 500e-76;
-    EXPECT_EQ(AllowableLoad(model, 10, 20, "Current").Limits.YMax, 1e38F);
+    EXPECT_EQ(AllowableLoad(model, 10, 20, Quantity::Current).Limits.YMax, 1e38F);
 }
 
 TEST(AllowableLoad, OfAVoltageBeyondAnyNumberIsAnOverflow)
@@ -123,7 +124,7 @@ TEST(AllowableLoad, OfAVoltageBeyondAnyNumberIsAnOverflow)
     model.S2 = -1;
     model.S3 = 0.005;
     // kV = 1 / log10 f: 80^200 V at 10 kHz, whatever the bound.
-    EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, "Voltage"); }), 6);
+    EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, Quantity::RmsVoltage); }), 6);
 }
 
 TEST(AllowableLoad, WithoutAVoltageLawAtTheHighestFrequencyIsADivisionByZero)
@@ -131,25 +132,25 @@ TEST(AllowableLoad, WithoutAVoltageLawAtTheHighestFrequencyIsADivisionByZero)
     auto model = UnitModel();
     // 4^-450 is a number, 6^-450 is zero.
     model.S2 = -450;
-    for (const std::string_view name : {"Voltage", "Apparent Power", "Effective Power"})
+    for (const auto load : {Quantity::RmsVoltage, Quantity::ApparentPower, Quantity::EffectivePower})
     {
-        EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, name); }), 11) << name;
+        EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, load); }), 11) << NameOf(load);
     }
 }
 
-TEST(PowerCurves, OfAnotherQuantityHaveNoPoints)
+TEST(PowerCurves, OfAQuantityThatIsNoLoadAreRefused)
 {
-    EXPECT_FALSE(RiseOverLoad(UnitModel(), 10, frequencyHz, "Temperature").HasPoints);
-    EXPECT_FALSE(std::get<Curve>(RiseOverFrequency(UnitModel(), 10, "", 1)).HasPoints);
-    EXPECT_FALSE(AllowableLoad(UnitModel(), 10, 20, "Capacitance").HasPoints);
+    EXPECT_EQ(ErrorOf([] { RiseOverLoad(UnitModel(), 10, frequencyHz, Quantity::Temperature); }), 5);
+    EXPECT_EQ(ErrorOf([] { RiseOverFrequency(UnitModel(), 10, Quantity::Frequency, 1); }), 5);
+    EXPECT_EQ(ErrorOf([] { AllowableLoad(UnitModel(), 10, 20, Quantity::Capacitance); }), 5);
 }
 
 TEST(AllowableLoad, NeedsNoVoltageLawForCurrent)
 {
     auto model = UnitModel();
     model.S3 = 0;
-    EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, "Current"); }), 0);
-    EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, "Effective Power"); }), 11);
+    EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, Quantity::Current); }), 0);
+    EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, Quantity::EffectivePower); }), 11);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "calc/Calculate.h"
+#include "calc/ChartKinds.h"
 #include "partdata/RunTimeError.h"
 
 #include <gtest/gtest.h>
@@ -22,12 +23,15 @@ PartRecord Part()
 }
 
 /// A record whose curve fields hold what no calculation writes.
-ChartRecord MarkedRecord(ChartType type)
+ChartRecord MarkedRecord(ChartId type)
 {
     ChartRecord record;
     record.ChartType = static_cast<std::int16_t>(type);
-    record.XAxisName = "Frequency";
-    record.YAxisName = "Current";
+    if (const ChartKind* kind = FindChartKind(record.ChartType))
+    {
+        record.XAxisName = NameOf(XAxesOf(*kind).back());
+        record.YAxisName = NameOf(kind->YAxes.front());
+    }
     record.ParameterName = "Current";
     record.HeatResistance = 50;
     record.AmbientTemp = 25;
@@ -53,7 +57,7 @@ void ExpectMarked(const ChartRecord& record)
 
 TEST(Calculate, LeavesTheRecordOfARefusedParameter)
 {
-    auto record = MarkedRecord(ChartType::TemperatureRise);
+    auto record = MarkedRecord(ChartId::TemperatureRise);
     record.ParameterValue = 9;
     const auto refusal = Calculate(Part(), record, CodeView::Eia);
     ASSERT_TRUE(refusal);
@@ -66,7 +70,7 @@ TEST(Calculate, LeavesTheRecordOnAFault)
 {
     auto part = Part();
     part.Data[Value::RatedVoltage] = 0;
-    for (const auto type : {ChartType::TemperatureRise, ChartType::AllowablePower})
+    for (const auto type : {ChartId::TemperatureRise, ChartId::AllowablePower})
     {
         auto record = MarkedRecord(type);
         EXPECT_THROW(Calculate(part, record, CodeView::Eia), RunTimeError);
@@ -78,7 +82,7 @@ TEST(Calculate, FaultsWithoutARatedVoltageOnEveryAxis)
 {
     auto part = Part();
     part.Data[Value::RatedVoltage] = 0;
-    auto record = MarkedRecord(ChartType::TemperatureRise);
+    auto record = MarkedRecord(ChartId::TemperatureRise);
     record.XAxisName = "Effective Power";
     EXPECT_THROW(Calculate(part, record, CodeView::Eia), RunTimeError);
 }
@@ -88,7 +92,7 @@ TEST(Calculate, TakesTheFrequencyInKilohertz)
     auto part = Part();
     part.Data[Value::CurrentPerF] = 1000;
     part.Data[Value::Current] = 0;
-    auto record = MarkedRecord(ChartType::TemperatureRise);
+    auto record = MarkedRecord(ChartId::TemperatureRise);
     record.XAxisName = "Current";
     record.Frequency = 100;
     ASSERT_FALSE(Calculate(part, record, CodeView::Eia));
@@ -102,7 +106,7 @@ TEST(Calculate, TakesTheFrequencyInKilohertz)
 
 TEST(Calculate, StoresTheLargestAllowableLoad)
 {
-    auto record = MarkedRecord(ChartType::AllowablePower);
+    auto record = MarkedRecord(ChartId::AllowablePower);
     record.AmbientTemp = 121;
     ASSERT_FALSE(Calculate(Part(), record, CodeView::Eia));
     EXPECT_EQ(record.ExtraValue, 2);
@@ -114,7 +118,7 @@ TEST(Calculate, LeavesTheRecordOfACapacitanceOnAFault)
 {
     auto part = Part();
     part.Data[Value::TemperatureX] = HUGE_VALF;
-    auto record = MarkedRecord(ChartType::CapacitanceTemperature);
+    auto record = MarkedRecord(ChartId::CapacitanceTemperature);
     record.YAxisName = "Capacitance";
     EXPECT_THROW(Calculate(part, record, CodeView::Eia), RunTimeError);
     ExpectMarked(record);
@@ -124,7 +128,7 @@ TEST(Calculate, LeavesThePointsOfAnUnlistedCharacteristic)
 {
     auto part = Part();
     part.Tcc[0] = "C0G";
-    auto record = MarkedRecord(ChartType::CapacitanceDCVoltage);
+    auto record = MarkedRecord(ChartId::CapacitanceDCVoltage);
     record.YAxisName = "Capacitance Change";
     Calculate(part, record, CodeView::Eia);
     EXPECT_EQ(record.XData.front(), -7);
@@ -133,14 +137,33 @@ TEST(Calculate, LeavesThePointsOfAnUnlistedCharacteristic)
     EXPECT_EQ(record.YMax, 10);
 }
 
-TEST(Calculate, DoesNothingForANumberThatIsNoChartType)
+/// Number of the error that a record of these names ends with.
+int ErrorOfNames(ChartId type, const char* xAxis, const char* yAxis, const char* parameter = "Current")
 {
-    for (const std::int16_t number : {std::int16_t{4}, std::int16_t{-1}})
+    auto record = MarkedRecord(type);
+    record.XAxisName = xAxis;
+    record.YAxisName = yAxis;
+    record.ParameterName = parameter;
+    try
     {
-        auto record = MarkedRecord(ChartType::TemperatureRise);
-        record.ChartType = number;
-        EXPECT_FALSE(Calculate(Part(), record, CodeView::Eia));
-        ExpectMarked(record);
+        Calculate(Part(), record, CodeView::Eia);
+        return 0;
     }
+    catch (const RunTimeError& error)
+    {
+        ExpectMarked(record);
+        return error.Number();
+    }
+}
+
+TEST(Calculate, RefusesNamesThatNoChartBears)
+{
+    EXPECT_EQ(ErrorOfNames(ChartId::TemperatureRise, "Current", "Temperature Rise"), 0);
+    EXPECT_EQ(ErrorOfNames(ChartId::TemperatureRise, "Curent", "Temperature Rise"), 5);
+    EXPECT_EQ(ErrorOfNames(ChartId::TemperatureRise, "Temperature", "Temperature Rise"), 5);
+    EXPECT_EQ(ErrorOfNames(ChartId::TemperatureRise, "Frequency", "Temperature Rise", "current"), 5);
+    EXPECT_EQ(ErrorOfNames(ChartId::AllowablePower, "Frequency", "Capacitance"), 5);
+    EXPECT_EQ(ErrorOfNames(ChartId::CapacitanceTemperature, "Temperature", "Capacity"), 5);
+    EXPECT_EQ(ErrorOfNames(static_cast<ChartId>(4), "Frequency", "Current"), 5);
 }
 } // namespace

@@ -1,4 +1,5 @@
 #include "calc/ChartNames.h"
+#include "partdata/RunTimeError.h"
 
 #include <gtest/gtest.h>
 
@@ -46,9 +47,8 @@ TEST(ChartCaption, WithoutMarksIsSplitAtItsEnd)
     EXPECT_EQ(ChartOfCaption("Allowable power(X"), (ChartKey{1, "X", ""}));
 }
 
-TEST(ParameterNames, NameEffectiveBeforeApparentPower)
+TEST(ChartCaption, OfANumberWithoutChartTypeIsRefused)
 {
-    EXPECT_EQ(ParameterNames[2], "Effective Power");
-    EXPECT_EQ(ParameterNames[3], "Apparent Power");
+    EXPECT_THROW(ChartCaption({4, "Frequency", "Current"}), RunTimeError);
 }
 } // namespace

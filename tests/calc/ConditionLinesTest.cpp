@@ -44,10 +44,10 @@ class ConditionLinesOf : public testing::TestWithParam<Row>
 {
 };
 
-const ConditionLine bias = {"DC Bias Voltage", "2.5", "[V]"};
-const ConditionLine resistance = {"Heat Resistance", "46.93", "[C/W]"};
-const ConditionLine frequency = {"Frequency", "100", "[kHz]"};
-const ConditionLine ambient = {"Ambient Temperature", "-55", "[C]"};
+const ConditionLine bias = {Condition::DCBias, "DC Bias Voltage", "2.5", "[V]"};
+const ConditionLine resistance = {Condition::HeatResistance, "Heat Resistance", "46.93", "[C/W]"};
+const ConditionLine frequency = {Condition::Frequency, "Frequency", "100", "[kHz]"};
+const ConditionLine ambient = {Condition::AmbientTemperature, "Ambient Temperature", "-55", "[C]"};
 
 TEST_P(ConditionLinesOf, TellsWhatTheChartTypeUsesInOrder)
 {
@@ -65,22 +65,22 @@ INSTANTIATE_TEST_SUITE_P(
             0,
             "Frequency",
             "Current",
-            {bias, resistance, ambient, {"Current", "0.1", "[Arms]"}}},
+            {bias, resistance, ambient, {Condition::Parameter, "Current", "0.1", "[Arms]"}}},
         Row{"rise over frequency at a voltage",
             0,
             "Frequency",
             "Voltage",
-            {bias, resistance, ambient, {"Voltage", "0.1", "[Vrms]"}}},
+            {bias, resistance, ambient, {Condition::Parameter, "Voltage", "0.1", "[Vrms]"}}},
         Row{"rise over frequency at an effective power",
             0,
             "Frequency",
             "Effective Power",
-            {bias, resistance, ambient, {"Effective Power", "0.1", "[W]"}}},
+            {bias, resistance, ambient, {Condition::Parameter, "Effective Power", "0.1", "[W]"}}},
         Row{"rise over frequency at an apparent power",
             0,
             "Frequency",
             "Apparent Power",
-            {bias, resistance, ambient, {"Apparent Power", "0.1", "[VA]"}}},
+            {bias, resistance, ambient, {Condition::Parameter, "Apparent Power", "0.1", "[VA]"}}},
         Row{"allowable power", 1, "Frequency", "Current", {bias, resistance, ambient}},
         Row{"capacitance over temperature", 2, "Temperature", "", {bias}},
         Row{"capacitance over DC voltage", 3, "DC Bias Voltage", "", {ambient}}),

@@ -1,5 +1,6 @@
 #include "calc/DefaultAxes.h"
 #include "calc/CapacitanceAxes.h"
+#include "partdata/RunTimeError.h"
 #include "tests/calc/NamedRow.h"
 
 namespace
@@ -57,7 +58,7 @@ class CapacitanceXAxis : public testing::TestWithParam<XRow>
 TEST_P(CapacitanceXAxis, IsWidenedForTheListedRangesOnly)
 {
     const auto& row = GetParam();
-    const auto limits = SetCapacitanceAxes(row.XMax, row.XMin, 0, 0, CapacitanceChangeAxis);
+    const auto limits = SetCapacitanceAxes(row.XMax, row.XMin, 0, 0, Quantity::CapacitanceChange);
     EXPECT_EQ(limits.XMax, row.StoredMax);
     EXPECT_EQ(limits.XMin, row.StoredMin);
 }
@@ -75,7 +76,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, CapacitanceXAxis,
 struct YRow
 {
     const char* Name;
-    std::string_view YAxisName;
+    Quantity Y;
     float Largest;
     float Smallest;
     float YMax;
@@ -89,13 +90,13 @@ class CapacitanceYAxis : public testing::TestWithParam<YRow>
 TEST_P(CapacitanceYAxis, HasOneStepOfHeadroom)
 {
     const auto& row = GetParam();
-    const auto limits = SetCapacitanceAxes(1, 0, row.Largest, row.Smallest, row.YAxisName);
+    const auto limits = SetCapacitanceAxes(1, 0, row.Largest, row.Smallest, row.Y);
     EXPECT_EQ(limits.YMax, row.YMax);
     EXPECT_EQ(limits.YMin, row.YMin);
 }
 
-constexpr auto change = CapacitanceChangeAxis;
-constexpr auto capacitance = CapacitanceAxis;
+constexpr auto change = Quantity::CapacitanceChange;
+constexpr auto capacitance = Quantity::Capacitance;
 
 INSTANTIATE_TEST_SUITE_P(Change, CapacitanceYAxis,
                          testing::Values(YRow{"exactly 20", change, 20, -80, 30, -80},
@@ -122,7 +123,8 @@ INSTANTIATE_TEST_SUITE_P(
                     YRow{"negative tenths", capacitance, -0.25F, -0.34F, -0.2F, -0.4F}),
     RowName<YRow>);
 
-INSTANTIATE_TEST_SUITE_P(Other, CapacitanceYAxis,
-                         testing::Values(YRow{"another axis has no step", "Current", 5, -5, 0, 0}),
-                         RowName<YRow>);
+TEST(CapacitanceLimits, OfAnotherQuantityIsRefused)
+{
+    EXPECT_THROW(SetCapacitanceAxes(1, 0, 5, -5, Quantity::Current), RunTimeError);
+}
 } // namespace

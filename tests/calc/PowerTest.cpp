@@ -146,7 +146,7 @@ TEST(RiseOverLoad, OfCurrentEndsAt80Degrees)
 {
     auto model = UnitModel();
     model.Q2 = 0;
-    const auto curve = RiseOverLoad(model, 10, frequencyHz, "Current");
+    const auto curve = RiseOverLoad(model, 10, frequencyHz, Quantity::Current);
     EXPECT_FLOAT_EQ(curve.XData.back(), std::sqrt(80.0F));
     EXPECT_EQ(curve.YData.back(), 80);
     EXPECT_EQ(curve.XData.front(), 0);
@@ -156,11 +156,11 @@ TEST(RiseOverLoad, OfCurrentEndsAt80Degrees)
 
 TEST(RiseOverLoad, OfVoltageEndsAtTheBoundOrAt80Degrees)
 {
-    const auto bounded = RiseOverLoad(UnitModel(), 10, frequencyHz, "Voltage");
+    const auto bounded = RiseOverLoad(UnitModel(), 10, frequencyHz, Quantity::RmsVoltage);
     EXPECT_FLOAT_EQ(bounded.XData.back(), 3.536F);
     EXPECT_FLOAT_EQ(bounded.YData.back(), 3.536F * 3.536F);
     EXPECT_EQ(bounded.Limits.YMax, 20);
-    const auto hot = RiseOverLoad(UnitModel(), 100, frequencyHz, "Voltage");
+    const auto hot = RiseOverLoad(UnitModel(), 100, frequencyHz, Quantity::RmsVoltage);
     EXPECT_FLOAT_EQ(hot.XData.back(), std::sqrt(80.0F));
     EXPECT_EQ(hot.YData.back(), 80);
 }
@@ -169,7 +169,7 @@ TEST(RiseOverLoad, OfVoltageWithoutAnExponentIsTheSameEverywhere)
 {
     auto model = UnitModel();
     model.S3 = 0;
-    const auto curve = RiseOverLoad(model, 10, frequencyHz, "Voltage");
+    const auto curve = RiseOverLoad(model, 10, frequencyHz, Quantity::RmsVoltage);
     EXPECT_TRUE(std::ranges::all_of(curve.YData, [](float y) { return y == 1; }));
 }
 
@@ -178,8 +178,8 @@ TEST(RiseOverLoad, WhoseLoadsNoSingleHoldsIsAnOverflow)
     auto model = UnitModel();
     // (80/1e-80)^½ = 8.9e40 A
     model.Q2 = 1e-80;
-    EXPECT_EQ(ErrorOf([&] { RiseOverLoad(model, 10, frequencyHz, "Current"); }), 6);
-    EXPECT_EQ(ErrorOf([&] { RiseOverFrequency(model, 10, "Current", 1); }), 6);
+    EXPECT_EQ(ErrorOf([&] { RiseOverLoad(model, 10, frequencyHz, Quantity::Current); }), 6);
+    EXPECT_EQ(ErrorOf([&] { RiseOverFrequency(model, 10, Quantity::Current, 1); }), 6);
 }
 
 TEST(RiseOverLoad, OfApparentPowerFollowsBothLaws)
@@ -189,7 +189,7 @@ TEST(RiseOverLoad, OfApparentPowerFollowsBothLaws)
     const double kV = model.kV(frequencyHz);
     for (const double ratedVolts : {5.0, 500.0})
     {
-        const auto curve = RiseOverLoad(model, ratedVolts, frequencyHz, "Apparent Power");
+        const auto curve = RiseOverLoad(model, ratedVolts, frequencyHz, Quantity::ApparentPower);
         for (const std::size_t i : {1U, 50U, 199U})
         {
             const double amperes = std::sqrt(curve.YData[i] / kI);
@@ -202,17 +202,17 @@ TEST(RiseOverLoad, OfApparentPowerFollowsBothLaws)
 TEST(RiseOverLoad, OfApparentPowerEndsAtTheBoundOrAt80Degrees)
 {
     // 3.536 V, a rise of 3.536² and a current of 3.536 A
-    const auto bounded = RiseOverLoad(UnitModel(), 10, frequencyHz, "Apparent Power");
+    const auto bounded = RiseOverLoad(UnitModel(), 10, frequencyHz, Quantity::ApparentPower);
     EXPECT_FLOAT_EQ(bounded.XData.back(), 3.536F * 3.536F);
     EXPECT_FLOAT_EQ(bounded.YData.back(), 3.536F * 3.536F);
-    const auto hot = RiseOverLoad(UnitModel(), 100, frequencyHz, "Apparent Power");
+    const auto hot = RiseOverLoad(UnitModel(), 100, frequencyHz, Quantity::ApparentPower);
     EXPECT_FLOAT_EQ(hot.XData.back(), 80);
     EXPECT_EQ(hot.YData.back(), 80);
 }
 
 TEST(RiseOverLoad, OfEffectivePowerIsALine)
 {
-    const auto curve = RiseOverLoad(UnitModel(), 10, frequencyHz, "Effective Power");
+    const auto curve = RiseOverLoad(UnitModel(), 10, frequencyHz, Quantity::EffectivePower);
     EXPECT_FLOAT_EQ(curve.XData.back(), 1.6F);
     EXPECT_EQ(curve.YData.back(), 80);
     EXPECT_FLOAT_EQ(curve.YData[100], 80 * 100 / 199.0F);
@@ -220,24 +220,24 @@ TEST(RiseOverLoad, OfEffectivePowerIsALine)
 
 TEST(RiseOverLoad, BearsAnUnusedFrequencyOfZero)
 {
-    EXPECT_EQ(ErrorOf([] { RiseOverLoad(UnitModel(), 10, 0, "Effective Power"); }), 0);
-    EXPECT_EQ(ErrorOf([] { RiseOverLoad(UnitModel(), 10, 0, "Current"); }), 11);
+    EXPECT_EQ(ErrorOf([] { RiseOverLoad(UnitModel(), 10, 0, Quantity::EffectivePower); }), 0);
+    EXPECT_EQ(ErrorOf([] { RiseOverLoad(UnitModel(), 10, 0, Quantity::Current); }), 11);
 }
 
 TEST(RiseOverLoad, FaultsWhereThePowerHasNoValue)
 {
     auto model = UnitModel();
     model.S3 = -2;
-    EXPECT_EQ(ErrorOf([&] { RiseOverLoad(model, 10, frequencyHz, "Voltage"); }), 5);
-    EXPECT_EQ(ErrorOf([&] { RiseOverLoad(model, 10, frequencyHz, "Apparent Power"); }), 11);
+    EXPECT_EQ(ErrorOf([&] { RiseOverLoad(model, 10, frequencyHz, Quantity::RmsVoltage); }), 5);
+    EXPECT_EQ(ErrorOf([&] { RiseOverLoad(model, 10, frequencyHz, Quantity::ApparentPower); }), 11);
     model.S3 = 0;
-    EXPECT_EQ(ErrorOf([&] { RiseOverLoad(model, 10, frequencyHz, "Apparent Power"); }), 11);
+    EXPECT_EQ(ErrorOf([&] { RiseOverLoad(model, 10, frequencyHz, Quantity::ApparentPower); }), 11);
 }
 
 struct LimitRow
 {
     const char* Name;
-    std::string_view ParameterName;
+    Quantity Load;
     double RatedVolts;
     double Limit;
 };
@@ -247,7 +247,7 @@ class LargestParameter : public testing::TestWithParam<LimitRow>
 protected:
     static auto RiseAt(float parameter)
     {
-        return RiseOverFrequency(HeatedModel(), GetParam().RatedVolts, GetParam().ParameterName, parameter);
+        return RiseOverFrequency(HeatedModel(), GetParam().RatedVolts, GetParam().Load, parameter);
     }
 };
 
@@ -272,21 +272,21 @@ TEST_P(LargestParameter, IsShownAsANumberThatIsPermitted)
 
 // The hottest frequency is 1 MHz, where log10 f = 6, kI = 4 and kV = 1.5.
 INSTANTIATE_TEST_SUITE_P(Rows, LargestParameter,
-                         testing::Values(LimitRow{"current", "Current", 10, std::sqrt(20)},
-                                         LimitRow{"voltage at the bound", "Voltage", 10, 3.536},
-                                         LimitRow{"voltage below the bound", "Voltage", 100,
+                         testing::Values(LimitRow{"current", Quantity::Current, 10, std::sqrt(20)},
+                                         LimitRow{"voltage at the bound", Quantity::RmsVoltage, 10, 3.536},
+                                         LimitRow{"voltage below the bound", Quantity::RmsVoltage, 100,
                                                   std::pow(80 / 1.5, 0.4)},
-                                         LimitRow{"apparent power", "Apparent Power", 100,
+                                         LimitRow{"apparent power", Quantity::ApparentPower, 100,
                                                   std::sqrt(20) * std::pow(80 / 1.5, 0.4)},
                                          // at the bound a cooler part carries less current: 10 kHz, kV = 1
-                                         LimitRow{"apparent power at the bound", "Apparent Power", 10,
+                                         LimitRow{"apparent power at the bound", Quantity::ApparentPower, 10,
                                                   3.536 * std::sqrt(std::pow(3.536, 2.5) / 4)},
-                                         LimitRow{"effective power", "Effective Power", 10, 1.6}),
+                                         LimitRow{"effective power", Quantity::EffectivePower, 10, 1.6}),
                          RowName<LimitRow>);
 
 TEST(RiseOverFrequency, RunsEvenlyInTheLogarithm)
 {
-    const auto curve = std::get<Curve>(RiseOverFrequency(HeatedModel(), 10, "Voltage", 2));
+    const auto curve = std::get<Curve>(RiseOverFrequency(HeatedModel(), 10, Quantity::RmsVoltage, 2));
     EXPECT_EQ(curve.XData.front(), 1e4F);
     EXPECT_EQ(curve.XData.back(), 1e6F);
     EXPECT_FLOAT_EQ(curve.XData[1], static_cast<float>(std::exp(std::log(1e4) + std::log(100.0) / 199)));
@@ -298,7 +298,7 @@ TEST(RiseOverFrequency, RunsEvenlyInTheLogarithm)
 TEST(RiseOverFrequency, EndsTheYAxisAtTheNextTenOrAt80)
 {
     const auto limits = [](float amperes)
-    { return std::get<Curve>(RiseOverFrequency(UnitModel(), 10, "Current", amperes)).Limits.YMax; };
+    { return std::get<Curve>(RiseOverFrequency(UnitModel(), 10, Quantity::Current, amperes)).Limits.YMax; };
     EXPECT_EQ(limits(0), 10);
     EXPECT_EQ(limits(4), 20);
     EXPECT_EQ(limits(8.5F), 80);
@@ -312,7 +312,7 @@ TEST(RiseOverFrequency, KeepsTheLineOfTheLargestParameterOnTheChart)
         auto model = UnitModel();
         model.Rth = rth;
         const auto limit = static_cast<float>(80 / rth);
-        const auto curve = std::get<Curve>(RiseOverFrequency(model, 10, "Effective Power", limit));
+        const auto curve = std::get<Curve>(RiseOverFrequency(model, 10, Quantity::EffectivePower, limit));
         EXPECT_LE(std::ranges::max(curve.YData), 80) << rth;
         EXPECT_NEAR(curve.YData.front(), 80, 1e-4) << rth;
     }
@@ -327,7 +327,7 @@ TEST(RiseOverFrequency, StoresARiseThatTheRoundingOfItsCurrentLiftsAs80)
         model.Q2 = kI;
         const auto limit = static_cast<float>(std::sqrt(80.0 / kI));
         lifted += static_cast<float>(double{limit} * limit * kI) > 80 ? 1 : 0;
-        const auto curve = std::get<Curve>(RiseOverFrequency(model, 10, "Current", limit));
+        const auto curve = std::get<Curve>(RiseOverFrequency(model, 10, Quantity::Current, limit));
         EXPECT_LE(std::ranges::max(curve.YData), 80) << kI;
     }
     EXPECT_GT(lifted, 0);
@@ -338,7 +338,7 @@ TEST(RiseOverFrequency, OfARiseThatNoSingleHoldsIsAnOverflow)
     auto model = UnitModel();
     model.S3 = -1;
     // The rise is 1/V.
-    EXPECT_EQ(ErrorOf([&] { RiseOverFrequency(model, 10, "Voltage", 1e-39F); }), 6);
+    EXPECT_EQ(ErrorOf([&] { RiseOverFrequency(model, 10, Quantity::RmsVoltage, 1e-39F); }), 6);
 }
 
 TEST(RiseOverFrequency, ShowsARiseAsItIsThatNoRoundingLiftsOverTheCeiling)
@@ -346,7 +346,7 @@ TEST(RiseOverFrequency, ShowsARiseAsItIsThatNoRoundingLiftsOverTheCeiling)
     auto model = UnitModel();
     model.S3 = -1;
     // The rise is 1/V: 80 °C at 0.0125 V, the largest permitted voltage, and 100 °C at 0.01 V.
-    const auto curve = std::get<Curve>(RiseOverFrequency(model, 10, "Voltage", 0.01F));
+    const auto curve = std::get<Curve>(RiseOverFrequency(model, 10, Quantity::RmsVoltage, 0.01F));
     EXPECT_FLOAT_EQ(curve.YData.front(), 100);
     EXPECT_EQ(curve.Limits.YMax, 80);
 }
@@ -379,7 +379,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, CutNumber,
 
 TEST(ParameterRefusalMessage, ShowsThePermittedRange)
 {
-    const auto refusal = RefuseParameter(15.49F, 9.9315671);
+    const auto refusal = RefuseLoad(15.49F, 9.9315671);
     ASSERT_TRUE(refusal);
     EXPECT_EQ(refusal->Message, "Parameter is invalid!\r\nPlease enter a Number from 0 to 9.931");
 }

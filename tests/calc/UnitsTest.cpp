@@ -1,4 +1,4 @@
-#include "calc/Units.h"
+#include "calc/Quantities.h"
 
 #include "partdata/RunTimeError.h"
 

@@ -10,17 +10,20 @@ namespace
 {
 TEST(LineOption, OverridesCommonConditions)
 {
-    const CurveRequest common{
-        .Part = {}, .Chart = "temperature-rise", .DCBias = "5V", .Frequency = "100", .Ambient = "40"};
+    const CurveRequest common{.Part = {},
+                              .Chart = "temperature-rise",
+                              .Conditions = {{Condition::DCBias, "5V"},
+                                             {Condition::Frequency, "100"},
+                                             {Condition::AmbientTemperature, "40"}}};
     const auto request = RequestOfLine("  ABC  dc-bias=12V heat-resistance=50 effective-power=0.1W", common);
     EXPECT_EQ(request.Part, "ABC");
     EXPECT_EQ(request.Chart, "temperature-rise");
-    EXPECT_EQ(request.DCBias, "12V");
-    EXPECT_EQ(request.Frequency, "100");
-    EXPECT_EQ(request.HeatResistance, "50");
-    EXPECT_EQ(request.Ambient, "40");
+    EXPECT_EQ(request.Conditions[Condition::DCBias], "12V");
+    EXPECT_EQ(request.Conditions[Condition::Frequency], "100");
+    EXPECT_EQ(request.Conditions[Condition::HeatResistance], "50");
+    EXPECT_EQ(request.Conditions[Condition::AmbientTemperature], "40");
     EXPECT_EQ(request.Parameter, "effective-power");
-    EXPECT_EQ(request.ParameterValue, "0.1W");
+    EXPECT_EQ(request.Conditions[Condition::Parameter], "0.1W");
 }
 
 std::string UsageErrorOf(const std::string& line)

@@ -1,6 +1,6 @@
 #include "tests/partfiles/SmallPair.h"
 
-#include "partdata/Availability.h"
+#include "calc/ChartKinds.h"
 #include "partdata/PartTable.h"
 #include "partfiles/PairCheck.h"
 

@@ -18,7 +18,7 @@ constexpr const char* medium = "KTS31NB51E106MA01";
 
 CurveRequest AtBias(const std::string& volts)
 {
-    return {.Part = medium, .Chart = "capacitance-temperature", .DCBias = volts};
+    return {.Part = medium, .Chart = "capacitance-temperature", .Conditions = {{Condition::DCBias, volts}}};
 }
 
 /// What a step is refused with.
@@ -102,7 +102,8 @@ TEST(ChartRange, TellsTheEndThatIsNoValue)
 
 TEST(ChartRange, TakesFrequenciesInKilohertz)
 {
-    const CurveRequest request{.Part = medium, .Chart = "allowable-power", .DCBias = "5"};
+    const CurveRequest request{
+        .Part = medium, .Chart = "allowable-power", .Conditions = {{Condition::DCBias, "5"}}};
     const std::vector<ChartRecord> lines = {CurvesOf({request}, Parts(), {}).front().Line};
     const auto view = ViewOf(lines, {.XFrom = "100", .XTo = "0.5MHz"});
     EXPECT_EQ(view.Range.XMin, 1e5F);

@@ -1,6 +1,7 @@
 /// Every part of the range heats as its loss factor, case and capacitance demand.
 
 #include "calc/Calculate.h"
+#include "calc/ChartKinds.h"
 #include "tests/samplerange/Range.h"
 
 #include <gtest/gtest.h>
@@ -17,7 +18,7 @@ static ChartRecord RiseOver(std::string_view xAxis, const PartRecord& part, floa
                             float kilohertz)
 {
     ChartRecord record;
-    record.ChartType = static_cast<std::int16_t>(ChartType::TemperatureRise);
+    record.ChartType = NumberOf(ChartId::TemperatureRise);
     record.XAxisName = xAxis;
     record.YAxisName = "Temperature Rise";
     record.DCBiasVoltage = biasVolts;

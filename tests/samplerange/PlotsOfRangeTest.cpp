@@ -2,7 +2,7 @@
 /// at the highest bias, cool and at the highest temperature.
 
 #include "calc/Calculate.h"
-#include "calc/ChartNames.h"
+#include "calc/ChartKinds.h"
 #include "tests/samplerange/Range.h"
 
 #include <gtest/gtest.h>
@@ -20,10 +20,10 @@ static void ExpectDrawable(const PartRecord& part, const ChartRecord& record)
     EXPECT_LT(record.XData.front(), record.XData.back()) << part.PartNum[0];
 }
 
-static ChartRecord PowerChart(ChartType type, const PartRecord& part, float biasVolts, float ambientC)
+static ChartRecord PowerChart(ChartId type, const PartRecord& part, float biasVolts, float ambientC)
 {
     ChartRecord record;
-    record.ChartType = static_cast<std::int16_t>(type);
+    record.ChartType = NumberOf(type);
     record.XAxisName = "Frequency";
     record.YAxisName = "Temperature Rise";
     record.DCBiasVoltage = biasVolts;
@@ -59,9 +59,10 @@ TEST(EveryPart, PlotsItsTemperatureRiseOverLoad)
         {
             for (const float ambient : {20.0F, part->Data[Value::UpperTemperature]})
             {
-                for (const auto axis : ParameterNames)
+                for (const Quantity load : Parameters)
                 {
-                    auto record = PowerChart(ChartType::TemperatureRise, *part, bias, ambient);
+                    const auto axis = NameOf(load);
+                    auto record = PowerChart(ChartId::TemperatureRise, *part, bias, ambient);
                     record.XAxisName = axis;
                     record.Frequency = 100;
                     EXPECT_FALSE(Calculate(*part, record, CodeView::Eia).has_value());
@@ -81,9 +82,10 @@ TEST(EveryPart, PlotsItsTemperatureRiseOverFrequencyUpToTheShownLimit)
         {
             for (const float ambient : {20.0F, part->Data[Value::UpperTemperature]})
             {
-                for (const auto parameter : ParameterNames)
+                for (const Quantity load : Parameters)
                 {
-                    auto record = PowerChart(ChartType::TemperatureRise, *part, bias, ambient);
+                    const auto parameter = NameOf(load);
+                    auto record = PowerChart(ChartId::TemperatureRise, *part, bias, ambient);
                     record.ParameterName = parameter;
                     record.ParameterValue = 1e30F;
                     const auto refusal = Calculate(*part, record, CodeView::Eia);
@@ -106,9 +108,10 @@ TEST(EveryPart, PlotsItsAllowablePower)
         {
             for (const float ambient : {20.0F, part->Data[Value::UpperTemperature]})
             {
-                for (const auto axis : ParameterNames)
+                for (const Quantity load : Parameters)
                 {
-                    auto record = PowerChart(ChartType::AllowablePower, *part, bias, ambient);
+                    const auto axis = NameOf(load);
+                    auto record = PowerChart(ChartId::AllowablePower, *part, bias, ambient);
                     record.YAxisName = axis;
                     EXPECT_FALSE(Calculate(*part, record, CodeView::Eia).has_value());
                     ExpectDrawable(*part, record);

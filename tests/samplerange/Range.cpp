@@ -1,7 +1,8 @@
 #include "tests/samplerange/Range.h"
+#include "calc/ChartKinds.h"
 
 #include "calc/Calculate.h"
-#include "partdata/Availability.h"
+#include "calc/ChartKinds.h"
 #include "partdata/SpecialParts.h"
 
 #include <cmath>
@@ -78,12 +79,12 @@ TemperatureRange OperatingRange(const PartRecord& part)
     return part.Tcc[0] == "X5R" ? TemperatureRange{-55, 85} : TemperatureRange{-30, 85};
 }
 
-static ChartRecord CapacitanceChart(ChartType type, const PartRecord& part, std::string_view yAxis,
+static ChartRecord CapacitanceChart(ChartId type, const PartRecord& part, std::string_view yAxis,
                                     float biasVolts, float ambientC, CodeView view)
 {
     ChartRecord record;
-    record.ChartType = static_cast<std::int16_t>(type);
-    record.XAxisName = type == ChartType::CapacitanceTemperature ? "Temperature" : "DC Bias Voltage";
+    record.ChartType = NumberOf(type);
+    record.XAxisName = type == ChartId::CapacitanceTemperature ? "Temperature" : "DC Bias Voltage";
     record.YAxisName = yAxis;
     record.DCBiasVoltage = biasVolts;
     record.AmbientTemp = ambientC;
@@ -93,12 +94,12 @@ static ChartRecord CapacitanceChart(ChartType type, const PartRecord& part, std:
 
 ChartRecord OverTemperature(const PartRecord& part, std::string_view yAxis, float biasVolts, CodeView view)
 {
-    return CapacitanceChart(ChartType::CapacitanceTemperature, part, yAxis, biasVolts, 0, view);
+    return CapacitanceChart(ChartId::CapacitanceTemperature, part, yAxis, biasVolts, 0, view);
 }
 
 ChartRecord OverBias(const PartRecord& part, std::string_view yAxis, float ambientC, CodeView view)
 {
-    return CapacitanceChart(ChartType::CapacitanceDCVoltage, part, yAxis, 0, ambientC, view);
+    return CapacitanceChart(ChartId::CapacitanceDCVoltage, part, yAxis, 0, ambientC, view);
 }
 
 double BiasPolynomial(const PartRecord& part, double volts)

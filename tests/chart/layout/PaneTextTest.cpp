@@ -1,13 +1,14 @@
 #include "chart/layout/PaneText.h"
+#include "calc/ChartKinds.h"
 
 #include "partdata/RunTimeError.h"
 
 #include <gtest/gtest.h>
 
-static ChartRecord Line(ChartType type, const char* xAxisName, const char* yAxisName)
+static ChartRecord Line(ChartId type, const char* xAxisName, const char* yAxisName)
 {
     ChartRecord line;
-    line.ChartType = static_cast<std::int16_t>(type);
+    line.ChartType = NumberOf(type);
     line.XAxisName = xAxisName;
     line.YAxisName = yAxisName;
     line.DCBiasVoltage = 6.3F;
@@ -21,13 +22,13 @@ static ChartRecord Line(ChartType type, const char* xAxisName, const char* yAxis
 
 TEST(PaneText, OfATemperatureRiseOverALoadTellsTheFrequency)
 {
-    const auto line = Line(ChartType::TemperatureRise, "Current", "Temperature Rise");
+    const auto line = Line(ChartId::TemperatureRise, "Current", "Temperature Rise");
     EXPECT_EQ(PaneText(line), "(6.3[V],50[°C/W],100[kHz],-25[°C])");
 }
 
 TEST(PaneText, OfATemperatureRiseOverFrequencyEndsWithTheParameter)
 {
-    auto line = Line(ChartType::TemperatureRise, "Frequency", "Temperature Rise");
+    auto line = Line(ChartId::TemperatureRise, "Frequency", "Temperature Rise");
     EXPECT_EQ(PaneText(line), "(6.3[V],50[°C/W],-25[°C],2.5[VA])");
     line.ParameterName = "Current";
     EXPECT_EQ(PaneText(line), "(6.3[V],50[°C/W],-25[°C],2.5[Arms])");
@@ -37,7 +38,7 @@ TEST(PaneText, OfATemperatureRiseOverFrequencyEndsWithTheParameter)
 
 TEST(PaneText, OfAllowablePowerBeginsWithTheLargestValue)
 {
-    auto line = Line(ChartType::AllowablePower, "Frequency", "Current");
+    auto line = Line(ChartId::AllowablePower, "Frequency", "Current");
     line.ExtraValue = 12.34567F;
     EXPECT_EQ(PaneText(line), "(12.346[Arms],6.3[V],50[°C/W],-25[°C])");
     line.ExtraValue = 0.5F;
@@ -46,7 +47,7 @@ TEST(PaneText, OfAllowablePowerBeginsWithTheLargestValue)
 
 TEST(PaneText, ShowsALargestValueOfZeroAsADigit)
 {
-    auto line = Line(ChartType::AllowablePower, "Frequency", "Effective Power");
+    auto line = Line(ChartId::AllowablePower, "Frequency", "Effective Power");
     for (const float zero : {0.0F, 0.0004F})
     {
         line.ExtraValue = zero;
@@ -56,13 +57,12 @@ TEST(PaneText, ShowsALargestValueOfZeroAsADigit)
 
 TEST(PaneText, OfCapacitanceTellsTheFixedCondition)
 {
-    EXPECT_EQ(PaneText(Line(ChartType::CapacitanceTemperature, "Temperature", "Capacitance")), "(6.3[V] )");
-    EXPECT_EQ(PaneText(Line(ChartType::CapacitanceDCVoltage, "DC Bias Voltage", "Capacitance")),
-              "(-25[ °C] )");
+    EXPECT_EQ(PaneText(Line(ChartId::CapacitanceTemperature, "Temperature", "Capacitance")), "(6.3[V] )");
+    EXPECT_EQ(PaneText(Line(ChartId::CapacitanceDCVoltage, "DC Bias Voltage", "Capacitance")), "(-25[ °C] )");
 }
 
 TEST(PaneText, DoesWithoutADegreeSign)
 {
-    const auto line = Line(ChartType::TemperatureRise, "Current", "Temperature Rise");
+    const auto line = Line(ChartId::TemperatureRise, "Current", "Temperature Rise");
     EXPECT_EQ(PaneText(line, ""), "(6.3[V],50[C/W],100[kHz],-25[C])");
 }

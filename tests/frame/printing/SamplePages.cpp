@@ -1,4 +1,5 @@
 #include "tests/frame/printing/SamplePages.h"
+#include "calc/ChartKinds.h"
 
 #include "calc/ChartNames.h"
 #include "calc/Curve.h"
@@ -81,7 +82,7 @@ std::vector<ChartRecord> SixLines(const ChartKey& chart)
         line.HeatResistance = 46.93F;
         line.Frequency = 123.4F;
         line.AmbientTemp = -55;
-        line.ParameterName = ParameterNames.at(k % ParameterNames.size());
+        line.ParameterName = NameOf(Parameters.at(k % Parameters.size()));
         line.ParameterValue = 1.2345678e-5F;
         line.ExtraValue = 1234567.9F;
         line.XMin = xLimits.XMin;

@@ -1,4 +1,4 @@
-#include "requests/Quantity.h"
+#include "requests/UnitEntry.h"
 
 #include "calc/NumberText.h"
 #include "requests/Names.h"
@@ -41,21 +41,23 @@ static constexpr std::array<Prefix, 11> prefixes = {{{"", 0},
                                                      {"M", 6},
                                                      {"G", 9}}};
 
+/// In the order of `Quantity`.
 static const UnitFamily& FamilyOf(Quantity quantity)
 {
-    static const std::array<UnitFamily, 10> families = {{
-        {"a voltage", {"V", "Vdc"}, 0, true},
-        {"an r.m.s. voltage", {"V", "Vrms"}, 0, true},
+    static const std::array<UnitFamily, 11> families = {{
         {"a current", {"A", "Arms"}, 0, true},
-        {"an effective power", {"W"}, 0, true},
+        {"an r.m.s. voltage", {"V", "Vrms"}, 0, true},
         {"an apparent power", {"VA"}, 0, true},
+        {"an effective power", {"W"}, 0, true},
         {"a frequency", {"Hz"}, 3, true},
         {"a temperature", {"C", "\u00B0C", "degC"}, 0, false},
-        {"a heat resistance", {"C/W", "\u00B0C/W", "K/W"}, 0, false},
+        {"a temperature", {"C", "\u00B0C", "degC"}, 0, false},
+        {"a voltage", {"V", "Vdc"}, 0, true},
         {"a capacitance", {"F"}, -12, true},
         {"a change", {"%"}, 0, false},
+        {"a heat resistance", {"C/W", "\u00B0C/W", "K/W"}, 0, false},
     }};
-    return families[static_cast<std::size_t>(quantity)];
+    return families.at(static_cast<std::size_t>(quantity));
 }
 
 static bool IsDigit(char c)
@@ -177,31 +179,4 @@ float ValueInUnit(std::string_view typed, Quantity quantity, std::string_view ke
                            '"' + std::string(typed) + "\" is not a number");
     }
     return *value;
-}
-
-Quantity QuantityOf(std::string_view name)
-{
-    struct Named
-    {
-        std::string_view Name;
-        Quantity Measures;
-    };
-    static constexpr std::array<Named, 10> names = {{
-        {"Current", Quantity::Current},
-        {"Voltage", Quantity::RmsVoltage},
-        {"Effective Power", Quantity::EffectivePower},
-        {"Apparent Power", Quantity::ApparentPower},
-        {"Frequency", Quantity::Frequency},
-        {"Temperature", Quantity::Temperature},
-        {"Temperature Rise", Quantity::Temperature},
-        {"DC Bias Voltage", Quantity::Voltage},
-        {"Capacitance", Quantity::Capacitance},
-        {"Capacitance Change", Quantity::Change},
-    }};
-    const auto found = std::ranges::find(names, name, &Named::Name);
-    if (found == names.end())
-    {
-        throw RequestError(RequestErrorKind::UnknownValue, "", '"' + std::string(name) + "\" is no quantity");
-    }
-    return found->Measures;
 }

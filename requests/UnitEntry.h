@@ -2,29 +2,16 @@
 
 /// Values as engineers type them: "12V", "300kHz", "1.5Arms", "4.7uF".
 
+#include "calc/Quantities.h"
+
 #include <string>
 #include <string_view>
-
-/// What a value measures, with the unit of a number that bears none.
-enum class Quantity
-{
-    Voltage,        ///< V
-    RmsVoltage,     ///< Vrms
-    Current,        ///< Arms
-    EffectivePower, ///< W
-    ApparentPower,  ///< VA
-    Frequency,      ///< kHz
-    Temperature,    ///< °C
-    HeatResistance, ///< °C/W
-    Capacitance,    ///< pF
-    Change,         ///< %
-};
 
 /// The value as it would be typed into the form: a number in the quantity's own unit, its digits kept.
 /// Prefixes from p to G are told apart by letter case, units are not; a blank may stand before the unit. A
 /// text that does not begin with a number is handed on as it is, for the rules to refuse it.
 ///
-///     EntryInUnit("12V", Quantity::Voltage)          // "12"
+///     EntryInUnit("12V", Quantity::DCVoltage)          // "12"
 ///     EntryInUnit("0.3MHz", Quantity::Frequency)     // "0.3E3", that is 300 kHz
 ///     EntryInUnit("4.7uF", Quantity::Capacitance)    // "4.7E6"
 ///
@@ -34,7 +21,3 @@ std::string EntryInUnit(std::string_view typed, Quantity quantity, std::string_v
 /// The value as a number. Throws RequestError that bears the key for a unit that does not fit and for a text
 /// that is no number.
 float ValueInUnit(std::string_view typed, Quantity quantity, std::string_view key = {});
-
-/// What an axis or parameter measures, by the name that the form shows: "Apparent Power", "Temperature Rise".
-/// Throws RequestError for any other name.
-Quantity QuantityOf(std::string_view name);

@@ -1,4 +1,5 @@
-#include "calc/ConditionRules.h"
+#include "calc/Conditions.h"
+#include "calc/ChartKinds.h"
 #include "tests/calc/NamedRow.h"
 
 #include <gtest/gtest.h>
@@ -51,32 +52,36 @@ struct Row
 Judge Bias(int chartType, float ratedVolts = 16, EntryLocale locale = Point)
 {
     return [=](const char* entry)
-    { return RefuseDCBiasVol(entry, Part(ratedVolts), static_cast<std::int16_t>(chartType), locale); };
+    {
+        const auto refuse = RuleOf(ChartKindOf(chartType), Condition::DCBias);
+        return refuse(entry, Part(ratedVolts), CodeView::Eia, locale);
+    };
 }
 
 Judge FrequencyRule(EntryLocale locale = Point)
 {
-    return [=](const char* entry) { return RefuseFrequency(entry, locale); };
+    return [=](const char* entry) { return RefuseFrequency(entry, {}, CodeView::Eia, locale); };
 }
 
 Judge HeatRule()
 {
-    return [](const char* entry) { return RefuseHeatResistance(entry, Point); };
+    return [](const char* entry) { return RefuseHeatResistance(entry, {}, CodeView::Eia, Point); };
 }
 
 Judge Ambient1(float upper)
 {
-    return [=](const char* entry) { return RefuseAmbientTemp1(entry, Part(16, upper), Point); };
+    return [=](const char* entry)
+    { return RefuseHeatingAmbient(entry, Part(16, upper), CodeView::Eia, Point); };
 }
 
 Judge Ambient2(const char* tcc, CodeView view)
 {
-    return [=](const char* entry) { return RefuseAmbientTemp2(entry, Part(16, 125, tcc), view, Point); };
+    return [=](const char* entry) { return RefuseClassAmbient(entry, Part(16, 125, tcc), view, Point); };
 }
 
 Judge Parameter()
 {
-    return [](const char* entry) { return RefuseParameter(entry, Point); };
+    return [](const char* entry) { return RefuseNoNumber(entry, {}, CodeView::Eia, Point); };
 }
 
 class Entry : public testing::TestWithParam<Row>
@@ -209,6 +214,27 @@ TEST(AmbientOfCapacitance, OfY5VAtMinus30DependsOnTheCode)
 {
     EXPECT_EQ(Ambient2("Y5V", CodeView::Eia)("-30"), Valid);
     EXPECT_EQ(Ambient2("Y5V", CodeView::Jis)("-30"), Refusal(AmbientRange("-25 to 85")));
+}
+
+TEST(Conditions, AreKnownByTheirOwnRows)
+{
+    for (const ConditionKind& kind : ConditionKinds())
+    {
+        EXPECT_EQ(&KindOf(kind.Id), &kind);
+    }
+    EXPECT_EQ(KindOf(Condition::AmbientTemperature).Name, "Ambient Temperature");
+    EXPECT_EQ(KindOf(Condition::Frequency).Value, &ChartRecord::Frequency);
+}
+
+TEST(FirstEntry, IsThePartsOwnHeatResistanceAndTheViewsReference)
+{
+    auto part = Part(16);
+    part.Data[31] = 46.93F;
+    EXPECT_EQ(FirstEntry(Condition::HeatResistance, part, CodeView::Eia), "46.93");
+    EXPECT_EQ(FirstEntry(Condition::AmbientTemperature, part, CodeView::Eia), "25");
+    EXPECT_EQ(FirstEntry(Condition::AmbientTemperature, part, CodeView::Jis), "20");
+    EXPECT_EQ(FirstEntry(Condition::DCBias, part, CodeView::Jis), "");
+    EXPECT_EQ(FirstEntry(Condition::Parameter, part, CodeView::Jis), "");
 }
 
 } // namespace

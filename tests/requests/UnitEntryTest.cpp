@@ -1,6 +1,6 @@
 /// Values with units, as engineers type them.
 
-#include "requests/Quantity.h"
+#include "requests/UnitEntry.h"
 
 #include "requests/RequestError.h"
 
@@ -34,11 +34,11 @@ TEST_P(FittingUnits, BecomeTheUnitOfTheForm)
 
 INSTANTIATE_TEST_SUITE_P(
     Values, FittingUnits,
-    testing::Values(Row{"bare volts", "12", Quantity::Voltage, 12},
-                    Row{"volts", "12V", Quantity::Voltage, 12},
-                    Row{"blank before the unit", " 12.5 V ", Quantity::Voltage, 12.5F},
-                    Row{"millivolts", "500mV", Quantity::Voltage, 0.5F},
-                    Row{"kilovolts", "1.2kV", Quantity::Voltage, 1200},
+    testing::Values(Row{"bare volts", "12", Quantity::DCVoltage, 12},
+                    Row{"volts", "12V", Quantity::DCVoltage, 12},
+                    Row{"blank before the unit", " 12.5 V ", Quantity::DCVoltage, 12.5F},
+                    Row{"millivolts", "500mV", Quantity::DCVoltage, 0.5F},
+                    Row{"kilovolts", "1.2kV", Quantity::DCVoltage, 1200},
                     Row{"bare kilohertz", "300", Quantity::Frequency, 300},
                     Row{"kilohertz", "300kHz", Quantity::Frequency, 300},
                     Row{"kilohertz in any case", "300KHZ", Quantity::Frequency, 300},
@@ -64,7 +64,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"microfarads with the micro sign", "4.7\u00B5F", Quantity::Capacitance, 4700000},
                     Row{"microfarads with the Greek letter", "4.7\u03BCF", Quantity::Capacitance, 4700000},
                     Row{"farads", "1E-6F", Quantity::Capacitance, 1000000},
-                    Row{"percent", "-20%", Quantity::Change, -20}));
+                    Row{"percent", "-20%", Quantity::CapacitanceChange, -20}));
 
 class ForeignUnits : public testing::TestWithParam<Row>
 {
@@ -77,40 +77,40 @@ TEST_P(ForeignUnits, AreRefused)
 
 INSTANTIATE_TEST_SUITE_P(Values, ForeignUnits,
                          testing::Values(Row{"volts of frequency", "12V", Quantity::Frequency, 0},
-                                         Row{"kilohertz of voltage", "12kHz", Quantity::Voltage, 0},
+                                         Row{"kilohertz of voltage", "12kHz", Quantity::DCVoltage, 0},
                                          Row{"watts of apparent power", "2W", Quantity::ApparentPower, 0},
                                          Row{"volt-amperes of effective power", "2VA",
                                              Quantity::EffectivePower, 0},
-                                         Row{"r.m.s. volts of bias", "2Vrms", Quantity::Voltage, 0},
+                                         Row{"r.m.s. volts of bias", "2Vrms", Quantity::DCVoltage, 0},
                                          Row{"a prefix alone", "2k", Quantity::Frequency, 0},
                                          Row{"a prefix of degrees", "2kC", Quantity::Temperature, 0},
                                          Row{"kelvin of temperature", "300K", Quantity::Temperature, 0},
-                                         Row{"two prefixes", "2mkV", Quantity::Voltage, 0},
-                                         Row{"something behind the unit", "2V3", Quantity::Voltage, 0}));
+                                         Row{"two prefixes", "2mkV", Quantity::DCVoltage, 0},
+                                         Row{"something behind the unit", "2V3", Quantity::DCVoltage, 0}));
 
 TEST(Quantities, LeaveWhatIsNoNumberToTheRules)
 {
     for (const char* typed : {"", "five", "V", "1,5", "1.5.2", "--3", "1-2", "nan", "inf"})
     {
-        EXPECT_EQ(EntryInUnit(typed, Quantity::Voltage), typed);
-        EXPECT_THROW(ValueInUnit(typed, Quantity::Voltage), RequestError) << typed;
+        EXPECT_EQ(EntryInUnit(typed, Quantity::DCVoltage), typed);
+        EXPECT_THROW(ValueInUnit(typed, Quantity::DCVoltage), RequestError) << typed;
     }
 }
 
 TEST(Quantities, KeepTheDigitsAsTyped)
 {
-    EXPECT_EQ(EntryInUnit("12V", Quantity::Voltage), "12");
-    EXPECT_EQ(EntryInUnit("16777217mV", Quantity::Voltage), "16777217E-3");
+    EXPECT_EQ(EntryInUnit("12V", Quantity::DCVoltage), "12");
+    EXPECT_EQ(EntryInUnit("16777217mV", Quantity::DCVoltage), "16777217E-3");
 }
 
 TEST(Quantities, StayInfiniteOrZeroWhenNoSingleHoldsThem)
 {
-    EXPECT_TRUE(std::isinf(ValueInUnit("1E39V", Quantity::Voltage)));
+    EXPECT_TRUE(std::isinf(ValueInUnit("1E39V", Quantity::DCVoltage)));
     EXPECT_TRUE(std::isinf(ValueInUnit("1E99999999999999999999MHz", Quantity::Frequency)));
     EXPECT_EQ(ValueInUnit("1E-99999999999999999999MHz", Quantity::Frequency), 0);
     // The least and the largest exponent that an int holds, shifted beyond it by the prefix.
-    EXPECT_EQ(EntryInUnit("1E-2147483648mV", Quantity::Voltage), "1E-100003");
-    EXPECT_EQ(ValueInUnit("1E-2147483648mV", Quantity::Voltage), 0);
-    EXPECT_TRUE(std::isinf(ValueInUnit("1E2147483647MV", Quantity::Voltage)));
+    EXPECT_EQ(EntryInUnit("1E-2147483648mV", Quantity::DCVoltage), "1E-100003");
+    EXPECT_EQ(ValueInUnit("1E-2147483648mV", Quantity::DCVoltage), 0);
+    EXPECT_TRUE(std::isinf(ValueInUnit("1E2147483647MV", Quantity::DCVoltage)));
 }
 } // namespace

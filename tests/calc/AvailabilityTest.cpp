@@ -1,4 +1,4 @@
-#include "partdata/Availability.h"
+#include "calc/ChartKinds.h"
 #include "partdata/SpecialParts.h"
 
 #include <gtest/gtest.h>
