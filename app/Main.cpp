@@ -3,6 +3,8 @@
 #include "app/HelpLanguages.h"
 #include "app/SingleInstance.h"
 #include "app/mdlPublic.h"
+#include "files/PartFiles.h"
+#include "files/PartLoading.h"
 #include "formkit/Messages.h"
 
 #include <filesystem>

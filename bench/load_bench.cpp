@@ -2,7 +2,7 @@
 /// counts the memory that a loaded table keeps.
 
 #include "bench/Turns.h"
-#include "partdata/PartTable.h"
+#include "files/PartLoading.h"
 
 #include <malloc.h>
 

@@ -1,5 +1,6 @@
 #include "cli/Command.h"
 
+#include "files/PartLoading.h"
 #include "partdata/RunTimeError.h"
 
 #include <CLI/CLI.hpp>

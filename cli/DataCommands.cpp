@@ -1,10 +1,14 @@
 #include "cli/DataCommands.h"
 
 #include "cli/Command.h"
+#include "files/InputFile.h"
+#include "files/PartFiles.h"
+#include "files/PartLoading.h"
+#include "files/WholeFile.h"
 #include "partdata/DataReader.h"
 #include "partdata/PartTable.h"
 #include "partdata/RunTimeError.h"
-#include "partfiles/IndexWriter.h"
+#include "partfiles/PairBytes.h"
 #include "partfiles/PairCheck.h"
 #include "partfiles/PairReplacement.h"
 #include "partfiles/TablePair.h"
@@ -62,13 +66,6 @@ std::vector<PartNames> NamesOfAll(const std::vector<PartRecord>& parts)
     return names;
 }
 
-/// What ends the lines of an index: CRLF or LF, whichever comes first.
-std::string_view LineEndOf(const std::string& indexText)
-{
-    const auto first = indexText.find_first_of("\r\n");
-    return first != std::string::npos && indexText.compare(first, 2, "\r\n") == 0 ? "\r\n" : "\n";
-}
-
 /// Says what the table cannot give back.
 void NoteLosses(const PairPaths& pair, const std::string& indexText, const PartTable& table)
 {
@@ -78,7 +75,7 @@ void NoteLosses(const PairPaths& pair, const std::string& indexText, const PartT
                   << ": note: not in canonical form; build will write it with every name quoted and one line "
                      "a part\n";
     }
-    const auto bytes = fs::file_size(pair.Data);
+    const auto bytes = InputFile(pair.Data).Size();
     const auto needed = std::uintmax_t{table.PartData.size()} * DataRecordBytes;
     if (bytes > needed)
     {
@@ -94,7 +91,7 @@ void NoteLosses(const PairPaths& pair, const std::string& indexText, const PartT
 
 void Export(const DataOptions& options)
 {
-    const PairPaths pair = {.Index = IndexOf(options.Pair), .Data = DataOf(options.Pair)};
+    const PairPaths pair = {.Index = IndexFileOf(options.Pair), .Data = DataFileOf(options.Pair)};
     const auto table = ReadPartPair(pair.Index, pair.Data);
     const auto indexText = ReadBytes(pair.Index, MostIndexBytes);
     const auto text = TableText(table.PartData, LineEndOf(indexText));
@@ -104,8 +101,7 @@ void Export(const DataOptions& options)
     }
     else
     {
-        const StagedFile staged(options.Output, text);
-        PutInPlace(staged.Path(), staged.Target());
+        WriteWholeFile(options.Output, text);
     }
     NoteLosses(pair, indexText, table);
 }

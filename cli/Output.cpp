@@ -5,19 +5,22 @@
 #include <iostream>
 
 Output::Output(const std::string& fileName)
+    : name(fileName)
 {
     if (fileName.empty() || fileName == "-")
     {
         return;
     }
-    const auto name = QString::fromLocal8Bit(fileName.data());
-    if (!IsSpecialFile(name))
+    if (!IsSpecialFile(fileName))
     {
-        file = std::make_unique<WholeFile>(name);
+        file = std::make_unique<WholeFile>(fileName);
         return;
     }
-    special = std::make_unique<QFile>(name);
-    if (!special->open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+    special.emplace();
+    // A reader is to get each piece as it comes, and an error is to be told at the piece that it meets.
+    special->rdbuf()->pubsetbuf(nullptr, 0);
+    special->open(fileName, std::ios::binary);
+    if (!special->is_open())
     {
         throw Failure(fileName + ": cannot be opened");
     }
@@ -35,15 +38,15 @@ void Output::Write(std::string_view text)
 {
     if (file)
     {
-        file->Write(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
+        file->Write(text);
         return;
     }
     if (special)
     {
-        const auto size = static_cast<qint64>(text.size());
-        if (special->write(text.data(), size) != size)
+        special->write(text.data(), static_cast<std::streamsize>(text.size()));
+        if (!*special)
         {
-            throw Failure(special->fileName().toStdString() + ": cannot be written");
+            throw Failure(name + ": cannot be written");
         }
         return;
     }

@@ -2,11 +2,11 @@
 
 /// Where a command's results go: standard output, or a file that is written whole or not at all.
 
-#include "app/WholeFile.h"
+#include "files/WholeFile.h"
 
-#include <QFile>
-
+#include <fstream>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -27,6 +27,7 @@ public:
     void Finish();
 
 private:
+    std::string name;
     std::unique_ptr<WholeFile> file;
-    std::unique_ptr<QFile> special;
+    std::optional<std::ofstream> special;
 };

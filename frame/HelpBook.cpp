@@ -1,6 +1,6 @@
 #include "frame/HelpBook.h"
 
-#include "partdata/InputFile.h"
+#include "files/InputFile.h"
 #include "partdata/RunTimeError.h"
 
 #include <QStringDecoder>

@@ -1,6 +1,6 @@
 #include "frame/PrintJob.h"
 
-#include "app/WholeFile.h"
+#include "files/WholeFile.h"
 #include "partdata/RunTimeError.h"
 
 #include <QFile>
@@ -157,7 +157,7 @@ void PrintFile(QPrinter& printer, const DrawPage& drawPage, const PageArea& area
     }
     try
     {
-        WriteWholeFile(target, contents);
+        WriteWholeFile(target.toStdString(), contents.toStdString());
     }
     catch (const RunTimeError& error)
     {

@@ -1,8 +1,8 @@
 #include "frame/frmMain.h"
 
-#include "app/WholeFile.h"
 #include "app/mdlPublic.h"
 #include "calc/DataFile.h"
+#include "files/WholeFile.h"
 #include "formkit/HourglassScope.h"
 #include "formkit/Messages.h"
 #include "formkit/RunCommand.h"
@@ -96,7 +96,7 @@ void frmMain::SaveData(const ChartRecord& line)
     {
         const HourglassScope hourglass;
         const auto text = DataFileText(line, PartOf(line), GetCodeView(), TodayInFile());
-        WriteWholeFile(dialog.FileName, QByteArray::fromStdString(text));
+        WriteWholeFile(dialog.FileName.toStdString(), text);
     }
     ShowInformation(this, QStringLiteral("tavik Data saved to ") + dialog.FileName);
 }

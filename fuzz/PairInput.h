@@ -2,11 +2,8 @@
 
 /// A pair of part files out of the input of a fuzz target.
 
-#include "tests/partdata/TemporaryFolder.h"
-
 #include <algorithm>
 #include <cstdint>
-#include <string>
 #include <string_view>
 
 /// The first two bytes tell how long the index is, the low one first; the data file stands behind it.
@@ -25,16 +22,6 @@ public:
 
     std::string_view Index() const { return index; }
     std::string_view Data() const { return data; }
-
-    /// Writes both as "parts.idx" and "parts.dat"; returns their folder, the same for all inputs.
-    const std::string& WriteFiles() const
-    {
-        static const TemporaryFolder folder;
-        static const std::string path = folder.Path();
-        folder.Write("parts.idx", index);
-        folder.Write("parts.dat", data);
-        return path;
-    }
 
 private:
     std::string_view index;

@@ -7,7 +7,7 @@
 #include "tests/partdata/TemporaryFolder.h"
 #include "tests/partfiles/SmallPair.h"
 
-#include "partdata/PartTable.h"
+#include "files/PartLoading.h"
 #include "partfiles/TableWriter.h"
 
 #include <QGuiApplication>

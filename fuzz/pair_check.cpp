@@ -14,11 +14,11 @@
 #include <string>
 
 /// The number of the run-time error that loading ends with; 0 when it goes well.
-static int LoadingError(const std::string& folder)
+static int LoadingError(const PairInput& pair)
 {
     try
     {
-        LoadPartData(folder);
+        ReadPartPair(pair.Index(), pair.Data(), "parts.idx");
         return 0;
     }
     catch (const RunTimeError& error)
@@ -61,15 +61,14 @@ static void RequireTold(const PairReport& report)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
     const PairInput pair(bytes, size);
-    const auto& folder = pair.WriteFiles();
-    const auto report = CheckPair(folder);
+    const auto report = CheckPair({"parts.idx", pair.Index()}, {"parts.dat", pair.Data()});
     for (const auto& finding : report.Findings)
     {
         RequireFinding(finding, report);
     }
     RequireTold(report);
 
-    const int error = LoadingError(folder);
+    const int error = LoadingError(pair);
     const bool endsEarly = HasError(report, "index-end") || HasError(report, "open-quote");
     Require((error == 62) == endsEarly, "an index that ends within a record is found");
     // A number that stands twice before the end counts only when the index can be read to its end.

@@ -99,11 +99,10 @@ static void RequireError(const RunTimeError& error)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
     const PairInput pair(bytes, size);
-    const auto& folder = pair.WriteFiles();
     ForgetAllocations();
     try
     {
-        const auto table = LoadPartData(folder);
+        const auto table = ReadPartPair(pair.Index(), pair.Data(), "parts.idx");
         Require(LargestAllocation() <= 65536 + 128 * size, "memory is in proportion to the files");
         RequireTable(table, pair.Index(), pair.Data());
     }

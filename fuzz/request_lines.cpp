@@ -1,6 +1,7 @@
 /// A stream of curve requests: one answer a line, a curve of finite numbers or an error that says why.
 
 #include "cli/RequestStream.h"
+#include "files/PartLoading.h"
 #include "fuzz/Allocations.h"
 #include "fuzz/Require.h"
 #include "fuzz/StandardStreams.h"

@@ -25,14 +25,21 @@ static void CopyValues(const char* bytes, std::array<float, DataValues>& values)
     }
 }
 
-void ReadPartValues(InputFile& file, std::span<PartRecord> parts)
+std::size_t MemorySource::Read(std::span<char> bytes)
+{
+    const auto got = rest.copy(bytes.data(), bytes.size());
+    rest.remove_prefix(got);
+    return got;
+}
+
+void ReadPartValues(ByteSource& source, std::span<PartRecord> parts)
 {
     const auto capacity = std::min(RecordsAtATime, parts.size()) * DataRecordBytes;
     const auto buffer = std::make_unique_for_overwrite<char[]>(capacity);
     while (!parts.empty())
     {
         const auto wanted = std::min(RecordsAtATime, parts.size());
-        const auto got = file.Read({buffer.get(), wanted * DataRecordBytes}) / DataRecordBytes;
+        const auto got = source.Read({buffer.get(), wanted * DataRecordBytes}) / DataRecordBytes;
         for (std::size_t i = 0; i < got; ++i)
         {
             CopyValues(buffer.get() + i * DataRecordBytes, parts[i].Data);

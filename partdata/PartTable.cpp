@@ -2,34 +2,25 @@
 
 #include "partdata/DataReader.h"
 #include "partdata/IndexReader.h"
-#include "partdata/InputFile.h"
 #include "partdata/OneLine.h"
 #include "partdata/RunTimeError.h"
 #include "partdata/Windows1252.h"
 
 #include <algorithm>
-#include <new>
-#include <system_error>
+#include <utility>
 
 /// The shortest index record: eight empty fields.
 static constexpr std::size_t LeastIndexRecordBytes = 8;
 /// Of a part number that a message names; the message cuts it to a line anyway.
 static constexpr std::size_t ToldPartNumBytes = 100;
 
-static void ReadNames(PartTable& table, InputFile& file, std::size_t dataRecords)
+static void ReadNames(PartTable& table, IndexSource source, std::size_t expectedParts)
 {
-    if (file.Size() > MostIndexBytes)
-    {
-        throw RunTimeError(RunTimeErrorNumber::Overflow).At(file.Name());
-    }
-    table.indexText = std::make_unique_for_overwrite<char[]>(file.Size());
-    const auto size = file.Read({table.indexText.get(), static_cast<std::size_t>(file.Size())});
+    // A long data file must not make us reserve more than the index can name.
+    table.PartData.reserve(std::min({expectedParts, source.Size / LeastIndexRecordBytes + 1, MostParts}));
+    table.indexText = std::move(source.Bytes);
 
-    // As a rule there is one data record for each part; a longer data file must not make us reserve more
-    // than the index can name.
-    table.PartData.reserve(std::min({dataRecords, size / LeastIndexRecordBytes + 1, MostParts}));
-
-    IndexReader index({table.indexText.get(), size}, file.Name());
+    IndexReader index({table.indexText.get(), source.Size}, source.Name);
     while (index.FindRecord())
     {
         if (table.PartData.size() == MostParts)
@@ -38,7 +29,7 @@ static void ReadNames(PartTable& table, InputFile& file, std::size_t dataRecords
             PartRecord surplus;
             index.ReadRecord(surplus);
             throw RunTimeError(RunTimeErrorNumber::Overflow)
-                .At(PlaceInFile{.File = file.Name(), .Record = MostParts + 1});
+                .At(PlaceInFile{.File = source.Name, .Record = MostParts + 1});
         }
         index.ReadRecord(table.PartData.emplace_back());
     }
@@ -87,38 +78,34 @@ static void PairNamings(std::array<KeyedCollection<std::string_view>, CodeForms>
     }
 }
 
-/// How many records a data file holds; 0 where that is not known.
-static std::size_t DataRecordsOf(const std::filesystem::path& dataFile)
+PartTable MakePartTable(IndexSource index, std::size_t expectedParts, const ValueReader& readValues)
 {
-    std::error_code fault;
-    const auto size = std::filesystem::file_size(dataFile, fault);
-    return fault ? 0 : static_cast<std::size_t>(size / DataRecordBytes);
-}
-
-PartTable ReadPartPair(const std::filesystem::path& indexFile, const std::filesystem::path& dataFile)
-{
-    InputFile index(indexFile);
+    const auto name = index.Name;
     PartTable table;
-    ReadNames(table, index, DataRecordsOf(dataFile));
-    // A fault of the index is told before one of the data file.
-    InputFile data(dataFile);
-    ReadPartValues(data, table.PartData);
-    IndexPartNumbers(table, index.Name());
+    ReadNames(table, std::move(index), expectedParts);
+    readValues(table.PartData);
+    IndexPartNumbers(table, name);
     PairNamings(table.SizeCodeMap, table.PartData, &PartRecord::SizeCode);
     PairNamings(table.TccMap, table.PartData, &PartRecord::Tcc);
     return table;
 }
 
-PartTable LoadPartData(const std::string& programFolder)
+PartTable ReadPartPair(std::string_view indexText, std::string_view data, const std::string& indexName)
 {
-    const auto indexFile = FindPartFile(programFolder, ".idx");
-    const auto dataFile = FindPartFile(programFolder, ".dat");
-    try
+    CheckIndexSize(indexText.size(), indexName);
+    IndexSource index = {.Bytes = std::make_unique_for_overwrite<char[]>(indexText.size()),
+                         .Size = indexText.size(),
+                         .Name = indexName};
+    indexText.copy(index.Bytes.get(), indexText.size());
+    MemorySource source(data);
+    return MakePartTable(std::move(index), data.size() / DataRecordBytes,
+                         [&source](std::span<PartRecord> parts) { ReadPartValues(source, parts); });
+}
+
+void CheckIndexSize(std::uintmax_t bytes, const std::string& indexName)
+{
+    if (bytes > MostIndexBytes)
     {
-        return ReadPartPair(indexFile, dataFile);
-    }
-    catch (const std::bad_alloc&)
-    {
-        throw RunTimeError(RunTimeErrorNumber::OutOfMemory).At(indexFile);
+        throw RunTimeError(RunTimeErrorNumber::Overflow).At(indexName);
     }
 }

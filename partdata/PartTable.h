@@ -3,15 +3,16 @@
 /// The part table: every capacitor of the range, and the ways to look one up.
 
 #include "partdata/KeyedCollection.h"
-#include "partdata/PartFiles.h"
 #include "partdata/PartRecord.h"
 
 #include <array>
 #include <cstdint>
-#include <filesystem>
+#include <functional>
 #include <limits>
 #include <memory>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// Parts that a table holds at most, since their indices are 16-bit numbers.
@@ -44,14 +45,30 @@ struct PartTable
     std::unique_ptr<char[]> indexText;
 };
 
-/// Reads the first index file and the first data file, in alphabetical order, of the program's folder.
-///
-/// Throws RunTimeError with file, record and field: 53 without an index or data file, 62 for an index
-/// that ends within a record or a quote, 6 for more than 32,767 parts or 64 MiB, 457 for a part number that
-/// stands twice in one form ("parts.idx: record 17: PartNum(0) "ABC"", records counted from 1), 75 for a
-/// file that cannot be read.
-PartTable LoadPartData(const std::string& programFolder);
+/// The text of an index file, with the name of the file for messages.
+struct IndexSource
+{
+    std::unique_ptr<char[]> Bytes;
+    std::size_t Size = 0;
+    std::string Name;
+};
 
-/// Reads one pair of part files; as `LoadPartData`, for named files. Parts beyond the last whole record of
-/// the data file keep zeros as `Data`; surplus data records are not read.
-PartTable ReadPartPair(const std::filesystem::path& indexFile, const std::filesystem::path& dataFile);
+/// Puts values into the parts of an index, whose names have been read.
+using ValueReader = std::function<void(std::span<PartRecord> parts)>;
+
+/// Makes the table of an index and of the values that `readValues` gives its parts. `expectedParts` only
+/// tells how many parts to make room for.
+///
+/// Throws RunTimeError with file, record and field: 62 for an index that ends within a record or a quote, 6
+/// for more than 32,767 parts, 457 for a part number that stands twice in one form ("parts.idx: record 17:
+/// PartNum(0) "ABC"", records counted from 1), and whatever `readValues` throws. The first two come before
+/// the values are read.
+PartTable MakePartTable(IndexSource index, std::size_t expectedParts, const ValueReader& readValues);
+
+/// Reads a pair of part files that are in memory; as `MakePartTable`. Parts beyond the last whole record of
+/// the data keep zeros as `Data`; surplus records are not read. Throws RunTimeError 6 also for an index that
+/// is too large.
+PartTable ReadPartPair(std::string_view indexText, std::string_view data, const std::string& indexName);
+
+/// Throws RunTimeError 6 with the file's name for an index larger than any can be.
+void CheckIndexSize(std::uintmax_t bytes, const std::string& indexName);

@@ -1,12 +1,11 @@
 #include "partfiles/PairCheck.h"
 
+#include "files/InputFile.h"
+#include "files/PartFiles.h"
 #include "partdata/DataReader.h"
-#include "partdata/InputFile.h"
-#include "partdata/KeyedCollection.h"
 #include "partdata/PartTable.h"
 #include "partdata/RunTimeError.h"
 #include "partfiles/IndexCheck.h"
-#include "partfiles/PairFiles.h"
 #include "partfiles/ValueCheck.h"
 
 #include <algorithm>
@@ -73,16 +72,15 @@ void CheckSize(std::uintmax_t bytes, std::size_t parts, PairReport& report)
 }
 
 /// The program takes one file of a kind out of its folder, and nobody sees which.
-void CheckFurtherFiles(const fs::path& folder, const std::string& taken, const std::string& extension,
+void CheckFurtherFiles(const fs::path& folder, const std::string& taken, std::string_view extension,
                        PairReport& report)
 {
-    std::error_code fault;
-    for (fs::directory_iterator entry(folder, fault); !fault && entry != fs::directory_iterator();
-         entry.increment(fault))
+    // Without a file that is taken there is none at all.
+    const auto names =
+        taken.empty() ? std::vector<std::string>{} : NamesOfPartFiles(folder.string(), extension);
+    for (const auto& name : names)
     {
-        const auto name = entry->path().filename().string();
-        if (name != taken && name.size() >= extension.size() &&
-            EqualKeys(name.substr(name.size() - extension.size()), extension))
+        if (name != taken)
         {
             report.Findings.push_back(FileFinding(Severity::Warning, "further-file", name,
                                                   "the file is ignored, since " + taken + " comes first"));
@@ -90,12 +88,19 @@ void CheckFurtherFiles(const fs::path& folder, const std::string& taken, const s
     }
 }
 
-void CheckData(const fs::path& dataFile, std::vector<PartRecord>& parts, PairReport& report)
+std::vector<PartRecord> CheckNames(std::string_view indexText, PairReport& report)
 {
-    InputFile file(dataFile);
-    ReadPartValues(file, parts);
-    CheckSize(file.Size(), parts.size(), report);
-    const auto present = std::min<std::uintmax_t>(file.Size() / DataRecordBytes, parts.size());
+    auto parts = CheckIndex(indexText, report.IndexFile, report.Findings);
+    report.DropSurplus();
+    report.Parts = parts.size();
+    return parts;
+}
+
+void CheckData(ByteSource& source, std::uintmax_t bytes, std::vector<PartRecord>& parts, PairReport& report)
+{
+    ReadPartValues(source, parts);
+    CheckSize(bytes, parts.size(), report);
+    const auto present = std::min<std::uintmax_t>(bytes / DataRecordBytes, parts.size());
     for (std::size_t i = 0; i < present; ++i)
     {
         ValueFindings findings(
@@ -112,41 +117,49 @@ void CheckData(const fs::path& dataFile, std::vector<PartRecord>& parts, PairRep
 }
 } // namespace
 
+PairReport CheckPair(const NamedBytes& index, const NamedBytes& data)
+{
+    PairReport report;
+    report.IndexFile = index.Name;
+    report.DataFile = data.Name;
+    auto parts = CheckNames(index.Bytes, report);
+    MemorySource source(data.Bytes);
+    CheckData(source, data.Bytes.size(), parts, report);
+    return report;
+}
+
 PairReport CheckPair(const fs::path& pair)
 {
     PairReport report;
-    fs::path indexFile;
-    fs::path dataFile;
     std::string indexText;
     std::vector<PartRecord> parts;
 
     const bool hasIndex = Try(report,
                               [&]
                               {
-                                  indexFile = IndexOf(pair);
+                                  const auto indexFile = IndexFileOf(pair);
                                   report.IndexFile = indexFile.filename().string();
                                   indexText = ReadBytes(indexFile, MostIndexBytes);
                               });
     if (hasIndex)
     {
-        parts = CheckIndex(indexText, report.IndexFile, report.Findings);
-        report.DropSurplus();
-        report.Parts = parts.size();
+        parts = CheckNames(indexText, report);
     }
     Try(report,
         [&]
         {
-            dataFile = DataOf(pair);
+            const auto dataFile = DataFileOf(pair);
             report.DataFile = dataFile.filename().string();
             if (hasIndex)
             {
-                CheckData(dataFile, parts, report);
+                InputFile file(dataFile);
+                CheckData(file, file.Size(), parts, report);
             }
         });
     if (std::error_code fault; fs::is_directory(pair, fault))
     {
-        CheckFurtherFiles(pair, report.IndexFile, ".idx", report);
-        CheckFurtherFiles(pair, report.DataFile, ".dat", report);
+        Try(report, [&] { CheckFurtherFiles(pair, report.IndexFile, IndexExtension, report); });
+        Try(report, [&] { CheckFurtherFiles(pair, report.DataFile, DataExtension, report); });
     }
     return report;
 }

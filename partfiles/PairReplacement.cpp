@@ -1,8 +1,8 @@
 #include "partfiles/PairReplacement.h"
 
+#include "files/InputFile.h"
 #include "partdata/IndexReader.h"
 #include "partdata/RunTimeError.h"
-#include "partfiles/IndexWriter.h"
 
 #include <exception>
 #include <memory>
@@ -14,10 +14,13 @@ namespace fs = std::filesystem;
 
 namespace
 {
+/// Size of the largest file that is kept in memory to be put back, far beyond any of a pair.
+constexpr std::uintmax_t MostReplacedBytes = std::uintmax_t{256} << 20;
+
 std::optional<std::string> BytesIfThere(const fs::path& file)
 {
     std::error_code fault;
-    return fs::exists(file, fault) ? std::optional(ReadBytes(file, MostTableBytes)) : std::nullopt;
+    return fs::exists(file, fault) ? std::optional(ReadBytes(file, MostReplacedBytes)) : std::nullopt;
 }
 
 /// The names of an index, or nothing when it does not read to its end; the program refuses such a pair.
@@ -70,7 +73,7 @@ bool PutBack(const fs::path& file, const std::optional<std::string>& bytes)
     {
         if (bytes)
         {
-            PutInPlace(StagedFile(file, *bytes).Path(), file);
+            WriteWholeFile(file, *bytes);
         }
         else
         {
@@ -91,9 +94,9 @@ void ReplacePair(const PairPaths& target, const PairBytes& pair, const Placing& 
     const auto oldData = BytesIfThere(target.Data);
     const auto common = oldIndex ? CommonIndex(*oldIndex, pair.Index) : std::nullopt;
 
-    const StagedFile data(target.Data, pair.Data);
-    const StagedFile index(target.Index, pair.Index);
-    const auto commonIndex = common ? std::make_unique<StagedFile>(target.Index, *common) : nullptr;
+    const WholeFile data(target.Data, pair.Data);
+    const WholeFile index(target.Index, pair.Index);
+    const auto commonIndex = common ? std::make_unique<WholeFile>(target.Index, *common) : nullptr;
 
     // No two renamings are one step. Were the data put in place under the old index, the parts behind an
     // inserted one would show the curves of their neighbours. So the index is first cut down to the parts

@@ -2,18 +2,12 @@
 
 /// Puts a new pair of part files in the place of an old one, so that there is a good pair at every moment.
 
-#include "partfiles/PairFiles.h"
-#include "partfiles/WholeFiles.h"
+#include "files/PartFiles.h"
+#include "files/WholeFile.h"
+#include "partfiles/PairBytes.h"
 
+#include <filesystem>
 #include <functional>
-#include <string>
-
-/// The bytes of both files.
-struct PairBytes
-{
-    std::string Index;
-    std::string Data;
-};
 
 /// Moves a finished file to its target, as `PutInPlace` does.
 using Placing =
@@ -23,5 +17,5 @@ using Placing =
 ///
 /// Whoever reads the pair meanwhile, or finds it after a crash, sees the old pair, the new pair, or the parts
 /// that both pairs begin with, with the data of either: never a part with the data of another. After an
-/// error the old pair is put back. Throws RunTimeError as `StagedFile`.
+/// error the old pair is put back. Throws RunTimeError as `WholeFile`.
 void ReplacePair(const PairPaths& target, const PairBytes& pair, const Placing& place = PutInPlace);

@@ -2,7 +2,6 @@
 
 #include "partdata/IndexReader.h"
 #include "partdata/RunTimeError.h"
-#include "partfiles/IndexWriter.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 
 /// Turns a table into the bytes of a pair of part files.
 
-#include "partfiles/PairReplacement.h"
+#include "partfiles/PairBytes.h"
 #include "partfiles/TableReader.h"
 
 /// Both files of a table without errors. The index is read back before it is let out: throws RunTimeError 5

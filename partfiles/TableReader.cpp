@@ -5,7 +5,7 @@
 #include "partdata/PartTable.h"
 #include "partdata/Windows1252.h"
 #include "partfiles/Finding.h"
-#include "partfiles/IndexWriter.h"
+#include "partfiles/PairBytes.h"
 #include "partfiles/TableCells.h"
 
 #include <algorithm>
@@ -86,8 +86,7 @@ private:
 
 TableContents TableReader::Read()
 {
-    const auto lineEnd = text.find_first_of("\r\n");
-    contents.LineEnd = lineEnd != std::string_view::npos && text.substr(lineEnd, 2) == "\r\n" ? "\r\n" : "\n";
+    contents.LineEnd = LineEndOf(text);
     if (!ReadHeadings())
     {
         return std::move(contents);

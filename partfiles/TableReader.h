@@ -6,10 +6,14 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+/// Size of the largest table of parts, far beyond any range.
+inline constexpr std::uintmax_t MostTableBytes = std::uintmax_t{256} << 20;
 
 /// One part of a table; the names are in the code page of the index file.
 struct TablePart

@@ -5,6 +5,7 @@
 /// A designer has a 12 V rail with 1.5 A of ripple at 300 kHz and compares three parts.
 
 #include "app/mdlPublic.h"
+#include "files/PartLoading.h"
 #include "frame/ProgramIcon.h"
 #include "frame/frmMain.h"
 #include "partdata/RunTimeError.h"

@@ -8,6 +8,7 @@
 #include "app/mdlPublic.h"
 #include "bench/desk/BareWindows.h"
 #include "chart/frmGraph.h"
+#include "files/PartLoading.h"
 #include "tests/frame/Desk.h"
 
 #include <QApplication>

@@ -1,4 +1,5 @@
 #include "tests/calc/CurveVectors.h"
+#include "files/PartLoading.h"
 
 #include <filesystem>
 #include <fstream>

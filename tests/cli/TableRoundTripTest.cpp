@@ -1,7 +1,7 @@
 #include "cli/DataCommands.h"
 
 #include "cli/Command.h"
-#include "partdata/PartTable.h"
+#include "files/PartLoading.h"
 #include "tests/calc/NamedRow.h"
 #include "tests/cli/CommandRun.h"
 #include "tests/partfiles/SmallPair.h"

@@ -2,6 +2,7 @@
 
 #include "app/mdlPublic.h"
 #include "chart/frmGraph.h"
+#include "files/PartLoading.h"
 #include "frame/ProgramIcon.h"
 
 #include <QApplication>

@@ -2,7 +2,7 @@
 
 #include "calc/Calculate.h"
 #include "calc/DataFile.h"
-#include "partdata/PartTable.h"
+#include "files/PartLoading.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,10 +1,10 @@
 #include "partdata/PartTable.h"
 #include "partdata/RunTimeError.h"
-#include "tests/partdata/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <bit>
+#include <cstring>
 
 namespace
 {
@@ -52,31 +52,20 @@ float ValueOf(std::size_t part, std::size_t value)
 
 PartTable Load(const std::string& index, const std::string& data)
 {
-    const TemporaryFolder folder;
-    folder.Write("parts.idx", index);
-    folder.Write("parts.dat", data);
-    return LoadPartData(folder.Path());
+    return ReadPartPair(index, data, "parts.idx");
 }
 
-std::string FaultIn(const TemporaryFolder& folder)
+std::string FaultOf(const std::string& index, const std::string& data = "")
 {
     try
     {
-        LoadPartData(folder.Path());
+        Load(index, data);
     }
     catch (const RunTimeError& error)
     {
         return error.what();
     }
     return "";
-}
-
-std::string FaultOf(const std::string& index, const std::string& data = "")
-{
-    const TemporaryFolder folder;
-    folder.Write("parts.idx", index);
-    folder.Write("parts.dat", data);
-    return FaultIn(folder);
 }
 
 TEST(PartTable, HoldsEachLineWithItsDataRecord)
@@ -151,13 +140,9 @@ TEST(PartTable, IgnoresSurplusDataRecords)
     EXPECT_EQ(table.PartData[1].Data[0], 1);
 }
 
-TEST(PartTable, IsNoLargerThanItsIndexHoweverLargeTheDataFileIs)
+TEST(PartTable, IsNoLargerThanItsIndexHoweverMuchDataThereIs)
 {
-    const TemporaryFolder folder;
-    const auto index = folder.Write("parts.idx", LinesOf(2));
-    const auto data = folder.Write("parts.dat", ValuesOf(2));
-    std::filesystem::resize_file(data, 1ULL << 40);
-    const auto table = ReadPartPair(index, data);
+    const auto table = Load(LinesOf(2), ValuesOf(5000));
     EXPECT_EQ(table.PartData[1].Data[65], ValueOf(1, 65));
     EXPECT_LE(table.PartData.capacity(), LinesOf(2).size() / 8 + 1);
 }
@@ -181,25 +166,20 @@ TEST(PartTable, EndsWithinOnePartMoreRatherThanOverflowing)
               "Run-time error '62': Input past end of file: parts.idx: record 32768: field 3");
 }
 
-TEST(PartTable, RefusesAnIndexOfMoreThan64Mebibytes)
+TEST(PartTable, ReadsNoValuesForAnIndexWithAFault)
 {
-    const TemporaryFolder folder;
-    const auto index = folder.Write("parts.idx", "");
-    folder.Write("parts.dat", "");
-    std::filesystem::resize_file(index, 67108864);
-    EXPECT_EQ(FaultIn(folder), "Run-time error '62': Input past end of file: parts.idx: record 1: field 2");
-    std::filesystem::resize_file(index, 67108865);
-    EXPECT_EQ(FaultIn(folder), "Run-time error '6': Overflow: parts.idx");
+    IndexSource index = {.Bytes = std::make_unique<char[]>(5), .Size = 5, .Name = "parts.idx"};
+    std::memcpy(index.Bytes.get(), "A,B,C", 5);
+    const auto readValues = [](std::span<PartRecord>) { FAIL() << "the values were asked for"; };
+    EXPECT_THROW(MakePartTable(std::move(index), 1, readValues), RunTimeError);
 }
 
-TEST(PartTable, TellsAFaultOfTheIndexBeforeOneOfTheDataFile)
+TEST(PartTable, KeepsItsNamesWhenTheTextThatItWasReadFromIsGone)
 {
-    const TemporaryFolder folder;
-    std::filesystem::create_directory(folder.Path() + "/parts.dat");
-    folder.Write("parts.idx", "A,B,C");
-    EXPECT_EQ(FaultIn(folder), "Run-time error '62': Input past end of file: parts.idx: record 1: field 4");
-    folder.Write("parts.idx", LinesOf(1));
-    EXPECT_EQ(FaultIn(folder), "Run-time error '75': Path/File access error: parts.dat");
+    auto text = LinesOf(2);
+    const auto table = ReadPartPair(text, ValuesOf(2), "parts.idx");
+    text.assign(text.size(), 'x');
+    EXPECT_EQ(table.PartData[1].PartNum[0], "GE1");
 }
 
 TEST(PartTable, NamesAPartNumberThatStandsTwiceOnOneLine)

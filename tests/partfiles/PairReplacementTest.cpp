@@ -1,9 +1,8 @@
 #include "partfiles/PairReplacement.h"
 
-#include "partdata/PartTable.h"
+#include "files/PartLoading.h"
 #include "partdata/RunTimeError.h"
 #include "partfiles/IndexWriter.h"
-#include "partfiles/WholeFiles.h"
 #include "tests/calc/NamedRow.h"
 #include "tests/partfiles/SmallPair.h"
 

@@ -1,6 +1,7 @@
 #include "tests/partfiles/SmallPair.h"
 
 #include "calc/ChartKinds.h"
+#include "files/PartLoading.h"
 #include "partdata/PartTable.h"
 #include "partfiles/PairCheck.h"
 

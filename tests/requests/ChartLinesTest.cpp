@@ -1,6 +1,7 @@
 /// Lines and ranges of a chart that is asked for.
 
 #include "requests/ChartLines.h"
+#include "files/PartLoading.h"
 
 #include "requests/RequestError.h"
 

@@ -3,6 +3,7 @@
 #include "requests/JsonRequest.h"
 
 #include "calc/Calculate.h"
+#include "files/PartLoading.h"
 #include "requests/CurveText.h"
 
 #include <gtest/gtest.h>

@@ -2,6 +2,7 @@
 
 #include "requests/RequestError.h"
 
+#include "files/PartLoading.h"
 #include "requests/CurveRequest.h"
 
 #include <gtest/gtest.h>

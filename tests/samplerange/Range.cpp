@@ -2,7 +2,7 @@
 #include "calc/ChartKinds.h"
 
 #include "calc/Calculate.h"
-#include "calc/ChartKinds.h"
+#include "files/PartLoading.h"
 #include "partdata/SpecialParts.h"
 
 #include <cmath>

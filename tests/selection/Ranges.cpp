@@ -1,5 +1,6 @@
 #include "tests/selection/Ranges.h"
 
+#include "files/PartLoading.h"
 #include "tests/partdata/TemporaryFolder.h"
 
 #include <cstring>

@@ -1,6 +1,6 @@
 #include "tests/e2e/mutated/Differences.h"
 
-#include "partdata/PartTable.h"
+#include "files/PartLoading.h"
 #include "partdata/RunTimeError.h"
 
 #include <QJsonArray>

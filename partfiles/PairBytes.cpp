@@ -1,4 +1,4 @@
-#include "partfiles/IndexWriter.h"
+#include "partfiles/PairBytes.h"
 
 #include <bit>
 #include <cstdint>
@@ -31,6 +31,12 @@ std::string IndexText(std::span<const PartNames> parts, std::string_view lineEnd
         text += lineEnd;
     }
     return text;
+}
+
+std::string_view LineEndOf(std::string_view text)
+{
+    const auto first = text.find_first_of("\r\n");
+    return first != std::string_view::npos && text.substr(first, 2) == "\r\n" ? "\r\n" : "\n";
 }
 
 void AddDataRecord(std::string& bytes, const std::array<float, DataValues>& values)

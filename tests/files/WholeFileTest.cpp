@@ -1,4 +1,4 @@
-#include "app/WholeFile.h"
+#include "files/WholeFile.h"
 
 #include "partdata/RunTimeError.h"
 #include "tests/partdata/TemporaryFolder.h"
@@ -33,7 +33,7 @@ std::string Contents(const std::filesystem::path& file)
 
 void Write(const std::filesystem::path& file, const std::string& contents)
 {
-    WriteWholeFile(QString::fromStdString(file.string()), QByteArray::fromStdString(contents));
+    WriteWholeFile(file, contents);
 }
 
 std::optional<RunTimeError> ErrorOf(const std::filesystem::path& file, const std::string& contents)

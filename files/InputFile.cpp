@@ -1,4 +1,4 @@
-#include "partdata/InputFile.h"
+#include "files/InputFile.h"
 
 #include "partdata/RunTimeError.h"
 
@@ -33,4 +33,16 @@ std::size_t InputFile::Read(std::span<char> bytes)
         throw RunTimeError(RunTimeErrorNumber::PathFileAccessError).At(name);
     }
     return static_cast<std::size_t>(stream.gcount());
+}
+
+std::string ReadBytes(const std::filesystem::path& file, std::uintmax_t most)
+{
+    InputFile input(file);
+    if (input.Size() > most)
+    {
+        throw RunTimeError(RunTimeErrorNumber::Overflow).At(input.Name());
+    }
+    std::string bytes(static_cast<std::size_t>(input.Size()), '\0');
+    bytes.resize(input.Read({bytes.data(), bytes.size()}));
+    return bytes;
 }

@@ -1,5 +1,5 @@
-#include "partdata/PartFiles.h"
-#include "partdata/PartTable.h"
+#include "files/PartFiles.h"
+#include "files/PartLoading.h"
 #include "partdata/RunTimeError.h"
 #include "tests/partdata/TemporaryFolder.h"
 
@@ -67,6 +67,31 @@ TEST(PartFiles, ThatDifferInLetterCaseAloneAreInTheOrderOfTheirBytes)
     folder.Write("PARTS.IDX", "");
     folder.Write("Parts.idx", "");
     EXPECT_EQ(FindPartFile(folder.Path(), ".idx"), folder.Path() + "/PARTS.IDX");
+}
+
+TEST(PartFiles, AreListedInOrder)
+{
+    const TemporaryFolder folder;
+    folder.Write("c.idx", "");
+    folder.Write("B.IDX", "");
+    folder.Write("a.dat", "");
+    EXPECT_EQ(NamesOfPartFiles(folder.Path(), ".idx"), (std::vector<std::string>{"B.IDX", "c.idx"}));
+    EXPECT_TRUE(NamesOfPartFiles(folder.Path() + "/none", ".idx").empty());
+}
+
+TEST(PartFiles, ThatAreMissingAreToldWithTheFolderThatWasSearched)
+{
+    const TemporaryFolder folder;
+    try
+    {
+        FindPartFile(folder.Path(), ".dat");
+        FAIL() << "a file was found in an empty folder";
+    }
+    catch (const RunTimeError& error)
+    {
+        EXPECT_EQ(error.Where().File, "*.dat");
+        EXPECT_EQ(error.Where().Folder, folder.Path());
+    }
 }
 
 TEST(PartFiles, ThatAreMissingAreNotFound)

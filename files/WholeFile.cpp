@@ -1,0 +1,237 @@
+#include "files/WholeFile.h"
+
+#include "partdata/RunTimeError.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <random>
+#include <system_error>
+#include <tuple>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+/// Small pieces are collected before they are written.
+constexpr std::size_t BufferBytes = 64 * 1024;
+/// Links behind one another, after which they are taken for a circle.
+constexpr int MostLinks = 40;
+/// Names that are tried for the new file.
+constexpr int MostNames = 100;
+
+RunTimeErrorNumber NumberOf(int fault)
+{
+    switch (fault)
+    {
+    case ENOENT:
+    case ENOTDIR:
+        return RunTimeErrorNumber::PathNotFound;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+        return RunTimeErrorNumber::PermissionDenied;
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+        return RunTimeErrorNumber::DiskFull;
+    default:
+        return RunTimeErrorNumber::PathFileAccessError;
+    }
+}
+
+[[noreturn]] void FailWith(int fault, const fs::path& file)
+{
+    throw RunTimeError(NumberOf(fault)).At(file.string());
+}
+
+/// The file that a link leads to, whether it is there or not.
+fs::path BehindLinks(const fs::path& file)
+{
+    std::error_code fault;
+    auto target = file;
+    for (int i = 0; fs::is_symlink(target, fault); ++i)
+    {
+        if (i == MostLinks)
+        {
+            FailWith(ELOOP, file);
+        }
+        target = target.parent_path() / fs::read_symlink(target, fault);
+    }
+    return target;
+}
+
+/// True for what is there, but is no file: it must not become one.
+bool IsNoFile(const fs::path& path)
+{
+    std::error_code fault;
+    const auto status = fs::status(path, fault);
+    return fs::exists(status) && !fs::is_regular_file(status);
+}
+
+std::string RandomSuffix(std::random_device& random)
+{
+    constexpr std::string_view Letters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
+    std::string suffix = ".";
+    while (suffix.size() < 7)
+    {
+        suffix += Letters[random() % Letters.size()];
+    }
+    return suffix;
+}
+
+/// Makes a file of a new name beside the target; the system gives it the rights of any new file.
+std::pair<int, fs::path> OpenBeside(const fs::path& target, mode_t mode)
+{
+    std::random_device random;
+    fs::path path;
+    int handle = -1;
+    for (int i = 0; i < MostNames && handle < 0 && (i == 0 || errno == EEXIST); ++i)
+    {
+        path = target.string() + RandomSuffix(random);
+        handle = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+    }
+    return {handle, path};
+}
+
+/// A renaming is on the disk once its folder is.
+void SyncFolderOf(const fs::path& file)
+{
+    const auto folder = file.has_parent_path() ? file.parent_path() : fs::path(".");
+    const int handle = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle >= 0)
+    {
+        fsync(handle);
+        close(handle);
+    }
+}
+} // namespace
+
+bool IsSpecialFile(const fs::path& file)
+{
+    std::error_code fault;
+    return IsNoFile(file) && !fs::is_directory(file, fault);
+}
+
+WholeFile::WholeFile(const fs::path& file)
+    : name(file)
+    , target(BehindLinks(file))
+{
+    if (IsNoFile(target))
+    {
+        Fail(EEXIST);
+    }
+    struct stat old = {};
+    const bool replaces = stat(target.c_str(), &old) == 0;
+    // A file in a writable folder can be replaced even if it is write-protected; its owner did not mean that.
+    if (replaces && access(target.c_str(), W_OK) != 0)
+    {
+        Fail(errno);
+    }
+    std::tie(handle, path) = OpenBeside(target, replaces ? 0600 : 0666);
+    if (handle < 0)
+    {
+        Fail(errno);
+    }
+    if (replaces && fchmod(handle, old.st_mode & 0777U) != 0)
+    {
+        const int fault = errno;
+        close(handle);
+        unlink(path.c_str());
+        Fail(fault);
+    }
+}
+
+WholeFile::WholeFile(const fs::path& file, std::string_view contents)
+    : WholeFile(file)
+{
+    Write(contents);
+    Finish();
+}
+
+WholeFile::~WholeFile()
+{
+    if (handle >= 0)
+    {
+        close(handle);
+    }
+    // After a renaming there is nothing of this name left.
+    unlink(path.c_str());
+}
+
+void WholeFile::Write(std::string_view piece)
+{
+    if (buffer.size() + piece.size() > BufferBytes)
+    {
+        WriteOut(std::exchange(buffer, {}));
+    }
+    if (piece.size() > BufferBytes)
+    {
+        WriteOut(piece);
+        return;
+    }
+    buffer += piece;
+}
+
+void WholeFile::WriteOut(std::string_view bytes) const
+{
+    while (!bytes.empty())
+    {
+        const auto written = write(handle, bytes.data(), bytes.size());
+        if (written == 0 || (written < 0 && errno != EINTR))
+        {
+            // A write that ends early without an error has filled the disk.
+            Fail(written == 0 ? ENOSPC : errno);
+        }
+        bytes.remove_prefix(written < 0 ? 0 : static_cast<std::size_t>(written));
+    }
+}
+
+void WholeFile::Finish()
+{
+    if (handle < 0)
+    {
+        return;
+    }
+    WriteOut(std::exchange(buffer, {}));
+    if (fsync(handle) != 0 || close(std::exchange(handle, -1)) != 0)
+    {
+        Fail(errno);
+    }
+}
+
+void WholeFile::Commit()
+{
+    Finish();
+    PutInPlace(path, target);
+}
+
+void WholeFile::Fail(int fault) const
+{
+    FailWith(fault, name);
+}
+
+void PutInPlace(const fs::path& finished, const fs::path& target)
+{
+    if (IsNoFile(target))
+    {
+        // A device or pipe must not become a file.
+        FailWith(EEXIST, target);
+    }
+    if (std::rename(finished.c_str(), target.c_str()) != 0)
+    {
+        FailWith(errno, target);
+    }
+    SyncFolderOf(target);
+}
+
+void WriteWholeFile(const fs::path& file, std::string_view contents)
+{
+    WholeFile whole(file);
+    whole.Write(contents);
+    whole.Commit();
+}
