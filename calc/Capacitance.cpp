@@ -2,6 +2,7 @@
 
 #include "calc/Bounds.h"
 #include "calc/CapacitanceAxes.h"
+#include "calc/ChangePolynomial.h"
 #include "calc/CheckedMath.h"
 #include "calc/Sweep.h"
 #include "partdata/RunTimeError.h"
@@ -23,17 +24,6 @@ Coefficients CoefficientsOf(const PartRecord& part)
     return data;
 }
 
-/// a·x^6 + b·x^5 + ... + f·x of the six coefficients; no constant term.
-double SixthDegree(const Coefficients& data, ValueGroup coefficients, double x)
-{
-    double sum = 0;
-    for (auto i = coefficients.First; i <= coefficients.Last; ++i)
-    {
-        sum = (sum + data[i]) * x;
-    }
-    return sum;
-}
-
 /// a·V² + b·V + c of the three coefficients.
 double Quadratic(const Coefficients& data, ValueGroup coefficients, double volts)
 {
@@ -41,16 +31,10 @@ double Quadratic(const Coefficients& data, ValueGroup coefficients, double volts
     return (data[first] * volts + data[first + 1]) * volts + data[first + 2];
 }
 
-/// Change by the bias alone, in percent.
-double BiasChange(const Coefficients& data, double volts)
-{
-    return SixthDegree(data, Values::BiasPolynomial, volts);
-}
-
 /// Change by the temperature alone in the polynomial model, in percent.
 double TemperatureChange(const Coefficients& data, double celsius)
 {
-    return SixthDegree(data, Values::TemperaturePolynomial, celsius - double{EiaReferenceC});
+    return ChangePolynomial(data, Values::TemperaturePolynomial, celsius - double{EiaReferenceC});
 }
 
 /// Two changes in percent, one upon the other.

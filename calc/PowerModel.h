@@ -7,6 +7,13 @@
 
 #include <cmath>
 
+/// °C per A² of the current law before it is scaled to a heat resistance: perF/f + flat + f·byF. Throws
+/// RunTimeError 11 for a frequency of 0 and 6 for a sum that is not finite.
+inline double CurrentHeating(double perF, double flat, double byF, double frequencyHz)
+{
+    return CheckedFinite(CheckedQuotient(perF, frequencyHz) + flat + frequencyHz * byF);
+}
+
 /// The heating of one part under given conditions, all in double precision.
 ///
 /// Current law: rise = kI·I². Voltage law: rise = kV·V^S3. Effective power law: rise = P·Rth. At an apparent
@@ -27,7 +34,7 @@ struct PowerModel
     /// °C per A² at a frequency: (Q1/f + Q2 + f·Q3)·Rth/Rref; 1.0 where that, or the sum, is not positive.
     double kI(double frequencyHz) const
     {
-        const double sum = CheckedFinite(CheckedQuotient(Q1, frequencyHz) + Q2 + frequencyHz * Q3);
+        const double sum = CurrentHeating(Q1, Q2, Q3, frequencyHz);
         if (sum <= 0)
         {
             return 1.0;

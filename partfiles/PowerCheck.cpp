@@ -61,8 +61,8 @@ bool CheckCurrentLaw(const PartRecord& part, ValueFindings& findings)
     }
     for (const double hertz : LogFrequencySweep().Hz)
     {
-        const double sum = part.Data[Value::CurrentPerF] / hertz + part.Data[Value::Current] +
-                           hertz * part.Data[Value::CurrentF];
+        const double sum = CurrentHeating(part.Data[Value::CurrentPerF], part.Data[Value::Current],
+                                          part.Data[Value::CurrentF], hertz);
         if (sum <= 0)
         {
             findings.Add(Severity::Error, "current-heating", "kI", NumberText(static_cast<float>(sum)),

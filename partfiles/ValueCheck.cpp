@@ -2,6 +2,7 @@
 
 #include "calc/Capacitance.h"
 #include "calc/CapacitanceAxes.h"
+#include "calc/ChangePolynomial.h"
 #include "calc/NumberText.h"
 #include "calc/Sweep.h"
 #include "partdata/Availability.h"
@@ -106,23 +107,12 @@ void CheckCapacitanceGaps(const PartRecord& part, CapacitanceModel model, ValueF
     CheckGroup(part, Value::ExponentAbove, "no exponent above the peak", findings);
 }
 
-/// Change of capacitance by the bias alone, in percent.
-double BiasChange(const PartRecord& part, double volts)
-{
-    double sum = 0;
-    for (auto i = Values::BiasPolynomial.First; i <= Values::BiasPolynomial.Last; ++i)
-    {
-        sum = (sum + part.Data[i]) * volts;
-    }
-    return sum;
-}
-
 void CheckBias(const PartRecord& part, ValueFindings& findings)
 {
     double least = 0;
     for (const double volts : LinearSweep(0, part.Data[Value::RatedVoltage]))
     {
-        const double change = BiasChange(part, volts);
+        const double change = BiasChange(part.Data, volts);
         if (change > least + RoundingPercent)
         {
             findings.Add(Severity::Warning, "bias-growth", "", RoundedText(change),

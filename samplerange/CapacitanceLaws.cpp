@@ -1,5 +1,6 @@
 #include "samplerange/CapacitanceLaws.h"
 
+#include "calc/ChangePolynomial.h"
 #include "samplerange/Fitting.h"
 #include "samplerange/PlainMath.h"
 
@@ -199,13 +200,8 @@ double RelativeCapacitance(const PartDesign& part, double temperatureC)
 
 double BiasedCapacitance(const PartValues& data, double volts)
 {
-    double change = 0;
-    for (auto j = Values::BiasPolynomial.First; j <= Values::BiasPolynomial.Last; ++j)
-    {
-        change = (change + data[j]) * volts;
-    }
     // The peaked model keeps its far offset out of the fall, so its curves fall a little less than the
     // polynomial; the heating laws take four fifths of the difference.
     const double share = data[Value::PeakOffset] == 0 ? 1 : (1 + 4 * -data[Value::PeakOffset] / 100) / 5;
-    return 1 + share * change / 100;
+    return 1 + share * BiasChange(data, volts) / 100;
 }

@@ -7,8 +7,6 @@
 #include "samplerange/SourceTable.h"
 
 #include <algorithm>
-#include <bit>
-#include <cstdint>
 #include <stdexcept>
 #include <tuple>
 
@@ -95,37 +93,16 @@ std::vector<RangePart> MakePartRange(std::string_view sizes, std::string_view ra
     return parts;
 }
 
-std::string IndexText(const std::vector<RangePart>& parts)
+PairBytes PairOf(const std::vector<RangePart>& parts)
 {
-    std::string text;
-    const auto quote = [&text](const std::string& field, char end) { text += '"' + field + '"' + end; };
+    PairBytes pair;
+    std::vector<PartNames> names;
     for (const RangePart& part : parts)
     {
-        for (const auto& number : part.PartNum)
-        {
-            quote(number, ',');
-        }
-        quote(part.SizeCode[0], ',');
-        quote(part.SizeCode[1], ',');
-        quote(part.Tcc[0], ',');
-        quote(part.Tcc[1], '\n');
+        names.push_back({part.PartNum[0], part.PartNum[1], part.PartNum[2], part.PartNum[3], part.SizeCode[0],
+                         part.SizeCode[1], part.Tcc[0], part.Tcc[1]});
+        AddDataRecord(pair.Data, part.Data);
     }
-    return text;
-}
-
-std::string DataBytes(const std::vector<RangePart>& parts)
-{
-    std::string bytes;
-    for (const RangePart& part : parts)
-    {
-        for (const float value : part.Data)
-        {
-            const auto bits = std::bit_cast<std::uint32_t>(value);
-            for (int shift = 0; shift < 32; shift += 8)
-            {
-                bytes += static_cast<char>((bits >> shift) & 0xFFU);
-            }
-        }
-    }
-    return bytes;
+    pair.Index = IndexText(names, "\n");
+    return pair;
 }

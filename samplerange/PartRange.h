@@ -3,6 +3,7 @@
 /// The whole range, from the source table to the bytes of the part files.
 
 #include "partdata/PartRecord.h"
+#include "partfiles/PairBytes.h"
 
 #include <array>
 #include <string>
@@ -22,8 +23,5 @@ struct RangePart
 /// the selection is in its natural order. Throws std::runtime_error for a faulty table.
 std::vector<RangePart> MakePartRange(std::string_view sizes, std::string_view ratings);
 
-/// The index file: one line of eight quoted texts for each part.
-std::string IndexText(const std::vector<RangePart>& parts);
-
-/// The data file: 66 little-endian singles for each part.
-std::string DataBytes(const std::vector<RangePart>& parts);
+/// Both part files of the range.
+PairBytes PairOf(const std::vector<RangePart>& parts);

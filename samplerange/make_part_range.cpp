@@ -1,35 +1,14 @@
 /// Makes the part files of the range from its source table:
 /// make_part_range <folder of the table> <folder for halvex.idx and halvex.dat>
 
+#include "files/InputFile.h"
+#include "partfiles/PairReplacement.h"
+#include "partfiles/TableReader.h"
 #include "samplerange/PartRange.h"
 
 #include <exception>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
-#include <iterator>
-#include <stdexcept>
-
-static std::string ReadFile(const std::filesystem::path& file)
-{
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream)
-    {
-        throw std::runtime_error("cannot read " + file.string());
-    }
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-static void WriteFile(const std::filesystem::path& file, const std::string& content)
-{
-    std::ofstream stream(file, std::ios::binary);
-    stream << content;
-    stream.close();
-    if (!stream)
-    {
-        throw std::runtime_error("cannot write " + file.string());
-    }
-}
 
 int main(int argc, char** argv)
 {
@@ -42,9 +21,9 @@ int main(int argc, char** argv)
     {
         const std::filesystem::path from = argv[1];
         const std::filesystem::path to = argv[2];
-        const auto parts = MakePartRange(ReadFile(from / "sizes.csv"), ReadFile(from / "ratings.csv"));
-        WriteFile(to / "halvex.idx", IndexText(parts));
-        WriteFile(to / "halvex.dat", DataBytes(parts));
+        const auto parts = MakePartRange(ReadBytes(from / "sizes.csv", MostTableBytes),
+                                         ReadBytes(from / "ratings.csv", MostTableBytes));
+        ReplacePair({.Index = to / "halvex.idx", .Data = to / "halvex.dat"}, PairOf(parts));
         std::cout << parts.size() << " parts\n";
     }
     catch (const std::exception& error)
