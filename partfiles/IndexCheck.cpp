@@ -71,8 +71,6 @@ private:
     std::vector<PartRecord> parts;
     /// How many records there are; those beyond the most parts are only counted.
     std::size_t count = 0;
-    /// The end of the last whole record in the text.
-    std::size_t wholeEnd = 0;
 };
 
 std::vector<PartRecord> IndexJudge::Read()
@@ -84,7 +82,6 @@ std::vector<PartRecord> IndexJudge::Read()
         {
             PartRecord part;
             reader.ReadRecord(part);
-            wholeEnd = static_cast<std::size_t>(Outer(part.Tcc[1]).end() - text.begin());
             if (++count <= MostParts)
             {
                 parts.push_back(part);
@@ -116,7 +113,8 @@ std::vector<PartRecord> IndexJudge::Read()
 
 void IndexJudge::JudgeEnd(const RunTimeError& error)
 {
-    const bool isOpenQuote = std::ranges::count(text.substr(wholeEnd), '"') % 2 != 0;
+    const auto offset = static_cast<std::size_t>(error.Where().Offset.value_or(text.size()));
+    const bool isOpenQuote = offset < text.size() && text[offset] == '"';
     Add(Severity::Error, isOpenQuote ? "open-quote" : "index-end", count + 1,
         "field " + std::to_string(error.Where().Field), "",
         isOpenQuote ? "the file ends within a quoted field" : "the file ends within the record");

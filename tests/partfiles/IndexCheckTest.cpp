@@ -76,6 +76,8 @@ INSTANTIATE_TEST_SUITE_P(
         BrokenIndex{"last field missing", Replace(",\"F\"\n", "\n"), Error, "index-end", 3, "field 8"},
         BrokenIndex{"file ends behind a comma", Replace("\"F\"\n", ""), Error, "index-end", 3, "field 8"},
         BrokenIndex{"last quote missing", Replace("\"F\"", "\"F"), Error, "open-quote", 3, "field 8"},
+        BrokenIndex{"file ends behind a stray quote", Replace("\"Y5V\",\"F\"\n", "Y5V\"\n"), Error,
+                    "index-end", 3, "field 8"},
         BrokenIndex{"comma missing", Replace("\"B1\",", "\"B1\""), Warning, "separator", 2, "PartNum(1)"},
         BrokenIndex{"comma missing before a plain field", Replace("\"B1\",\"B2\"", "\"B1\"B2"), Warning,
                     "separator", 2, "PartNum(1)"},
