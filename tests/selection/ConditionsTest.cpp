@@ -14,7 +14,7 @@ static PartTable Range()
 
 void ConditionsTest::init()
 {
-    desk = std::make_unique<Desk>(Range());
+    desk = std::make_unique<SelectionDesk>(Range());
 }
 
 void ConditionsTest::cleanup()

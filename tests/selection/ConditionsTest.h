@@ -2,7 +2,7 @@
 
 /// What the tests of entering conditions share: a fresh form with three parts for each test.
 
-#include "tests/selection/Desk.h"
+#include "tests/selection/SelectionDesk.h"
 
 #include <memory>
 
@@ -23,5 +23,5 @@ protected:
     /// A complete part of a temperature rise, and a bad entry under the cursor.
     void StartAtBadEntry(const QString& box) const;
 
-    std::unique_ptr<Desk> desk;
+    std::unique_ptr<SelectionDesk> desk;
 };

@@ -1,7 +1,7 @@
 /// Choosing a part, as a user does it.
 
-#include "tests/selection/Desk.h"
 #include "tests/selection/Ranges.h"
+#include "tests/selection/SelectionDesk.h"
 
 #include <QAbstractItemView>
 #include <QTest>
@@ -25,7 +25,7 @@ class FormCascadeTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { desk = std::make_unique<Desk>(Range()); }
+    void init() { desk = std::make_unique<SelectionDesk>(Range()); }
     void cleanup()
     {
         QCOMPARE(desk->messages.Taken(), QStringList());
@@ -304,7 +304,7 @@ private:
         QApplication::sendEvent(over, &down);
     }
 
-    std::unique_ptr<Desk> desk;
+    std::unique_ptr<SelectionDesk> desk;
 };
 
 QTEST_MAIN(FormCascadeTest)

@@ -72,7 +72,7 @@ private Q_SLOTS:
     void RefusesAParameterAboveTheLimitAndTakesTheLimitItself()
     {
         desk.reset();
-        desk = std::make_unique<Desk>(SampleRange());
+        desk = std::make_unique<SelectionDesk>(SampleRange());
         desk->Pick("cmbPartNum", "KTS188R71H224KA01");
         desk->Pick("cmbXaxis", "Frequency");
         desk->Enter("txtDCBiasVol", "0");

@@ -3,9 +3,9 @@
 #include "app/mdlPublic.h"
 #include "calc/NumberText.h"
 #include "formkit/Texts.h"
-#include "tests/selection/Desk.h"
 #include "tests/selection/PlainSelection.h"
 #include "tests/selection/Ranges.h"
+#include "tests/selection/SelectionDesk.h"
 
 #include <QTest>
 
@@ -146,9 +146,9 @@ private Q_SLOTS:
     {
         QFETCH(int, range);
         QFETCH(int, actions);
-        desk = std::make_unique<Desk>(range == 0   ? CrossedRange()
-                                      : range == 1 ? VectorRange()
-                                                   : SampleRange());
+        desk = std::make_unique<SelectionDesk>(range == 0   ? CrossedRange()
+                                               : range == 1 ? VectorRange()
+                                                            : SampleRange());
         plain = std::make_unique<PlainForm>();
         plain->ChooseChartType(0);
         random.seed(static_cast<unsigned>(range) + 7);
@@ -347,7 +347,7 @@ private:
                  : "");
     }
 
-    std::unique_ptr<Desk> desk;
+    std::unique_ptr<SelectionDesk> desk;
     std::unique_ptr<PlainForm> plain;
     std::mt19937 random;
 };

@@ -1,4 +1,4 @@
-#include "tests/selection/Desk.h"
+#include "tests/selection/SelectionDesk.h"
 
 #include "app/mdlPublic.h"
 
@@ -6,7 +6,7 @@
 #include <QApplication>
 #include <QTest>
 
-Desk::Desk(PartTable range)
+SelectionDesk::SelectionDesk(PartTable range)
 {
     mdlPublic.Parts = std::move(range);
     mdlPublic.Charts = {};
@@ -27,12 +27,12 @@ Desk::Desk(PartTable range)
     form->Form_Load();
 }
 
-Desk::~Desk()
+SelectionDesk::~SelectionDesk()
 {
     mdlPublic.Marks = {};
 }
 
-void Desk::ShowNewChart()
+void SelectionDesk::ShowNewChart()
 {
     if (chartFault)
     {
@@ -42,14 +42,14 @@ void Desk::ShowNewChart()
     mdlPublic.Charts.Commit();
 }
 
-bool Desk::ShowSameChart(const ChartKey&)
+bool SelectionDesk::ShowSameChart(const ChartKey&)
 {
     ++redrawnCharts;
     mdlPublic.Charts.Commit();
     return true;
 }
 
-void Desk::SwitchCodeView(int index)
+void SelectionDesk::SwitchCodeView(int index)
 {
     if (index == code)
     {
@@ -63,7 +63,7 @@ void Desk::SwitchCodeView(int index)
     form->ResetAmbientTemp(index);
 }
 
-void Desk::SwitchNumbering(int index)
+void SelectionDesk::SwitchNumbering(int index)
 {
     if (index == numbering)
     {
@@ -74,7 +74,7 @@ void Desk::SwitchNumbering(int index)
     numbering = index;
 }
 
-void Desk::Pick(const char* list, const QString& entry) const
+void SelectionDesk::Pick(const char* list, const QString& entry) const
 {
     auto* box = List(list);
     const int row = box->findText(entry, Qt::MatchExactly | Qt::MatchCaseSensitive);
@@ -89,7 +89,7 @@ void Desk::Pick(const char* list, const QString& entry) const
     QTest::keyClick(view, Qt::Key_Return);
 }
 
-void Desk::PickByKeys(const char* list, const QString& entry) const
+void SelectionDesk::PickByKeys(const char* list, const QString& entry) const
 {
     auto* box = List(list);
     const int row = box->findText(entry, Qt::MatchExactly | Qt::MatchCaseSensitive);
@@ -100,7 +100,7 @@ void Desk::PickByKeys(const char* list, const QString& entry) const
     QTest::keyClick(box->view(), Qt::Key_Return);
 }
 
-void Desk::TypePart(const QString& number) const
+void SelectionDesk::TypePart(const QString& number) const
 {
     auto* box = List("cmbPartNum");
     QTest::mouseClick(box->lineEdit(), Qt::LeftButton);
@@ -109,7 +109,7 @@ void Desk::TypePart(const QString& number) const
     QTest::keyClicks(box, number);
 }
 
-void Desk::Enter(const char* box, const QString& entry) const
+void SelectionDesk::Enter(const char* box, const QString& entry) const
 {
     QTest::mouseClick(Box(box), Qt::LeftButton);
     QTest::keyClick(Box(box), Qt::Key_A, Qt::ControlModifier);
@@ -120,7 +120,7 @@ void Desk::Enter(const char* box, const QString& entry) const
     QTest::keyClicks(Box(box), entry);
 }
 
-void Desk::Click(const char* control) const
+void SelectionDesk::Click(const char* control) const
 {
     auto* widget = Find<QWidget>(control);
     // The button of an option stands at its left end.
@@ -129,18 +129,18 @@ void Desk::Click(const char* control) const
     QTest::mouseClick(widget, Qt::LeftButton, {}, place);
 }
 
-void Desk::ChooseChartType(int index) const
+void SelectionDesk::ChooseChartType(int index) const
 {
     Click(("optChartType_" + std::to_string(index)).c_str());
 }
 
-void Desk::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) const
+void SelectionDesk::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) const
 {
     QTest::keyClick(QApplication::focusWidget() != nullptr ? QApplication::focusWidget() : form->window(),
                     key, modifiers);
 }
 
-QStringList Desk::Entries(const char* list) const
+QStringList SelectionDesk::Entries(const char* list) const
 {
     const auto* box = List(list);
     QStringList entries;
@@ -151,14 +151,14 @@ QStringList Desk::Entries(const char* list) const
     return entries;
 }
 
-QString Desk::Text(const char* box) const
+QString SelectionDesk::Text(const char* box) const
 {
     const auto* control = Find<QWidget>(box);
     const auto* list = qobject_cast<const QComboBox*>(control);
     return list != nullptr ? list->currentText() : qobject_cast<const QLineEdit*>(control)->text();
 }
 
-QString Desk::Focus() const
+QString SelectionDesk::Focus() const
 {
     const auto* focus = QApplication::focusWidget();
     return focus != nullptr ? focus->objectName() : QString();

@@ -16,11 +16,11 @@
 
 /// A main window with the selection form, whose charts are only counted. The part table of the program is
 /// exchanged for the given one.
-class Desk : public ChartWindows
+class SelectionDesk : public ChartWindows
 {
 public:
-    explicit Desk(PartTable range);
-    ~Desk() override;
+    explicit SelectionDesk(PartTable range);
+    ~SelectionDesk() override;
 
     // What the main window does for the form.
     void ShowNewChart() override;
