@@ -3,6 +3,7 @@
 #include "app/mdlPublic.h"
 #include "chart/drawing/PainterSurface.h"
 #include "chart/layout/ChartDrawing.h"
+#include "formkit/Twips.h"
 
 #include <QMouseEvent>
 
@@ -31,14 +32,19 @@ void ChartPicture::paintEvent(QPaintEvent*)
     }
 }
 
+QPointF ChartPicture::PositionOf(int xTwips, int yTwips)
+{
+    const QPointF pixels = QPointF(xTwips, yTwips) / TwipsPerPixel;
+    return {chartScale.ScaleLeft + pixels.x() * chartScale.ScaleWidth / chartSurfaceWidth,
+            chartScale.ScaleTop + pixels.y() * chartScale.ScaleHeight / chartSurfaceHeight};
+}
+
 void ChartPicture::mouseMoveEvent(QMouseEvent* event)
 {
-    const double x = chartScale.ScaleLeft + event->position().x() * chartScale.ScaleWidth / chartSurfaceWidth;
-    const double y =
-        chartScale.ScaleTop + event->position().y() * chartScale.ScaleHeight / chartSurfaceHeight;
-    if (x >= 0 && x <= 100 && y >= 0 && y <= 100)
+    const QPoint twips = (event->position() * TwipsPerPixel).toPoint();
+    if (QRectF(0, 0, 100, 100).contains(PositionOf(twips.x(), twips.y())))
     {
-        Q_EMIT PointerMoved(x, y);
+        Q_EMIT PointerMoved(twips.x(), twips.y());
     }
     else
     {

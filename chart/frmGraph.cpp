@@ -258,6 +258,8 @@ void frmGraph::RelabelParts(int partNumForm)
 
 void frmGraph::ClearReadOut()
 {
+    MouseX = 0;
+    MouseY = 0;
     for (QLabel* panel : panels)
     {
         panel->clear();
@@ -309,9 +311,15 @@ void frmGraph::Form_Unload()
     host.ChartUnloaded(this);
 }
 
+/// A chart closes without a question, whatever asks it to.
+void frmGraph::Form_QueryUnload(QCloseEvent& close)
+{
+    close.accept();
+}
+
 void frmGraph::closeEvent(QCloseEvent* event)
 {
+    Form_QueryUnload(*event);
     Form_Unload();
     QMdiSubWindow::closeEvent(event);
-    event->accept();
 }

@@ -68,7 +68,7 @@ private:
     void mnuFilePrint_Click();
     void mnuChartExpand_Click();
     void mnuChartClipboard_Click();
-    void picGraph_MouseMove(double xPosition, double yPosition);
+    void picGraph_MouseMove(int xTwips, int yTwips);
     void picGraph_MouseLeave();
     void InitChartWindow(const ChartKey& chart);
     void ColorPane(std::size_t index, const QColor& color);
@@ -78,6 +78,7 @@ private:
     std::vector<QString> PartNums(int partNumForm) const;
     void ClearReadOut();
     void Form_Resize();
+    void Form_QueryUnload(QCloseEvent& close);
     void Form_Unload();
 
     std::unique_ptr<Ui::frmGraph> ui;
@@ -89,6 +90,9 @@ private:
 
     ChartKey key;
     AxisRange axisRange{};
+    /// Where on the chart surface, in twips, the values stand that are read out; 0 while none are.
+    std::int16_t MouseX = 0;
+    std::int16_t MouseY = 0;
     bool rescaled = false;
     bool unloaded = false;
 };

@@ -17,7 +17,7 @@
 
 // ---- Mouse read-out ----
 
-void frmGraph::picGraph_MouseMove(double xPosition, double yPosition)
+void frmGraph::picGraph_MouseMove(int xTwips, int yTwips)
 {
     const ChartView& view = ui->picGraph->View();
     const auto lines = Lines();
@@ -25,18 +25,25 @@ void frmGraph::picGraph_MouseMove(double xPosition, double yPosition)
     {
         return;
     }
-    panels[0]->setText(QString::fromStdString(XReadOut(view, xPosition)));
-    panels[1]->setText(QString::fromStdString(YReadOut(view, yPosition)));
+    MouseX = static_cast<std::int16_t>(xTwips);
+    MouseY = static_cast<std::int16_t>(yTwips);
+    const QPointF position = ChartPicture::PositionOf(MouseX, MouseY);
+    panels[0]->setText(QString::fromStdString(XReadOut(view, position.x())));
+    panels[1]->setText(QString::fromStdString(YReadOut(view, position.y())));
     for (std::size_t p = 0; p < std::min<std::size_t>(lines.size(), MaximumLines); ++p)
     {
-        lblPara[p]->setText(QString::fromStdString(LineReadOut(view, *lines[p], xPosition)));
+        lblPara[p]->setText(QString::fromStdString(LineReadOut(view, *lines[p], position.x())));
     }
 }
 
 void frmGraph::picGraph_MouseLeave()
 {
-    ClearReadOut();
-    FillStatusPanes();
+    const bool isReadOut = MouseX != 0 || MouseY != 0;
+    if (isReadOut)
+    {
+        ClearReadOut();
+        FillStatusPanes();
+    }
 }
 
 // ---- The Chart menu ----

@@ -68,17 +68,43 @@ void frmSetAxis::showEvent(QShowEvent* event)
     Form_Load();
 }
 
-/// A box selects its whole text as it gets the focus, so that typing replaces it.
+// A box selects its whole text as it gets the focus, so that typing replaces it.
+
+void frmSetAxis::txtX_GotFocus(int index)
+{
+    txtX.at(static_cast<std::size_t>(index))->selectAll();
+}
+
+void frmSetAxis::txtY_GotFocus(int index)
+{
+    txtY.at(static_cast<std::size_t>(index))->selectAll();
+}
+
+void frmSetAxis::GotFocus(const QObject* box)
+{
+    for (int index = 0; index < 2; ++index)
+    {
+        if (box == txtX.at(static_cast<std::size_t>(index)))
+        {
+            txtX_GotFocus(index);
+        }
+        if (box == txtY.at(static_cast<std::size_t>(index)))
+        {
+            txtY_GotFocus(index);
+        }
+    }
+}
+
 bool frmSetAxis::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::FocusIn)
     {
-        auto* box = qobject_cast<QLineEdit*>(watched);
-        box->selectAll();
+        GotFocus(watched);
         if (static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason)
         {
             // The click sets the cursor afterwards.
-            QMetaObject::invokeMethod(box, &QLineEdit::selectAll, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                this, [this, watched] { GotFocus(watched); }, Qt::QueuedConnection);
         }
     }
     return QDialog::eventFilter(watched, event);

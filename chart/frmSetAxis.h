@@ -37,6 +37,9 @@ protected:
 
 private:
     void Form_Load();
+    void GotFocus(const QObject* box);
+    void txtX_GotFocus(int index);
+    void txtY_GotFocus(int index);
     void cmdOK_Click();
     void cmdCancel_Click();
     bool AreEntriesNumeric();

@@ -2,8 +2,10 @@
 
 /// The unit in which window positions and sizes are laid down.
 
-/// A length in twips as device-independent pixels: 15 twips are one pixel.
+inline constexpr int TwipsPerPixel = 15;
+
+/// A length in twips as device-independent pixels.
 constexpr int Twips(int twips)
 {
-    return twips / 15;
+    return twips / TwipsPerPixel;
 }
