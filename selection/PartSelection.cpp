@@ -53,9 +53,13 @@ bool PartSelection::Agrees(const PartRecord& part, const PartChoice& with) const
            IsAvailable(part, *chartType);
 }
 
-/// Calls `addItem` with the index and record of every part that has data for the chart type and agrees with
-/// a choice, in table order.
-template <class AddItem> void PartSelection::ForEachPart(const PartChoice& agreeing, AddItem addItem) const
+const PartRecord& PartSelection::Part(std::int16_t index) const
+{
+    return parts.PartData[static_cast<std::size_t>(index)];
+}
+
+/// Adds an item of every part that has data for the chart type and agrees with a choice, in table order.
+void PartSelection::ForEachPart(const PartChoice& agreeing, AddItem addItem)
 {
     if (!chartType)
     {
@@ -63,46 +67,74 @@ template <class AddItem> void PartSelection::ForEachPart(const PartChoice& agree
     }
     for (int i = 0; i <= parts.PartMax; ++i)
     {
-        const PartRecord& part = parts.PartData[static_cast<std::size_t>(i)];
-        if (Agrees(part, agreeing))
+        const auto index = static_cast<std::int16_t>(i);
+        if (Agrees(Part(index), agreeing))
         {
-            addItem(static_cast<std::int16_t>(i), part);
+            (this->*addItem)(index);
         }
     }
+}
+
+void PartSelection::AddPartNumItem(std::int16_t part)
+{
+    partNums.push_back(part);
+}
+
+void PartSelection::AddSizeCodeItem(std::int16_t part)
+{
+    AddTextIfAbsent(sizeCodes, SizeCodeOf(Part(part)));
+}
+
+void PartSelection::AddPartAndSizeCode(std::int16_t part)
+{
+    AddPartNumItem(part);
+    AddSizeCodeItem(part);
+}
+
+void PartSelection::AddTccItem(std::int16_t part)
+{
+    AddTextIfAbsent(tccs, TccOf(Part(part)));
+}
+
+void PartSelection::AddCapacitanceItem(std::int16_t part)
+{
+    AddIfAbsent(capacitances, Part(part).Data[Value::Capacitance]);
+}
+
+void PartSelection::AddRatedVoltageItem(std::int16_t part)
+{
+    AddIfAbsent(ratedVoltages, Part(part).Data[Value::RatedVoltage]);
 }
 
 void PartSelection::FillSizeCodes()
 {
     sizeCodes.clear();
-    ForEachPart({}, [this](auto, const auto& part) { AddTextIfAbsent(sizeCodes, SizeCodeOf(part)); });
+    ForEachPart({}, &PartSelection::AddSizeCodeItem);
 }
 
 void PartSelection::FillTccs()
 {
     tccs.clear();
-    ForEachPart({.SizeCode = choice.SizeCode},
-                [this](auto, const auto& part) { AddTextIfAbsent(tccs, TccOf(part)); });
+    ForEachPart({.SizeCode = choice.SizeCode}, &PartSelection::AddTccItem);
 }
 
 void PartSelection::FillCapacitances()
 {
     capacitances.clear();
-    ForEachPart({.SizeCode = choice.SizeCode, .Tcc = choice.Tcc},
-                [this](auto, const auto& part) { AddIfAbsent(capacitances, part.Data[Value::Capacitance]); });
+    ForEachPart({.SizeCode = choice.SizeCode, .Tcc = choice.Tcc}, &PartSelection::AddCapacitanceItem);
 }
 
 void PartSelection::FillRatedVoltages()
 {
     ratedVoltages.clear();
     ForEachPart({.SizeCode = choice.SizeCode, .Tcc = choice.Tcc, .Capacitance = choice.Capacitance},
-                [this](auto, const auto& part)
-                { AddIfAbsent(ratedVoltages, part.Data[Value::RatedVoltage]); });
+                &PartSelection::AddRatedVoltageItem);
 }
 
 void PartSelection::FillPartNums()
 {
     partNums.clear();
-    ForEachPart(choice, [this](auto index, const auto&) { partNums.push_back(index); });
+    ForEachPart(choice, &PartSelection::AddPartNumItem);
 }
 
 void PartSelection::ForgetPart()
@@ -130,8 +162,7 @@ void PartSelection::AddPartNum(std::int16_t type, CodeView codeView)
     AllClear();
     chartType = type;
     view = codeView;
-    FillSizeCodes();
-    FillPartNums();
+    ForEachPart({}, &PartSelection::AddPartAndSizeCode);
 }
 
 void PartSelection::FillTccList(std::string_view chosen)
@@ -179,7 +210,7 @@ void PartSelection::FillPartNumList(float chosen)
 
 void PartSelection::ShowPart(std::int16_t index)
 {
-    const PartRecord& part = parts.PartData[static_cast<std::size_t>(index)];
+    const PartRecord& part = Part(index);
     completePart = index;
     partChosen = true;
     chosenByNumber = true;
@@ -200,7 +231,7 @@ void PartSelection::ChangeNaming(CodeView codeView)
     FillSizeCodes();
     if (completePart)
     {
-        const PartRecord& part = parts.PartData[static_cast<std::size_t>(*completePart)];
+        const PartRecord& part = Part(*completePart);
         choice.SizeCode = SizeCodeOf(part);
         choice.Tcc = TccOf(part);
     }

@@ -66,7 +66,15 @@ private:
     std::string_view SizeCodeOf(const PartRecord& part) const;
     std::string_view TccOf(const PartRecord& part) const;
     bool Agrees(const PartRecord& part, const PartChoice& with) const;
-    template <class AddItem> void ForEachPart(const PartChoice& agreeing, AddItem addItem) const;
+    using AddItem = void (PartSelection::*)(std::int16_t part);
+    void ForEachPart(const PartChoice& agreeing, AddItem addItem);
+    void AddPartAndSizeCode(std::int16_t part);
+    void AddPartNumItem(std::int16_t part);
+    void AddSizeCodeItem(std::int16_t part);
+    void AddTccItem(std::int16_t part);
+    void AddCapacitanceItem(std::int16_t part);
+    void AddRatedVoltageItem(std::int16_t part);
+    const PartRecord& Part(std::int16_t index) const;
     void ForgetPart();
     void FillSizeCodes();
     void FillTccs();
