@@ -45,14 +45,19 @@ frmLibrary::frmLibrary(ChartWindows& chartWindows, QWidget* parent)
 
 frmLibrary::~frmLibrary() = default;
 
+void frmLibrary::ConnectButtons(const std::vector<QRadioButton*>& buttons, void (frmLibrary::*click)(int))
+{
+    for (std::size_t i = 0; i < buttons.size(); ++i)
+    {
+        const auto index = static_cast<int>(i);
+        connect(buttons[i], &QRadioButton::clicked, this, [this, click, index] { (this->*click)(index); });
+    }
+}
+
 void frmLibrary::Connect()
 {
-    for (int i = 0; i < 4; ++i)
-    {
-        const auto index = static_cast<std::size_t>(i);
-        connect(optChartType[index], &QRadioButton::clicked, this, [this, i] { optChartType_Click(i); });
-        connect(optParameter[index], &QRadioButton::clicked, this, [this, i] { optParameter_Click(i); });
-    }
+    ConnectButtons(optChartType, &frmLibrary::optChartType_Click);
+    ConnectButtons(optParameter, &frmLibrary::optParameter_Click);
     connect(ui->cmbSizeCode, &QComboBox::activated, this, &frmLibrary::cmbSizeCode_Click);
     connect(ui->cmbTcc, &QComboBox::activated, this, &frmLibrary::cmbTcc_Click);
     connect(ui->cmbCap, &QComboBox::activated, this, &frmLibrary::cmbCap_Click);
@@ -61,10 +66,11 @@ void frmLibrary::Connect()
     connect(ui->cmbPartNum->lineEdit(), &QLineEdit::textEdited, this, &frmLibrary::cmbPartNum_Change);
     connect(ui->cmbXaxis, &QComboBox::activated, this, &frmLibrary::cmbXaxis_Click);
     connect(ui->cmdPlot, &QPushButton::clicked, this, &frmLibrary::cmdPlot_Click);
-    for (QWidget* control : findChildren<QWidget*>())
+    for (QComboBox* list : findChildren<QComboBox*>())
     {
-        control->installEventFilter(this);
+        list->installEventFilter(this);
     }
+    GuardEntries();
 }
 
 void frmLibrary::Form_Load()
@@ -80,6 +86,18 @@ void frmLibrary::Form_Load()
 void frmLibrary::closeEvent(QCloseEvent* event)
 {
     event->ignore();
+}
+
+/// The wheel over a list that is not in use scrolls the form; the list only lies in its way.
+bool frmLibrary::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto* list = qobject_cast<const QComboBox*>(watched);
+    if (event->type() == QEvent::Wheel && list != nullptr && !list->hasFocus())
+    {
+        event->ignore();
+        return true;
+    }
+    return QMdiSubWindow::eventFilter(watched, event);
 }
 
 /// A click on empty ground brings the form to the front.

@@ -122,6 +122,8 @@ private:
     using Check = void (frmLibrary::*)(bool&);
 
     void Connect();
+    void ConnectButtons(const std::vector<QRadioButton*>& buttons, void (frmLibrary::*click)(int));
+    void GuardEntries();
     bool Passes(Check check);
     void optChartType_Click(int index);
     void optParameter_Click(int index);
@@ -136,18 +138,18 @@ private:
     void Plot(int lines);
     std::optional<ParameterRefusal> PlotLine(int lines);
 
+    // Coming to a box: its text is selected, so that typing replaces it.
+    void txtDCBiasVol_GotFocus();
+    void txtFrequency_GotFocus();
+    void txtHeatResistance_GotFocus();
+    void txtAmbientTemp_GotFocus();
+    void txtParameter_GotFocus();
     // Leaving a box: false when its entry is refused.
     bool txtDCBiasVol_LostFocus();
     bool txtFrequency_LostFocus();
     bool txtHeatResistance_LostFocus();
     bool txtAmbientTemp_LostFocus();
     bool txtParameter_LostFocus();
-    bool LostFocus(const QLineEdit* box);
-    void GotFocus(QLineEdit* box, Qt::FocusReason reason);
-    bool MayLeave(const QLineEdit* box, Qt::FocusReason reason);
-    QLineEdit* ConditionBox(QObject* watched) const;
-    bool IsCauseToCheck(const QLineEdit* box, Qt::FocusReason reason) const;
-    bool ActsOnBox(const QWidget* control, const QLineEdit* box) const;
 
     void FillAxisLists(int chartType);
     void ShowSelection();
@@ -173,8 +175,4 @@ private:
     PartSelection selection;
     std::vector<QRadioButton*> optChartType;
     std::vector<QRadioButton*> optParameter;
-    /// A click moved the focus and the box it left was refused: the click itself is to have no effect.
-    bool swallowPress = false;
-    /// The box that the focus came to by a click whose button is still down.
-    const QLineEdit* enteredByClick = nullptr;
 };

@@ -6,16 +6,11 @@
 #include "calc/NumberText.h"
 #include "formkit/Entries.h"
 #include "formkit/Messages.h"
-#include "formkit/Texts.h"
+#include "selection/EntryGuard.h"
 #include "ui_frmLibrary.h"
-
-#include <QApplication>
-#include <QFocusEvent>
-#include <QTimer>
 
 #include <algorithm>
 #include <array>
-#include <utility>
 
 /// Entries as the user's locale writes them.
 static EntryLocale UserLocale()
@@ -114,7 +109,32 @@ bool frmLibrary::CheckChartConditions()
                                { return !sweep.Uses(condition) || Passes(CheckOf(condition)); });
 }
 
-// ---- Leaving and entering a box ----
+// ---- Entering and leaving a box ----
+
+void frmLibrary::txtDCBiasVol_GotFocus()
+{
+    ui->txtDCBiasVol->selectAll();
+}
+
+void frmLibrary::txtFrequency_GotFocus()
+{
+    ui->txtFrequency->selectAll();
+}
+
+void frmLibrary::txtHeatResistance_GotFocus()
+{
+    ui->txtHeatResistance->selectAll();
+}
+
+void frmLibrary::txtAmbientTemp_GotFocus()
+{
+    ui->txtAmbientTemp->selectAll();
+}
+
+void frmLibrary::txtParameter_GotFocus()
+{
+    ui->txtParameter->selectAll();
+}
 
 bool frmLibrary::txtDCBiasVol_LostFocus()
 {
@@ -141,148 +161,31 @@ bool frmLibrary::txtParameter_LostFocus()
     return Passes(&frmLibrary::CheckParameter1);
 }
 
-/// True for a control whose action empties, refills or disables the box.
-bool frmLibrary::ActsOnBox(const QWidget* control, const QLineEdit* box) const
+/// A condition is emptied with the part; frequency and parameter with the X axis, too.
+void frmLibrary::GuardEntries()
 {
-    const auto is = [control](const QWidget* other)
-    { return control == other || other->isAncestorOf(control); };
-    const std::array<const QWidget*, 6> restarting = {ui->fraChartType, ui->cmbSizeCode, ui->cmbTcc,
-                                                      ui->cmbCap,       ui->cmbRatedVol, ui->cmbPartNum};
-    if (std::ranges::any_of(restarting, is))
-    {
-        return true;
-    }
-    const bool fixesLoad = box == ui->txtFrequency || box == ui->txtParameter;
-    return (fixesLoad && is(ui->cmbXaxis)) ||
-           (box == ui->txtParameter && std::ranges::any_of(optParameter, is));
-}
+    const std::vector<const QWidget*> part = {ui->fraChartType, ui->cmbSizeCode, ui->cmbTcc,
+                                              ui->cmbCap,       ui->cmbRatedVol, ui->cmbPartNum};
+    auto axis = part;
+    axis.push_back(ui->cmbXaxis);
+    auto load = axis;
+    load.insert(load.end(), optParameter.begin(), optParameter.end());
 
-/// A box is checked when the user leaves it for another control of this form, by key or by click, unless
-/// the click itself is going to change the box.
-bool frmLibrary::IsCauseToCheck(const QLineEdit* box, Qt::FocusReason reason) const
-{
-    const QWidget* next = QApplication::focusWidget();
-    if (!box->isEnabled() || next == nullptr || next == box || !isAncestorOf(next))
+    const auto guarded = [this](QLineEdit* box, void (frmLibrary::*gotFocus)(),
+                                bool (frmLibrary::*lostFocus)(), const std::vector<const QWidget*>& acting)
     {
-        return false;
-    }
-    switch (reason)
-    {
-    case Qt::TabFocusReason:
-    case Qt::BacktabFocusReason:
-    case Qt::ShortcutFocusReason:
-        return true;
-    case Qt::MouseFocusReason:
-        return !ActsOnBox(next, box);
-    default:
-        return false;
-    }
-}
-
-bool frmLibrary::LostFocus(const QLineEdit* box)
-{
-    if (box == ui->txtDCBiasVol)
-    {
-        return txtDCBiasVol_LostFocus();
-    }
-    if (box == ui->txtFrequency)
-    {
-        return txtFrequency_LostFocus();
-    }
-    if (box == ui->txtHeatResistance)
-    {
-        return txtHeatResistance_LostFocus();
-    }
-    if (box == ui->txtAmbientTemp)
-    {
-        return txtAmbientTemp_LostFocus();
-    }
-    return txtParameter_LostFocus();
-}
-
-/// Selects the whole text, so that typing replaces it. A click takes the selection away again until its
-/// button is released. Coming back from a menu or another window leaves the text as it was.
-void frmLibrary::GotFocus(QLineEdit* box, Qt::FocusReason reason)
-{
-    if (reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason &&
-        reason != Qt::ActiveWindowFocusReason)
-    {
-        box->selectAll();
-        enteredByClick = reason == Qt::MouseFocusReason ? box : nullptr;
-    }
-}
-
-/// Runs the check of a box that is left, if this way of leaving asks for it; false when the box is refused
-/// and has the focus again.
-bool frmLibrary::MayLeave(const QLineEdit* box, Qt::FocusReason reason)
-{
-    if (!IsCauseToCheck(box, reason) || LostFocus(box))
-    {
-        return true;
-    }
-    if (reason == Qt::MouseFocusReason)
-    {
-        swallowPress = true;
-        QTimer::singleShot(0, this, [this] { swallowPress = false; });
-    }
-    return false;
-}
-
-/// The condition box or parameter box that an event is for, or null.
-QLineEdit* frmLibrary::ConditionBox(QObject* watched) const
-{
-    auto* box = qobject_cast<QLineEdit*>(watched);
-    return box != ui->cmbPartNum->lineEdit() ? box : nullptr;
-}
-
-/// True for a list that the wheel is not to change, since it only lies in the way of scrolling.
-static bool IsListWithoutFocus(const QObject* watched)
-{
-    const auto* list = qobject_cast<const QComboBox*>(watched);
-    return list != nullptr && !list->hasFocus();
-}
-
-bool frmLibrary::eventFilter(QObject* watched, QEvent* event)
-{
-    QLineEdit* box = ConditionBox(watched);
-    switch (event->type())
-    {
-    case QEvent::MouseButtonPress:
-        if (std::exchange(swallowPress, false))
-        {
-            return true;
-        }
-        break;
-    case QEvent::MouseButtonRelease:
-        if (box != nullptr && std::exchange(enteredByClick, nullptr) == box && !box->hasSelectedText())
-        {
-            box->selectAll();
-        }
-        break;
-    case QEvent::Wheel:
-        if (IsListWithoutFocus(watched))
-        {
-            event->ignore();
-            return true;
-        }
-        break;
-    case QEvent::FocusIn:
-        if (box != nullptr)
-        {
-            GotFocus(box, static_cast<QFocusEvent*>(event)->reason());
-        }
-        break;
-    case QEvent::FocusOut:
-        // A refused box has the focus again by now, and is not to hear that it lost it.
-        if (box != nullptr && !MayLeave(box, static_cast<QFocusEvent*>(event)->reason()))
-        {
-            return true;
-        }
-        break;
-    default:
-        break;
-    }
-    return QMdiSubWindow::eventFilter(watched, event);
+        return GuardedBox{box, [=, this] { (this->*gotFocus)(); }, [=, this] { return (this->*lostFocus)(); },
+                          acting};
+    };
+    using Form = frmLibrary;
+    new EntryGuard(
+        this,
+        {guarded(ui->txtDCBiasVol, &Form::txtDCBiasVol_GotFocus, &Form::txtDCBiasVol_LostFocus, part),
+         guarded(ui->txtFrequency, &Form::txtFrequency_GotFocus, &Form::txtFrequency_LostFocus, axis),
+         guarded(ui->txtHeatResistance, &Form::txtHeatResistance_GotFocus, &Form::txtHeatResistance_LostFocus,
+                 part),
+         guarded(ui->txtAmbientTemp, &Form::txtAmbientTemp_GotFocus, &Form::txtAmbientTemp_LostFocus, part),
+         guarded(ui->txtParameter, &Form::txtParameter_GotFocus, &Form::txtParameter_LostFocus, load)});
 }
 
 // ---- Which conditions the chart needs ----
