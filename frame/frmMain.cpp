@@ -47,7 +47,7 @@ frmMain::frmMain(QWidget* parent)
 
 frmMain::~frmMain()
 {
-    // The child area tells of its windows until the last one is gone, when this window is no longer whole.
+    // The child area is destroyed after this window's own members, and signals until its last child is gone.
     const std::array<QObject*, 3> tellers = {ui->mdiArea, ui->mdiArea->horizontalScrollBar(),
                                              ui->mdiArea->verticalScrollBar()};
     for (QObject* teller : tellers)
