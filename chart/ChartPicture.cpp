@@ -32,19 +32,19 @@ void ChartPicture::paintEvent(QPaintEvent*)
     }
 }
 
-QPointF ChartPicture::PositionOf(int xTwips, int yTwips)
+/// The user position of a place of the surface: 0 to 100 in both directions in the plot area.
+static QPointF PositionOf(const QPointF& pixels)
 {
-    const QPointF pixels = QPointF(xTwips, yTwips) / TwipsPerPixel;
     return {chartScale.ScaleLeft + pixels.x() * chartScale.ScaleWidth / chartSurfaceWidth,
             chartScale.ScaleTop + pixels.y() * chartScale.ScaleHeight / chartSurfaceHeight};
 }
 
 void ChartPicture::mouseMoveEvent(QMouseEvent* event)
 {
-    const QPoint twips = (event->position() * TwipsPerPixel).toPoint();
-    if (QRectF(0, 0, 100, 100).contains(PositionOf(twips.x(), twips.y())))
+    const QPointF position = PositionOf(event->position());
+    if (QRectF(0, 0, 100, 100).contains(position))
     {
-        Q_EMIT PointerMoved(twips.x(), twips.y());
+        Q_EMIT PointerMoved(position, (event->position() * TwipsPerPixel).toPoint());
     }
     else
     {

@@ -4,6 +4,7 @@
 
 #include "chart/layout/ChartView.h"
 
+#include <QPoint>
 #include <QPointF>
 #include <QWidget>
 
@@ -20,12 +21,10 @@ public:
     /// The chart and ranges in force.
     const ChartView& View() const { return view; }
 
-    /// The user position of a place of the surface in twips: 0 to 100 in both directions in the plot area.
-    static QPointF PositionOf(int xTwips, int yTwips);
-
 Q_SIGNALS:
-    /// The pointer is over the plot area, at a place of the surface in twips.
-    void PointerMoved(int xTwips, int yTwips);
+    /// The pointer is over the plot area, at a position of 0 to 100 in both directions, which is a place of
+    /// the surface in twips.
+    void PointerMoved(QPointF position, QPoint twips);
     /// The pointer has left the plot area.
     void PointerLeft();
 

@@ -68,7 +68,7 @@ private:
     void mnuFilePrint_Click();
     void mnuChartExpand_Click();
     void mnuChartClipboard_Click();
-    void picGraph_MouseMove(int xTwips, int yTwips);
+    void picGraph_MouseMove(const QPointF& position, const QPoint& twips);
     void picGraph_MouseLeave();
     void InitChartWindow(const ChartKey& chart);
     void ColorPane(std::size_t index, const QColor& color);

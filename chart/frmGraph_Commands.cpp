@@ -17,17 +17,18 @@
 
 // ---- Mouse read-out ----
 
-void frmGraph::picGraph_MouseMove(int xTwips, int yTwips)
+void frmGraph::picGraph_MouseMove(const QPointF& position, const QPoint& twips)
 {
     const ChartView& view = ui->picGraph->View();
     const auto lines = Lines();
-    if (lines.empty())
+    // The values of this very place stand there already, unless the chart has been drawn afresh.
+    const bool isReadOut = twips == QPoint(MouseX, MouseY);
+    if (lines.empty() || isReadOut)
     {
         return;
     }
-    MouseX = static_cast<std::int16_t>(xTwips);
-    MouseY = static_cast<std::int16_t>(yTwips);
-    const QPointF position = ChartPicture::PositionOf(MouseX, MouseY);
+    MouseX = static_cast<std::int16_t>(twips.x());
+    MouseY = static_cast<std::int16_t>(twips.y());
     panels[0]->setText(QString::fromStdString(XReadOut(view, position.x())));
     panels[1]->setText(QString::fromStdString(YReadOut(view, position.y())));
     for (std::size_t p = 0; p < std::min<std::size_t>(lines.size(), MaximumLines); ++p)
@@ -38,12 +39,8 @@ void frmGraph::picGraph_MouseMove(int xTwips, int yTwips)
 
 void frmGraph::picGraph_MouseLeave()
 {
-    const bool isReadOut = MouseX != 0 || MouseY != 0;
-    if (isReadOut)
-    {
-        ClearReadOut();
-        FillStatusPanes();
-    }
+    ClearReadOut();
+    FillStatusPanes();
 }
 
 // ---- The Chart menu ----

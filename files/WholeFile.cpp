@@ -98,6 +98,38 @@ std::pair<int, fs::path> OpenBeside(const fs::path& target, mode_t mode)
     return {handle, path};
 }
 
+/// A file without a name in the target's folder, which vanishes with a killed program; -1 where the file
+/// system has no such files.
+int OpenNameless(const fs::path& target, mode_t mode)
+{
+#ifdef O_TMPFILE
+    const auto folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
+    return open(folder.c_str(), O_WRONLY | O_TMPFILE | O_CLOEXEC, mode);
+#else
+    return -1;
+#endif
+}
+
+/// Gives a nameless file a new name beside the target; empty when that fails, with the fault in `errno`.
+fs::path NameBeside(int handle, const fs::path& target)
+{
+    std::random_device random;
+    const auto source = "/proc/self/fd/" + std::to_string(handle);
+    for (int i = 0; i < MostNames; ++i)
+    {
+        const fs::path path = target.string() + RandomSuffix(random);
+        if (linkat(AT_FDCWD, source.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) == 0)
+        {
+            return path;
+        }
+        if (errno != EEXIST)
+        {
+            break;
+        }
+    }
+    return {};
+}
+
 /// A renaming is on the disk once its folder is.
 void SyncFolderOf(const fs::path& file)
 {
@@ -132,7 +164,12 @@ WholeFile::WholeFile(const fs::path& file)
     {
         Fail(errno);
     }
-    std::tie(handle, path) = OpenBeside(target, replaces ? 0600 : 0666);
+    const mode_t mode = replaces ? 0600 : 0666;
+    handle = OpenNameless(target, mode);
+    if (handle < 0)
+    {
+        std::tie(handle, path) = OpenBeside(target, mode);
+    }
     if (handle < 0)
     {
         Fail(errno);
@@ -141,7 +178,7 @@ WholeFile::WholeFile(const fs::path& file)
     {
         const int fault = errno;
         close(handle);
-        unlink(path.c_str());
+        Remove();
         Fail(fault);
     }
 }
@@ -159,8 +196,16 @@ WholeFile::~WholeFile()
     {
         close(handle);
     }
-    // After a renaming there is nothing of this name left.
-    unlink(path.c_str());
+    Remove();
+}
+
+/// Takes the new file away; after a renaming there is nothing of its name left.
+void WholeFile::Remove() const
+{
+    if (!path.empty())
+    {
+        unlink(path.c_str());
+    }
 }
 
 void WholeFile::Write(std::string_view piece)
@@ -198,7 +243,15 @@ void WholeFile::Finish()
         return;
     }
     WriteOut(std::exchange(buffer, {}));
-    if (fsync(handle) != 0 || close(std::exchange(handle, -1)) != 0)
+    if (fsync(handle) != 0)
+    {
+        Fail(errno);
+    }
+    if (path.empty())
+    {
+        path = NameBeside(handle, target);
+    }
+    if (path.empty() || close(std::exchange(handle, -1)) != 0)
     {
         Fail(errno);
     }

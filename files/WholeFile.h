@@ -11,7 +11,7 @@ bool IsSpecialFile(const std::filesystem::path& file);
 
 /// A file that is written beside its target and takes the target's place by `Commit`. Until then, and
 /// whatever goes wrong on the way, a file that stood there is as it was; without a commit nothing of the new
-/// one stays.
+/// one stays, even when the program is killed before the file is finished.
 ///
 /// A link stays a link: the file that it names is replaced, and keeps its rights. A write-protected file is
 /// not replaced, even where its folder would permit it.
@@ -35,12 +35,13 @@ public:
     /// Finishes the file, unless that is done, and puts it in place.
     void Commit();
 
-    /// Where the new file stands, and the file whose place it is to take.
+    /// Where the finished file stands, and the file whose place it is to take.
     const std::filesystem::path& Path() const { return path; }
     const std::filesystem::path& Target() const { return target; }
 
 private:
     void WriteOut(std::string_view bytes) const;
+    void Remove() const;
     [[noreturn]] void Fail(int fault) const;
 
     std::filesystem::path name;

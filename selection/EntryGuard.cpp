@@ -26,8 +26,8 @@ const GuardedBox* EntryGuard::Find(const QObject* watched) const
     return found != boxes.end() ? &*found : nullptr;
 }
 
-/// A click takes the selection away again until its button is released. Coming back from a menu or another window
-/// leaves the text as it was.
+/// A click takes the selection away again until its button is released. Coming back from a menu or another
+/// window leaves the text as it was.
 void EntryGuard::Enter(const GuardedBox& guarded, Qt::FocusReason reason)
 {
     if (reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason &&

@@ -22,8 +22,9 @@ struct GuardedBox
     std::vector<const QWidget*> ActingControls;
 };
 
-/// Watches the boxes of a form. A box is checked when the user leaves it for another control of the form, by key
-/// or by click, unless the click itself is going to change the box. A click whose box was refused has no effect.
+/// Watches the boxes of a form. A box is checked when the user leaves it for another control of the form, by
+/// key or by click, unless the click itself is going to change the box. A click whose box was refused has no
+/// effect.
 class EntryGuard : public QObject
 {
     Q_OBJECT

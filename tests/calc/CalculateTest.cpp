@@ -144,6 +144,7 @@ int ErrorOfNames(ChartId type, const char* xAxis, const char* yAxis, const char*
     record.XAxisName = xAxis;
     record.YAxisName = yAxis;
     record.ParameterName = parameter;
+    record.Frequency = 100;
     try
     {
         Calculate(Part(), record, CodeView::Eia);

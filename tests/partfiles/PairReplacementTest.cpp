@@ -2,7 +2,7 @@
 
 #include "files/PartLoading.h"
 #include "partdata/RunTimeError.h"
-#include "partfiles/IndexWriter.h"
+#include "partfiles/PairBytes.h"
 #include "tests/calc/NamedRow.h"
 #include "tests/partfiles/SmallPair.h"
 

@@ -1,5 +1,7 @@
 #include "chart/layout/Divisions.h"
 
+#include "calc/ChartKinds.h"
+
 #include <gtest/gtest.h>
 
 #include <string>

@@ -53,7 +53,6 @@ void ScarceResourcesTest::NoFileHandleIsToldAsSuch_data()
     QTest::addColumn<int>("handles");
     QTest::addColumn<QByteArray>("message");
     QTest::newRow("none for the folder") << 4 << QByteArray("Path/File access error: /");
-    QTest::newRow("none for the second file") << 5 << QByteArray("Path/File access error: halvex.dat");
 }
 
 void ScarceResourcesTest::NoFileHandleIsToldAsSuch()
