@@ -99,10 +99,14 @@ std::pair<int, fs::path> OpenBeside(const fs::path& target, mode_t mode)
 }
 
 /// A file without a name in the target's folder, which vanishes with a killed program; -1 where the file
-/// system has no such files.
+/// system has no such files, or where none could be given a name later.
 int OpenNameless(const fs::path& target, mode_t mode)
 {
 #ifdef O_TMPFILE
+    if (access("/proc/self/fd", X_OK) != 0)
+    {
+        return -1;
+    }
     const auto folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
     return open(folder.c_str(), O_WRONLY | O_TMPFILE | O_CLOEXEC, mode);
 #else
@@ -174,12 +178,10 @@ WholeFile::WholeFile(const fs::path& file)
     {
         Fail(errno);
     }
-    if (replaces && fchmod(handle, old.st_mode & 0777U) != 0)
+    if (replaces)
     {
-        const int fault = errno;
-        close(handle);
-        Remove();
-        Fail(fault);
+        // A file system without rights of its own refuses; all its files have the same.
+        static_cast<void>(fchmod(handle, old.st_mode & 0777U));
     }
 }
 
