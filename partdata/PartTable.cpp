@@ -1,6 +1,7 @@
 #include "partdata/PartTable.h"
 
 #include "partdata/DataReader.h"
+#include "partdata/FieldNames.h"
 #include "partdata/IndexReader.h"
 #include "partdata/OneLine.h"
 #include "partdata/RunTimeError.h"
@@ -51,7 +52,7 @@ static void IndexPartNumbers(PartTable& table, const std::string& fileName)
                     .At(PlaceInFile{.File = fileName,
                                     .Record = i + 1,
                                     .Field = form + 1,
-                                    .FieldName = "PartNum(" + std::to_string(form) + ")",
+                                    .FieldName = FieldName(form),
                                     .FieldText =
                                         OneLine(Utf8FromWindows1252(partNum.substr(0, ToldPartNumBytes)))});
             }

@@ -1,11 +1,11 @@
 #include "partfiles/IndexCheck.h"
 
+#include "partdata/FieldNames.h"
 #include "partdata/IndexReader.h"
 #include "partdata/KeyedCollection.h"
 #include "partdata/PartTable.h"
 #include "partdata/RunTimeError.h"
 #include "partdata/Windows1252.h"
-#include "partfiles/Columns.h"
 
 #include <algorithm>
 #include <array>

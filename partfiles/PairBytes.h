@@ -2,7 +2,7 @@
 
 /// The bytes of the two part files, as they are written.
 
-#include "partfiles/Columns.h"
+#include "partdata/FieldNames.h"
 
 #include <array>
 #include <span>

@@ -9,8 +9,8 @@
 #include "calc/TemperatureRise.h"
 #include "partdata/Availability.h"
 #include "partdata/Characteristic.h"
+#include "partdata/FieldNames.h"
 #include "partdata/RunTimeError.h"
-#include "partfiles/Columns.h"
 
 #include <algorithm>
 

@@ -7,9 +7,9 @@
 #include "calc/Sweep.h"
 #include "partdata/Availability.h"
 #include "partdata/Characteristic.h"
+#include "partdata/FieldNames.h"
 #include "partdata/RunTimeError.h"
 #include "partdata/Windows1252.h"
-#include "partfiles/Columns.h"
 #include "partfiles/PowerCheck.h"
 
 #include <algorithm>

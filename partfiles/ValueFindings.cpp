@@ -1,8 +1,8 @@
 #include "partfiles/ValueFindings.h"
 
 #include "calc/NumberText.h"
+#include "partdata/FieldNames.h"
 #include "partdata/Windows1252.h"
-#include "partfiles/Columns.h"
 
 #include <utility>
 
