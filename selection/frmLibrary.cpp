@@ -3,10 +3,10 @@
 #include "app/HelpLanguages.h"
 #include "app/PartNumText.h"
 #include "app/mdlPublic.h"
-#include "calc/NumberText.h"
 #include "formkit/Messages.h"
 #include "formkit/Texts.h"
 #include "formkit/Twips.h"
+#include "selection/ListBoxes.h"
 #include "ui_frmLibrary.h"
 
 #include <QCloseEvent>
@@ -27,6 +27,13 @@ frmLibrary::frmLibrary(ChartWindows& chartWindows, QWidget* parent)
     ui->setupUi(contents);
     optChartType = {ui->optChartType_0, ui->optChartType_1, ui->optChartType_2, ui->optChartType_3};
     optParameter = {ui->optParameter_0, ui->optParameter_1, ui->optParameter_2, ui->optParameter_3};
+    for (const ConditionKind& kind : ConditionKinds())
+    {
+        const auto name =
+            QString::fromLatin1(kind.ControlName.data(), static_cast<qsizetype>(kind.ControlName.size()));
+        conditions.push_back({kind.Id, contents->findChild<QLabel*>("lbl" + name),
+                              contents->findChild<QLineEdit*>("txt" + name)});
+    }
 
     // A short window scrolls the form; it never takes more than its share of the width.
     auto* scroller = new QScrollArea;
@@ -136,35 +143,6 @@ void frmLibrary::KeepFocus()
 
 // ---- The selection cascade ----
 
-static void ShowList(QComboBox* box, const QStringList& entries, int chosen)
-{
-    box->clear();
-    box->addItems(entries);
-    box->setCurrentIndex(chosen);
-}
-
-static void ShowTexts(QComboBox* box, const std::vector<std::string_view>& texts,
-                      const std::optional<std::string_view>& choice)
-{
-    QStringList entries;
-    for (const auto text : texts)
-    {
-        entries << FromAnsi(text);
-    }
-    ShowList(box, entries, choice ? static_cast<int>(entries.indexOf(FromAnsi(*choice))) : -1);
-}
-
-static void ShowNumbers(QComboBox* box, const std::vector<float>& numbers, const std::optional<float>& choice)
-{
-    QStringList entries;
-    for (const float number : numbers)
-    {
-        entries << QString::fromStdString(NumberText(number));
-    }
-    const auto chosen = choice ? std::find(numbers.begin(), numbers.end(), *choice) : numbers.end();
-    ShowList(box, entries, chosen != numbers.end() ? static_cast<int>(chosen - numbers.begin()) : -1);
-}
-
 /// Shows the upper four lists and their choices; the part-number box is filled by its own callers.
 void frmLibrary::ShowSelection()
 {
@@ -191,12 +169,6 @@ void frmLibrary::AddPartNum(int chartType)
     selection.AddPartNum(static_cast<std::int16_t>(chartType), GetCodeView());
     ShowSelection();
     ui->cmbPartNum->SetParts(selection.PartNums(), GetPartNumForm());
-}
-
-/// The entry of a list that its box shows as chosen, or null.
-template <class Item> static const Item* ChosenOf(const std::vector<Item>& list, const QComboBox* box)
-{
-    return box->currentIndex() >= 0 ? &list[static_cast<std::size_t>(box->currentIndex())] : nullptr;
 }
 
 void frmLibrary::FillTccList()

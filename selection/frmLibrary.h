@@ -121,6 +121,13 @@ protected:
 private:
     using Check = void (frmLibrary::*)(bool&);
 
+    struct ConditionControls
+    {
+        Condition Id;
+        QLabel* Label;
+        QLineEdit* Box;
+    };
+
     void Connect();
     void ConnectButtons(const std::vector<QRadioButton*>& buttons, void (frmLibrary::*click)(int));
     void GuardEntries();
@@ -157,8 +164,12 @@ private:
     void IncompletePart();
     void CompletePart();
     void ShowCanPlot();
-    void SetParameterEnabled(bool enabled);
-    void SetFrequencyEnabled(bool enabled);
+    const ConditionControls& ControlsOf(Condition condition) const
+    {
+        return conditions[static_cast<std::size_t>(condition)];
+    }
+    void SetEnabled(const ConditionControls& condition, bool enabled);
+    std::vector<const QWidget*> ControlsThatChange(Condition condition) const;
     void ResetParameter();
     bool IsFrequencySweep() const;
     const ChartSweep& ShownSweep() const;
@@ -175,4 +186,6 @@ private:
     PartSelection selection;
     std::vector<QRadioButton*> optChartType;
     std::vector<QRadioButton*> optParameter;
+    /// In the order of `Condition`.
+    std::vector<ConditionControls> conditions;
 };

@@ -161,54 +161,60 @@ bool frmLibrary::txtParameter_LostFocus()
     return Passes(&frmLibrary::CheckParameter1);
 }
 
-/// A condition is emptied with the part; frequency and parameter with the X axis, too.
+/// A condition is emptied with the part; one that only some X axes use goes with the axis, too.
+std::vector<const QWidget*> frmLibrary::ControlsThatChange(Condition condition) const
+{
+    std::vector<const QWidget*> controls = {ui->fraChartType, ui->cmbSizeCode, ui->cmbTcc,
+                                            ui->cmbCap,       ui->cmbRatedVol, ui->cmbPartNum};
+    if (condition == Condition::Frequency || condition == Condition::Parameter)
+    {
+        controls.push_back(ui->cmbXaxis);
+    }
+    if (condition == Condition::Parameter)
+    {
+        controls.insert(controls.end(), optParameter.begin(), optParameter.end());
+    }
+    return controls;
+}
+
 void frmLibrary::GuardEntries()
 {
-    const std::vector<const QWidget*> part = {ui->fraChartType, ui->cmbSizeCode, ui->cmbTcc,
-                                              ui->cmbCap,       ui->cmbRatedVol, ui->cmbPartNum};
-    auto axis = part;
-    axis.push_back(ui->cmbXaxis);
-    auto load = axis;
-    load.insert(load.end(), optParameter.begin(), optParameter.end());
-
-    const auto guarded = [this](QLineEdit* box, void (frmLibrary::*gotFocus)(),
-                                bool (frmLibrary::*lostFocus)(), const std::vector<const QWidget*>& acting)
+    struct Procedures
     {
-        return GuardedBox{box, [=, this] { (this->*gotFocus)(); }, [=, this] { return (this->*lostFocus)(); },
-                          acting};
+        void (frmLibrary::*GotFocus)();
+        bool (frmLibrary::*LostFocus)();
     };
-    using Form = frmLibrary;
-    new EntryGuard(
-        this,
-        {guarded(ui->txtDCBiasVol, &Form::txtDCBiasVol_GotFocus, &Form::txtDCBiasVol_LostFocus, part),
-         guarded(ui->txtFrequency, &Form::txtFrequency_GotFocus, &Form::txtFrequency_LostFocus, axis),
-         guarded(ui->txtHeatResistance, &Form::txtHeatResistance_GotFocus, &Form::txtHeatResistance_LostFocus,
-                 part),
-         guarded(ui->txtAmbientTemp, &Form::txtAmbientTemp_GotFocus, &Form::txtAmbientTemp_LostFocus, part),
-         guarded(ui->txtParameter, &Form::txtParameter_GotFocus, &Form::txtParameter_LostFocus, load)});
+    // In the order of `Condition`.
+    static constexpr std::array<Procedures, ConditionCount> procedures = {{
+        {&frmLibrary::txtDCBiasVol_GotFocus, &frmLibrary::txtDCBiasVol_LostFocus},
+        {&frmLibrary::txtFrequency_GotFocus, &frmLibrary::txtFrequency_LostFocus},
+        {&frmLibrary::txtHeatResistance_GotFocus, &frmLibrary::txtHeatResistance_LostFocus},
+        {&frmLibrary::txtAmbientTemp_GotFocus, &frmLibrary::txtAmbientTemp_LostFocus},
+        {&frmLibrary::txtParameter_GotFocus, &frmLibrary::txtParameter_LostFocus},
+    }};
+    std::vector<GuardedBox> boxes;
+    for (const ConditionControls& controls : conditions)
+    {
+        const Procedures of = procedures.at(static_cast<std::size_t>(controls.Id));
+        boxes.push_back({.Box = controls.Box,
+                         .GotFocus = [this, of] { (this->*of.GotFocus)(); },
+                         .LostFocus = [this, of] { return (this->*of.LostFocus)(); },
+                         .ActingControls = ControlsThatChange(controls.Id)});
+    }
+    new EntryGuard(this, std::move(boxes));
 }
 
 // ---- Which conditions the chart needs ----
 
-static void SetConditionEnabled(QLabel* label, QLineEdit* box, bool enabled)
+void frmLibrary::SetEnabled(const ConditionControls& condition, bool enabled)
 {
-    label->setEnabled(enabled);
-    box->setEnabled(enabled);
-}
-
-void frmLibrary::SetFrequencyEnabled(bool enabled)
-{
-    SetConditionEnabled(ui->lblFrequency, ui->txtFrequency, enabled);
-}
-
-void frmLibrary::SetParameterEnabled(bool enabled)
-{
-    ui->fraParameter->setEnabled(enabled);
-    for (QRadioButton* button : optParameter)
+    condition.Label->setEnabled(enabled);
+    condition.Box->setEnabled(enabled);
+    if (condition.Id == Condition::Parameter)
     {
-        button->setEnabled(enabled);
+        ui->fraParameter->setEnabled(enabled);
+        std::ranges::for_each(optParameter, [=](QRadioButton* button) { button->setEnabled(enabled); });
     }
-    SetConditionEnabled(ui->lblParameter, ui->txtParameter, enabled);
 }
 
 void frmLibrary::ResetParameter()
@@ -239,48 +245,30 @@ void frmLibrary::ResetAmbientTemp(int codeForm)
 void frmLibrary::DisableConditions()
 {
     ui->fraCondition->setEnabled(false);
-    SetConditionEnabled(ui->lblDCBiasVol, ui->txtDCBiasVol, false);
-    SetConditionEnabled(ui->lblFrequency, ui->txtFrequency, false);
-    SetConditionEnabled(ui->lblHeatResistance, ui->txtHeatResistance, false);
-    SetConditionEnabled(ui->lblAmbientTemp, ui->txtAmbientTemp, false);
-    Empty(ui->txtDCBiasVol);
-    Empty(ui->txtFrequency);
-    Empty(ui->txtHeatResistance);
+    for (const ConditionControls& condition : conditions)
+    {
+        SetEnabled(condition, false);
+        Empty(condition.Box);
+    }
     ResetAmbientTemp(GetCodeForm());
     ResetParameter();
-    SetParameterEnabled(false);
 }
 
 void frmLibrary::EnableConditions(int chartType)
 {
     ui->fraCondition->setEnabled(true);
-    const ChartKind* kind = FindChartKind(chartType);
-    if (kind == nullptr)
+    if (FindChartKind(chartType) == nullptr)
     {
         return;
     }
-    // What every way through the chart type uses; frequency and parameter go by the X axis.
-    const ChartSweep& common = kind->Sweeps.front();
-    if (common.Uses(Condition::DCBias))
+    const ChartSweep& sweep = ShownSweep();
+    for (const ConditionControls& condition : conditions)
     {
-        SetConditionEnabled(ui->lblDCBiasVol, ui->txtDCBiasVol, true);
+        SetEnabled(condition, sweep.Uses(condition.Id));
     }
-    if (common.Uses(Condition::AmbientTemperature))
+    if (sweep.Uses(Condition::HeatResistance))
     {
-        SetConditionEnabled(ui->lblAmbientTemp, ui->txtAmbientTemp, true);
-    }
-    if (common.Uses(Condition::HeatResistance))
-    {
-        SetConditionEnabled(ui->lblHeatResistance, ui->txtHeatResistance, true);
         ui->txtHeatResistance->setText(
             QString::fromStdString(FirstEntry(Condition::HeatResistance, SelectedPart(), GetCodeView())));
-    }
-    if (common.Uses(Condition::Frequency))
-    {
-        SetFrequencyEnabled(!IsFrequencySweep());
-        if (IsFrequencySweep())
-        {
-            SetParameterEnabled(true);
-        }
     }
 }

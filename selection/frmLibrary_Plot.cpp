@@ -4,11 +4,11 @@
 #include "app/mdlPublic.h"
 #include "calc/ChartKinds.h"
 #include "calc/ChartNames.h"
-#include "calc/NumberText.h"
 #include "formkit/Entries.h"
 #include "formkit/HourglassScope.h"
 #include "formkit/Messages.h"
 #include "formkit/RunCommand.h"
+#include "selection/ListBoxes.h"
 #include "ui_frmLibrary.h"
 
 #include <algorithm>
@@ -57,16 +57,6 @@ bool frmLibrary::IsFrequencySweep() const
     return ShownSweep().Uses(Condition::Parameter);
 }
 
-static void ShowAxes(QComboBox* box, std::span<const Quantity> axes)
-{
-    box->clear();
-    for (const Quantity axis : axes)
-    {
-        const auto name = NameOf(axis);
-        box->addItem(QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size())));
-    }
-}
-
 void frmLibrary::FillAxisLists(int chartType)
 {
     const ChartKind& kind = ChartKindOf(chartType);
@@ -89,22 +79,17 @@ void frmLibrary::optChartType_Click(int index)
 
 void frmLibrary::cmbXaxis_Click()
 {
-    if (GetChartType() != 0)
+    if (GetChartType() != NumberOf(ChartId::TemperatureRise))
     {
         return;
     }
-    if (IsFrequencySweep())
+    const bool overFrequency = IsFrequencySweep();
+    if (!overFrequency)
     {
-        SetParameterEnabled(true);
-        SetFrequencyEnabled(false);
-        return;
+        ResetParameter();
     }
-    ResetParameter();
-    SetParameterEnabled(false);
-    if (CanPlot())
-    {
-        SetFrequencyEnabled(true);
-    }
+    SetEnabled(ControlsOf(Condition::Parameter), overFrequency);
+    SetEnabled(ControlsOf(Condition::Frequency), !overFrequency && CanPlot());
 }
 
 // ---- The line that the form describes ----
@@ -129,12 +114,11 @@ ChartRecord frmLibrary::WriteChartData(std::int16_t part, std::int16_t chartType
     record.XAxisName = chart.XAxisName;
     record.YAxisName = chart.YAxisName;
     record.PartDataIndex = part;
-    record.DCBiasVoltage = ValueOf(ui->txtDCBiasVol);
-    record.HeatResistance = ValueOf(ui->txtHeatResistance);
-    record.Frequency = ValueOf(ui->txtFrequency);
-    record.AmbientTemp = ValueOf(ui->txtAmbientTemp);
     record.ParameterName = GetParameterName();
-    record.ParameterValue = ValueOf(ui->txtParameter);
+    for (const ConditionControls& condition : conditions)
+    {
+        record.*KindOf(condition.Id).Value = ValueOf(condition.Box);
+    }
     return record;
 }
 
@@ -156,17 +140,6 @@ void frmLibrary::ShowSameChart()
     {
         windows.ShowNewChart();
     }
-}
-
-/// Computes the curve of the line being plotted, by its chart type.
-static std::optional<ParameterRefusal> CalculateCurve(std::int16_t part)
-{
-    if (mdlPublic.Charts.WorkingRecord().ChartType <= 1)
-    {
-        return CalculateDataT(part);
-    }
-    CalculateDataS(part);
-    return std::nullopt;
 }
 
 void frmLibrary::ReportParameter(const ParameterRefusal& refusal)
@@ -213,7 +186,9 @@ std::optional<ParameterRefusal> frmLibrary::PlotLine(int lines)
     const HourglassScope hourglass;
     const std::int16_t part = GetSelectedPart();
     const Plotting plotting(mdlPublic.Charts, WriteChartData(part, GetChartType()));
-    if (auto refusal = CalculateCurve(part))
+    // Each computes the chart types of its own.
+    CalculateDataS(part);
+    if (auto refusal = CalculateDataT(part))
     {
         return refusal;
     }
