@@ -1,13 +1,12 @@
 /// `tavik-cli curve`: one curve, or a stream of them.
 
-#include "calc/DataFile.h"
 #include "cli/Command.h"
 #include "cli/Commands.h"
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
 #include "cli/RequestStream.h"
 #include "formkit/Texts.h"
-#include "requests/CurveText.h"
+#include "requests/CurveFormats.h"
 
 #include <CLI/CLI.hpp>
 
@@ -54,23 +53,6 @@ static void AnswerAll(const CurveOptions& options)
     }
 }
 
-static std::string TextOf(const RequestedCurve& curve, const CurveOptions& options)
-{
-    if (options.Format == "csv")
-    {
-        return CurveCsv(curve, options.Settings);
-    }
-    if (options.Format == "json")
-    {
-        std::string text;
-        AxisTexts axes;
-        AppendCurveJson(text, curve, options.Settings, axes);
-        return text;
-    }
-    const auto date = options.Date ? Windows1252FromUtf8(*options.Date) : TodayInFile();
-    return DataFileText(curve.Line, *curve.Part, curve.Code, date);
-}
-
 static void WriteOne(const CurveOptions& options)
 {
     if (options.Request.Part.empty() || options.Request.Chart.empty())
@@ -79,7 +61,10 @@ static void WriteOne(const CurveOptions& options)
                                                       : "curve wants --chart");
     }
     const auto parts = LoadParts(options.DataFolder);
-    const auto text = TextOf(CurveOf(options.Request, parts, options.Settings), options);
+    auto settings = options.Settings;
+    settings.Date = options.Date ? Windows1252FromUtf8(*options.Date) : TodayInFile();
+    const auto& format = FormatNamed(CurveFormats(), options.Format);
+    const auto text = format.Write(CurveOf(options.Request, parts, settings), settings);
     Output output(options.OutputFile);
     output.Write(text);
     output.Finish();
@@ -100,10 +85,7 @@ void AddCurveCommand(CLI::App& app)
         .add_option("--requests", options->Requests,
                     "File of requests, one JSON object a line, or - for standard input")
         ->type_name("FILE|-");
-    command
-        .add_option("--format", options->Format, "tvk (the program's data file, if left out), csv or json")
-        ->type_name("FORMAT")
-        ->check(CLI::IsMember({"tvk", "csv", "json"}));
+    AddFormatOption(command, options->Format, {CurveFormats().begin(), CurveFormats().end()});
     AddOutputOption(command, options->OutputFile);
     command
         .add_option_function<std::string>(

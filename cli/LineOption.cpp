@@ -20,10 +20,7 @@ static std::vector<std::string> LineNames()
             names.push_back(OptionNameOf(kind.Key));
         }
     }
-    for (const Quantity load : Parameters)
-    {
-        names.push_back(RequestNameOf(NameOf(load)));
-    }
+    std::ranges::copy(ParameterRequestNames(), std::back_inserter(names));
     return names;
 }
 

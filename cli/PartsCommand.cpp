@@ -19,7 +19,7 @@ struct PartsOptions
     PartFilter Filter;
     CurveSettings Settings;
     CodeView Code = CodeView::Eia;
-    std::string Format = "table";
+    std::string Format;
     std::string DataFolder;
     std::string OutputFile;
 };
@@ -37,7 +37,8 @@ static void ListParts(const PartsOptions& options)
     const auto parts = LoadParts(options.DataFolder);
     const auto found = FilterParts(parts, options.Filter);
     Output output(options.OutputFile);
-    output.Write(PartListText(found, options.Format, options.Code, options.Settings));
+    const auto& format = FormatNamed(PartListFormats(), options.Format);
+    output.Write(format.Write(found, options.Code, options.Settings));
     output.Finish();
     if (found.empty())
     {
@@ -91,9 +92,7 @@ void AddPartsCommand(CLI::App& app)
     AddCodeOption(command, options->Code);
     AddNumberingOption(command, options->Settings);
     AddDataOption(command, options->DataFolder);
-    command.add_option("--format", options->Format, "table (if left out), csv or json")
-        ->type_name("FORMAT")
-        ->check(CLI::IsMember({"table", "csv", "json"}));
+    AddFormatOption(command, options->Format, {PartListFormats().begin(), PartListFormats().end()});
     AddOutputOption(command, options->OutputFile);
     command.callback([options] { ListParts(*options); });
 }

@@ -40,7 +40,10 @@ int RunProgram(int argc, const char* const* argv)
     app.set_version_flag("--version", "tavik-cli " TAVIK_VERSION);
     app.require_subcommand(0, 1);
     app.get_formatter()->column_width(34);
-    AddCommands(app);
+    for (const auto add : AllCommands)
+    {
+        add(app);
+    }
     try
     {
         app.parse(argc, argv);

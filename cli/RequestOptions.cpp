@@ -1,6 +1,10 @@
 #include "cli/RequestOptions.h"
 
+#include "calc/Bounds.h"
+#include "calc/NumberText.h"
 #include "cli/Command.h"
+#include "cli/RequestWords.h"
+#include "requests/Names.h"
 
 #include <CLI/CLI.hpp>
 
@@ -13,6 +17,37 @@ static void AddText(CLI::App& command, const std::string& name, std::optional<st
             name, [&target](const std::string& text) { target = text; }, help)
         ->type_name(type)
         ->group("Curve");
+}
+
+/// "DC bias voltage" of "DC Bias Voltage": small letters but for the first and for words of capitals.
+static std::string SentenceOf(std::string_view name)
+{
+    std::string sentence(name);
+    for (std::size_t i = 1; i + 1 < sentence.size(); ++i)
+    {
+        const bool beginsWord = sentence[i - 1] == ' ';
+        const bool isSmall = sentence[i + 1] == LowerCase(sentence[i + 1]);
+        sentence[i] = beginsWord && isSmall ? LowerCase(sentence[i]) : sentence[i];
+    }
+    return sentence;
+}
+
+/// What the help adds on the entries for a condition.
+static std::string NoteOn(Condition condition)
+{
+    switch (condition)
+    {
+    case Condition::Frequency:
+        return ", " + NumberText(static_cast<float>(LowestFrequencyHz / 1000)) + " to " +
+               NumberText(static_cast<float>(HighestFrequencyHz / 1000)) + " kHz";
+    case Condition::HeatResistance:
+        return " (left out: the part's own)";
+    case Condition::AmbientTemperature:
+        return " (left out: " + NumberText(ReferenceC(CodeView::Eia)) + " in EIA, " +
+               NumberText(ReferenceC(CodeView::Jis)) + " in JIS code)";
+    default:
+        return {};
+    }
 }
 
 void TakeParameter(CurveRequest& request, const std::string& text)
@@ -28,25 +63,23 @@ void TakeParameter(CurveRequest& request, const std::string& text)
 
 void AddRequestOptions(CLI::App& command, CurveRequest& request)
 {
-    command
-        .add_option("--chart", request.Chart,
-                    "temperature-rise, allowable-power, capacitance-temperature or capacitance-dc-voltage")
+    command.add_option("--chart", request.Chart, ChoiceOf(ChartRequestNames()))
         ->type_name("CHART")
         ->group("Curve");
     AddText(command, "--x", request.X, "NAME", "X axis, for example \"Apparent Power\"");
     AddText(command, "--y", request.Y, "NAME", "Y axis, for example \"Capacitance Change\"");
-    AddText(command, "--dc-bias", request.Conditions[Condition::DCBias], "V", "DC bias voltage");
-    AddText(command, "--frequency", request.Conditions[Condition::Frequency], "kHz",
-            "Frequency, 10 to 1000 kHz");
-    AddText(command, "--heat-resistance", request.Conditions[Condition::HeatResistance], "C/W",
-            "Heat resistance (left out: the part's own)");
-    AddText(command, "--ambient", request.Conditions[Condition::AmbientTemperature], "C",
-            "Ambient temperature (left out: 25 in EIA, 20 in JIS code)");
+    for (const ConditionKind& kind : ConditionKinds())
+    {
+        if (kind.Measures)
+        {
+            AddText(command, "--" + OptionNameOf(kind.Key), request.Conditions[kind.Id],
+                    std::string(KindOf(*kind.Measures).Unit), SentenceOf(kind.Name) + NoteOn(kind.Id));
+        }
+    }
     command
         .add_option_function<std::string>(
             "--parameter", [&request](const std::string& text) { TakeParameter(request, text); },
-            "Fixed load of a temperature rise over frequency: current, voltage, effective-power or "
-            "apparent-power")
+            "Fixed load of a temperature rise over frequency: " + ChoiceOf(ParameterRequestNames()))
         ->type_name("NAME=VALUE")
         ->group("Curve");
     AddCodeOption(command, request.Code);
@@ -81,4 +114,25 @@ void AddOutputOption(CLI::App& command, std::string& file)
 {
     command.add_option("--output", file, "File to write (left out, or -: standard output)")
         ->type_name("FILE");
+}
+
+static std::string WithNote(const FormatName& format)
+{
+    const std::string note(format.Note);
+    return std::string(format.Name) + (note.empty() ? "" : " (" + note + ')');
+}
+
+void AddFormatOption(CLI::App& command, std::string& format, const std::vector<FormatName>& formats,
+                     const std::string& note)
+{
+    std::vector<std::string> names;
+    std::vector<std::string> notedNames;
+    for (const auto& known : formats)
+    {
+        names.emplace_back(known.Name);
+        notedNames.push_back(WithNote(known));
+    }
+    command.add_option("--format", format, ChoiceOf(notedNames) + note)
+        ->type_name("FORMAT")
+        ->check(CLI::IsMember(names));
 }

@@ -3,6 +3,9 @@
 /// The options that commands on curves share: chart, axes, conditions, namings.
 
 #include "requests/CurveRequest.h"
+#include "requests/OutputFormat.h"
+
+#include <vector>
 
 namespace CLI
 {
@@ -21,6 +24,10 @@ void AddNumberingOption(CLI::App& command, CurveSettings& settings);
 void AddUncheckedOption(CLI::App& command, CurveSettings& settings);
 /// Adds --output; the name is what `Output` wants.
 void AddOutputOption(CLI::App& command, std::string& file);
+
+/// Adds --format with the names of the formats, which the help lists before the note.
+void AddFormatOption(CLI::App& command, std::string& format, const std::vector<FormatName>& formats,
+                     const std::string& note = {});
 
 /// Takes "effective-power=1.5W" into a request. Throws UsageError without an equals sign.
 void TakeParameter(CurveRequest& request, const std::string& text);

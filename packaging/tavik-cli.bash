@@ -1,39 +1,56 @@
-# Completion of tavik-cli for bash.
+# Completion of tavik-cli for bash. It offers what the program's own help names.
+
+# Commands within the help on standard input.
+_tavik_cli_commands()
+{
+    sed -n '/^Subcommands:/,/^$/s/^  \([a-z-]*\) .*/\1/p'
+}
+
+# Options within the help on standard input.
+_tavik_cli_options()
+{
+    sed -n 's/^  \(-.,\)\{0,1\}\(--[a-z-]*\).*/\2/p'
+}
+
+# True when the help on standard input gives an option a value: its kind follows after one blank.
+_tavik_cli_takes_value()
+{
+    awk -v begin="  $1 " 'index($0, begin) == 1 && substr($0, length(begin) + 1, 1) != " " { found = 1 }
+        END { exit !found }'
+}
+
+# Names that the help on standard input lists for an option, as "a, b (if left out) or c".
+_tavik_cli_names()
+{
+    awk -v option="$1" '
+        $1 == option && /^  -/ { $1 = $2 = ""; within = 1; print; next }
+        within && /^    / { print; next }
+        { within = 0 }' |
+        sed -e 's/([^)]*)//g' -e 's/.*: //' -e 's/,/ /g' -e 's/ or / /g'
+}
 
 _tavik_cli()
 {
-    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]:-}
-    local words=""
-    if [ "$COMP_CWORD" -eq 1 ]; then
-        words="parts curve chart data --help --version"
-    else
-        case $previous in
-            --chart) words="temperature-rise allowable-power capacitance-temperature capacitance-dc-voltage" ;;
-            --code) words="eia jis" ;;
-            --numbering) words="global previous" ;;
-            --parameter) words="current= voltage= effective-power= apparent-power=" ;;
-            --format)
-                case $command in
-                    parts) words="table csv json" ;;
-                    curve) words="tvk csv json" ;;
-                    chart) words="png svg pdf" ;;
-                esac
-                ;;
-            --data | --output | --requests) ;;
-            *)
-                local shared="--data --format --output --code --numbering --help"
-                local curve="--chart --x --y --dc-bias --frequency --heat-resistance --ambient --parameter --unchecked"
-                case $command in
-                    parts) words="$shared --chart --size --characteristic --capacitance --rated-voltage" ;;
-                    curve) words="$shared $curve --requests --date" ;;
-                    chart) words="$shared $curve --line --size --scale --x-from --x-to --y-from --y-to" ;;
-                    data) words="check export build --help" ;;
-                esac
-                ;;
-        esac
-    fi
+    local program=$1 current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
+    local help words="" word command=()
+    help=$("$program" --help 2>/dev/null)
+    for word in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
+        _tavik_cli_commands <<< "$help" | grep -qxF -- "$word" || break
+        command+=("$word")
+        help=$("$program" "${command[@]}" --help 2>/dev/null)
+    done
+    case $previous in
+        --chart) words=$("$program" curve --help 2>/dev/null | _tavik_cli_names --chart) ;;
+        --code | --numbering | --format) words=$(_tavik_cli_names "$previous" <<< "$help") ;;
+        --parameter) words=$(_tavik_cli_names --parameter <<< "$help" | sed 's/[a-z-]\{1,\}/&=/g') ;;
+        *)
+            if ! _tavik_cli_takes_value "$previous" <<< "$help"; then
+                words="$(_tavik_cli_commands <<< "$help") $(_tavik_cli_options <<< "$help")"
+            fi
+            ;;
+    esac
     mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")
-    [[ ${COMPREPLY[0]:-} == *= ]] && compopt -o nospace
+    [[ ${COMPREPLY[0]:-} == *= ]] && compopt -o nospace 2>/dev/null
     return 0
 }
 complete -o default -F _tavik_cli tavik-cli

@@ -57,11 +57,28 @@ std::string ShownPartNum(const PartRecord& part, CodeView code, const CurveSetti
     return Utf8FromWindows1252(part.PartNum[static_cast<std::size_t>(code) + settings.NumberingOffset]);
 }
 
+std::vector<std::string> ChartRequestNames()
+{
+    std::vector<std::string> names;
+    for (const ChartKind& kind : ChartKinds())
+    {
+        names.emplace_back(kind.CommandName);
+    }
+    return names;
+}
+
 std::int16_t ChartTypeOf(std::string_view commandName)
 {
     std::vector<std::string_view> names;
     std::ranges::transform(ChartKinds(), std::back_inserter(names), &ChartKind::CommandName);
     return NumberOf(ChartKinds()[IndexOfName(commandName, names, "chart", "chart")].Id);
+}
+
+std::vector<std::string> ParameterRequestNames()
+{
+    std::vector<std::string> names;
+    std::ranges::transform(Parameters, std::back_inserter(names), RequestNameOf, NameOf);
+    return names;
 }
 
 CodeView CodeViewOf(std::string_view name)
@@ -155,9 +172,13 @@ static void CalculateOrRefuse(const PartRecord& part, ChartRecord& line, CodeVie
 static Quantity Meant(const std::optional<std::string>& name, std::span<const Quantity> quantities,
                       std::string_view what, std::string_view key)
 {
+    if (!name)
+    {
+        return quantities.front();
+    }
     std::vector<std::string_view> names;
     std::ranges::transform(quantities, std::back_inserter(names), NameOf);
-    return quantities[name ? IndexOfName(*name, names, what, key) : 0];
+    return quantities[IndexOfName(*name, names, what, key)];
 }
 
 /// As `CurveOf`, but that errors do not tell the part.

@@ -61,6 +61,8 @@ struct CurveSettings
     bool Unchecked = false;
     /// 0 to show global part numbers, 2 to show previous ones.
     std::size_t NumberingOffset = 0;
+    /// The date in a data file, in its code page.
+    std::string Date = {};
 };
 
 /// The answer: a line with its points and limits.
@@ -80,6 +82,12 @@ std::string ShownPartNum(const PartRecord& part, CodeView code, const CurveSetti
 
 /// The chart type of a command's name. Throws RequestError that lists the names.
 std::int16_t ChartTypeOf(std::string_view commandName);
+
+/// What requests call the chart types, in the order of their numbers.
+std::vector<std::string> ChartRequestNames();
+
+/// What requests call the parameters, in the order of their buttons.
+std::vector<std::string> ParameterRequestNames();
 
 /// The code of "eia" or "jis". Throws RequestError that lists the names.
 CodeView CodeViewOf(std::string_view name);

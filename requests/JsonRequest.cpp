@@ -1,7 +1,7 @@
 #include "requests/JsonRequest.h"
 
 #include "partdata/RunTimeError.h"
-#include "requests/CurveText.h"
+#include "requests/CurveJson.h"
 #include "requests/RequestError.h"
 
 #include <nlohmann/json.hpp>

@@ -12,6 +12,12 @@ std::string RequestNameOf(std::string_view name)
     return text;
 }
 
+std::string ChoiceOf(const std::vector<std::string>& names)
+{
+    const auto most = std::span(names).first(names.size() - std::min<std::size_t>(names.size(), 1));
+    return ListOf(most) + (most.empty() ? "" : " or ") + (names.empty() ? "" : names.back());
+}
+
 /// True for names that differ in letter case, or in a hyphen for a blank.
 static bool IsSameName(std::string_view a, std::string_view b)
 {

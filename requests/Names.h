@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// Lower case of an ASCII letter; any other character as it is.
 constexpr char LowerCase(char c)
@@ -26,6 +27,9 @@ template <class Names> std::string ListOf(const Names& names, std::string_view s
     }
     return list;
 }
+
+/// The names as a choice: "png, svg or pdf".
+std::string ChoiceOf(const std::vector<std::string>& names);
 
 /// The index of the name that is meant: "Apparent Power" and "apparent-power" name the same, in any letter
 /// case.

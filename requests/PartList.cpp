@@ -159,8 +159,8 @@ static std::string CsvOf(const std::vector<Row>& rows)
 }
 
 /// One part a line, within the brackets of a list.
-static std::string JsonOf(const std::vector<const PartRecord*>& parts, CodeView code,
-                          const CurveSettings& settings)
+static std::string Json(const std::vector<const PartRecord*>& parts, CodeView code,
+                        const CurveSettings& settings)
 {
     std::string text = "[";
     for (const PartRecord* part : parts)
@@ -179,21 +179,37 @@ static std::string JsonOf(const std::vector<const PartRecord*>& parts, CodeView 
     return text + "\n]\n";
 }
 
-std::string PartListText(const std::vector<const PartRecord*>& parts, std::string_view format, CodeView code,
-                         const CurveSettings& settings)
+static std::vector<Row> RowsOf(const Row& headings, const std::vector<const PartRecord*>& parts,
+                               CodeView code, const CurveSettings& settings)
 {
-    if (format == "json")
-    {
-        return JsonOf(parts, code, settings);
-    }
-    const bool csv = format == "csv";
-    std::vector<Row> rows;
-    rows.push_back(
-        csv ? Row{"part", "size", "characteristic", "capacitance [pF]", "rated voltage [V]", "charts"}
-            : Row{"PART", "SIZE", "TCC", "CAPACITANCE[pF]", "RATED[V]", "CHARTS"});
+    std::vector<Row> rows = {headings};
     for (const PartRecord* part : parts)
     {
         rows.push_back(RowOf(*part, code, settings));
     }
-    return csv ? CsvOf(rows) : TableOf(rows);
+    return rows;
+}
+
+static std::string Table(const std::vector<const PartRecord*>& parts, CodeView code,
+                         const CurveSettings& settings)
+{
+    return TableOf(
+        RowsOf({"PART", "SIZE", "TCC", "CAPACITANCE[pF]", "RATED[V]", "CHARTS"}, parts, code, settings));
+}
+
+static std::string Csv(const std::vector<const PartRecord*>& parts, CodeView code,
+                       const CurveSettings& settings)
+{
+    return CsvOf(RowsOf({"part", "size", "characteristic", "capacitance [pF]", "rated voltage [V]", "charts"},
+                        parts, code, settings));
+}
+
+std::span<const PartListFormat> PartListFormats()
+{
+    static constexpr std::array<PartListFormat, 3> formats = {{
+        {{"table", "if left out"}, Table},
+        {{"csv", ""}, Csv},
+        {{"json", ""}, Json},
+    }};
+    return formats;
 }

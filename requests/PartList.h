@@ -3,6 +3,10 @@
 /// The parts of the range as a list.
 
 #include "requests/CurveRequest.h"
+#include "requests/OutputFormat.h"
+
+#include <span>
+#include <vector>
 
 /// What the listed parts must agree with; what is left out agrees with every part. Texts in UTF-8, compared
 /// without regard to letter case.
@@ -22,7 +26,10 @@ struct PartFilter
 /// The parts that agree, in index-file order. A part without data for any chart type is in no list.
 std::vector<const PartRecord*> FilterParts(const PartTable& parts, const PartFilter& filter);
 
-/// The list as "table", "csv" or "json": part number, size code, characteristic, capacitance in pF, rated
-/// voltage in V, and the chart types that the part has data for. UTF-8, lines ended by line feeds.
-std::string PartListText(const std::vector<const PartRecord*>& parts, std::string_view format, CodeView code,
-                         const CurveSettings& settings);
+/// A format of a list: part number, size code, characteristic, capacitance in pF, rated voltage in V, and the
+/// chart types that the part has data for. UTF-8, lines ended by line feeds.
+using PartListFormat = OutputFormat<std::string (*)(const std::vector<const PartRecord*>& parts,
+                                                    CodeView code, const CurveSettings& settings)>;
+
+/// All formats, the one that holds where none is named foremost: a table for people, CSV and JSON.
+std::span<const PartListFormat> PartListFormats();

@@ -180,3 +180,9 @@ float ValueInUnit(std::string_view typed, Quantity quantity, std::string_view ke
     }
     return *value;
 }
+
+std::string StoredUnitOf(std::string_view axisName)
+{
+    const QuantityKind& kind = KindOf(QuantityNamed(axisName));
+    return std::string(kind.HasDegrees ? defaultDegreeSign : "") + std::string(kind.StoredUnit);
+}

@@ -21,3 +21,7 @@ std::string EntryInUnit(std::string_view typed, Quantity quantity, std::string_v
 /// The value as a number. Throws RequestError that bears the key for a unit that does not fit and for a text
 /// that is no number.
 float ValueInUnit(std::string_view typed, Quantity quantity, std::string_view key = {});
+
+/// The unit that the points of an axis are kept in, by the axis text: "Arms" of "Current", "Hz" of
+/// "Frequency". Throws RunTimeError 5 when no quantity is called so.
+std::string StoredUnitOf(std::string_view axisName);

@@ -4,7 +4,6 @@
 
 #include "calc/Calculate.h"
 #include "files/PartLoading.h"
-#include "requests/CurveText.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -177,16 +176,4 @@ INSTANTIATE_TEST_SUITE_P(
         BadLine{"no data",
                 R"({"part":"KTU033R71E101KA01","chart":"temperature-rise","dcBias":0,"frequency":300})",
                 "has no data for chart temperature-rise"}));
-
-TEST(CurveCsv, HasConditionsHeadingAndAllPoints)
-{
-    CurveRequest request{.Part = "KTS31NB51E106MA01", .Chart = "capacitance-dc-voltage"};
-    const auto text = CurveCsv(CurveOf(request, Parts(), {}), {});
-    EXPECT_TRUE(text.starts_with("# part: KTS31NB51E106MA01\n"
-                                 "# chart: Capacitance-DC Voltage Characteristics\n"
-                                 "# Ambient Temperature: 25 [C]\n"
-                                 "DC Bias Voltage [V],Capacitance [pF]\n0,"));
-    EXPECT_EQ(std::ranges::count(text, '\n'), 204);
-    EXPECT_NE(text.find("\n25,"), std::string::npos);
-}
 } // namespace

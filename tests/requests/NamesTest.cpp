@@ -18,6 +18,14 @@ TEST(Names, AreSpeltWithHyphensInRequests)
     EXPECT_EQ(RequestNameOf("Current"), "current");
 }
 
+TEST(Names, AreOfferedAsAChoice)
+{
+    EXPECT_EQ(ChoiceOf({}), "");
+    EXPECT_EQ(ChoiceOf({"png"}), "png");
+    EXPECT_EQ(ChoiceOf({"png", "svg"}), "png or svg");
+    EXPECT_EQ(ChoiceOf({"png", "svg", "pdf"}), "png, svg or pdf");
+}
+
 TEST(Names, MeanTheSameInAnySpelling)
 {
     for (const char* name : {"Apparent Power", "apparent-power", "APPARENT power"})

@@ -44,6 +44,12 @@ struct Range
     }
 };
 
+std::string ListText(const std::vector<const PartRecord*>& parts, std::string_view format, CodeView code,
+                     const CurveSettings& settings)
+{
+    return FormatNamed(PartListFormats(), format).Write(parts, code, settings);
+}
+
 TEST(PartList, HoldsEveryPartWithData)
 {
     EXPECT_EQ(Range().Find({}), "AB CD EF ");
@@ -71,7 +77,7 @@ TEST(PartList, IsWrittenInTheNamingAskedFor)
     const Range range;
     const auto parts = FilterParts(range.Table, {.Text = "AB"});
     EXPECT_EQ(
-        PartListText(parts, "table", CodeView::Jis, {.NumberingOffset = 2}),
+        ListText(parts, "table", CodeView::Jis, {.NumberingOffset = 2}),
         "PART   SIZE  TCC  CAPACITANCE[pF]  RATED[V]  CHARTS\n"
         "OLD-2  3216  R            4700000        25  capacitance-temperature capacitance-dc-voltage\n");
 }
@@ -81,9 +87,9 @@ TEST(PartList, QuotesWhatCsvNeedsQuoted)
     const Range range;
     const auto parts = FilterParts(range.Table, {.Text = "EF"});
     const std::string heading = "part,size,characteristic,capacitance [pF],rated voltage [V],charts\n";
-    EXPECT_EQ(PartListText(parts, "csv", CodeView::Eia, {}),
+    EXPECT_EQ(ListText(parts, "csv", CodeView::Eia, {}),
               heading + "\"EF\"\"1\",0805,X7R,100,25,capacitance-temperature capacitance-dc-voltage\n");
-    EXPECT_EQ(PartListText(parts, "csv", CodeView::Jis, {}),
+    EXPECT_EQ(ListText(parts, "csv", CodeView::Jis, {}),
               heading + "\"EF,2\",2012,R,100,25,capacitance-temperature capacitance-dc-voltage\n");
 }
 
@@ -91,9 +97,9 @@ TEST(PartList, IsAListOfObjectsInJson)
 {
     const Range range;
     EXPECT_EQ(
-        PartListText(FilterParts(range.Table, {.Text = "EF"}), "json", CodeView::Eia, {}),
+        ListText(FilterParts(range.Table, {.Text = "EF"}), "json", CodeView::Eia, {}),
         "[\n{\"part\":\"EF\\\"1\",\"size\":\"0805\",\"characteristic\":\"X7R\",\"capacitance\":100,"
         "\"ratedVoltage\":25,\"charts\":[\"capacitance-temperature\",\"capacitance-dc-voltage\"]}\n]\n");
-    EXPECT_EQ(PartListText({}, "json", CodeView::Eia, {}), "[\n]\n");
+    EXPECT_EQ(ListText({}, "json", CodeView::Eia, {}), "[\n]\n");
 }
 } // namespace

@@ -1,39 +1,13 @@
-#include "requests/CurveText.h"
+#include "requests/CurveJson.h"
 
 #include "calc/ChartKinds.h"
 #include "calc/ConditionLines.h"
-#include "calc/NumberText.h"
-#include "calc/Quantities.h"
 #include "requests/Names.h"
+#include "requests/UnitEntry.h"
 
 #include <nlohmann/json.hpp>
 
 #include <charconv>
-
-/// "Arms" of the axis text "Current"; an X of frequency is stored in Hz.
-static std::string StoredUnit(const std::string& axisName)
-{
-    const QuantityKind& kind = KindOf(QuantityNamed(axisName));
-    return std::string(kind.HasDegrees ? defaultDegreeSign : "") + std::string(kind.StoredUnit);
-}
-
-std::string CurveCsv(const RequestedCurve& curve, const CurveSettings& settings)
-{
-    const ChartRecord& line = curve.Line;
-    std::string text = "# part: " + ShownPartNum(*curve.Part, curve.Code, settings) + '\n';
-    text.append("# chart: ").append(ChartKindOf(line.ChartType).Caption).append("\n");
-    for (const ConditionLine& condition : ConditionLines(line))
-    {
-        text += "# " + condition.Name + ": " + condition.Value + ' ' + condition.Unit + '\n';
-    }
-    text += line.XAxisName + " [" + StoredUnit(line.XAxisName) + "]," + line.YAxisName + " [" +
-            StoredUnit(line.YAxisName) + "]\n";
-    for (std::size_t i = 0; i < CurvePoints; ++i)
-    {
-        text += NumberText(line.XData[i]) + ',' + NumberText(line.YData[i]) + '\n';
-    }
-    return text;
-}
 
 /// Any number as JSON takes it. Curves hold finite values only.
 template <class Number> static void AppendNumber(std::string& text, Number value)
@@ -89,9 +63,9 @@ void AppendCurveJson(std::string& text, const RequestedCurve& curve, const Curve
     AddText(text, "part", ShownPartNum(*curve.Part, curve.Code, settings));
     AddText(text, "chart", ChartKindOf(line.ChartType).CommandName);
     AddText(text, "xName", line.XAxisName);
-    AddText(text, "xUnit", StoredUnit(line.XAxisName));
+    AddText(text, "xUnit", StoredUnitOf(line.XAxisName));
     AddText(text, "yName", line.YAxisName);
-    AddText(text, "yUnit", StoredUnit(line.YAxisName));
+    AddText(text, "yUnit", StoredUnitOf(line.YAxisName));
     AddConditions(text, line);
     AppendKey(text, "x");
     text += axes.Of(line.XData);

@@ -1,13 +1,9 @@
 #pragma once
 
-/// A curve with its conditions as CSV and as JSON.
+/// A curve with its conditions, and what is told in its place, as JSON.
 
 #include "requests/AxisTexts.h"
 #include "requests/CurveRequest.h"
-
-/// Comment lines that begin with "#" tell part, chart and conditions; then a heading and 200 lines of X and Y
-/// as number text, in the unit of the heading. Lines end with a line feed; UTF-8.
-std::string CurveCsv(const RequestedCurve& curve, const CurveSettings& settings);
 
 /// Appends one line of JSON in UTF-8: part, chart, names and units of the axes, the conditions that the curve
 /// depends on by the names that requests use, 200 X and 200 Y values, the default limits and the extra value.

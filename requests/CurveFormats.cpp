@@ -1,0 +1,53 @@
+#include "requests/CurveFormats.h"
+
+#include "calc/ChartKinds.h"
+#include "calc/ConditionLines.h"
+#include "calc/DataFile.h"
+#include "calc/NumberText.h"
+#include "requests/CurveJson.h"
+#include "requests/UnitEntry.h"
+
+#include <array>
+
+static std::string DataFile(const RequestedCurve& curve, const CurveSettings& settings)
+{
+    return DataFileText(curve.Line, *curve.Part, curve.Code, settings.Date);
+}
+
+/// Comment lines that begin with "#" tell part, chart and conditions; then a heading and 200 lines of X and Y
+/// as number text, in the unit of the heading.
+static std::string Csv(const RequestedCurve& curve, const CurveSettings& settings)
+{
+    const ChartRecord& line = curve.Line;
+    std::string text = "# part: " + ShownPartNum(*curve.Part, curve.Code, settings) + '\n';
+    text.append("# chart: ").append(ChartKindOf(line.ChartType).Caption).append("\n");
+    for (const ConditionLine& condition : ConditionLines(line))
+    {
+        text += "# " + condition.Name + ": " + condition.Value + ' ' + condition.Unit + '\n';
+    }
+    text += line.XAxisName + " [" + StoredUnitOf(line.XAxisName) + "]," + line.YAxisName + " [" +
+            StoredUnitOf(line.YAxisName) + "]\n";
+    for (std::size_t i = 0; i < CurvePoints; ++i)
+    {
+        text += NumberText(line.XData[i]) + ',' + NumberText(line.YData[i]) + '\n';
+    }
+    return text;
+}
+
+static std::string Json(const RequestedCurve& curve, const CurveSettings& settings)
+{
+    std::string text;
+    AxisTexts axes;
+    AppendCurveJson(text, curve, settings, axes);
+    return text;
+}
+
+std::span<const CurveFormat> CurveFormats()
+{
+    static constexpr std::array<CurveFormat, 3> formats = {{
+        {{"tvk", "the program's data file, if left out"}, DataFile},
+        {{"csv", ""}, Csv},
+        {{"json", ""}, Json},
+    }};
+    return formats;
+}

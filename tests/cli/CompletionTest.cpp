@@ -1,0 +1,130 @@
+/// What bash offers behind a command line, against the program's own help.
+
+#include "tests/cli/CommandLine.h"
+
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTest>
+
+#include <algorithm>
+
+class CompletionTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+
+    void OffersAllThatTheHelpNames();
+    void OffersWhatFits_data();
+    void OffersWhatFits();
+
+private:
+    static void OffersAllOf(const QStringList& command);
+};
+
+/// What stands for choice behind the words, the last of which is begun.
+static QStringList OfferedBehind(const QStringList& words)
+{
+    static const QString script =
+        QStringLiteral("source \"$1\"; program=$2; shift 2; COMP_WORDS=(tavik-cli \"$@\"); COMP_CWORD=$#; "
+                       "_tavik_cli \"$program\"; printf '%s\\n' \"${COMPREPLY[@]}\"");
+    QProcess bash;
+    bash.start(QStringLiteral("bash"),
+               QStringList{"-c", script, "bash", QStringLiteral(COMPLETION), CommandLineProgram()} + words);
+    if (!bash.waitForFinished(60000))
+    {
+        return {QStringLiteral("no end")};
+    }
+    const auto messages = bash.readAllStandardError();
+    return QString::fromUtf8(messages + bash.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
+}
+
+/// First captures of a pattern in the help of a command.
+static QStringList FoundInHelp(const QStringList& command, const char* pattern)
+{
+    const auto help = QString::fromUtf8(RunCommandLine(command + QStringList{"--help"}).Output);
+    QStringList found;
+    const QRegularExpression expression(QString::fromLatin1(pattern), QRegularExpression::MultilineOption);
+    for (auto match = expression.globalMatch(help); match.hasNext();)
+    {
+        found << match.next().captured(1);
+    }
+    return found;
+}
+
+static QStringList OptionsOf(const QStringList& command)
+{
+    return FoundInHelp(command, "^  (?:-[a-z],)?(--[a-z-]+)");
+}
+
+/// Commands are the lines of the help behind the options that have neither a dash nor a kind of value.
+static QStringList CommandsOf(const QStringList& command)
+{
+    return FoundInHelp(command, "^  ([a-z]+) {10,}(?!.*OPTIONS)");
+}
+
+void CompletionTest::initTestCase()
+{
+    if (QStandardPaths::findExecutable(QStringLiteral("bash")).isEmpty())
+    {
+        QSKIP("there is no bash");
+    }
+}
+
+void CompletionTest::OffersAllOf(const QStringList& command)
+{
+    const auto options = OptionsOf(command);
+    QVERIFY(options.contains("--help"));
+    QCOMPARE(OfferedBehind(command + QStringList{"--"}), options);
+    const auto commands = CommandsOf(command);
+    QCOMPARE(OfferedBehind(command + QStringList{""}), commands + options);
+    for (const auto& name : commands)
+    {
+        OffersAllOf(command + QStringList{name});
+    }
+}
+
+void CompletionTest::OffersAllThatTheHelpNames()
+{
+    QCOMPARE(CommandsOf({}), (QStringList{"parts", "curve", "chart", "data"}));
+    OffersAllOf({});
+}
+
+void CompletionTest::OffersWhatFits_data()
+{
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<QString>("offered");
+    const auto row = [](const char* name, const char* words, const char* offered)
+    { QTest::newRow(name) << QString::fromLatin1(words) << QString::fromLatin1(offered); };
+    const char* charts = "temperature-rise allowable-power capacitance-temperature capacitance-dc-voltage";
+    row("a command", "pa", "parts");
+    row("nothing", "parts --no", "");
+    row("chart types of a curve", "curve ABC --chart ", charts);
+    row("chart types of parts", "parts --chart ", charts);
+    row("a chart type", "chart --chart a", "allowable-power");
+    row("codes", "chart ABC --code ", "eia jis");
+    row("numberings", "parts --numbering ", "global previous");
+    row("formats of lists", "parts --format ", "table csv json");
+    row("formats of curves", "curve --format ", "tvk csv json");
+    row("formats of pictures", "chart --format ", "png svg pdf");
+    row("formats of findings", "data check --format ", "text json");
+    row("parameters", "curve --parameter ", "current= voltage= effective-power= apparent-power=");
+    row("a parameter", "curve --parameter ap", "apparent-power=");
+    row("an option behind one without a value", "curve --unchecked --da", "--data --date");
+    row("an option behind a value", "curve --dc-bias 5V --dat", "--data --date");
+    row("no option as a value", "curve --dc-bias ", "");
+    row("files as a value", "curve --output ", "");
+    row("a text that no command bears", "parts * --code j", "jis");
+}
+
+void CompletionTest::OffersWhatFits()
+{
+    QFETCH(const QString, words);
+    QFETCH(const QString, offered);
+    QCOMPARE(OfferedBehind(words.split(' ')).join(' '), offered);
+}
+
+QTEST_GUILESS_MAIN(CompletionTest)
+#include "CompletionTest.moc"
