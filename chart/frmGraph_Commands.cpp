@@ -4,7 +4,7 @@
 #include "app/mdlPublic.h"
 #include "calc/ChartKinds.h"
 #include "chart/ElidedLabel.h"
-#include "chart/drawing/ChartSheet.h"
+#include "chart/drawing/PainterSheet.h"
 #include "chart/frmSetAxis.h"
 #include "chart/layout/ReadOut.h"
 #include "formkit/Messages.h"
@@ -63,7 +63,13 @@ void frmGraph::mnuChartClipboard_Click()
     QImage picture((sheetSize * scale).toSize(), QImage::Format_RGB32);
     picture.setDevicePixelRatio(scale);
     QPainter painter(&picture);
-    DrawChartSheet(ui->picGraph->View(), mdlPublic.Charts.Lines(), PartNums(GetPartNumForm()), painter);
+    PainterSheet sheet(painter);
+    std::vector<std::string> partNums;
+    for (const QString& partNum : PartNums(GetPartNumForm()))
+    {
+        partNums.push_back(partNum.toStdString());
+    }
+    DrawChartSheet(ui->picGraph->View(), mdlPublic.Charts.Lines(), partNums, sheet);
     painter.end();
     QGuiApplication::clipboard()->setImage(picture);
 }

@@ -1,6 +1,6 @@
 /// `tavik-cli chart`: up to six lines on one picture.
 
-#include "chart/drawing/ChartSheet.h"
+#include "chart/drawing/PainterSheet.h"
 #include "cli/Command.h"
 #include "cli/Commands.h"
 #include "cli/LineOption.h"
@@ -82,11 +82,11 @@ static QByteArray Draw(const std::vector<RequestedCurve>& curves, const ChartOpt
                        const std::string& format)
 {
     std::vector<ChartRecord> lines;
-    std::vector<QString> partNums;
+    std::vector<std::string> partNums;
     for (const RequestedCurve& curve : curves)
     {
         lines.push_back(curve.Line);
-        partNums.push_back(QString::fromStdString(ShownPartNum(*curve.Part, curve.Code, options.Settings)));
+        partNums.push_back(ShownPartNum(*curve.Part, curve.Code, options.Settings));
     }
     const ChartView view = ViewOf(lines, options.Range);
     const PictureSettings picture = PictureOf(options, format);

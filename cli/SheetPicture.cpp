@@ -1,6 +1,8 @@
 #include "cli/SheetPicture.h"
 
-#include "chart/drawing/ChartSheet.h"
+#include "chart/drawing/PainterSheet.h"
+#include "chart/drawing/QtColors.h"
+#include "chart/layout/ChartDrawing.h"
 #include "cli/Command.h"
 
 #include <QBuffer>
@@ -23,7 +25,7 @@ struct Picture
 {
     const ChartView& View;
     const std::vector<ChartRecord>& Lines;
-    const std::vector<QString>& PartNums;
+    const std::vector<std::string>& PartNums;
     QSizeF Extent;
 
     /// Draws the sheet as large as it fits, in the middle.
@@ -35,7 +37,8 @@ struct Picture
         painter.fillRect(QRectF(QPointF(0, 0), Extent), QtColor(sheetColor));
         painter.translate((Extent.width() - drawn.width()) / 2, (Extent.height() - drawn.height()) / 2);
         painter.scale(factor, factor);
-        DrawChartSheet(View, Lines, PartNums, painter);
+        PainterSheet sheet(painter);
+        DrawChartSheet(View, Lines, PartNums, sheet);
     }
 };
 } // namespace
@@ -95,7 +98,7 @@ static QByteArray Pdf(const Picture& picture)
 }
 
 QByteArray SheetPicture(const ChartView& view, std::vector<ChartRecord>& lines,
-                        const std::vector<QString>& partNums, const PictureSettings& settings,
+                        const std::vector<std::string>& partNums, const PictureSettings& settings,
                         std::string_view format)
 {
     PlaceCurves(view, lines);

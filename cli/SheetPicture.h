@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QSizeF>
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -23,5 +24,5 @@ struct PictureSettings
 ///
 /// Needs a QGuiApplication. Throws Failure for a picture that there is no memory for.
 QByteArray SheetPicture(const ChartView& view, std::vector<ChartRecord>& lines,
-                        const std::vector<QString>& partNums, const PictureSettings& settings,
+                        const std::vector<std::string>& partNums, const PictureSettings& settings,
                         std::string_view format);

@@ -1,0 +1,39 @@
+#include "chart/drawing/PainterSheet.h"
+
+#include "chart/drawing/QtColors.h"
+#include "chart/layout/ChartDrawing.h"
+
+static QRectF QtRect(const Box& box)
+{
+    return {box.Left, box.Top, box.Width, box.Height};
+}
+
+void PainterSheet::Fill(const Box& box, const Color& color)
+{
+    painter.fillRect(QtRect(box), QtColor(color));
+}
+
+void PainterSheet::Frame(const Box& box, const Color& color)
+{
+    painter.setPen(QPen(QtColor(color), 1));
+    painter.drawRect(QtRect(box));
+}
+
+void PainterSheet::Text(const Box& box, std::string_view text, const Color& color)
+{
+    painter.setPen(QtColor(color));
+    painter.drawText(QtRect(box), Qt::AlignLeft | Qt::AlignTop,
+                     metrics.elidedText(QString::fromUtf8(text), Qt::ElideRight, box.Width));
+}
+
+double PainterSheet::TextWidth(std::string_view text) const
+{
+    return metrics.horizontalAdvance(QString::fromUtf8(text));
+}
+
+ChartSurface& PainterSheet::Chart(const Box& place)
+{
+    chart.emplace(painter, QtRect(place), chartScale);
+    chart->Clear();
+    return *chart;
+}
