@@ -3,7 +3,7 @@
 
 #include "bench/Turns.h"
 #include "calc/Calculate.h"
-#include "calc/ChartKinds.h"
+#include "tests/calc/ChartNumbers.h"
 #include "tests/calc/PlainCurves.h"
 
 #include <cstdint>

@@ -156,28 +156,24 @@ constexpr std::array<ChartSweep, 1> biasSweeps = {{
 
 /// In the order of their numbers.
 constexpr std::array<ChartKind, 4> chartKinds = {{
-    {.Id = ChartId::TemperatureRise,
-     .Caption = "Temperature Rise Characteristics",
+    {.Caption = "Temperature Rise Characteristics",
      .CommandName = "temperature-rise",
      .Needs = Values::OfPower,
      .YAxes = riseAxis,
      .Sweeps = riseSweeps,
      .RecommendsRise = true},
-    {.Id = ChartId::AllowablePower,
-     .Caption = "Allowable power",
+    {.Caption = "Allowable power",
      .CommandName = "allowable-power",
      .Needs = Values::OfPower,
      .YAxes = loadAxes,
      .Sweeps = largestLoadSweeps,
      .TellsLargestValue = true},
-    {.Id = ChartId::CapacitanceTemperature,
-     .Caption = "Capacitance-Temperature Characteristics",
+    {.Caption = "Capacitance-Temperature Characteristics",
      .CommandName = "capacitance-temperature",
      .Needs = Values::OfCapacitance,
      .YAxes = capacitanceAxes,
      .Sweeps = temperatureSweeps},
-    {.Id = ChartId::CapacitanceDCVoltage,
-     .Caption = "Capacitance-DC Voltage Characteristics",
+    {.Caption = "Capacitance-DC Voltage Characteristics",
      .CommandName = "capacitance-dc-voltage",
      .Needs = Values::OfCapacitance,
      .YAxes = capacitanceAxes,
@@ -217,9 +213,9 @@ const ChartKind& ChartKindOf(int number)
     return *kind;
 }
 
-const ChartKind& KindOf(ChartId chart)
+std::int16_t NumberOf(const ChartKind& kind)
 {
-    return chartKinds.at(static_cast<std::size_t>(chart));
+    return static_cast<std::int16_t>(&kind - chartKinds.data());
 }
 
 std::vector<Quantity> XAxesOf(const ChartKind& kind)

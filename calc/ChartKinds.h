@@ -17,21 +17,6 @@
 #include <variant>
 #include <vector>
 
-/// The chart types; the value is the number that records and buttons bear.
-enum class ChartId : std::int16_t
-{
-    TemperatureRise = 0,
-    AllowablePower = 1,
-    CapacitanceTemperature = 2,
-    CapacitanceDCVoltage = 3,
-};
-
-/// The number that records bear for a chart type.
-constexpr std::int16_t NumberOf(ChartId chart)
-{
-    return static_cast<std::int16_t>(chart);
-}
-
 /// Finest grid of a linear axis; far closer lines than this would be one grey field.
 inline constexpr int mostDivisions = 1000;
 
@@ -92,7 +77,6 @@ struct ChartSweep
 /// All that is known of one chart type.
 struct ChartKind
 {
-    ChartId Id;
     /// Caption of the chart type button: "Temperature Rise Characteristics".
     std::string_view Caption;
     /// What commands and requests call it: "temperature-rise".
@@ -117,7 +101,8 @@ const ChartKind* FindChartKind(int number);
 /// The chart type of a number. Throws RunTimeError 5 that tells the number when there is none.
 const ChartKind& ChartKindOf(int number);
 
-const ChartKind& KindOf(ChartId chart);
+/// The number of a chart type, which records and buttons bear: its place in `ChartKinds`.
+std::int16_t NumberOf(const ChartKind& kind);
 
 /// The quantities of the X axis, the one shown first foremost.
 std::vector<Quantity> XAxesOf(const ChartKind& kind);

@@ -8,7 +8,7 @@ std::int16_t GetChartTypeNumber(std::string_view name)
 {
     const auto kinds = ChartKinds();
     const auto found = std::ranges::find(kinds, name, &ChartKind::Caption);
-    return found != kinds.end() ? NumberOf(found->Id) : std::int16_t{0};
+    return found != kinds.end() ? NumberOf(*found) : std::int16_t{0};
 }
 
 std::string ChartCaption(const ChartKey& chart)

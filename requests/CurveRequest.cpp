@@ -71,7 +71,7 @@ std::int16_t ChartTypeOf(std::string_view commandName)
 {
     std::vector<std::string_view> names;
     std::ranges::transform(ChartKinds(), std::back_inserter(names), &ChartKind::CommandName);
-    return NumberOf(ChartKinds()[IndexOfName(commandName, names, "chart", "chart")].Id);
+    return NumberOf(ChartKinds()[IndexOfName(commandName, names, "chart", "chart")]);
 }
 
 std::vector<std::string> ParameterRequestNames()
@@ -189,7 +189,7 @@ static RequestedCurve CurveOfPart(const CurveRequest& request, const PartTable& 
     ChartRecord& line = curve.Line;
     const ChartKind& chart = ChartKindOf(ChartTypeOf(request.Chart));
     const auto parameter = Meant(request.Parameter, Parameters, "parameter", "parameter");
-    line.ChartType = NumberOf(chart.Id);
+    line.ChartType = NumberOf(chart);
     line.XAxisName = NameOf(Meant(request.X, XAxesOf(chart), "X axis", "x"));
     line.YAxisName = NameOf(Meant(request.Y, chart.YAxes, "Y axis", "y"));
     line.ParameterName = NameOf(parameter);

@@ -36,7 +36,7 @@ static bool IsOffered(const PartRecord& part, std::optional<std::int16_t> chartT
         return IsAvailable(part, *chartType);
     }
     return std::ranges::any_of(ChartKinds(),
-                               [&](const ChartKind& kind) { return IsAvailable(part, NumberOf(kind.Id)); });
+                               [&](const ChartKind& kind) { return IsAvailable(part, NumberOf(kind)); });
 }
 
 std::vector<const PartRecord*> FilterParts(const PartTable& parts, const PartFilter& filter)
@@ -74,7 +74,7 @@ static std::vector<std::string> ChartsOf(const PartRecord& part)
     std::vector<std::string> charts;
     for (const ChartKind& kind : ChartKinds())
     {
-        if (IsAvailable(part, NumberOf(kind.Id)))
+        if (IsAvailable(part, NumberOf(kind)))
         {
             charts.emplace_back(kind.CommandName);
         }

@@ -3,6 +3,7 @@
 #include "app/HelpLanguages.h"
 #include "app/PartNumText.h"
 #include "app/mdlPublic.h"
+#include "calc/ChartKinds.h"
 #include "formkit/Messages.h"
 #include "formkit/Texts.h"
 #include "formkit/Twips.h"
@@ -15,6 +16,17 @@
 
 static constexpr int FormWidth = Twips(3000);
 
+/// The buttons of a control array by their indices.
+static std::vector<QRadioButton*> ButtonsOf(const QWidget& form, const char* name, std::size_t count)
+{
+    std::vector<QRadioButton*> buttons;
+    for (std::size_t i = 0; i < count; ++i)
+    {
+        buttons.push_back(form.findChild<QRadioButton*>(QString::fromLatin1(name).arg(i)));
+    }
+    return buttons;
+}
+
 frmLibrary::frmLibrary(ChartWindows& chartWindows, QWidget* parent)
     : QMdiSubWindow(parent, Qt::SubWindow | Qt::FramelessWindowHint)
     , ui(std::make_unique<Ui::frmLibrary>())
@@ -25,8 +37,8 @@ frmLibrary::frmLibrary(ChartWindows& chartWindows, QWidget* parent)
     setWindowTitle(ProgramTitle());
     auto* contents = new QWidget;
     ui->setupUi(contents);
-    optChartType = {ui->optChartType_0, ui->optChartType_1, ui->optChartType_2, ui->optChartType_3};
-    optParameter = {ui->optParameter_0, ui->optParameter_1, ui->optParameter_2, ui->optParameter_3};
+    optChartType = ButtonsOf(*contents, "optChartType_%1", ChartKinds().size());
+    optParameter = ButtonsOf(*contents, "optParameter_%1", Parameters.size());
     for (const ConditionKind& kind : ConditionKinds())
     {
         const auto name =

@@ -119,8 +119,6 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    using Check = void (frmLibrary::*)(bool&);
-
     struct ConditionControls
     {
         Condition Id;
@@ -131,7 +129,7 @@ private:
     void Connect();
     void ConnectButtons(const std::vector<QRadioButton*>& buttons, void (frmLibrary::*click)(int));
     void GuardEntries();
-    bool Passes(Check check);
+    bool Passes(Condition condition);
     void optChartType_Click(int index);
     void optParameter_Click(int index);
     void cmbSizeCode_Click();
@@ -174,7 +172,6 @@ private:
     bool IsFrequencySweep() const;
     const ChartSweep& ShownSweep() const;
     const PartRecord& SelectedPart() const;
-    Check CheckOf(Condition condition) const;
     void Report(QLineEdit* box, ConditionRule rule, bool& ok);
     /// Puts the focus into a refused box, with its text ready to be replaced.
     void OfferForCorrection(QLineEdit* box);

@@ -73,40 +73,40 @@ void frmLibrary::CheckParameter1(bool& ok)
     Report(ui->txtParameter, RefuseNoNumber, ok);
 }
 
-/// Runs one check; false when it refuses.
-bool frmLibrary::Passes(Check check)
+/// Runs the check of a condition; false when it refuses. The ambient temperature has a check for each kind of
+/// chart.
+bool frmLibrary::Passes(Condition condition)
 {
+    const ConditionRule rule = RuleOf(ChartKindOf(GetChartType()), condition);
     bool ok = true;
-    (this->*check)(ok);
-    return ok;
-}
-
-/// The check of a condition; the ambient temperature has one for each kind of chart.
-frmLibrary::Check frmLibrary::CheckOf(Condition condition) const
-{
     switch (condition)
     {
     case Condition::DCBias:
-        return &frmLibrary::CheckDCBiasVol;
-    case Condition::HeatResistance:
-        return &frmLibrary::CheckHeatResistance;
-    case Condition::AmbientTemperature:
-        return RuleOf(ChartKindOf(GetChartType()), condition) == &RefuseClassAmbient
-                   ? &frmLibrary::CheckAmbientTemp2
-                   : &frmLibrary::CheckAmbientTemp1;
-    case Condition::Frequency:
-        return &frmLibrary::CheckFrequency;
-    case Condition::Parameter:
+        CheckDCBiasVol(ok);
         break;
+    case Condition::HeatResistance:
+        CheckHeatResistance(ok);
+        break;
+    case Condition::AmbientTemperature:
+        rule == &RefuseClassAmbient ? CheckAmbientTemp2(ok) : CheckAmbientTemp1(ok);
+        break;
+    case Condition::Frequency:
+        CheckFrequency(ok);
+        break;
+    case Condition::Parameter:
+        CheckParameter1(ok);
+        break;
+    default:
+        Report(ControlsOf(condition).Box, rule, ok);
     }
-    return &frmLibrary::CheckParameter1;
+    return ok;
 }
 
 bool frmLibrary::CheckChartConditions()
 {
     const ChartSweep& sweep = ShownSweep();
     return std::ranges::all_of(JudgingOrder, [&](Condition condition)
-                               { return !sweep.Uses(condition) || Passes(CheckOf(condition)); });
+                               { return !sweep.Uses(condition) || Passes(condition); });
 }
 
 // ---- Entering and leaving a box ----
@@ -138,27 +138,27 @@ void frmLibrary::txtParameter_GotFocus()
 
 bool frmLibrary::txtDCBiasVol_LostFocus()
 {
-    return Passes(&frmLibrary::CheckDCBiasVol);
+    return Passes(Condition::DCBias);
 }
 
 bool frmLibrary::txtFrequency_LostFocus()
 {
-    return Passes(&frmLibrary::CheckFrequency);
+    return Passes(Condition::Frequency);
 }
 
 bool frmLibrary::txtHeatResistance_LostFocus()
 {
-    return Passes(&frmLibrary::CheckHeatResistance);
+    return Passes(Condition::HeatResistance);
 }
 
 bool frmLibrary::txtAmbientTemp_LostFocus()
 {
-    return Passes(CheckOf(Condition::AmbientTemperature));
+    return Passes(Condition::AmbientTemperature);
 }
 
 bool frmLibrary::txtParameter_LostFocus()
 {
-    return Passes(&frmLibrary::CheckParameter1);
+    return Passes(Condition::Parameter);
 }
 
 /// A condition is emptied with the part; one that only some X axes use goes with the axis, too.
@@ -181,25 +181,33 @@ void frmLibrary::GuardEntries()
 {
     struct Procedures
     {
+        Condition Id;
         void (frmLibrary::*GotFocus)();
         bool (frmLibrary::*LostFocus)();
     };
-    // In the order of `Condition`.
-    static constexpr std::array<Procedures, ConditionCount> procedures = {{
-        {&frmLibrary::txtDCBiasVol_GotFocus, &frmLibrary::txtDCBiasVol_LostFocus},
-        {&frmLibrary::txtFrequency_GotFocus, &frmLibrary::txtFrequency_LostFocus},
-        {&frmLibrary::txtHeatResistance_GotFocus, &frmLibrary::txtHeatResistance_LostFocus},
-        {&frmLibrary::txtAmbientTemp_GotFocus, &frmLibrary::txtAmbientTemp_LostFocus},
-        {&frmLibrary::txtParameter_GotFocus, &frmLibrary::txtParameter_LostFocus},
+    static constexpr std::array<Procedures, 5> named = {{
+        {Condition::DCBias, &frmLibrary::txtDCBiasVol_GotFocus, &frmLibrary::txtDCBiasVol_LostFocus},
+        {Condition::Frequency, &frmLibrary::txtFrequency_GotFocus, &frmLibrary::txtFrequency_LostFocus},
+        {Condition::HeatResistance, &frmLibrary::txtHeatResistance_GotFocus,
+         &frmLibrary::txtHeatResistance_LostFocus},
+        {Condition::AmbientTemperature, &frmLibrary::txtAmbientTemp_GotFocus,
+         &frmLibrary::txtAmbientTemp_LostFocus},
+        {Condition::Parameter, &frmLibrary::txtParameter_GotFocus, &frmLibrary::txtParameter_LostFocus},
     }};
     std::vector<GuardedBox> boxes;
     for (const ConditionControls& controls : conditions)
     {
-        const Procedures of = procedures.at(static_cast<std::size_t>(controls.Id));
-        boxes.push_back({.Box = controls.Box,
-                         .GotFocus = [this, of] { (this->*of.GotFocus)(); },
-                         .LostFocus = [this, of] { return (this->*of.LostFocus)(); },
-                         .ActingControls = ControlsThatChange(controls.Id)});
+        GuardedBox box{.Box = controls.Box,
+                       .GotFocus = [entry = controls.Box] { entry->selectAll(); },
+                       .LostFocus = [this, id = controls.Id] { return Passes(id); },
+                       .ActingControls = ControlsThatChange(controls.Id)};
+        const auto* const own = std::ranges::find(named, controls.Id, &Procedures::Id);
+        if (own != named.end())
+        {
+            box.GotFocus = [this, own] { (this->*own->GotFocus)(); };
+            box.LostFocus = [this, own] { return (this->*own->LostFocus)(); };
+        }
+        boxes.push_back(std::move(box));
     }
     new EntryGuard(this, std::move(boxes));
 }

@@ -79,7 +79,8 @@ void frmLibrary::optChartType_Click(int index)
 
 void frmLibrary::cmbXaxis_Click()
 {
-    if (GetChartType() != NumberOf(ChartId::TemperatureRise))
+    // Only where the X axis decides which conditions count.
+    if (ChartKindOf(GetChartType()).Sweeps.size() < 2)
     {
         return;
     }

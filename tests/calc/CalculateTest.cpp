@@ -1,6 +1,6 @@
 #include "calc/Calculate.h"
-#include "calc/ChartKinds.h"
 #include "partdata/RunTimeError.h"
+#include "tests/calc/ChartNumbers.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "calc/ChartKinds.h"
 #include "partdata/RunTimeError.h"
+#include "tests/calc/ChartNumbers.h"
 #include "tests/calc/NamedRow.h"
 
 #include <gmock/gmock.h>
@@ -38,7 +38,7 @@ TEST_P(AxesOfChartType, NameTheQuantitiesInOrder)
     const ChartKind& kind = ChartKindOf(GetParam().ChartType);
     EXPECT_EQ(kind.Caption, GetParam().Caption);
     EXPECT_EQ(kind.CommandName, GetParam().CommandName);
-    EXPECT_EQ(NumberOf(kind.Id), GetParam().ChartType);
+    EXPECT_EQ(NumberOf(kind), GetParam().ChartType);
     EXPECT_EQ(NamesOf(XAxesOf(kind)), GetParam().XAxes);
     EXPECT_EQ(NamesOf(kind.YAxes), GetParam().YAxes);
 }

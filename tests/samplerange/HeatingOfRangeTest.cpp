@@ -1,7 +1,7 @@
 /// Every part of the range heats as its loss factor, case and capacitance demand.
 
 #include "calc/Calculate.h"
-#include "calc/ChartKinds.h"
+#include "tests/calc/ChartNumbers.h"
 #include "tests/samplerange/Range.h"
 
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 /// at the highest bias, cool and at the highest temperature.
 
 #include "calc/Calculate.h"
-#include "calc/ChartKinds.h"
+#include "tests/calc/ChartNumbers.h"
 #include "tests/samplerange/Range.h"
 
 #include <gtest/gtest.h>

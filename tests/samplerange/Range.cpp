@@ -1,5 +1,5 @@
 #include "tests/samplerange/Range.h"
-#include "calc/ChartKinds.h"
+#include "tests/calc/ChartNumbers.h"
 
 #include "calc/Calculate.h"
 #include "files/PartLoading.h"

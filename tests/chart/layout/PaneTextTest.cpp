@@ -1,5 +1,5 @@
 #include "chart/layout/PaneText.h"
-#include "calc/ChartKinds.h"
+#include "tests/calc/ChartNumbers.h"
 
 #include "partdata/RunTimeError.h"
 
