@@ -1,5 +1,7 @@
 #include "calc/ChartStore.h"
 
+#include "calc/Conditions.h"
+
 #include <algorithm>
 #include <cassert>
 #include <tuple>
@@ -18,13 +20,13 @@ bool BelongsTo(const ChartRecord& record, const ChartKey& key)
 
 bool SameLine(const ChartRecord& a, const ChartRecord& b)
 {
-    const auto identity = [](const ChartRecord& line)
-    {
+    const auto identity = [](const ChartRecord& line) {
         return std::tie(line.ChartType, line.XAxisName, line.YAxisName, line.PartDataIndex,
-                        line.DCBiasVoltage, line.HeatResistance, line.Frequency, line.AmbientTemp,
-                        line.ParameterName, line.ParameterValue);
+                        line.ParameterName);
     };
-    return identity(a) == identity(b);
+    return identity(a) == identity(b) &&
+           std::ranges::all_of(ConditionKinds(), [&](const ConditionKind& condition)
+                               { return a.*condition.Value == b.*condition.Value; });
 }
 
 const ChartRecord& ChartStore::WorkingRecord() const

@@ -108,9 +108,9 @@ Refusal RefuseClassAmbient(std::string_view entry, const PartRecord& part, CodeV
 
 Refusal RefuseFrequency(std::string_view entry, const PartRecord&, CodeView, EntryLocale locale)
 {
-    const auto& kind = KindOf(Quantity::Frequency);
-    return JudgeRange(entry, locale, static_cast<float>(LowestFrequencyHz) / kind.StoredPerShown,
-                      static_cast<float>(HighestFrequencyHz) / kind.StoredPerShown, kind.Name, " [kHz]");
+    constexpr auto frequency = Quantity::Frequency;
+    return JudgeRange(entry, locale, ShownValue(frequency, LowestFrequencyHz),
+                      ShownValue(frequency, HighestFrequencyHz), NameOf(frequency), " [kHz]");
 }
 
 Refusal RefuseNoNumber(std::string_view entry, const PartRecord&, CodeView, EntryLocale locale)

@@ -61,6 +61,11 @@ void FailOn(Quantity quantity)
     Fail("no law for", NameOf(quantity));
 }
 
+float ShownValue(Quantity quantity, double stored)
+{
+    return static_cast<float>(stored / double{KindOf(quantity).StoredPerShown});
+}
+
 std::string UnitOf(Quantity quantity, std::string_view degreeSign)
 {
     const QuantityKind& kind = KindOf(quantity);

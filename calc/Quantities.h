@@ -52,6 +52,9 @@ Quantity QuantityNamed(std::string_view name);
 /// Throws RunTimeError 5 that tells the quantity: the one at hand has no law here.
 [[noreturn]] void FailOn(Quantity quantity);
 
+/// A value of an axis in the unit that is shown: 300 for a frequency of 300,000 Hz.
+float ShownValue(Quantity quantity, double stored);
+
 /// The quantity's name.
 inline std::string_view NameOf(Quantity quantity)
 {

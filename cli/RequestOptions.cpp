@@ -38,8 +38,8 @@ static std::string NoteOn(Condition condition)
     switch (condition)
     {
     case Condition::Frequency:
-        return ", " + NumberText(static_cast<float>(LowestFrequencyHz / 1000)) + " to " +
-               NumberText(static_cast<float>(HighestFrequencyHz / 1000)) + " kHz";
+        return ", " + NumberText(ShownValue(Quantity::Frequency, LowestFrequencyHz)) + " to " +
+               NumberText(ShownValue(Quantity::Frequency, HighestFrequencyHz)) + " kHz";
     case Condition::HeatResistance:
         return " (left out: the part's own)";
     case Condition::AmbientTemperature:

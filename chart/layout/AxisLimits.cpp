@@ -32,11 +32,11 @@ static PermittedRange OneSpanFurther(std::string_view axisName, float minimum, f
 
 PermittedRange PermittedXRange(const ChartKey& chart, const AxisRange& defaultRange)
 {
-    const auto& quantity = KindOf(QuantityNamed(chart.XAxisName));
-    if (quantity.Id == Quantity::Frequency)
+    const auto quantity = QuantityNamed(chart.XAxisName);
+    if (quantity == Quantity::Frequency)
     {
-        return {.Lowest = static_cast<float>(LowestFrequencyHz) / quantity.StoredPerShown,
-                .Highest = static_cast<float>(HighestFrequencyHz) / quantity.StoredPerShown};
+        return {.Lowest = ShownValue(quantity, LowestFrequencyHz),
+                .Highest = ShownValue(quantity, HighestFrequencyHz)};
     }
     return OneSpanFurther(chart.XAxisName, defaultRange.XMin, defaultRange.XMax);
 }
