@@ -67,7 +67,7 @@ bool CheckCurrentLaw(const PartRecord& part, ValueFindings& findings)
         {
             findings.Add(Severity::Error, "current-heating", "kI", NumberText(static_cast<float>(sum)),
                          "the heating by current is not positive at 20 °C and " +
-                             NumberText(static_cast<float>(hertz / 1000)) + " kHz");
+                             NumberText(ShownValue(Quantity::Frequency, hertz)) + " kHz");
             return false;
         }
     }
