@@ -11,6 +11,9 @@ target_compile_options(build_options INTERFACE
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
   $<$<BOOL:${TAVIK_WERROR}>:-Werror>)
 
+# An index out of range ends the program in debug builds.
+target_compile_definitions(build_options INTERFACE $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
+
 if(TAVIK_SANITIZE)
   target_compile_options(build_options INTERFACE -fsanitize=${TAVIK_SANITIZE} -fno-omit-frame-pointer
     -fno-sanitize-recover=all)

@@ -6,6 +6,8 @@ test_packages=(clang-format xvfb xdotool xclip poppler-utils cups)
 fuzz_packages=(clang libclang-rt-dev)
 coverage_packages=(gcovr)
 valgrind_packages=(valgrind)
+tidy_packages=(clang-tidy-22)
+portable_packages=(clang-22 libc++-22-dev libc++abi-22-dev googletest)
 
 # Installs the Debian packages of the named groups that are not there yet.
 need() {
@@ -17,6 +19,8 @@ need() {
             fuzz) wanted+=("${fuzz_packages[@]}") ;;
             coverage) wanted+=("${coverage_packages[@]}") ;;
             valgrind) wanted+=("${valgrind_packages[@]}") ;;
+            tidy) wanted+=("${tidy_packages[@]}") ;;
+            portable) wanted+=("${portable_packages[@]}") ;;
         esac
     done
     for name in "${wanted[@]}"; do
