@@ -1,11 +1,12 @@
 /// The curves of every chart, beside the same points from the plain formulas with a `pow` for every power at
-/// every point.
+/// every point, kept in a line's record as well.
 
 #include "bench/Turns.h"
 #include "calc/Calculate.h"
 #include "tests/calc/ChartNumbers.h"
 #include "tests/calc/PlainCurves.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <stdexcept>
 #include <string>
@@ -65,6 +66,15 @@ void CalculatePermitted(const PartRecord& part, ChartRecord& record, CodeView vi
 /// Keeps results that nobody reads from being optimised away.
 volatile float lastValue = 0;
 
+/// Writes the points into the record, with axes as long as their largest values.
+void Keep(const PlainCurve& curve, ChartRecord& record)
+{
+    record.XData = curve.XData;
+    record.YData = curve.YData;
+    record.XMax = std::ranges::max(record.XData);
+    record.YMax = std::ranges::max(record.YData);
+}
+
 void CompareCurve(const std::string& name, const Case& with)
 {
     constexpr int curvesARound = 20;
@@ -91,7 +101,8 @@ void CompareCurve(const std::string& name, const Case& with)
                 {
                     for (int i = 0; i < curvesARound; ++i)
                     {
-                        lastValue = static_cast<float>(PlainCurveOf(part, record, with.View).YData.back());
+                        Keep(PlainCurveOf(part, record, with.View), record);
+                        lastValue = record.YData.back();
                     }
                 });
         });
