@@ -1,6 +1,7 @@
 #include "files/WholeFile.h"
 
 #include "partdata/RunTimeError.h"
+#include "tests/Seed.h"
 #include "tests/partdata/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -222,7 +223,7 @@ TEST(WholeFile, SurvivesItsWriterBeingKilled)
     const std::string a(200000, 'a');
     const std::string b(300000, 'b');
     Write(file, a);
-    std::mt19937 random(7);
+    std::mt19937 random(TestSeed(7));
     std::uniform_int_distribution<int> microseconds(100, 6000);
     int foundA = 0;
     int foundB = 0;

@@ -3,6 +3,7 @@
 #include "app/mdlPublic.h"
 #include "calc/NumberText.h"
 #include "formkit/Texts.h"
+#include "tests/Seed.h"
 #include "tests/selection/PlainSelection.h"
 #include "tests/selection/Ranges.h"
 #include "tests/selection/SelectionDesk.h"
@@ -151,7 +152,7 @@ private Q_SLOTS:
                                                             : SampleRange());
         plain = std::make_unique<PlainForm>();
         plain->ChooseChartType(0);
-        random.seed(static_cast<unsigned>(range) + 7);
+        random.seed(TestSeed(static_cast<unsigned>(range) + 7));
         for (int i = 0; i < actions && !QTest::currentTestFailed(); ++i)
         {
             const QString action = Act();

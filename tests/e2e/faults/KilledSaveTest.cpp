@@ -1,6 +1,7 @@
 /// Programs killed at any moment of a save: the file is the old or the new one, whole. The long form kills
 /// each as often as TAVIK_TEST_RUNS says.
 
+#include "tests/Seed.h"
 #include "tests/cli/CommandLine.h"
 #include "tests/e2e/Program.h"
 
@@ -18,7 +19,7 @@ private Q_SLOTS:
     void MainWindowLeavesTheOldOrTheNewFile();
 
 private:
-    QRandomGenerator random{20};
+    QRandomGenerator random{TestSeed(20)};
 };
 
 static int Runs(int usual)

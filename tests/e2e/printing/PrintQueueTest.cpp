@@ -1,6 +1,7 @@
 #include "frame/PrintJob.h"
 #include "frame/clsComdlg.h"
 #include "partdata/RunTimeError.h"
+#include "tests/frame/ErrorOf.h"
 #include "tests/frame/printing/PdfText.h"
 #include "tests/frame/printing/SamplePages.h"
 
@@ -16,8 +17,6 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <functional>
-#include <optional>
 
 /// Prints on the queues of a real print server, which write what they print to files.
 class PrintQueueTest : public QObject
@@ -44,19 +43,6 @@ private:
 
     QString folder;
 };
-
-static std::optional<RunTimeError> ErrorOf(const std::function<void()>& action)
-{
-    try
-    {
-        action();
-    }
-    catch (const RunTimeError& error)
-    {
-        return error;
-    }
-    return {};
-}
 
 static const ChartKey rise = {0, "Frequency", "Temperature Rise"};
 
