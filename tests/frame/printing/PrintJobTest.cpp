@@ -1,6 +1,7 @@
 #include "frame/PrintJob.h"
 
 #include "partdata/RunTimeError.h"
+#include "tests/frame/ErrorOf.h"
 #include "tests/frame/printing/PdfText.h"
 
 #include <QDir>
@@ -59,20 +60,6 @@ private:
     std::unique_ptr<QTemporaryDir> folder;
     QString file;
 };
-
-/// The error that an action raises.
-static std::optional<RunTimeError> ErrorOf(const std::function<void()>& action)
-{
-    try
-    {
-        action();
-    }
-    catch (const RunTimeError& error)
-    {
-        return error;
-    }
-    return {};
-}
 
 static void DrawWord(QPainter& painter, const PageArea& /*area*/)
 {
