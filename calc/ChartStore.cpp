@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cassert>
-#include <tuple>
 #include <utility>
 
 ChartKey KeyOf(const ChartRecord& record)
@@ -20,13 +19,23 @@ bool BelongsTo(const ChartRecord& record, const ChartKey& key)
 
 bool SameLine(const ChartRecord& a, const ChartRecord& b)
 {
-    const auto identity = [](const ChartRecord& line) {
-        return std::tie(line.ChartType, line.XAxisName, line.YAxisName, line.PartDataIndex,
-                        line.ParameterName);
-    };
-    return identity(a) == identity(b) &&
-           std::ranges::all_of(ConditionKinds(), [&](const ConditionKind& condition)
-                               { return a.*condition.Value == b.*condition.Value; });
+    return BelongsTo(a, KeyOf(b)) && a.PartDataIndex == b.PartDataIndex &&
+           a.ParameterName == b.ParameterName &&
+           std::ranges::all_of(ConditionKinds(),
+                               [&](const ConditionKind& kind) { return a.*kind.Value == b.*kind.Value; });
+}
+
+std::optional<std::string> RefusalOfPlot(bool isNew, int sameCharts)
+{
+    if (!isNew)
+    {
+        return "This Chart is already opened!";
+    }
+    if (sameCharts >= MaximumLines)
+    {
+        return "Maximum Numbers of this Chart Type open!";
+    }
+    return std::nullopt;
 }
 
 const ChartRecord& ChartStore::WorkingRecord() const

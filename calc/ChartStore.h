@@ -4,7 +4,9 @@
 
 #include "calc/ChartRecord.h"
 
+#include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -29,6 +31,12 @@ bool BelongsTo(const ChartRecord& record, const ChartKey& key);
 
 /// True when two lines are of the same chart, part, conditions and parameter.
 bool SameLine(const ChartRecord& a, const ChartRecord& b);
+
+/// The message that refuses to plot a line, or nothing.
+///
+/// @param isNew no line that is plotted is the same
+/// @param sameCharts lines that the chart holds
+std::optional<std::string> RefusalOfPlot(bool isNew, int sameCharts);
 
 /// All plotted lines in the order of plotting. Records 0 to `CurrentChart` - 1 are plotted lines; the
 /// record at `CurrentChart`, where there is one, is the working record of a command under way or empty.

@@ -162,17 +162,10 @@ bool frmSetAxis::CheckAxis(const char* axis, const std::string& quantity,
 {
     const float from = *EntryOf(boxes[0]);
     const float to = *EntryOf(boxes[1]);
-    if (permitted.Contains(from) && permitted.Contains(to) && from < to)
+    const auto refusal = RefusalOfRange(axis, quantity, permitted, from, to);
+    if (refusal)
     {
-        return true;
+        Refuse(permitted.Contains(from) ? boxes[1] : boxes[0], QString::fromStdString(*refusal));
     }
-    // Messages show units without the degree sign.
-    const auto name = QString::fromStdString(quantity);
-    const auto message =
-        QStringLiteral("Set %1 Range of %2 from %3 to %4 %5")
-            .arg(QString::fromLatin1(axis), name, QString::fromStdString(NumberText(permitted.Lowest)),
-                 QString::fromStdString(NumberText(permitted.Highest)),
-                 QString::fromStdString(GetUnit(quantity, {})));
-    Refuse(permitted.Contains(from) ? boxes[1] : boxes[0], message);
-    return false;
+    return !refusal;
 }

@@ -9,12 +9,15 @@
 #include "cli/SheetPicture.h"
 #include "formkit/Fonts.h"
 #include "requests/ChartLines.h"
+#include "requests/Names.h"
 
 #include <CLI/CLI.hpp>
 #include <QFileInfo>
 #include <QGuiApplication>
 
+#include <algorithm>
 #include <charconv>
+#include <ranges>
 
 namespace
 {
@@ -33,8 +36,6 @@ struct ChartOptions
 };
 } // namespace
 
-/// The resolution of a bitmap where none is asked for; the clipboard's is the same.
-static constexpr double bitmapScale = 2;
 /// Extent of a picture in either direction, in pixels.
 static constexpr double mostPixels = 20000;
 
@@ -48,38 +49,36 @@ Each PART and each --line is one line of the chart, parts first. --line names a 
 dc-bias, frequency, heat-resistance, ambient, and current, voltage, effective-power or apparent-power for a
 temperature rise over frequency. All other conditions are those of the options.)";
 
-/// "png" of "rise.PNG", or what --format says.
-static std::string FormatOf(const ChartOptions& options)
+/// The format that --format names, or else the one that the file is named for: "rise.PNG".
+static const PictureFormat& FormatOf(const ChartOptions& options)
 {
-    if (!options.Format.empty())
-    {
-        return options.Format;
-    }
     const auto suffix = QFileInfo(QString::fromLocal8Bit(options.OutputFile.data())).suffix().toLower();
-    if (suffix != "png" && suffix != "svg" && suffix != "pdf")
+    const auto name = options.Format.empty() ? suffix.toStdString() : options.Format;
+    const auto formats = PictureFormats();
+    const auto format = std::ranges::find(formats, name, &PictureFormat::Name);
+    if (format == formats.end())
     {
-        throw UsageError("--output \"" + options.OutputFile +
-                         "\" ends in none of: .png, .svg, .pdf; say which with --format");
+        throw UsageError("--output \"" + options.OutputFile + "\" ends in none of: ." +
+                         ListOf(formats | std::views::transform(&PictureFormat::Name), ", .") +
+                         "; say which with --format");
     }
-    return suffix.toStdString();
+    return *format;
 }
 
-static PictureSettings PictureOf(const ChartOptions& options, const std::string& format)
+static QSizeF ExtentOf(const ChartOptions& options, const PictureFormat& format)
 {
-    const PictureSettings picture{.Size = options.Size,
-                                  .Scale = options.Scale.value_or(format == "png" ? bitmapScale : 1)};
-    const QSizeF pixels = picture.Size * picture.Scale;
-    if (pixels.width() < 1 || pixels.height() < 1 || pixels.width() > mostPixels ||
-        pixels.height() > mostPixels)
+    const QSizeF extent = options.Size * options.Scale.value_or(format.Scale);
+    if (extent.width() < 1 || extent.height() < 1 || extent.width() > mostPixels ||
+        extent.height() > mostPixels)
     {
         throw Failure("a picture is from 1 to " + std::to_string(static_cast<int>(mostPixels)) +
                       " pixels wide and high");
     }
-    return picture;
+    return extent;
 }
 
 static QByteArray Draw(const std::vector<RequestedCurve>& curves, const ChartOptions& options,
-                       const std::string& format)
+                       const PictureFormat& format)
 {
     std::vector<ChartRecord> lines;
     std::vector<std::string> partNums;
@@ -89,7 +88,7 @@ static QByteArray Draw(const std::vector<RequestedCurve>& curves, const ChartOpt
         partNums.push_back(ShownPartNum(*curve.Part, curve.Code, options.Settings));
     }
     const ChartView view = ViewOf(lines, options.Range);
-    const PictureSettings picture = PictureOf(options, format);
+    const QSizeF extent = ExtentOf(options, format);
 
     // Drawing needs fonts, but no display; what the platform remarks on its surroundings is no message of
     // ours.
@@ -107,7 +106,7 @@ static QByteArray Draw(const std::vector<RequestedCurve>& curves, const ChartOpt
     {
         throw Failure("no font is installed, so the chart would have no texts");
     }
-    return SheetPicture(view, lines, partNums, picture, format);
+    return SheetPicture(view, lines, partNums, extent, format);
 }
 
 static void DrawChart(const ChartOptions& options)
@@ -120,7 +119,7 @@ static void DrawChart(const ChartOptions& options)
     {
         throw UsageError("chart wants a part number or a --line");
     }
-    const auto format = FormatOf(options);
+    const auto& format = FormatOf(options);
     std::vector<CurveRequest> requests;
     for (const auto& part : options.Parts)
     {
@@ -208,9 +207,8 @@ void AddChartCommand(CLI::App& app)
     AddNumberingOption(command, options->Settings);
     AddUncheckedOption(command, options->Settings);
     AddDataOption(command, options->DataFolder);
-    command.add_option("--format", options->Format, "png, svg or pdf (left out: as the file is named)")
-        ->type_name("FORMAT")
-        ->check(CLI::IsMember({"png", "svg", "pdf"}));
+    AddFormatOption(command, options->Format, {PictureFormats().begin(), PictureFormats().end()},
+                    " (left out: as the file is named)");
     AddOutputOption(command, options->OutputFile);
     command.callback([options] { DrawChart(*options); });
 }

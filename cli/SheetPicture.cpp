@@ -13,13 +13,14 @@
 #include <QSvgGenerator>
 
 #include <algorithm>
+#include <array>
 
+/// The clipboard's bitmap is as fine.
+static constexpr double bitmapScale = 2;
 /// Device-independent pixels to the inch, and points of a page.
 static constexpr int pixelsPerInch = 96;
 static constexpr double pointsPerPixel = 72.0 / pixelsPerInch;
 
-namespace
-{
 /// What every format draws.
 struct Picture
 {
@@ -41,7 +42,6 @@ struct Picture
         DrawChartSheet(View, Lines, PartNums, sheet);
     }
 };
-} // namespace
 
 static QByteArray Png(const Picture& picture)
 {
@@ -97,16 +97,19 @@ static QByteArray Pdf(const Picture& picture)
     return bytes;
 }
 
+std::span<const PictureFormat> PictureFormats()
+{
+    static constexpr std::array<PictureFormat, 3> formats = {{
+        {{{"png", ""}, Png}, bitmapScale},
+        {{{"svg", ""}, Svg}, 1},
+        {{{"pdf", ""}, Pdf}, 1},
+    }};
+    return formats;
+}
+
 QByteArray SheetPicture(const ChartView& view, std::vector<ChartRecord>& lines,
-                        const std::vector<std::string>& partNums, const PictureSettings& settings,
-                        std::string_view format)
+                        const std::vector<std::string>& partNums, QSizeF extent, const PictureFormat& format)
 {
     PlaceCurves(view, lines);
-    const Picture picture{
-        .View = view, .Lines = lines, .PartNums = partNums, .Extent = settings.Size * settings.Scale};
-    if (format == "png")
-    {
-        return Png(picture);
-    }
-    return format == "svg" ? Svg(picture) : Pdf(picture);
+    return format.Write({.View = view, .Lines = lines, .PartNums = partNums, .Extent = extent});
 }

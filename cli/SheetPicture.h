@@ -3,26 +3,30 @@
 /// A chart with its panes as a picture in a file format.
 
 #include "chart/layout/ChartView.h"
+#include "requests/OutputFormat.h"
 
 #include <QByteArray>
 #include <QSizeF>
 
-#include <string>
-#include <string_view>
+#include <span>
 #include <vector>
 
-/// How the picture is made.
-struct PictureSettings
+struct Picture;
+
+/// A format of pictures, as the bytes of a file.
+struct PictureFormat : OutputFormat<QByteArray (*)(const Picture& picture)>
 {
-    /// Extent in device-independent pixels of 1/96 inch; the sheet fills it as far as its proportions allow.
-    QSizeF Size;
-    /// Pixels of a bitmap, and units of a drawing, to each device-independent pixel.
-    double Scale = 1;
+    /// Pixels of a bitmap, and units of a drawing, to each device-independent pixel where none are asked for.
+    double Scale;
 };
 
-/// The chart in the bytes of a "png", "svg" or "pdf" file. The lines' points are placed by this.
+/// All formats: PNG, SVG and PDF.
+std::span<const PictureFormat> PictureFormats();
+
+/// The chart in a format. The lines' points are placed by this.
 ///
 /// Needs a QGuiApplication. Throws Failure for a picture that there is no memory for.
+///
+/// @param extent pixels of a bitmap, units of a drawing; the sheet fills it as far as its proportions allow
 QByteArray SheetPicture(const ChartView& view, std::vector<ChartRecord>& lines,
-                        const std::vector<std::string>& partNums, const PictureSettings& settings,
-                        std::string_view format);
+                        const std::vector<std::string>& partNums, QSizeF extent, const PictureFormat& format);

@@ -12,6 +12,13 @@ char FoldCase(char c)
     return ascii || latin ? static_cast<char>(code - 0x20) : c;
 }
 
+std::string FoldedKey(std::string_view key)
+{
+    std::string folded(key);
+    std::ranges::transform(folded, folded.begin(), FoldCase);
+    return folded;
+}
+
 bool EqualKeys(std::string_view a, std::string_view b)
 {
     return a == b || std::ranges::equal(a, b, [](char x, char y) { return FoldCase(x) == FoldCase(y); });

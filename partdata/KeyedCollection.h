@@ -5,12 +5,16 @@
 #include <cassert>
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 /// Upper-case form of an ASCII or Latin-1 letter; any other character as it is.
 char FoldCase(char c);
+
+/// The key with `FoldCase` of each character: the same for keys equal without regard to letter case.
+std::string FoldedKey(std::string_view key);
 
 /// True when two keys are equal without regard to letter case.
 bool EqualKeys(std::string_view a, std::string_view b);

@@ -17,13 +17,6 @@ namespace
 /// Bytes of a name that a finding shows.
 constexpr std::size_t ShownBytes = 500;
 
-std::string FoldedKey(std::string_view key)
-{
-    std::string folded(key);
-    std::ranges::transform(folded, folded.begin(), FoldCase);
-    return folded;
-}
-
 /// The name as a finding shows it: as it is, but for one that is far too long.
 std::string Shown(std::string_view name)
 {

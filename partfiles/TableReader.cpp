@@ -210,9 +210,7 @@ void TableReader::CheckUnique(const TableRow& row, const TablePart& part)
 {
     for (std::size_t form = 0; form < PartNumForms; ++form)
     {
-        auto key = part.Names[form];
-        std::ranges::transform(key, key.begin(), FoldCase);
-        const auto [first, isNew] = lines[form].try_emplace(std::move(key), row.Line);
+        const auto [first, isNew] = lines[form].try_emplace(FoldedKey(part.Names[form]), row.Line);
         if (!isNew)
         {
             Add(row.Line, ColumnHeading(form), Filled(Utf8FromWindows1252(part.Names[form])),

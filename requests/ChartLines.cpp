@@ -1,6 +1,5 @@
 #include "requests/ChartLines.h"
 
-#include "calc/NumberText.h"
 #include "calc/Quantities.h"
 #include "chart/layout/AxisLimits.h"
 #include "chart/layout/ChartDrawing.h"
@@ -16,15 +15,11 @@ std::vector<RequestedCurve> CurvesOf(const std::vector<CurveRequest>& requests, 
     for (const CurveRequest& request : requests)
     {
         auto curve = CurveOf(request, parts, settings);
-        if (std::ranges::any_of(curves, [&](const auto& other) { return SameLine(other.Line, curve.Line); }))
+        const bool isNew =
+            std::ranges::none_of(curves, [&](const auto& other) { return SameLine(other.Line, curve.Line); });
+        if (const auto refusal = RefusalOfPlot(isNew, static_cast<int>(curves.size())))
         {
-            throw RequestError(RequestErrorKind::Line, "part", "This Chart is already opened!")
-                .OfPart(request.Part);
-        }
-        if (curves.size() == static_cast<std::size_t>(MaximumLines))
-        {
-            throw RequestError(RequestErrorKind::Line, "part", "Maximum Numbers of this Chart Type open!")
-                .OfPart(request.Part);
+            throw RequestError(RequestErrorKind::Line, "part", *refusal).OfPart(request.Part);
         }
         curves.push_back(std::move(curve));
     }
@@ -53,12 +48,10 @@ static void Take(float& from, float& to, const std::optional<std::string>& typed
     const float factor = KindOf(quantity).StoredPerShown;
     const float shownFrom = typedFrom ? ValueInUnit(*typedFrom, quantity, axis.FromKey) : from / factor;
     const float shownTo = typedTo ? ValueInUnit(*typedTo, quantity, axis.ToKey) : to / factor;
-    if (!axis.Permitted.Contains(shownFrom) || !axis.Permitted.Contains(shownTo) || !(shownFrom < shownTo))
+    if (const auto refusal = RefusalOfRange(axis.Name, axis.Quantity, axis.Permitted, shownFrom, shownTo))
     {
-        throw RequestError(RequestErrorKind::AxisRange, axis.FromKey,
-                           "Set " + std::string(axis.Name) + " Range of " + axis.Quantity + " from " +
-                               NumberText(axis.Permitted.Lowest) + " to " +
-                               NumberText(axis.Permitted.Highest) + " " + GetUnit(axis.Quantity, {}));
+        throw RequestError(RequestErrorKind::AxisRange,
+                           axis.Permitted.Contains(shownFrom) ? axis.ToKey : axis.FromKey, *refusal);
     }
     from = shownFrom * factor;
     to = shownTo * factor;

@@ -2,6 +2,7 @@
 
 #include "calc/ChartKinds.h"
 #include "calc/NumberText.h"
+#include "partdata/KeyedCollection.h"
 #include "partdata/Windows1252.h"
 
 #include <nlohmann/json.hpp>
@@ -9,19 +10,15 @@
 #include <algorithm>
 #include <array>
 
-/// Upper-case form in the code page of the part files.
+/// A text in UTF-8 as the keys of the part files are compared.
 static std::string Folded(std::string_view utf8)
 {
-    auto text = Windows1252FromUtf8(utf8);
-    std::ranges::transform(text, text.begin(), FoldCase);
-    return text;
+    return FoldedKey(Windows1252FromUtf8(utf8));
 }
 
 static bool Holds(std::string_view partNum, const std::string& foldedText)
 {
-    std::string folded(partNum);
-    std::ranges::transform(folded, folded.begin(), FoldCase);
-    return folded.find(foldedText) != std::string::npos;
+    return FoldedKey(partNum).find(foldedText) != std::string::npos;
 }
 
 static bool IsOneOf(const std::array<std::string_view, CodeForms>& names, const std::string& wanted)

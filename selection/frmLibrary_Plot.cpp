@@ -157,15 +157,10 @@ void frmLibrary::cmdPlot_Click()
     }
     bool isNew = true;
     IsNewChart(isNew);
-    if (!isNew)
-    {
-        ShowExclamation(this, QStringLiteral("This Chart is already opened!"));
-        return;
-    }
     const int lines = CountSameCharts();
-    if (lines >= MaximumLines)
+    if (const auto refusal = RefusalOfPlot(isNew, lines))
     {
-        ShowExclamation(this, QStringLiteral("Maximum Numbers of this Chart Type open!"));
+        ShowExclamation(this, QString::fromStdString(*refusal));
         return;
     }
     Plot(lines);

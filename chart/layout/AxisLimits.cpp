@@ -1,6 +1,7 @@
 #include "chart/layout/AxisLimits.h"
 
 #include "calc/Bounds.h"
+#include "calc/NumberText.h"
 #include "calc/Quantities.h"
 #include "chart/layout/Mapping.h"
 
@@ -49,4 +50,16 @@ PermittedRange PermittedYRange(const ChartKey& chart, const AxisRange& defaultRa
                 .Highest = static_cast<float>(DecimalOf(defaultRange.YMax) * 10)};
     }
     return OneSpanFurther(chart.YAxisName, defaultRange.YMin, defaultRange.YMax);
+}
+
+std::optional<std::string> RefusalOfRange(std::string_view axis, const std::string& quantity,
+                                          const PermittedRange& permitted, float from, float to)
+{
+    if (permitted.Contains(from) && permitted.Contains(to) && from < to)
+    {
+        return std::nullopt;
+    }
+    // Messages show units without the degree sign.
+    return "Set " + std::string(axis) + " Range of " + quantity + " from " + NumberText(permitted.Lowest) +
+           " to " + NumberText(permitted.Highest) + " " + GetUnit(quantity, {});
 }

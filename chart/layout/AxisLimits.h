@@ -4,6 +4,10 @@
 
 #include "chart/layout/ChartView.h"
 
+#include <optional>
+#include <string>
+#include <string_view>
+
 /// The permitted values of an axis, bounds included; frequencies in kHz.
 struct PermittedRange
 {
@@ -19,3 +23,8 @@ PermittedRange PermittedXRange(const ChartKey& chart, const AxisRange& defaultRa
 
 /// As for X; a logarithmic axis goes from a tenth of the default range's lowest to ten times its highest.
 PermittedRange PermittedYRange(const ChartKey& chart, const AxisRange& defaultRange);
+
+/// The message that refuses to set the axis "X" or "Y" of a quantity so, or nothing: both ends must be
+/// permitted, and the first below the second. In shown units.
+std::optional<std::string> RefusalOfRange(std::string_view axis, const std::string& quantity,
+                                          const PermittedRange& permitted, float from, float to);

@@ -256,4 +256,14 @@ TEST(ChartStore, DropsTheWorkingRecordWithoutCountingIt)
     EXPECT_EQ(store.ChartData().size(), 1U);
     EXPECT_THAT(PartsOf(store), ElementsAre(2));
 }
+
+TEST(Plot, IsRefusedForALineThatIsThereAndForASeventhOne)
+{
+    EXPECT_EQ(RefusalOfPlot(true, 0), std::nullopt);
+    EXPECT_EQ(RefusalOfPlot(true, 5), std::nullopt);
+    EXPECT_EQ(RefusalOfPlot(true, 6), "Maximum Numbers of this Chart Type open!");
+    EXPECT_EQ(RefusalOfPlot(false, 1), "This Chart is already opened!");
+    EXPECT_EQ(RefusalOfPlot(false, 6), "This Chart is already opened!");
+}
+
 } // namespace

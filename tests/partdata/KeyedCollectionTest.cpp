@@ -22,6 +22,13 @@ TEST(FoldCase, ChangesAsciiAndLatin1LettersOnly)
     EXPECT_EQ(FoldCase('\xB0'), '\xB0'); // the degree sign
 }
 
+TEST(FoldedKey, IsTheSameForEveryLetterCase)
+{
+    EXPECT_EQ(FoldedKey("kts31-\xE4/\xF7"), "KTS31-\xC4/\xF7");
+    EXPECT_EQ(FoldedKey("KTS31-\xC4/\xF7"), "KTS31-\xC4/\xF7");
+    EXPECT_EQ(FoldedKey(""), "");
+}
+
 TEST(HashKey, IsTheSameForEveryLetterCaseAndLength)
 {
     const std::string lower = "abcdefghij\xE4\xF6\xFCklmnopqrstuvwxyz";

@@ -80,14 +80,14 @@ TEST(ChartRange, IsJudgedAsTheDialogDoes)
 {
     // An X5R part's default is -75 to 100: one span of 175 further on either side.
     const auto lines = OneLine();
-    const std::string refusal = "xFrom: Set X Range of Temperature from -250 to 275 [C]";
+    const std::string refusal = "Set X Range of Temperature from -250 to 275 [C]";
     EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.XFrom = "-250", .XTo = "275"}); }), "not refused");
-    EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.XFrom = "-250.1"}); }), refusal);
-    EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.XTo = "275.1"}); }), refusal);
-    EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.XFrom = "20", .XTo = "20"}); }), refusal);
+    EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.XFrom = "-250.1"}); }), "xFrom: " + refusal);
+    EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.XTo = "275.1"}); }), "xTo: " + refusal);
+    EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.XFrom = "20", .XTo = "20"}); }), "xTo: " + refusal);
     // Its capacitance stands between 7 and 9 µF.
     EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.YTo = "11.1uF"}); }),
-              "yFrom: Set Y Range of Capacitance from 5000000 to 11000000 [pF]");
+              "yTo: Set Y Range of Capacitance from 5000000 to 11000000 [pF]");
 }
 
 TEST(ChartRange, TellsTheEndThatIsNoValue)

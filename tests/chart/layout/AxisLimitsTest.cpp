@@ -130,3 +130,31 @@ TEST(PermittedRange, HoldsItsBoundsAndNothingBeyond)
     EXPECT_FALSE(range.Contains(std::numeric_limits<float>::infinity()));
     EXPECT_FALSE(range.Contains(-std::numeric_limits<float>::infinity()));
 }
+
+/// Entries for an axis from 10 to 1000 kHz, and whether they are taken.
+struct RangeRow
+{
+    const char* Name;
+    float From;
+    float To;
+    bool IsTaken;
+};
+
+class AxisRanges : public testing::TestWithParam<RangeRow>
+{
+};
+
+TEST_P(AxisRanges, LieWithinWhatIsPermitted)
+{
+    const auto& row = GetParam();
+    const auto refusal = RefusalOfRange("X", "Frequency", {.Lowest = 10, .Highest = 1000}, row.From, row.To);
+    EXPECT_EQ(refusal.value_or("taken"),
+              row.IsTaken ? "taken" : "Set X Range of Frequency from 10 to 1000 [kHz]");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Entries, AxisRanges,
+    testing::Values(RangeRow{"AllThatIsPermitted", 10, 1000, true}, RangeRow{"APartOfIt", 20, 21, true},
+                    RangeRow{"TooLow", 9.99F, 1000, false}, RangeRow{"TooHigh", 10, 1000.1F, false},
+                    RangeRow{"NoWidth", 20, 20, false}, RangeRow{"Backwards", 21, 20, false}),
+    [](const auto& row) { return row.param.Name; });
