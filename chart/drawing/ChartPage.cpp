@@ -112,10 +112,11 @@ std::array<QString, Columns> RowTexts(const ChartPage& page, const ChartRecord& 
         case Condition::Frequency:
             texts[FrequencyColumn] = Megahertz(condition.Value);
             break;
-        case Condition::Parameter:
-            texts[ParameterColumn] =
+        default:
+            // A condition without a column of its own is told with its name and unit.
+            texts[ParameterColumn] +=
+                (texts[ParameterColumn].isEmpty() ? "" : ", ") +
                 QString::fromStdString(condition.Name + ' ' + condition.Value + condition.Unit);
-            break;
         }
     }
     if (ChartKindOf(line.ChartType).TellsLargestValue)
