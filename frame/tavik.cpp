@@ -1,6 +1,7 @@
 /// The program: the desktop application around the start-up order.
 
 #include "app/Main.h"
+#include "app/StartOptions.h"
 #include "formkit/Fonts.h"
 #include "formkit/Messages.h"
 #include "frame/ProgramIcon.h"
@@ -14,6 +15,7 @@
 #include <exception>
 #include <iostream>
 #include <memory>
+#include <string>
 #include <utility>
 
 namespace
@@ -65,10 +67,50 @@ std::unique_ptr<QApplication> StartWindowSystem(int& argc, char** argv)
     const WindowSystemGuard guard;
     return std::make_unique<QApplication>(argc, argv);
 }
+
+/// Ends the program with a text on standard output.
+int Tell(const std::string& text)
+{
+    if (std::cout << text << std::flush)
+    {
+        return 0;
+    }
+    std::cerr << "tavik: standard output: cannot be written\n";
+    return 1;
+}
+
+/// The start-up order. No window comes of it where another instance runs already.
+std::unique_ptr<frmMain> Start()
+{
+    std::unique_ptr<frmMain> mainWindow;
+    const auto showMainWindow = [&]
+    {
+        mainWindow = std::make_unique<frmMain>();
+        mainWindow->show();
+    };
+    const auto folder = QApplication::applicationDirPath().toStdString();
+    Main(folder, showMainWindow);
+    return mainWindow;
+}
+
+/// Ends the program with an error, told on standard error and to whoever sits at the display.
+int EndByError(const std::exception& error)
+{
+    std::cerr << error.what() << '\n';
+    if (HasDisplay())
+    {
+        ShowCritical(nullptr, QString::fromLocal8Bit(error.what()));
+    }
+    return 1;
+}
 } // namespace
 
 int main(int argc, char* argv[])
 {
+    if (const auto text = TextAskedFor(ArgumentsOf(argc, argv), TAVIK_VERSION))
+    {
+        return Tell(*text);
+    }
     const auto application = StartWindowSystem(argc, argv);
     QApplication::setApplicationName("tavik");
     QApplication::setApplicationVersion(TAVIK_VERSION);
@@ -79,30 +121,21 @@ int main(int argc, char* argv[])
         std::cerr << "tavik: no font is installed, so no text can be shown\n";
         return 1;
     }
-
     std::unique_ptr<frmMain> mainWindow;
     try
     {
-        const auto folder = QApplication::applicationDirPath().toStdString();
-        const auto showMainWindow = [&]
-        {
-            mainWindow = std::make_unique<frmMain>();
-            mainWindow->show();
-        };
-        if (!Main(folder, showMainWindow))
-        {
-            return 0;
-        }
+        CheckArguments(ArgumentsOf(argc, argv));
+        mainWindow = Start();
+    }
+    catch (const WrongCommandLine& error)
+    {
+        std::cerr << "tavik: " << error.what() << '\n';
+        return 2;
     }
     catch (const std::exception& error)
     {
         // A RunTimeError, or memory has run out.
-        std::cerr << error.what() << '\n';
-        if (HasDisplay())
-        {
-            ShowCritical(nullptr, QString::fromLocal8Bit(error.what()));
-        }
-        return 1;
+        return EndByError(error);
     }
-    return QApplication::exec();
+    return mainWindow != nullptr ? QApplication::exec() : 0;
 }

@@ -1,0 +1,30 @@
+#pragma once
+
+/// The command line of the desktop program.
+
+#include <optional>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+/// What follows the program's own name, as `main` is given it.
+using Arguments = std::span<const char* const>;
+
+/// The arguments behind the program's name, if there is one.
+Arguments ArgumentsOf(int argc, const char* const* argv);
+
+/// A command line that makes no sense, in one line.
+class WrongCommandLine : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// The help or the version, where `--help`, `-h` or `--version` asks for it, to be written to standard output
+/// instead of starting; it needs no display.
+std::optional<std::string> TextAskedFor(Arguments arguments, std::string_view version);
+
+/// Refuses what no option of the program takes. Hand over what the window toolkit has left of the arguments.
+/// Throws WrongCommandLine.
+void CheckArguments(Arguments arguments);

@@ -1,0 +1,54 @@
+/// The command line of the desktop program.
+
+#include "app/StartOptions.h"
+
+#include <gmock/gmock.h>
+
+#include <vector>
+
+namespace
+{
+using testing::HasSubstr;
+
+TEST(StartOptions, ProgramNameIsNoArgument)
+{
+    const char* const three[] = {"tavik", "a", "b"};
+    EXPECT_EQ(ArgumentsOf(3, three).size(), 2U);
+    EXPECT_STREQ(ArgumentsOf(3, three)[0], "a");
+    EXPECT_TRUE(ArgumentsOf(1, three).empty());
+    // A careless caller leaves even the name out.
+    EXPECT_TRUE(ArgumentsOf(0, three).empty());
+}
+
+TEST(StartOptions, HelpAndVersionAreAskedForAnywhere)
+{
+    const std::vector<const char*> version = {"-style", "fusion", "--version"};
+    EXPECT_EQ(TextAskedFor(version, "1.2.3"), "tavik 1.2.3\n");
+    for (const char* option : {"--help", "-h"})
+    {
+        const std::vector<const char*> help = {"anything", option};
+        const auto text = TextAskedFor(help, "1.2.3");
+        ASSERT_TRUE(text);
+        EXPECT_THAT(*text, HasSubstr("Usage: tavik [OPTIONS]\n"));
+        EXPECT_THAT(*text, HasSubstr("\n  --version "));
+    }
+    const std::vector<const char*> neither = {"--versions", "help"};
+    EXPECT_FALSE(TextAskedFor(neither, "1.2.3"));
+    EXPECT_FALSE(TextAskedFor({}, "1.2.3"));
+}
+
+TEST(StartOptions, RefuseWhatNothingTakes)
+{
+    EXPECT_NO_THROW(CheckArguments({}));
+    const std::vector<const char*> strange = {"--plot\n", "x"};
+    try
+    {
+        CheckArguments(strange);
+        FAIL() << "taken";
+    }
+    catch (const WrongCommandLine& error)
+    {
+        EXPECT_STREQ(error.what(), "unexpected argument \"--plot\\x0A\" (see tavik --help)");
+    }
+}
+} // namespace
