@@ -92,12 +92,13 @@ void SharedStateTest::InstancesMeetByUserAndLogin()
 {
     const QByteArray session = qgetenv("XDG_SESSION_ID");
     qputenv("XDG_SESSION_ID", "7");
-    const std::string seventh = SingleInstanceName();
-    QCOMPARE(SingleInstanceName(), seventh);
+    const std::string seventh = SingleInstanceName(0);
+    QCOMPARE(SingleInstanceName(0), seventh);
+    QVERIFY(SingleInstanceName(1) != seventh);
     qputenv("XDG_SESSION_ID", "8");
-    QVERIFY(SingleInstanceName() != seventh);
+    QVERIFY(SingleInstanceName(0) != seventh);
     qunsetenv("XDG_SESSION_ID");
-    QVERIFY(SingleInstanceName() != seventh);
+    QVERIFY(SingleInstanceName(0) != seventh);
     qputenv("XDG_SESSION_ID", session);
 }
 

@@ -1,17 +1,25 @@
-/// Many starts at once: one program lives, all others leave as a second one does. The long form makes fifty
-/// at once, in as many rounds as TAVIK_TEST_RUNS says.
+/// Many starts at once: one program lives, all others leave as a second one does, also where strangers sit on
+/// the names under which they meet. The long form makes fifty at once, in as many rounds as TAVIK_TEST_RUNS
+/// says.
 
+#include "app/SingleInstance.h"
+#include "tests/app/Stranger.h"
 #include "tests/e2e/Program.h"
 
 #include <QTest>
+
+#include <unistd.h>
 
 class StartRushTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void OneOfManyLives_data();
     void OneOfManyLives();
 };
+
+Q_DECLARE_METATYPE(Manner)
 
 static constexpr std::size_t FewStarts = 16;
 static constexpr std::size_t ManyStarts = 50;
@@ -31,13 +39,12 @@ static bool LeavesByKey(const TestDisplay& display, const QString& box, QProcess
     return false;
 }
 
-static void StartAtOnce(std::size_t starts)
+static void StartAtOnce(std::size_t starts, const QString& login)
 {
     const TestDisplay display;
     QVERIFY2(display.IsUp(), "Xvfb does not start");
     const ProgramFolder folder;
-    const auto environment =
-        display.Environment(QStringLiteral("rush-%1").arg(QCoreApplication::applicationPid()));
+    const auto environment = display.Environment(login);
     std::vector<std::unique_ptr<QProcess>> programs;
     for (std::size_t i = 0; i < starts; ++i)
     {
@@ -68,12 +75,38 @@ static void StartAtOnce(std::size_t starts)
     QVERIFY(EndsByExit(display, window.front(), survivor));
 }
 
+void StartRushTest::OneOfManyLives_data()
+{
+    QTest::addColumn<bool>("beside");
+    QTest::addColumn<uint>("user");
+    QTest::addColumn<Manner>("manner");
+    QTest::newRow("alone") << false << uint{getuid()} << Manner::Listens;
+    QTest::newRow("beside another user") << true << uint{Stranger::OtherUser} << Manner::Listens;
+    QTest::newRow("beside one that gives no answer") << true << uint{getuid()} << Manner::IsSilent;
+}
+
 void StartRushTest::OneOfManyLives()
 {
+    QFETCH(bool, beside);
+    QFETCH(uint, user);
+    QFETCH(Manner, manner);
+    if (user != getuid() && getuid() != 0)
+    {
+        QSKIP("only root can be another user");
+    }
+    const QString login = QStringLiteral("rush-%1").arg(QCoreApplication::applicationPid());
+    qputenv("XDG_SESSION_ID", login.toLatin1());
+    std::vector<std::string> names;
+    if (beside)
+    {
+        names = {SingleInstanceName(0), SingleInstanceName(1)};
+    }
+    const Stranger stranger(names, user, manner);
+    QVERIFY(stranger.Holds());
     const int rounds = qEnvironmentVariableIntValue("TAVIK_TEST_RUNS");
     for (int round = 0; round < std::max(rounds, 1) && !QTest::currentTestFailed(); ++round)
     {
-        StartAtOnce(rounds > 0 ? ManyStarts : FewStarts);
+        StartAtOnce(rounds > 0 ? ManyStarts : FewStarts, login);
     }
 }
 
