@@ -23,7 +23,8 @@ static std::int16_t HelpLanguageIn(const std::string& programFolder)
     return HelpLanguages.back().Number;
 }
 
-bool Main(const std::string& programFolder, const std::function<void()>& showMainWindow)
+bool Main(const std::string& programFolder, const std::function<void()>& showMainWindow,
+          const std::optional<std::string>& partFolder)
 {
     if (!ClaimSingleInstance())
     {
@@ -32,7 +33,7 @@ bool Main(const std::string& programFolder, const std::function<void()>& showMai
     }
     mdlPublic.PathSep = PathSepOf(programFolder);
     mdlPublic.HelpLanguage = HelpLanguageIn(programFolder);
-    mdlPublic.Parts = LoadPartData(programFolder);
+    mdlPublic.Parts = LoadPartData(partFolder.value_or(programFolder));
     showMainWindow();
     mdlPublic.DegreeSign = "\xB0";
     return true;

@@ -6,6 +6,8 @@ static constexpr std::string_view Help = R"(Characteristics of multilayer chip c
 Usage: tavik [OPTIONS]
 
 Options:
+  --data FOLDER   Folder of the part files *.idx and *.dat (left out: the one that TAVIK_DATA names, else the
+                  program's own)
   -h, --help      Shows this help and ends
   --version       Shows the version and ends
 
@@ -35,11 +37,40 @@ std::optional<std::string> TextAskedFor(Arguments arguments, std::string_view ve
     return std::nullopt;
 }
 
-void CheckArguments(Arguments arguments)
+static void TakeDataFolder(StartOptions& options, std::string_view folder)
 {
-    if (!arguments.empty())
+    if (folder.empty())
     {
-        throw WrongCommandLine("unexpected argument \"" + OneLine(arguments.front()) +
-                               "\" (see tavik --help)");
+        throw WrongCommandLine("--data wants the name of a folder");
     }
+    if (!options.DataFolder.empty())
+    {
+        throw WrongCommandLine("--data stands twice");
+    }
+    options.DataFolder = folder;
+}
+
+StartOptions ReadStartOptions(Arguments arguments)
+{
+    static constexpr std::string_view data = "--data";
+    static constexpr std::string_view dataIs = "--data=";
+    StartOptions options;
+    for (std::size_t i = 0; i < arguments.size(); ++i)
+    {
+        const std::string_view argument = arguments[i];
+        if (argument == data)
+        {
+            ++i;
+            TakeDataFolder(options, i < arguments.size() ? arguments[i] : "");
+        }
+        else if (argument.starts_with(dataIs))
+        {
+            TakeDataFolder(options, argument.substr(dataIs.size()));
+        }
+        else
+        {
+            throw WrongCommandLine("unexpected argument \"" + OneLine(argument) + "\" (see tavik --help)");
+        }
+    }
+    return options;
 }

@@ -25,6 +25,13 @@ public:
 /// instead of starting; it needs no display.
 std::optional<std::string> TextAskedFor(Arguments arguments, std::string_view version);
 
-/// Refuses what no option of the program takes. Hand over what the window toolkit has left of the arguments.
+/// What the options of the program ask for.
+struct StartOptions
+{
+    /// The folder of the part files, as it was typed; empty where it is left out.
+    std::string DataFolder;
+};
+
+/// Reads the options of the program; hand over what the window toolkit has left of the arguments.
 /// Throws WrongCommandLine.
-void CheckArguments(Arguments arguments);
+StartOptions ReadStartOptions(Arguments arguments);

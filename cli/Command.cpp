@@ -1,5 +1,6 @@
 #include "cli/Command.h"
 
+#include "files/PartFolder.h"
 #include "files/PartLoading.h"
 #include "partdata/RunTimeError.h"
 
@@ -24,7 +25,8 @@ std::string ProgramFolder()
 
 std::string PartFolder(const std::string& given)
 {
-    return given.empty() ? ProgramFolder() : given;
+    const auto named = NamedPartFolder(given);
+    return named ? *named : ProgramFolder();
 }
 
 PartTable LoadParts(const std::string& givenFolder)
@@ -52,6 +54,7 @@ void AddDataOption(CLI::App& command, std::string& folder)
 {
     command
         .add_option("--data", folder,
-                    "Folder of the part files *.idx and *.dat (left out: the program's own)")
+                    "Folder of the part files *.idx and *.dat (left out: the one that TAVIK_DATA names, else "
+                    "the program's own)")
         ->type_name("FOLDER");
 }

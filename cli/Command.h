@@ -62,7 +62,8 @@ public:
 /// The folder of the program itself, links resolved.
 std::string ProgramFolder();
 
-/// The folder that holds the pair of part files: the given one or, when that is empty, the program's own.
+/// The folder that holds the pair of part files: the one that `NamedPartFolder` makes of the given one, else
+/// the program's own.
 std::string PartFolder(const std::string& given);
 
 /// The parts of the folder that `PartFolder` gives. Throws RunTimeError with file or folder.

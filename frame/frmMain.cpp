@@ -1,13 +1,16 @@
 #include "frame/frmMain.h"
 
 #include "app/mdlPublic.h"
+#include "chart/ElidedLabel.h"
 #include "chart/frmGraph.h"
 #include "formkit/HourglassScope.h"
 #include "formkit/Messages.h"
 #include "frame/HelpCommand.h"
 #include "frame/frmAbout.h"
+#include "partdata/OneLine.h"
 #include "ui_frmMain.h"
 
+#include <QDir>
 #include <QPrinter>
 #include <QScreen>
 #include <QScrollBar>
@@ -105,6 +108,18 @@ void frmMain::Connect()
 bool frmMain::GetPartNewOld() const
 {
     return ui->mnuPartNum_0->isChecked();
+}
+
+void frmMain::ShowPartFolder(const QString& folder)
+{
+    const QString whole = QDir::cleanPath(QDir::current().absoluteFilePath(folder));
+    auto* lblPartFolder =
+        new ElidedLabel(QString::fromStdString(WithoutControls(whole.toStdString())), ui->sbrMain);
+    lblPartFolder->setObjectName(QStringLiteral("lblPartFolder"));
+    lblPartFolder->setTextFormat(Qt::PlainText);
+    // A long name is cut rather than the window kept wide.
+    lblPartFolder->setMinimumWidth(1);
+    ui->sbrMain->addPermanentWidget(lblPartFolder);
 }
 
 // ---- Forms ----

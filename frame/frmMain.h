@@ -34,6 +34,9 @@ public:
     /// True while global part numbers are shown.
     bool GetPartNewOld() const;
 
+    /// Names the folder that the part files were taken from, for good, at the right of the status bar.
+    void ShowPartFolder(const QString& folder);
+
     // What chart windows and the selection form ask for.
     int OpenForms() const override;
     void ChartUnloaded(QWidget* chart) override;

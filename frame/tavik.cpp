@@ -2,6 +2,7 @@
 
 #include "app/Main.h"
 #include "app/StartOptions.h"
+#include "files/PartFolder.h"
 #include "formkit/Fonts.h"
 #include "formkit/Messages.h"
 #include "frame/ProgramIcon.h"
@@ -9,6 +10,7 @@
 
 #include <QApplication>
 #include <QDebug>
+#include <QFile>
 #include <QStringList>
 
 #include <cstdlib>
@@ -80,16 +82,21 @@ int Tell(const std::string& text)
 }
 
 /// The start-up order. No window comes of it where another instance runs already.
-std::unique_ptr<frmMain> Start()
+std::unique_ptr<frmMain> Start(const StartOptions& options)
 {
+    const auto partFolder = NamedPartFolder(options.DataFolder);
     std::unique_ptr<frmMain> mainWindow;
     const auto showMainWindow = [&]
     {
         mainWindow = std::make_unique<frmMain>();
+        if (partFolder)
+        {
+            mainWindow->ShowPartFolder(QFile::decodeName(partFolder->c_str()));
+        }
         mainWindow->show();
     };
     const auto folder = QApplication::applicationDirPath().toStdString();
-    Main(folder, showMainWindow);
+    Main(folder, showMainWindow, partFolder);
     return mainWindow;
 }
 
@@ -124,8 +131,7 @@ int main(int argc, char* argv[])
     std::unique_ptr<frmMain> mainWindow;
     try
     {
-        CheckArguments(ArgumentsOf(argc, argv));
-        mainWindow = Start();
+        mainWindow = Start(ReadStartOptions(ArgumentsOf(argc, argv)));
     }
     catch (const WrongCommandLine& error)
     {

@@ -37,18 +37,36 @@ TEST(StartOptions, HelpAndVersionAreAskedForAnywhere)
     EXPECT_FALSE(TextAskedFor({}, "1.2.3"));
 }
 
-TEST(StartOptions, RefuseWhatNothingTakes)
+TEST(StartOptions, NameTheFolderOfThePartFiles)
 {
-    EXPECT_NO_THROW(CheckArguments({}));
-    const std::vector<const char*> strange = {"--plot\n", "x"};
+    EXPECT_EQ(ReadStartOptions({}).DataFolder, "");
+    const std::vector<const char*> apart = {"--data", "my parts"};
+    EXPECT_EQ(ReadStartOptions(apart).DataFolder, "my parts");
+    // Whatever bytes the system allows in a name.
+    const std::vector<const char*> joined = {"--data=/x=\xE9/"};
+    EXPECT_EQ(ReadStartOptions(joined).DataFolder, "/x=\xE9/");
+}
+
+static std::string RefusalOf(const std::vector<const char*>& arguments)
+{
     try
     {
-        CheckArguments(strange);
-        FAIL() << "taken";
+        ReadStartOptions(arguments);
+        return "taken";
     }
     catch (const WrongCommandLine& error)
     {
-        EXPECT_STREQ(error.what(), "unexpected argument \"--plot\\x0A\" (see tavik --help)");
+        return error.what();
     }
+}
+
+TEST(StartOptions, RefuseWhatNothingTakes)
+{
+    EXPECT_EQ(RefusalOf({"--plot\n", "x"}), "unexpected argument \"--plot\\x0A\" (see tavik --help)");
+    EXPECT_EQ(RefusalOf({"--dat=x"}), "unexpected argument \"--dat=x\" (see tavik --help)");
+    EXPECT_EQ(RefusalOf({"--data"}), "--data wants the name of a folder");
+    EXPECT_EQ(RefusalOf({"--data", ""}), "--data wants the name of a folder");
+    EXPECT_EQ(RefusalOf({"--data="}), "--data wants the name of a folder");
+    EXPECT_EQ(RefusalOf({"--data", "a", "--data=b"}), "--data stands twice");
 }
 } // namespace

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void StepsStandInOrder();
     void HelpLanguageFollowsTheBooks_data();
     void HelpLanguageFollowsTheBooks();
+    void NamedFolderHoldsPartsButNoBooks();
     void MissingPartFilesShowNoWindow();
     void SecondStartIsRefusedBeforeAnythingElse();
 
@@ -116,6 +117,17 @@ void StartTest::HelpLanguageFollowsTheBooks()
     }
     QVERIFY(Main(folder.path().toStdString(), [] {}));
     QTEST(static_cast<int>(mdlPublic.HelpLanguage), "language");
+}
+
+void StartTest::NamedFolderHoldsPartsButNoBooks()
+{
+    const QTemporaryDir program;
+    const QTemporaryDir parts;
+    CopyRange(parts.path());
+    WriteFile(parts.filePath("tavikj.hlp"));
+    QVERIFY(Main(program.path().toStdString(), [] {}, parts.path().toStdString()));
+    QCOMPARE(mdlPublic.HelpLanguage, std::int16_t{2});
+    QVERIFY(!mdlPublic.Parts.PartData.empty());
 }
 
 void StartTest::MissingPartFilesShowNoWindow()
