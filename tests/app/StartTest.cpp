@@ -125,7 +125,8 @@ void StartTest::NamedFolderHoldsPartsButNoBooks()
     const QTemporaryDir parts;
     CopyRange(parts.path());
     WriteFile(parts.filePath("tavikj.hlp"));
-    QVERIFY(Main(program.path().toStdString(), [] {}, parts.path().toStdString()));
+    QVERIFY(Main(
+        program.path().toStdString(), [] {}, parts.path().toStdString()));
     QCOMPARE(mdlPublic.HelpLanguage, std::int16_t{2});
     QVERIFY(!mdlPublic.Parts.PartData.empty());
 }
