@@ -3,6 +3,7 @@
 #include "chart/drawing/PainterSheet.h"
 #include "cli/Command.h"
 #include "cli/Commands.h"
+#include "cli/HelpText.h"
 #include "cli/LineOption.h"
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
@@ -39,15 +40,23 @@ struct ChartOptions
 /// Extent of a picture in either direction, in pixels.
 static constexpr double mostPixels = 20000;
 
-static constexpr const char* help = R"(Examples:
+static constexpr const char* examples = R"(Examples:
   tavik-cli chart KTS21JB51E106MA01 KTS31NB51E106MA01 KTS32XR71E106KA01 \
       --chart temperature-rise --dc-bias 12V --frequency 300kHz --output rise.png
   tavik-cli chart --chart capacitance-temperature --output bias.svg \
       --line "KTS31NB51E106MA01 dc-bias=0V" --line "KTS31NB51E106MA01 dc-bias=12V"
 
-Each PART and each --line is one line of the chart, parts first. --line names a part and conditions of its own:
-dc-bias, frequency, heat-resistance, ambient, and current, voltage, effective-power or apparent-power for a
-temperature rise over frequency. All other conditions are those of the options.)";
+)";
+
+static std::string Help()
+{
+    return examples +
+           Wrapped("Each PART and each --line is one line of the chart, parts first. --line names a part "
+                   "and conditions of its own: " +
+                   ListOf(ConditionOptionNames()) + ", and " + ChoiceOf(ParameterRequestNames()) +
+                   " for a temperature rise over frequency. All other conditions are those of the "
+                   "options.");
+}
 
 /// The format that --format names, or else the one that the file is named for: "rise.PNG".
 static const PictureFormat& FormatOf(const ChartOptions& options)
@@ -196,7 +205,7 @@ void AddChartCommand(CLI::App& app)
 {
     const auto options = std::make_shared<ChartOptions>();
     auto& command = *app.add_subcommand("chart", "Draws up to six lines on one chart, as PNG, SVG or PDF");
-    command.footer(help);
+    command.footer(Help());
     command.add_option("parts", options->Parts, "Parts to draw with the conditions of the options")
         ->type_name("PART");
     command.add_option("--line", options->Lines, "A line with conditions of its own; see below")

@@ -2,11 +2,14 @@
 
 #include "cli/Command.h"
 #include "cli/Commands.h"
+#include "cli/HelpText.h"
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
 #include "cli/RequestStream.h"
 #include "formkit/Texts.h"
 #include "requests/CurveFormats.h"
+#include "requests/JsonRequest.h"
+#include "requests/Names.h"
 
 #include <CLI/CLI.hpp>
 
@@ -26,14 +29,21 @@ struct CurveOptions
 };
 } // namespace
 
-static constexpr const char* help = R"(Examples:
+static constexpr const char* examples = R"(Examples:
   tavik-cli curve KTS31NB51E106MA01 --chart temperature-rise --dc-bias 12V --frequency 300kHz
   tavik-cli curve KTS31NB51E106MA01 --chart temperature-rise --x Frequency --dc-bias 12V \
       --parameter current=1.5Arms --format csv --output rise.csv
   echo '{"part":"KTS31NB51E106MA01","chart":"capacitance-dc-voltage"}' | tavik-cli curve --requests -
 
-Axes that are left out are those that the form shows first. A request line has the keys part, chart, x, y,
-dcBias, frequency, heatResistance, ambient, parameter, parameterValue and code.)";
+)";
+
+static std::string Help()
+{
+    return examples +
+           Wrapped(
+               "Axes that are left out are those that the form shows first. A request line has the keys " +
+               ChoiceOf(RequestKeys(), "and") + '.');
+}
 
 /// Standard error tells people that some requests have no curve; scripts read it from the answers.
 static void AnswerAll(const CurveOptions& options)
@@ -74,7 +84,7 @@ void AddCurveCommand(CLI::App& app)
 {
     const auto options = std::make_shared<CurveOptions>();
     auto& command = *app.add_subcommand("curve", "Computes one curve, or one for each line of requests");
-    command.footer(help);
+    command.footer(Help());
     command.add_option("part", options->Request.Part, "Part number in any of its forms, any letter case")
         ->type_name("PART");
     AddRequestOptions(command, options->Request);

@@ -9,8 +9,7 @@
 #include <sstream>
 #include <vector>
 
-/// What a word of the option may name, as options are called: the conditions, then the parameters.
-static std::vector<std::string> LineNames()
+std::vector<std::string> ConditionOptionNames()
 {
     std::vector<std::string> names;
     for (const ConditionKind& kind : ConditionKinds())
@@ -20,6 +19,13 @@ static std::vector<std::string> LineNames()
             names.push_back(OptionNameOf(kind.Key));
         }
     }
+    return names;
+}
+
+/// What a word of the option may name, as options are called: the conditions, then the parameters.
+static std::vector<std::string> LineNames()
+{
+    auto names = ConditionOptionNames();
     std::ranges::copy(ParameterRequestNames(), std::back_inserter(names));
     return names;
 }

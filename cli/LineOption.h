@@ -5,9 +5,13 @@
 #include "requests/CurveRequest.h"
 
 #include <string>
+#include <vector>
 
-/// The request of "PART NAME=VALUE ...", words between blanks: the names are dc-bias, frequency,
-/// heat-resistance, ambient and the four parameters. What is not named is as in `defaults`.
+/// What options call the conditions, without their dashes: "dc-bias". The parameter has an option of its own.
+std::vector<std::string> ConditionOptionNames();
+
+/// The request of "PART NAME=VALUE ...", words between blanks: the names are those of the conditions and of
+/// the four parameters. What is not named is as in `defaults`.
 ///
 ///     RequestOfLine("KTS31NB51E106MA01 dc-bias=12V frequency=300kHz", common)
 ///

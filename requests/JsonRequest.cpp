@@ -26,6 +26,21 @@ static std::string TextOf(const std::string& key, const json& value)
     throw RequestError(RequestErrorKind::Syntax, key, "is neither a text nor a number");
 }
 
+std::vector<std::string> RequestKeys()
+{
+    std::vector<std::string> keys = {"part", "chart", "x", "y"};
+    for (const ConditionKind& kind : ConditionKinds())
+    {
+        if (!kind.Measures)
+        {
+            keys.emplace_back("parameter");
+        }
+        keys.emplace_back(kind.Key);
+    }
+    keys.emplace_back("code");
+    return keys;
+}
+
 /// Puts a value into the request; false for a key that no request has.
 static bool Take(CurveRequest& request, const std::string& key, const std::string& text)
 {

@@ -7,10 +7,13 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
-/// The request of an object with the keys part, chart, x, y, dcBias, frequency, heatResistance, ambient,
-/// parameter, parameterValue and code; values are numbers or texts with a unit. What stands in `defaults`
-/// holds where a key is missing; a null is a missing key.
+/// The keys of requests: part, chart, x, y, the conditions, parameter and code.
+std::vector<std::string> RequestKeys();
+
+/// The request of an object with `RequestKeys`; values are numbers or texts with a unit. What stands in
+/// `defaults` holds where a key is missing; a null is a missing key.
 ///
 /// Throws RequestError for a text that is no such object.
 CurveRequest RequestOfJson(std::string_view text, const CurveRequest& defaults);

@@ -12,10 +12,11 @@ std::string RequestNameOf(std::string_view name)
     return text;
 }
 
-std::string ChoiceOf(const std::vector<std::string>& names)
+std::string ChoiceOf(const std::vector<std::string>& names, std::string_view lastWord)
 {
     const auto most = std::span(names).first(names.size() - std::min<std::size_t>(names.size(), 1));
-    return ListOf(most) + (most.empty() ? "" : " or ") + (names.empty() ? "" : names.back());
+    const auto joined = most.empty() ? "" : ' ' + std::string(lastWord) + ' ';
+    return ListOf(most) + joined + (names.empty() ? "" : names.back());
 }
 
 /// True for names that differ in letter case, or in a hyphen for a blank.

@@ -28,8 +28,8 @@ template <class Names> std::string ListOf(const Names& names, std::string_view s
     return list;
 }
 
-/// The names as a choice: "png, svg or pdf".
-std::string ChoiceOf(const std::vector<std::string>& names);
+/// The names as a sentence lists them: "png, svg or pdf", or with another last word "x, y and code".
+std::string ChoiceOf(const std::vector<std::string>& names, std::string_view lastWord = "or");
 
 /// The index of the name that is meant: "Apparent Power" and "apparent-power" name the same, in any letter
 /// case.

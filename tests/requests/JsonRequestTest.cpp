@@ -95,6 +95,18 @@ TEST(Requests, LeaveOutConditionsThatTheChartDoesNotUse)
     EXPECT_EQ(answer.at("conditions"), (json{{"dcBias", 5}}));
 }
 
+TEST(Requests, TakeEveryKeyThatTheyName)
+{
+    const auto keys = RequestKeys();
+    EXPECT_EQ(keys.size(), 11U);
+    for (const auto& key : keys)
+    {
+        const auto value = key == "code" ? "jis" : "1";
+        const CurveRequest defaults{.Part = "A", .Chart = "B"};
+        EXPECT_NO_THROW(RequestOfJson(json{{key, value}}.dump(), defaults)) << key;
+    }
+}
+
 TEST(Requests, FindAPartByAnyOfItsNumbers)
 {
     for (std::size_t form = 0; form < PartNumForms; ++form)

@@ -24,6 +24,7 @@ TEST(Names, AreOfferedAsAChoice)
     EXPECT_EQ(ChoiceOf({"png"}), "png");
     EXPECT_EQ(ChoiceOf({"png", "svg"}), "png or svg");
     EXPECT_EQ(ChoiceOf({"png", "svg", "pdf"}), "png, svg or pdf");
+    EXPECT_EQ(ChoiceOf({"x", "y", "code"}, "and"), "x, y and code");
 }
 
 TEST(Names, MeanTheSameInAnySpelling)
