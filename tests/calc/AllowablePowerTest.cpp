@@ -2,9 +2,9 @@
 #include "calc/ParameterLimit.h"
 #include "calc/PowerModel.h"
 #include "calc/TemperatureRise.h"
-#include "partdata/RunTimeError.h"
 #include "tests/calc/NamedRow.h"
 #include "tests/calc/PowerParts.h"
+#include "tests/partdata/ErrorOf.h"
 
 #include <algorithm>
 #include <cmath>
@@ -113,7 +113,7 @@ TEST(AllowableLoad, WhoseAxisNoSingleCanEndIsAnOverflow)
     auto model = UnitModel();
     // 20/5e-76 = (2·10^38)² A²; the axis would end at 10^39.
     model.Q2 = 5e-76;
-    EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, Quantity::Current); }), 6);
+    EXPECT_EQ(ErrorNumberOf([&] { AllowableLoad(model, 10, 20, Quantity::Current); }), 6);
     model.Q2 = 500e-76;
     EXPECT_EQ(AllowableLoad(model, 10, 20, Quantity::Current).Limits.YMax, 1e38F);
 }
@@ -124,7 +124,7 @@ TEST(AllowableLoad, OfAVoltageBeyondAnyNumberIsAnOverflow)
     model.S2 = -1;
     model.S3 = 0.005;
     // kV = 1 / log10 f: 80^200 V at 10 kHz, whatever the bound.
-    EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, Quantity::RmsVoltage); }), 6);
+    EXPECT_EQ(ErrorNumberOf([&] { AllowableLoad(model, 10, 20, Quantity::RmsVoltage); }), 6);
 }
 
 TEST(AllowableLoad, WithoutAVoltageLawAtTheHighestFrequencyIsADivisionByZero)
@@ -134,23 +134,23 @@ TEST(AllowableLoad, WithoutAVoltageLawAtTheHighestFrequencyIsADivisionByZero)
     model.S2 = -450;
     for (const auto load : {Quantity::RmsVoltage, Quantity::ApparentPower, Quantity::EffectivePower})
     {
-        EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, load); }), 11) << NameOf(load);
+        EXPECT_EQ(ErrorNumberOf([&] { AllowableLoad(model, 10, 20, load); }), 11) << NameOf(load);
     }
 }
 
 TEST(PowerCurves, OfAQuantityThatIsNoLoadAreRefused)
 {
-    EXPECT_EQ(ErrorOf([] { RiseOverLoad(UnitModel(), 10, frequencyHz, Quantity::Temperature); }), 5);
-    EXPECT_EQ(ErrorOf([] { RiseOverFrequency(UnitModel(), 10, Quantity::Frequency, 1); }), 5);
-    EXPECT_EQ(ErrorOf([] { AllowableLoad(UnitModel(), 10, 20, Quantity::Capacitance); }), 5);
+    EXPECT_EQ(ErrorNumberOf([] { RiseOverLoad(UnitModel(), 10, frequencyHz, Quantity::Temperature); }), 5);
+    EXPECT_EQ(ErrorNumberOf([] { RiseOverFrequency(UnitModel(), 10, Quantity::Frequency, 1); }), 5);
+    EXPECT_EQ(ErrorNumberOf([] { AllowableLoad(UnitModel(), 10, 20, Quantity::Capacitance); }), 5);
 }
 
 TEST(AllowableLoad, NeedsNoVoltageLawForCurrent)
 {
     auto model = UnitModel();
     model.S3 = 0;
-    EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, Quantity::Current); }), 0);
-    EXPECT_EQ(ErrorOf([&] { AllowableLoad(model, 10, 20, Quantity::EffectivePower); }), 11);
+    EXPECT_EQ(ErrorNumberOf([&] { AllowableLoad(model, 10, 20, Quantity::Current); }), 0);
+    EXPECT_EQ(ErrorNumberOf([&] { AllowableLoad(model, 10, 20, Quantity::EffectivePower); }), 11);
 }
 
 } // namespace

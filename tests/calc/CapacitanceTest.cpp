@@ -3,6 +3,7 @@
 #include "calc/CapacitanceAxes.h"
 #include "partdata/RunTimeError.h"
 #include "tests/calc/NamedRow.h"
+#include "tests/partdata/ErrorOf.h"
 
 #include <algorithm>
 #include <cmath>
@@ -40,19 +41,6 @@ PartRecord PeakedPart()
 float FirstChange(const PartRecord& part, float ambientC, CodeView view)
 {
     return CalcCapDCVoltage(part, ambientC, Quantity::CapacitanceChange, view).YData[0];
-}
-
-template <class Action> int ErrorOf(Action action)
-{
-    try
-    {
-        action();
-    }
-    catch (const RunTimeError& error)
-    {
-        return error.Number();
-    }
-    return 0;
 }
 
 struct RangeRow
@@ -248,15 +236,16 @@ TEST(SpecialPart, OfY5VFollowsThePolynomial)
 
 TEST(OtherYAxis, IsRefused)
 {
-    EXPECT_EQ(ErrorOf([] { CalcCapTemperature(LinearPart(), 0, Quantity::Current, CodeView::Eia); }), 5);
+    EXPECT_EQ(ErrorNumberOf([] { CalcCapTemperature(LinearPart(), 0, Quantity::Current, CodeView::Eia); }),
+              5);
 }
 
 TEST(CapacitanceFault, OfAPowerWithoutValueIs5)
 {
     auto part = PeakedPart();
     part.Data[Value::ExponentAbove] = -1;
-    EXPECT_EQ(ErrorOf([&] { FirstChange(part, 25, CodeView::Eia); }), 5);
-    EXPECT_EQ(ErrorOf([&] { FirstChange(part, 26, CodeView::Eia); }), 0);
+    EXPECT_EQ(ErrorNumberOf([&] { FirstChange(part, 25, CodeView::Eia); }), 5);
+    EXPECT_EQ(ErrorNumberOf([&] { FirstChange(part, 26, CodeView::Eia); }), 0);
 }
 
 TEST(CapacitanceFault, OfAPowerBeyondAnyNumberIs6)
@@ -264,8 +253,8 @@ TEST(CapacitanceFault, OfAPowerBeyondAnyNumberIs6)
     auto part = PeakedPart();
     part.Data[Value::ExponentAbove] = 400;
     // 10 °C above the peak: 10^400
-    EXPECT_EQ(ErrorOf([&] { FirstChange(part, 35, CodeView::Eia); }), 6);
-    EXPECT_EQ(ErrorOf([&] { FirstChange(part, 25, CodeView::Eia); }), 0);
+    EXPECT_EQ(ErrorNumberOf([&] { FirstChange(part, 35, CodeView::Eia); }), 6);
+    EXPECT_EQ(ErrorNumberOf([&] { FirstChange(part, 25, CodeView::Eia); }), 0);
 }
 
 TEST(CapacitanceFault, OfAReferenceBeyondAnyNumberIs6InJisOnly)
@@ -275,8 +264,8 @@ TEST(CapacitanceFault, OfAReferenceBeyondAnyNumberIs6InJisOnly)
     part.Data[Value::DecayAbove] = -100;
     // At 20 °C, 10 °C above the peak, exp(100·10²); at the peak exp(0).
     const auto show = [&](CodeView view) { CalcCapDCVoltage(part, 10, Quantity::Capacitance, view); };
-    EXPECT_EQ(ErrorOf([&] { show(CodeView::Jis); }), 6);
-    EXPECT_EQ(ErrorOf([&] { show(CodeView::Eia); }), 0);
+    EXPECT_EQ(ErrorNumberOf([&] { show(CodeView::Jis); }), 6);
+    EXPECT_EQ(ErrorNumberOf([&] { show(CodeView::Eia); }), 0);
 }
 
 TEST(CapacitanceFault, OfTheFirstPointComesBeforeThatOfAZeroReference)
@@ -286,32 +275,35 @@ TEST(CapacitanceFault, OfTheFirstPointComesBeforeThatOfAZeroReference)
     part.Data[Value::PeakTemperature] = -25;
     part.Data[Value::ExponentAbove] = -1;
     // The sweep of the JIS view starts at the peak, where 0 to the power -1 has no value.
-    EXPECT_EQ(ErrorOf([&] { CalcCapTemperature(part, 0, Quantity::CapacitanceChange, CodeView::Jis); }), 5);
+    EXPECT_EQ(ErrorNumberOf([&] { CalcCapTemperature(part, 0, Quantity::CapacitanceChange, CodeView::Jis); }),
+              5);
     // exp(1e4/5) at the start, 5 °C above the peak, has none either; exp(1e4/50) at 20 °C has.
     part.Data[Value::PeakTemperature] = -30;
     part.Data[Value::DecayAbove] = -1e4F;
-    EXPECT_EQ(ErrorOf([&] { CalcCapTemperature(part, 0, Quantity::CapacitanceChange, CodeView::Jis); }), 6);
+    EXPECT_EQ(ErrorNumberOf([&] { CalcCapTemperature(part, 0, Quantity::CapacitanceChange, CodeView::Jis); }),
+              6);
     part.Data[Value::DecayAbove] = 1;
-    EXPECT_EQ(ErrorOf([&] { CalcCapTemperature(part, 0, Quantity::CapacitanceChange, CodeView::Jis); }), 11);
+    EXPECT_EQ(ErrorNumberOf([&] { CalcCapTemperature(part, 0, Quantity::CapacitanceChange, CodeView::Jis); }),
+              11);
 }
 
 TEST(CapacitanceFault, OfAZeroReferenceIs11InJisOnly)
 {
     auto part = LinearPart();
     part.Data[Value::NominalCapacitance] = 0;
-    EXPECT_EQ(ErrorOf([&] { FirstChange(part, 25, CodeView::Jis); }), 11);
-    EXPECT_EQ(ErrorOf([&] { FirstChange(part, 25, CodeView::Eia); }), 0);
+    EXPECT_EQ(ErrorNumberOf([&] { FirstChange(part, 25, CodeView::Jis); }), 11);
+    EXPECT_EQ(ErrorNumberOf([&] { FirstChange(part, 25, CodeView::Eia); }), 0);
 }
 
 TEST(CapacitanceFault, OfAValueThatIsNotFiniteIs6)
 {
     auto part = LinearPart();
     part.Data[Value::TemperatureX] = std::numeric_limits<float>::infinity();
-    EXPECT_EQ(ErrorOf([&] { FirstChange(part, 25, CodeView::Eia); }), 6);
+    EXPECT_EQ(ErrorNumberOf([&] { FirstChange(part, 25, CodeView::Eia); }), 6);
     part = LinearPart();
     part.Data[Value::NominalCapacitance] = 3e38F;
     part.Data[Value::TemperatureX] = 10;
-    EXPECT_EQ(ErrorOf([&] { CalcCapDCVoltage(part, 125, Quantity::Capacitance, CodeView::Eia); }), 6);
+    EXPECT_EQ(ErrorNumberOf([&] { CalcCapDCVoltage(part, 125, Quantity::Capacitance, CodeView::Eia); }), 6);
 }
 
 TEST(CapacitanceFault, OfAValueFarBelowZeroIs6)
@@ -320,7 +312,7 @@ TEST(CapacitanceFault, OfAValueFarBelowZeroIs6)
     part.Data[Value::NominalCapacitance] = 3e38F;
     part.Data[Value::TemperatureX] = -10;
     // 125 °C: p = -1000, C = -9·C0
-    EXPECT_EQ(ErrorOf([&] { CalcCapDCVoltage(part, 125, Quantity::Capacitance, CodeView::Eia); }), 6);
+    EXPECT_EQ(ErrorNumberOf([&] { CalcCapDCVoltage(part, 125, Quantity::Capacitance, CodeView::Eia); }), 6);
 }
 
 TEST(CapacitanceFault, IsNotRaisedByTheLargestSingleButByItsLimit)
@@ -335,13 +327,13 @@ TEST(CapacitanceFault, IsNotRaisedByTheLargestSingleButByItsLimit)
     part = LinearPart();
     part.Data[Value::NominalCapacitance] = largest;
     // The axis would end at 4·10^38.
-    EXPECT_EQ(ErrorOf([&] { CalcCapDCVoltage(part, 25, Quantity::Capacitance, CodeView::Eia); }), 6);
+    EXPECT_EQ(ErrorNumberOf([&] { CalcCapDCVoltage(part, 25, Quantity::Capacitance, CodeView::Eia); }), 6);
 }
 
 TEST(CapacitanceFault, IsNotRaisedByCoefficientsOutOfReach)
 {
     auto part = LinearPart();
     part.Data[Value::PeakAmplitude] = std::numeric_limits<float>::quiet_NaN();
-    EXPECT_EQ(ErrorOf([&] { FirstChange(part, 25, CodeView::Jis); }), 0);
+    EXPECT_EQ(ErrorNumberOf([&] { FirstChange(part, 25, CodeView::Jis); }), 0);
 }
 } // namespace

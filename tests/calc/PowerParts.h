@@ -3,7 +3,6 @@
 /// Parts and power models whose loads and rises are easily worked out by hand.
 
 #include "calc/PowerModel.h"
-#include "partdata/RunTimeError.h"
 
 #include <cmath>
 
@@ -30,19 +29,6 @@ inline PowerModel HeatedModel()
 inline PowerModel UnitModel()
 {
     return {.Q1 = 0, .Q2 = 1, .Q3 = 0, .S1 = 1, .S2 = 0, .S3 = 2, .Rref = 50, .Rth = 50};
-}
-
-template <class Action> int ErrorOf(Action action)
-{
-    try
-    {
-        action();
-    }
-    catch (const RunTimeError& error)
-    {
-        return error.Number();
-    }
-    return 0;
 }
 
 inline constexpr double frequencyHz = 1e5;

@@ -2,9 +2,9 @@
 #include "calc/ParameterLimit.h"
 #include "calc/PowerModel.h"
 #include "calc/TemperatureRise.h"
-#include "partdata/RunTimeError.h"
 #include "tests/calc/NamedRow.h"
 #include "tests/calc/PowerParts.h"
+#include "tests/partdata/ErrorOf.h"
 
 #include <algorithm>
 #include <cmath>
@@ -87,25 +87,25 @@ TEST(PowerModel, FaultsAtTheStepThatGoesWrong)
 {
     auto part = HeatedPart();
     part.Data[Value::RatedVoltage] = 0;
-    EXPECT_EQ(ErrorOf([&] { PowerModelOf(part, 0, 20, 50); }), 11);
+    EXPECT_EQ(ErrorNumberOf([&] { PowerModelOf(part, 0, 20, 50); }), 11);
     part = HeatedPart();
     part.Data[Value::Amplitude] = 400;
-    EXPECT_EQ(ErrorOf([&] { PowerModelOf(part, 0, 20, 50); }), 6);
+    EXPECT_EQ(ErrorNumberOf([&] { PowerModelOf(part, 0, 20, 50); }), 6);
     part = HeatedPart();
     part.Data[Value::CurrentT2PerF] = std::numeric_limits<float>::infinity();
-    EXPECT_EQ(ErrorOf([&] { PowerModelOf(part, 0, 20, 50); }), 6);
+    EXPECT_EQ(ErrorNumberOf([&] { PowerModelOf(part, 0, 20, 50); }), 6);
     auto model = UnitModel();
     model.Rref = 0;
-    EXPECT_EQ(ErrorOf([&] { model.kI(frequencyHz); }), 11);
-    EXPECT_EQ(ErrorOf([&] { model.kV(frequencyHz); }), 11);
-    EXPECT_EQ(ErrorOf([&] { UnitModel().kI(0); }), 11);
-    EXPECT_EQ(ErrorOf([&] { UnitModel().kV(0); }), 5);
-    EXPECT_EQ(ErrorOf([&] { UnitModel().kV(-1); }), 5);
+    EXPECT_EQ(ErrorNumberOf([&] { model.kI(frequencyHz); }), 11);
+    EXPECT_EQ(ErrorNumberOf([&] { model.kV(frequencyHz); }), 11);
+    EXPECT_EQ(ErrorNumberOf([&] { UnitModel().kI(0); }), 11);
+    EXPECT_EQ(ErrorNumberOf([&] { UnitModel().kV(0); }), 5);
+    EXPECT_EQ(ErrorNumberOf([&] { UnitModel().kV(-1); }), 5);
     // 5^200·1e200 at 100 kHz, each of which is a number
     model = UnitModel();
     model.S1 = 1e200;
     model.S2 = 200;
-    EXPECT_EQ(ErrorOf([&] { model.kV(frequencyHz); }), 6);
+    EXPECT_EQ(ErrorNumberOf([&] { model.kV(frequencyHz); }), 6);
 }
 
 TEST(PowerModel, HasAVoltageLawFromTheFirstHertzOn)
@@ -178,8 +178,8 @@ TEST(RiseOverLoad, WhoseLoadsNoSingleHoldsIsAnOverflow)
     auto model = UnitModel();
     // (80/1e-80)^½ = 8.9e40 A
     model.Q2 = 1e-80;
-    EXPECT_EQ(ErrorOf([&] { RiseOverLoad(model, 10, frequencyHz, Quantity::Current); }), 6);
-    EXPECT_EQ(ErrorOf([&] { RiseOverFrequency(model, 10, Quantity::Current, 1); }), 6);
+    EXPECT_EQ(ErrorNumberOf([&] { RiseOverLoad(model, 10, frequencyHz, Quantity::Current); }), 6);
+    EXPECT_EQ(ErrorNumberOf([&] { RiseOverFrequency(model, 10, Quantity::Current, 1); }), 6);
 }
 
 TEST(RiseOverLoad, OfApparentPowerFollowsBothLaws)
@@ -220,18 +220,18 @@ TEST(RiseOverLoad, OfEffectivePowerIsALine)
 
 TEST(RiseOverLoad, BearsAnUnusedFrequencyOfZero)
 {
-    EXPECT_EQ(ErrorOf([] { RiseOverLoad(UnitModel(), 10, 0, Quantity::EffectivePower); }), 0);
-    EXPECT_EQ(ErrorOf([] { RiseOverLoad(UnitModel(), 10, 0, Quantity::Current); }), 11);
+    EXPECT_EQ(ErrorNumberOf([] { RiseOverLoad(UnitModel(), 10, 0, Quantity::EffectivePower); }), 0);
+    EXPECT_EQ(ErrorNumberOf([] { RiseOverLoad(UnitModel(), 10, 0, Quantity::Current); }), 11);
 }
 
 TEST(RiseOverLoad, FaultsWhereThePowerHasNoValue)
 {
     auto model = UnitModel();
     model.S3 = -2;
-    EXPECT_EQ(ErrorOf([&] { RiseOverLoad(model, 10, frequencyHz, Quantity::RmsVoltage); }), 5);
-    EXPECT_EQ(ErrorOf([&] { RiseOverLoad(model, 10, frequencyHz, Quantity::ApparentPower); }), 11);
+    EXPECT_EQ(ErrorNumberOf([&] { RiseOverLoad(model, 10, frequencyHz, Quantity::RmsVoltage); }), 5);
+    EXPECT_EQ(ErrorNumberOf([&] { RiseOverLoad(model, 10, frequencyHz, Quantity::ApparentPower); }), 11);
     model.S3 = 0;
-    EXPECT_EQ(ErrorOf([&] { RiseOverLoad(model, 10, frequencyHz, Quantity::ApparentPower); }), 11);
+    EXPECT_EQ(ErrorNumberOf([&] { RiseOverLoad(model, 10, frequencyHz, Quantity::ApparentPower); }), 11);
 }
 
 struct LimitRow
@@ -338,7 +338,7 @@ TEST(RiseOverFrequency, OfARiseThatNoSingleHoldsIsAnOverflow)
     auto model = UnitModel();
     model.S3 = -1;
     // The rise is 1/V.
-    EXPECT_EQ(ErrorOf([&] { RiseOverFrequency(model, 10, Quantity::RmsVoltage, 1e-39F); }), 6);
+    EXPECT_EQ(ErrorNumberOf([&] { RiseOverFrequency(model, 10, Quantity::RmsVoltage, 1e-39F); }), 6);
 }
 
 TEST(RiseOverFrequency, ShowsARiseAsItIsThatNoRoundingLiftsOverTheCeiling)

@@ -1,8 +1,8 @@
 #include "tests/frame/ComdlgFilesTest.h"
 
 #include "frame/clsComdlg.h"
-#include "tests/frame/ErrorOf.h"
 #include "tests/frame/WhenShown.h"
+#include "tests/partdata/ErrorOf.h"
 
 #include <QComboBox>
 #include <QLineEdit>

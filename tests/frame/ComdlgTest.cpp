@@ -2,8 +2,8 @@
 
 #include "frame/clsComdlg.h"
 #include "frame/frmHelp.h"
-#include "tests/frame/ErrorOf.h"
 #include "tests/frame/WhenShown.h"
+#include "tests/partdata/ErrorOf.h"
 
 #include <QColorDialog>
 #include <QFontDatabase>

@@ -1,9 +1,9 @@
 #include "frame/PrintJob.h"
 #include "frame/clsComdlg.h"
 #include "partdata/RunTimeError.h"
-#include "tests/frame/ErrorOf.h"
 #include "tests/frame/printing/PdfText.h"
 #include "tests/frame/printing/SamplePages.h"
+#include "tests/partdata/ErrorOf.h"
 
 #include <QApplication>
 #include <QComboBox>

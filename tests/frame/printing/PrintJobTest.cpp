@@ -1,8 +1,8 @@
 #include "frame/PrintJob.h"
 
 #include "partdata/RunTimeError.h"
-#include "tests/frame/ErrorOf.h"
 #include "tests/frame/printing/PdfText.h"
+#include "tests/partdata/ErrorOf.h"
 
 #include <QDir>
 #include <QFile>

@@ -20,3 +20,10 @@ inline std::optional<RunTimeError> ErrorOf(const std::function<void()>& call)
     }
     return std::nullopt;
 }
+
+/// The number of the error that a call ends with, 0 if none.
+inline int ErrorNumberOf(const std::function<void()>& call)
+{
+    const auto error = ErrorOf(call);
+    return error ? error->Number() : 0;
+}
