@@ -2,10 +2,11 @@
 
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-qpa-plugins libgl-dev
     libcli11-dev nlohmann-json3-dev libgmock-dev fonts-liberation fontconfig)
-test_packages=(clang-format xvfb xdotool xclip poppler-utils cups)
+test_packages=(clang-format xvfb xdotool xclip poppler-utils cups zsh fish)
 fuzz_packages=(clang libclang-rt-dev)
 coverage_packages=(gcovr)
 valgrind_packages=(valgrind)
+package_packages=(debootstrap dpkg-dev file lintian xvfb xdotool)
 tidy_packages=(clang-tidy-22)
 portable_packages=(clang-22 libc++-22-dev libc++abi-22-dev googletest)
 
@@ -19,6 +20,7 @@ need() {
             fuzz) wanted+=("${fuzz_packages[@]}") ;;
             coverage) wanted+=("${coverage_packages[@]}") ;;
             valgrind) wanted+=("${valgrind_packages[@]}") ;;
+            package) wanted+=("${package_packages[@]}") ;;
             tidy) wanted+=("${tidy_packages[@]}") ;;
             portable) wanted+=("${portable_packages[@]}") ;;
         esac
