@@ -6,7 +6,6 @@
 
 #include <array>
 #include <limits>
-#include <utility>
 
 static constexpr const char* lineBreak = "\r\n";
 static constexpr std::string_view ambientName = "Ambient Temperature";
@@ -53,21 +52,24 @@ static std::string Invalid(std::string_view condition, const std::string& permit
     return std::string(condition) + " is invalid!" + lineBreak + "Please enter a Number from " + permitted;
 }
 
-/// Nothing when the entry is a number that the test accepts, else the message.
-template <class Accepts>
-static Refusal Judge(std::string_view entry, EntryLocale locale, Accepts accepts, std::string message)
+/// Nothing when the entry is a number that the test accepts, else the message. Hardly any entry is refused,
+/// and wording a message is most of what judging one would cost.
+template <class Accepts, class Message>
+static Refusal Judge(std::string_view entry, EntryLocale locale, Accepts accepts, Message message)
 {
     const auto value = ReadEntry(entry, locale.CommaIsDecimal);
-    return value && accepts(*value) ? std::nullopt : Refusal(std::move(message));
+    return value && accepts(*value) ? std::nullopt : Refusal(message());
 }
 
 /// Nothing when the entry lies from `lowest` to `highest`, both included.
 static Refusal JudgeRange(std::string_view entry, EntryLocale locale, float lowest, float highest,
                           std::string_view condition, std::string_view unit)
 {
-    const auto permitted = NumberText(lowest) + " to " + NumberText(highest) + std::string(unit);
     return Judge(
-        entry, locale, [=](float v) { return v >= lowest && v <= highest; }, Invalid(condition, permitted));
+        entry, locale, [=](float v) { return v >= lowest && v <= highest; },
+        [&] {
+            return Invalid(condition, NumberText(lowest) + " to " + NumberText(highest) + std::string(unit));
+        });
 }
 
 Refusal RefuseDCBias(std::string_view entry, const PartRecord& part, CodeView, EntryLocale locale)
@@ -80,14 +82,14 @@ Refusal RefuseDCBiasAtRated(std::string_view entry, const PartRecord& part, Code
     const float rated = part.Data[Value::RatedVoltage];
     return Judge(
         entry, locale, [=](float v) { return v >= 0 && v < rated; },
-        Invalid(NameOf(Quantity::DCVoltage), "0 under " + NumberText(rated) + "[V]"));
+        [=] { return Invalid(NameOf(Quantity::DCVoltage), "0 under " + NumberText(rated) + "[V]"); });
 }
 
 Refusal RefuseHeatResistance(std::string_view entry, const PartRecord&, CodeView, EntryLocale locale)
 {
     return Judge(
         entry, locale, [](float v) { return v > 0 && v <= std::numeric_limits<float>::max(); },
-        Invalid(NameOf(Quantity::HeatResistance), "0 [C/W]"));
+        [] { return Invalid(NameOf(Quantity::HeatResistance), "0 [C/W]"); });
 }
 
 Refusal RefuseHeatingAmbient(std::string_view entry, const PartRecord& part, CodeView, EntryLocale locale)
@@ -117,5 +119,5 @@ Refusal RefuseNoNumber(std::string_view entry, const PartRecord&, CodeView, Entr
 {
     return Judge(
         entry, locale, [](float) { return true; },
-        "A Non-numerical value exists where numerical value should be in.");
+        [] { return "A Non-numerical value exists where numerical value should be in."; });
 }
