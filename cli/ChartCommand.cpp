@@ -3,6 +3,7 @@
 #include "chart/drawing/PainterSheet.h"
 #include "cli/Command.h"
 #include "cli/Commands.h"
+#include "cli/FileArguments.h"
 #include "cli/HelpText.h"
 #include "cli/LineOption.h"
 #include "cli/Output.h"
@@ -139,6 +140,7 @@ static void DrawChart(const ChartOptions& options)
     {
         requests.push_back(RequestOfLine(line, options.Common));
     }
+    RefuseInputAsOutput(options.OutputFile, PartFilesOf(PartFolder(options.DataFolder)));
     const auto parts = LoadParts(options.DataFolder);
     const auto bytes = Draw(CurvesOf(requests, parts, options.Settings), options, format);
     Output output(options.OutputFile);

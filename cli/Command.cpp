@@ -1,5 +1,6 @@
 #include "cli/Command.h"
 
+#include "cli/FileArguments.h"
 #include "files/PartFolder.h"
 #include "files/PartLoading.h"
 #include "partdata/RunTimeError.h"
@@ -52,9 +53,9 @@ PartTable LoadParts(const std::string& givenFolder)
 
 void AddDataOption(CLI::App& command, std::string& folder)
 {
-    command
-        .add_option("--data", folder,
-                    "Folder of the part files *.idx and *.dat (left out: the one that TAVIK_DATA names, else "
-                    "the program's own)")
-        ->type_name("FOLDER");
+    TakePair(*command
+                  .add_option("--data", folder,
+                              "Folder of the part files *.idx and *.dat (left out: the one that TAVIK_DATA "
+                              "names, else the program's own)")
+                  ->type_name("FOLDER"));
 }

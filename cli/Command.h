@@ -24,7 +24,7 @@ enum class ExitStatus
 };
 
 /// Ends a command with one line on standard error. Throw it from a command's callback; line breaks in the
-/// message become blanks.
+/// message become blanks. Without a message nothing is said: the command has told all that is wrong.
 class CommandError : public std::runtime_error
 {
 public:

@@ -2,6 +2,7 @@
 
 #include "cli/Command.h"
 #include "cli/Commands.h"
+#include "cli/FileArguments.h"
 #include "cli/HelpText.h"
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
@@ -52,6 +53,9 @@ static void AnswerAll(const CurveOptions& options)
     {
         throw UsageError("--requests is answered in JSON only: leave out --format " + options.Format);
     }
+    auto inputs = PartFilesOf(PartFolder(options.DataFolder));
+    inputs.emplace_back(options.Requests);
+    RefuseInputAsOutput(options.OutputFile, inputs);
     const auto parts = LoadParts(options.DataFolder);
     Output output(options.OutputFile);
     const auto counts = AnswerRequests(options.Requests, options.Request, parts, options.Settings, output);
@@ -70,6 +74,7 @@ static void WriteOne(const CurveOptions& options)
         throw UsageError(options.Request.Part.empty() ? "curve wants a part number, or --requests"
                                                       : "curve wants --chart");
     }
+    RefuseInputAsOutput(options.OutputFile, PartFilesOf(PartFolder(options.DataFolder)));
     const auto parts = LoadParts(options.DataFolder);
     auto settings = options.Settings;
     settings.Date = options.Date ? Windows1252FromUtf8(*options.Date) : TodayInFile();
@@ -91,10 +96,10 @@ void AddCurveCommand(CLI::App& app)
     AddNumberingOption(command, options->Settings);
     AddUncheckedOption(command, options->Settings);
     AddDataOption(command, options->DataFolder);
-    command
-        .add_option("--requests", options->Requests,
-                    "File of requests, one JSON object a line, or - for standard input")
-        ->type_name("FILE|-");
+    TakeInputFile(*command
+                       .add_option("--requests", options->Requests,
+                                   "File of requests, one JSON object a line, or - for standard input")
+                       ->type_name("FILE|-"));
     AddFormatOption(command, options->Format, {CurveFormats().begin(), CurveFormats().end()});
     AddOutputOption(command, options->OutputFile);
     command

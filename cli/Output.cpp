@@ -1,7 +1,9 @@
 #include "cli/Output.h"
 
 #include "cli/Command.h"
+#include "partdata/RunTimeError.h"
 
+#include <cerrno>
 #include <iostream>
 
 Output::Output(const std::string& fileName)
@@ -28,6 +30,10 @@ Output::Output(const std::string& fileName)
 
 static void CheckStandardOutput()
 {
+    if (!std::cout && errno == ENOSPC)
+    {
+        throw RunTimeError(RunTimeErrorNumber::DiskFull).At("standard output");
+    }
     if (!std::cout)
     {
         throw Failure("standard output: cannot be written");
@@ -50,6 +56,7 @@ void Output::Write(std::string_view text)
         }
         return;
     }
+    errno = 0;
     std::cout.write(text.data(), static_cast<std::streamsize>(text.size()));
     CheckStandardOutput();
 }
@@ -58,6 +65,7 @@ void Output::Flush()
 {
     if (!file && !special)
     {
+        errno = 0;
         std::cout.flush();
         CheckStandardOutput();
     }

@@ -19,7 +19,8 @@ public:
     /// Failure for a device.
     explicit Output(const std::string& fileName);
 
-    /// Throws RunTimeError for a file, Failure for anything else, when it cannot be written.
+    /// Throws RunTimeError for a file and for standard output on a full disk, Failure for anything else, when
+    /// it cannot be written.
     void Write(std::string_view text);
     /// Hands over what was written so far to a reader of standard output.
     void Flush();

@@ -2,6 +2,7 @@
 
 #include "cli/Command.h"
 #include "cli/Commands.h"
+#include "cli/FileArguments.h"
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
 #include "requests/PartList.h"
@@ -34,6 +35,7 @@ capacitance is in pF.)";
 
 static void ListParts(const PartsOptions& options)
 {
+    RefuseInputAsOutput(options.OutputFile, PartFilesOf(PartFolder(options.DataFolder)));
     const auto parts = LoadParts(options.DataFolder);
     const auto found = FilterParts(parts, options.Filter);
     Output output(options.OutputFile);

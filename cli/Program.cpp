@@ -13,13 +13,16 @@
 
 static constexpr const char* noOutput = "standard output: cannot be written";
 
-/// One line on standard error, whatever the message holds.
+/// One line on standard error, whatever the message holds; none for an empty one.
 static int End(ExitStatus status, std::string message)
 {
     const auto isControl = [](unsigned char c) { return c < ' ' || c == 0x7F; };
     std::erase(message, '\r');
     std::ranges::replace_if(message, isControl, ' ');
-    std::cerr << "tavik-cli: " << message << '\n';
+    if (!message.empty())
+    {
+        std::cerr << "tavik-cli: " << message << '\n';
+    }
     return static_cast<int>(status);
 }
 

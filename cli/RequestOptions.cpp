@@ -3,6 +3,7 @@
 #include "calc/Bounds.h"
 #include "calc/NumberText.h"
 #include "cli/Command.h"
+#include "cli/FileArguments.h"
 #include "cli/RequestWords.h"
 #include "requests/Names.h"
 
@@ -112,8 +113,8 @@ void AddUncheckedOption(CLI::App& command, CurveSettings& settings)
 
 void AddOutputOption(CLI::App& command, std::string& file)
 {
-    command.add_option("--output", file, "File to write (left out, or -: standard output)")
-        ->type_name("FILE");
+    TakeOutputFile(*command.add_option("--output", file, "File to write (left out, or -: standard output)")
+                        ->type_name("FILE"));
 }
 
 static std::string WithNote(const FormatName& format)

@@ -2,42 +2,69 @@
 
 #include "partdata/RunTimeError.h"
 
-#include <system_error>
+#include <cerrno>
+#include <utility>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 InputFile::InputFile(const std::filesystem::path& path)
-    : name(path.filename().string())
+    : InputFile(path, path.filename().string())
 {
-    std::error_code fault;
-    size = std::filesystem::file_size(path, fault);
-    if (fault == std::errc::no_such_file_or_directory)
+}
+
+InputFile::InputFile(const std::filesystem::path& path, std::string shownName)
+    : name(std::move(shownName))
+{
+    // A pipe without a writer would keep the program waiting; a regular file knows no waiting.
+    handle = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (handle < 0 && errno == ENOENT)
     {
         throw RunTimeError(RunTimeErrorNumber::FileNotFound).At(name);
     }
-    if (!fault)
+    const auto opened = StateOf(handle);
+    if (!opened || !opened->IsRegular)
     {
-        // Both files are read in large pieces, which a buffer would only copy once more.
-        stream.rdbuf()->pubsetbuf(nullptr, 0);
-        stream.open(path, std::ios::binary);
-    }
-    if (!stream.is_open())
-    {
+        if (handle >= 0)
+        {
+            close(handle);
+        }
         throw RunTimeError(RunTimeErrorNumber::PathFileAccessError).At(name);
     }
+    state = *opened;
+}
+
+InputFile::~InputFile()
+{
+    close(handle);
 }
 
 std::size_t InputFile::Read(std::span<char> bytes)
 {
-    stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    if (stream.bad())
+    std::size_t done = 0;
+    while (done < bytes.size())
     {
-        throw RunTimeError(RunTimeErrorNumber::PathFileAccessError).At(name);
+        const auto got = read(handle, bytes.data() + done, bytes.size() - done);
+        if (got == 0)
+        {
+            break;
+        }
+        if (got < 0 && errno != EINTR)
+        {
+            throw RunTimeError(RunTimeErrorNumber::PathFileAccessError).At(name);
+        }
+        done += got < 0 ? 0 : static_cast<std::size_t>(got);
     }
-    return static_cast<std::size_t>(stream.gcount());
+    return done;
 }
 
-std::string ReadBytes(const std::filesystem::path& file, std::uintmax_t most)
+void InputFile::Rewind() const
 {
-    InputFile input(file);
+    lseek(handle, 0, SEEK_SET);
+}
+
+std::string ReadBytes(InputFile& input, std::uintmax_t most)
+{
     if (input.Size() > most)
     {
         throw RunTimeError(RunTimeErrorNumber::Overflow).At(input.Name());
@@ -45,4 +72,10 @@ std::string ReadBytes(const std::filesystem::path& file, std::uintmax_t most)
     std::string bytes(static_cast<std::size_t>(input.Size()), '\0');
     bytes.resize(input.Read({bytes.data(), bytes.size()}));
     return bytes;
+}
+
+std::string ReadBytes(const std::filesystem::path& file, std::uintmax_t most)
+{
+    InputFile input(file);
+    return ReadBytes(input, most);
 }

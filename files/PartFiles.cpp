@@ -1,5 +1,6 @@
 #include "files/PartFiles.h"
 
+#include "files/StagedPair.h"
 #include "partdata/KeyedCollection.h"
 #include "partdata/RunTimeError.h"
 
@@ -32,7 +33,13 @@ static bool EndsIn(std::string_view name, std::string_view extension)
            EqualKeys(name.substr(name.size() - extension.size()), extension);
 }
 
-static bool StandsBefore(std::string_view a, std::string_view b)
+static bool IsFolder(const fs::path& path)
+{
+    std::error_code fault;
+    return fs::is_directory(path, fault);
+}
+
+bool StandsBefore(std::string_view a, std::string_view b)
 {
     if (EqualKeys(a, b))
     {
@@ -50,9 +57,13 @@ std::vector<std::string> NamesOfPartFiles(const std::string& folder, std::string
     for (; !fault && entry != fs::directory_iterator(); entry.increment(fault))
     {
         auto name = entry->path().filename().string();
-        if (EndsIn(name, extension))
+        if (EndsIn(name, extension) && !IsFolder(entry->path()))
         {
             names.push_back(std::move(name));
+        }
+        else if (const auto staged = NameOfStaged(entry->path(), extension); !staged.empty())
+        {
+            names.push_back(staged);
         }
     }
     if (fault && fault != std::errc::no_such_file_or_directory)
@@ -62,6 +73,8 @@ std::vector<std::string> NamesOfPartFiles(const std::string& folder, std::string
             .At(folder);
     }
     std::ranges::sort(names, StandsBefore);
+    const auto twice = std::ranges::unique(names);
+    names.erase(twice.begin(), twice.end());
     return names;
 }
 
@@ -76,10 +89,9 @@ std::string FindPartFile(const std::string& programFolder, std::string_view exte
     return programFolder + PathSepOf(programFolder) + names.front();
 }
 
-static bool IsFolder(const fs::path& path)
+PairPaths PairNamed(const fs::path& name)
 {
-    std::error_code fault;
-    return fs::is_directory(path, fault);
+    return {.Index = fs::path(name) += IndexExtension, .Data = fs::path(name) += DataExtension};
 }
 
 fs::path IndexFileOf(const fs::path& pair)
@@ -95,7 +107,7 @@ fs::path DataFileOf(const fs::path& pair)
     }
     const auto wanted = fs::path(pair).replace_extension(DataExtension);
     std::error_code fault;
-    if (fs::exists(wanted, fault))
+    if (fs::exists(WhereRead(wanted), fault))
     {
         return wanted;
     }

@@ -15,8 +15,13 @@ inline constexpr std::string_view DataExtension = ".dat";
 /// a separator, the third of one that begins with a drive letter, else a slash.
 char PathSepOf(std::string_view programFolder);
 
-/// The names in a folder that end in `extension`, in alphabetical order. Letter case counts neither in the
-/// extension nor in the order, unless names differ in nothing else. Empty for a folder that is not there.
+/// The alphabetical order of part files: letter case counts only where names differ in nothing else.
+bool StandsBefore(std::string_view a, std::string_view b);
+
+/// The names in a folder that end in `extension`, in alphabetical order. Letter case does not count
+/// in the extension. Folders are no part files, whatever their
+/// name; the files of a pair that is being put in place count by the names that they will bear. Empty for a
+/// folder that is not there.
 ///
 /// Throws RunTimeError 70 or 75 when the folder cannot be read.
 std::vector<std::string> NamesOfPartFiles(const std::string& folder, std::string_view extension);
@@ -33,6 +38,9 @@ struct PairPaths
     std::filesystem::path Index;
     std::filesystem::path Data;
 };
+
+/// The two files FOLDER/NAME.idx and FOLDER/NAME.dat of FOLDER/NAME.
+PairPaths PairNamed(const std::filesystem::path& name);
 
 /// The index file of a pair: the first of a folder, in alphabetical order, or the named file itself.
 /// Throws RunTimeError 53 when a folder holds none.

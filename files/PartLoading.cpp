@@ -1,16 +1,12 @@
 #include "files/PartLoading.h"
 
-#include "files/InputFile.h"
 #include "files/PartFiles.h"
 #include "partdata/RunTimeError.h"
 
 #include <new>
-#include <system_error>
-#include <utility>
 
-static IndexSource ReadIndex(const std::filesystem::path& indexFile)
+static IndexSource ReadIndex(InputFile& file)
 {
-    InputFile file(indexFile);
     CheckIndexSize(file.Size(), file.Name());
     const auto size = static_cast<std::size_t>(file.Size());
     IndexSource index = {
@@ -19,35 +15,42 @@ static IndexSource ReadIndex(const std::filesystem::path& indexFile)
     return index;
 }
 
-/// How many records a data file holds; 0 where that is not known.
-static std::size_t DataRecordsOf(const std::filesystem::path& dataFile)
+PartTable ReadPartPair(PairReading& pair)
 {
-    std::error_code fault;
-    const auto size = std::filesystem::file_size(dataFile, fault);
-    return fault ? 0 : static_cast<std::size_t>(size / DataRecordBytes);
+    // A fault of the index is told before one of the data file, which is opened once the names are there.
+    const auto readValues = [&pair](std::span<PartRecord> parts) { ReadPartValues(pair.Data(), parts); };
+    return MakePartTable(ReadIndex(pair.Index()),
+                         static_cast<std::size_t>(pair.DataBytes() / DataRecordBytes), readValues);
 }
 
 PartTable ReadPartPair(const std::filesystem::path& indexFile, const std::filesystem::path& dataFile)
 {
-    // A fault of the index is told before one of the data file, which is opened once the names are there.
-    const auto readValues = [&dataFile](std::span<PartRecord> parts)
-    {
-        InputFile data(dataFile);
-        ReadPartValues(data, parts);
-    };
-    return MakePartTable(ReadIndex(indexFile), DataRecordsOf(dataFile), readValues);
+    PartTable table;
+    ReadSettled(SearchFor(PairPaths{.Index = indexFile, .Data = dataFile}),
+                [&table](PairReading& pair) { table = ReadPartPair(pair); });
+    return table;
 }
 
 PartTable LoadPartData(const std::string& programFolder)
 {
-    const auto indexFile = FindPartFile(programFolder, IndexExtension);
-    const auto dataFile = FindPartFile(programFolder, DataExtension);
+    PartTable table;
+    std::string indexFile;
+    const PairSearch search = {.Index = [&] { return FindPartFile(programFolder, IndexExtension); },
+                               .Data = [&] { return FindPartFile(programFolder, DataExtension); }};
+    const auto read = [&](PairReading& pair)
+    {
+        // That one of the two is missing is told before anything that is wrong with the other.
+        indexFile = pair.IndexPath();
+        pair.DataPath();
+        table = ReadPartPair(pair);
+    };
     try
     {
-        return ReadPartPair(indexFile, dataFile);
+        ReadSettled(search, read);
     }
     catch (const std::bad_alloc&)
     {
         throw RunTimeError(RunTimeErrorNumber::OutOfMemory).At(indexFile);
     }
+    return table;
 }

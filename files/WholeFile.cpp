@@ -1,6 +1,6 @@
 #include "files/WholeFile.h"
 
-#include "partdata/RunTimeError.h"
+#include "files/SystemFault.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -23,31 +23,6 @@ constexpr std::size_t BufferBytes = 64 * 1024;
 constexpr int MostLinks = 40;
 /// Names that are tried for the new file.
 constexpr int MostNames = 100;
-
-RunTimeErrorNumber NumberOf(int fault)
-{
-    switch (fault)
-    {
-    case ENOENT:
-    case ENOTDIR:
-        return RunTimeErrorNumber::PathNotFound;
-    case EACCES:
-    case EPERM:
-    case EROFS:
-        return RunTimeErrorNumber::PermissionDenied;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-        return RunTimeErrorNumber::DiskFull;
-    default:
-        return RunTimeErrorNumber::PathFileAccessError;
-    }
-}
-
-[[noreturn]] void FailWith(int fault, const fs::path& file)
-{
-    throw RunTimeError(NumberOf(fault)).At(file.string());
-}
 
 /// The file that a link leads to, whether it is there or not.
 fs::path BehindLinks(const fs::path& file)
@@ -153,21 +128,27 @@ bool IsSpecialFile(const fs::path& file)
     return IsNoFile(file) && !fs::is_directory(file, fault);
 }
 
+void RequireReplaceable(const fs::path& file)
+{
+    if (IsNoFile(file))
+    {
+        FailWith(EEXIST, file);
+    }
+    // A file in a writable folder can be replaced even if it is write-protected; its owner did not mean that.
+    std::error_code fault;
+    if (fs::exists(file, fault) && access(file.c_str(), W_OK) != 0)
+    {
+        FailWith(errno, file);
+    }
+}
+
 WholeFile::WholeFile(const fs::path& file)
     : name(file)
     , target(BehindLinks(file))
 {
-    if (IsNoFile(target))
-    {
-        Fail(EEXIST);
-    }
+    RequireReplaceable(name);
     struct stat old = {};
     const bool replaces = stat(target.c_str(), &old) == 0;
-    // A file in a writable folder can be replaced even if it is write-protected; its owner did not mean that.
-    if (replaces && access(target.c_str(), W_OK) != 0)
-    {
-        Fail(errno);
-    }
     const mode_t mode = replaces ? 0600 : 0666;
     handle = OpenNameless(target, mode);
     if (handle < 0)

@@ -9,6 +9,10 @@
 /// True for a device, a pipe and the like: there is nothing to put a file in the place of.
 bool IsSpecialFile(const std::filesystem::path& file);
 
+/// Throws RunTimeError, as `WholeFile` does, for what no file may take the place of: 75 for a folder and a
+/// special file, 70 for a write-protected file.
+void RequireReplaceable(const std::filesystem::path& file);
+
 /// A file that is written beside its target and takes the target's place by `Commit`. Until then, and
 /// whatever goes wrong on the way, a file that stood there is as it was; without a commit nothing of the new
 /// one stays, even when the program is killed before the file is finished.

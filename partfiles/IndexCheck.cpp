@@ -6,6 +6,7 @@
 #include "partdata/PartTable.h"
 #include "partdata/RunTimeError.h"
 #include "partdata/Windows1252.h"
+#include "partfiles/SizeNames.h"
 
 #include <algorithm>
 #include <array>
@@ -28,6 +29,17 @@ bool HasLineEnd(std::string_view text)
     return text.find_first_of("\r\n") != std::string_view::npos;
 }
 
+/// A character that has no shape; line breaks are told on their own.
+bool IsControl(char c)
+{
+    constexpr std::string_view Shapeless = "\x81\x8D\x8F\x90\x9D";
+    const bool isControl = static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
+    return (isControl && c != '\r' && c != '\n') || Shapeless.find(c) != std::string_view::npos;
+}
+
+/// What makes a spreadsheet calculate.
+constexpr std::string_view FormulaStarts = "=+@";
+
 /// Judges the records of one index text.
 class IndexJudge
 {
@@ -45,6 +57,8 @@ private:
     void JudgeEnd(const RunTimeError& error);
     void JudgeLayout();
     void JudgeFields(std::size_t record);
+    void JudgeText(std::size_t record, std::size_t field, std::string_view name);
+    void JudgeSizes();
     void JudgeUnique(std::size_t form);
     void JudgePairing(std::size_t eia, std::string_view what);
     bool LiesOffItsLine(std::size_t record) const;
@@ -95,6 +109,7 @@ std::vector<PartRecord> IndexJudge::Read()
     {
         JudgeFields(i);
     }
+    JudgeSizes();
     for (std::size_t form = 0; form < PartNumForms; ++form)
     {
         JudgeUnique(form);
@@ -180,6 +195,7 @@ void IndexJudge::JudgeFields(std::size_t record)
         {
             add("line-break", "a line break within quotes; a quote may be missing");
         }
+        JudgeText(record, i, names[i]);
         if (!IsQuoted(names[i]) && names[i].find('"') != std::string_view::npos)
         {
             add("stray-quote", "a quote within an unquoted field");
@@ -188,6 +204,44 @@ void IndexJudge::JudgeFields(std::size_t record)
         {
             add("separator", "no comma before the field");
         }
+    }
+}
+
+/// What a name does to those who show it: terminals, and spreadsheets.
+void IndexJudge::JudgeText(std::size_t record, std::size_t field, std::string_view name)
+{
+    if (std::ranges::any_of(name, IsControl))
+    {
+        Add(Severity::Warning, "control-character", record + 1, FieldName(field), name,
+            "a control character, which nobody sees");
+    }
+    if (!name.empty() && FormulaStarts.find(name.front()) != std::string_view::npos)
+    {
+        Add(Severity::Warning, "formula", record + 1, FieldName(field), name,
+            "a spreadsheet takes what begins with = + or @ for a formula");
+    }
+}
+
+/// Each pair of size names that is not known is told once: mostly a spreadsheet has taken them for numbers.
+void IndexJudge::JudgeSizes()
+{
+    std::unordered_set<std::string> told;
+    for (std::size_t i = 0; i < parts.size(); ++i)
+    {
+        const auto& [eia, jis] = parts[i].SizeCode;
+        const bool fits = JisSizeOf(eia) == jis;
+        if (fits || eia.empty() || jis.empty() || !told.insert(FoldedKey(eia) + '\0' + FoldedKey(jis)).second)
+        {
+            continue;
+        }
+        const bool isEiaKnown = JisSizeOf(eia).has_value();
+        const auto message = isEiaKnown && EiaSizeOf(jis)
+                                 ? "EIA size " + Shown(eia) + " is " + std::string(*JisSizeOf(eia)) +
+                                       " in JIS, not " + Shown(jis)
+                                 : std::string("no known size of ") + (isEiaKnown ? "JIS" : "EIA") +
+                                       " code; a spreadsheet may have taken it for a number";
+        const auto field = FirstSizeCodeField + (isEiaKnown ? 1 : 0);
+        Add(Severity::Warning, "size", i + 1, FieldName(field), isEiaKnown ? jis : eia, message);
     }
 }
 

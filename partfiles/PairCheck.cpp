@@ -1,7 +1,6 @@
 #include "partfiles/PairCheck.h"
 
-#include "files/InputFile.h"
-#include "files/PartFiles.h"
+#include "files/PairReading.h"
 #include "partdata/DataReader.h"
 #include "partdata/PartTable.h"
 #include "partdata/RunTimeError.h"
@@ -128,7 +127,8 @@ PairReport CheckPair(const NamedBytes& index, const NamedBytes& data)
     return report;
 }
 
-PairReport CheckPair(const fs::path& pair)
+/// One attempt to check a pair.
+static PairReport CheckAttempt(const fs::path& pair, PairReading& reading)
 {
     PairReport report;
     std::string indexText;
@@ -137,9 +137,8 @@ PairReport CheckPair(const fs::path& pair)
     const bool hasIndex = Try(report,
                               [&]
                               {
-                                  const auto indexFile = IndexFileOf(pair);
-                                  report.IndexFile = indexFile.filename().string();
-                                  indexText = ReadBytes(indexFile, MostIndexBytes);
+                                  report.IndexFile = reading.IndexPath().filename().string();
+                                  indexText = ReadBytes(reading.Index(), MostIndexBytes);
                               });
     if (hasIndex)
     {
@@ -148,12 +147,10 @@ PairReport CheckPair(const fs::path& pair)
     Try(report,
         [&]
         {
-            const auto dataFile = DataFileOf(pair);
-            report.DataFile = dataFile.filename().string();
+            report.DataFile = reading.DataPath().filename().string();
             if (hasIndex)
             {
-                InputFile file(dataFile);
-                CheckData(file, file.Size(), parts, report);
+                CheckData(reading.Data(), reading.Data().Size(), parts, report);
             }
         });
     if (std::error_code fault; fs::is_directory(pair, fault))
@@ -162,4 +159,16 @@ PairReport CheckPair(const fs::path& pair)
         Try(report, [&] { CheckFurtherFiles(pair, report.DataFile, DataExtension, report); });
     }
     return report;
+}
+
+PairReport CheckPair(const fs::path& pair)
+{
+    PairReport report;
+    PairReport settled;
+    const bool stoodStill = Try(report,
+                                [&] {
+                                    ReadSettled(SearchFor(pair), [&](PairReading& reading)
+                                                { settled = CheckAttempt(pair, reading); });
+                                });
+    return stoodStill ? settled : report;
 }

@@ -1,123 +1,191 @@
 #include "partfiles/PairReplacement.h"
 
+#include "files/FolderLock.h"
 #include "files/InputFile.h"
-#include "partdata/IndexReader.h"
+#include "files/PartFiles.h"
+#include "files/StagedPair.h"
+#include "files/SystemFault.h"
+#include "files/WholeFile.h"
 #include "partdata/RunTimeError.h"
 
-#include <exception>
-#include <memory>
-#include <optional>
+#include <array>
+#include <cerrno>
 #include <system_error>
 #include <vector>
+
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 
 namespace
 {
-/// Size of the largest file that is kept in memory to be put back, far beyond any of a pair.
-constexpr std::uintmax_t MostReplacedBytes = std::uintmax_t{256} << 20;
+/// Size of the largest file that is copied behind a link, far beyond any of a pair.
+constexpr std::uintmax_t MostCopiedBytes = std::uintmax_t{256} << 20;
 
-std::optional<std::string> BytesIfThere(const fs::path& file)
+fs::path FolderOf(const fs::path& name)
 {
+    return name.has_parent_path() ? name.parent_path() : fs::path(".");
+}
+
+/// One replacement, with the folder locked.
+class Replacement
+{
+public:
+    Replacement(const fs::path& pairName, const BeforeStep& everyStep)
+        : name(pairName)
+        , beforeStep(everyStep)
+        , lock(FolderOf(pairName))
+    {
+    }
+
+    void ClearLeftovers() const;
+    void Write(const PairBytes& pair) const;
+    void MakeItCount() const;
+    /// Moves the files of a pair that counts to their own names.
+    void Finish(const fs::path& pair) const;
+
+private:
+    void WriteFile(const fs::path& file, const fs::path& target, std::string_view bytes) const;
+    void MoveOut(const fs::path& staged, const fs::path& target) const;
+
+    fs::path name;
+    const BeforeStep& beforeStep;
+    FolderLock lock;
+};
+
+/// What is there was left by writers that are dead, since this one has the lock.
+void Replacement::ClearLeftovers() const
+{
+    std::vector<fs::path> entries;
+    for (const auto& entry : fs::directory_iterator(FolderOf(name)))
+    {
+        entries.push_back(entry.path());
+    }
+    for (const auto& entry : entries)
+    {
+        if (!PairOfWriting(entry).empty())
+        {
+            fs::remove_all(entry);
+        }
+        if (!PairOfStaged(entry).empty() && fs::is_directory(fs::symlink_status(entry)))
+        {
+            Finish(PairOfStaged(entry));
+        }
+    }
+}
+
+void Replacement::WriteFile(const fs::path& file, const fs::path& target, std::string_view bytes) const
+{
+    beforeStep();
+    try
+    {
+        WriteWholeFile(file, bytes);
+    }
+    catch (const RunTimeError& error)
+    {
+        throw error.At(target.string());
+    }
     std::error_code fault;
-    return fs::exists(file, fault) ? std::optional(ReadBytes(file, MostReplacedBytes)) : std::nullopt;
+    if (const auto old = fs::status(target, fault); fs::exists(old))
+    {
+        // A file system without rights of its own refuses; all its files have the same.
+        fs::permissions(file, old.permissions() & fs::perms::all, fault);
+    }
 }
 
-/// The names of an index, or nothing when it does not read to its end; the program refuses such a pair.
-std::optional<std::vector<PartNames>> NamesIn(std::string_view indexText)
+void Replacement::Write(const PairBytes& pair) const
 {
-    std::vector<PartNames> names;
-    IndexReader reader(indexText, "");
+    const auto target = PairNamed(name);
+    const auto folder = WritingFolderOf(name);
+    beforeStep();
+    std::error_code fault;
+    if (!fs::create_directory(folder, fault))
+    {
+        FailWith(fault.value(), target.Data);
+    }
     try
     {
-        while (reader.FindRecord())
-        {
-            PartRecord part;
-            reader.ReadRecord(part);
-            names.push_back(NamesOf(part));
-        }
-    }
-    catch (const RunTimeError&)
-    {
-        return std::nullopt;
-    }
-    return names;
-}
-
-/// The index of the parts that both indexes begin with, or nothing when the old index is no more than those
-/// or cannot be read.
-std::optional<std::string> CommonIndex(const std::string& oldIndex, const std::string& newIndex)
-{
-    const auto before = NamesIn(oldIndex);
-    const auto after = NamesIn(newIndex);
-    if (!before || !after)
-    {
-        return std::nullopt;
-    }
-    std::size_t common = 0;
-    while (common < before->size() && common < after->size() && (*before)[common] == (*after)[common])
-    {
-        ++common;
-    }
-    if (common == before->size())
-    {
-        return std::nullopt;
-    }
-    return IndexText(std::span(*before).first(common), "\n");
-}
-
-/// Puts back what stood there; false when that fails too.
-bool PutBack(const fs::path& file, const std::optional<std::string>& bytes)
-{
-    try
-    {
-        if (bytes)
-        {
-            WriteWholeFile(file, *bytes);
-        }
-        else
-        {
-            fs::remove(file);
-        }
-        return true;
-    }
-    catch (const std::exception&)
-    {
-        return false;
-    }
-}
-} // namespace
-
-void ReplacePair(const PairPaths& target, const PairBytes& pair, const Placing& place)
-{
-    const auto oldIndex = BytesIfThere(target.Index);
-    const auto oldData = BytesIfThere(target.Data);
-    const auto common = oldIndex ? CommonIndex(*oldIndex, pair.Index) : std::nullopt;
-
-    const WholeFile data(target.Data, pair.Data);
-    const WholeFile index(target.Index, pair.Index);
-    const auto commonIndex = common ? std::make_unique<WholeFile>(target.Index, *common) : nullptr;
-
-    // No two renamings are one step. Were the data put in place under the old index, the parts behind an
-    // inserted one would show the curves of their neighbours. So the index is first cut down to the parts
-    // that are the same in both; these fit the old data as well as the new, whose surplus is ignored. The
-    // new index comes last, when all its data are there; where there was no index, nothing loads before.
-    try
-    {
-        if (commonIndex)
-        {
-            place(commonIndex->Path(), commonIndex->Target());
-        }
-        place(data.Path(), data.Target());
-        place(index.Path(), index.Target());
+        WriteFile(FileInStage(folder, DataExtension), target.Data, pair.Data);
+        WriteFile(FileInStage(folder, IndexExtension), target.Index, pair.Index);
     }
     catch (...)
     {
-        // Without its data the old index must not come back; the cut one then stays, which is good.
-        if (PutBack(data.Target(), oldData))
-        {
-            PutBack(index.Target(), oldIndex);
-        }
+        fs::remove_all(folder, fault);
         throw;
     }
+}
+
+void Replacement::MakeItCount() const
+{
+    const auto folder = WritingFolderOf(name);
+    std::error_code fault;
+    try
+    {
+        beforeStep();
+        fs::rename(folder, StagedFolderOf(name), fault);
+        if (fault)
+        {
+            FailWith(fault.value(), PairNamed(name).Index);
+        }
+    }
+    catch (...)
+    {
+        fs::remove_all(folder, fault);
+        throw;
+    }
+    lock.Sync();
+}
+
+void Replacement::MoveOut(const fs::path& staged, const fs::path& target) const
+{
+    std::error_code fault;
+    if (!fs::exists(staged, fault))
+    {
+        return;
+    }
+    beforeStep();
+    if (!fs::is_symlink(target, fault))
+    {
+        PutInPlace(staged, target);
+        return;
+    }
+    // The file behind a link may stand on another disk, where nothing can be moved to.
+    WriteWholeFile(target, ReadBytes(staged, MostCopiedBytes));
+    fs::remove(staged);
+}
+
+void Replacement::Finish(const fs::path& pair) const
+{
+    const auto folder = StagedFolderOf(pair);
+    const auto target = PairNamed(pair);
+    MoveOut(FileInStage(folder, DataExtension), target.Data);
+    MoveOut(FileInStage(folder, IndexExtension), target.Index);
+    beforeStep();
+    if (rmdir(folder.c_str()) != 0)
+    {
+        FailWith(errno, folder);
+    }
+    lock.Sync();
+}
+} // namespace
+
+void RequirePairReplaceable(const fs::path& name)
+{
+    const auto target = PairNamed(name);
+    if (access(FolderOf(name).c_str(), W_OK | X_OK) != 0)
+    {
+        FailWith(errno, target.Data);
+    }
+    RequireReplaceable(target.Data);
+    RequireReplaceable(target.Index);
+}
+
+void ReplacePair(const fs::path& name, const PairBytes& pair, const BeforeStep& beforeStep)
+{
+    RequirePairReplaceable(name);
+    const Replacement replacement(name, beforeStep);
+    replacement.ClearLeftovers();
+    replacement.Write(pair);
+    replacement.MakeItCount();
+    replacement.Finish(name);
 }

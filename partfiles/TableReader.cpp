@@ -7,6 +7,7 @@
 #include "partfiles/Finding.h"
 #include "partfiles/PairBytes.h"
 #include "partfiles/TableCells.h"
+#include "partfiles/TableForm.h"
 
 #include <algorithm>
 #include <bit>
@@ -53,6 +54,12 @@ std::optional<std::string> Filled(std::string text)
     return text.empty() ? std::nullopt : std::optional(std::move(text));
 }
 
+/// True for a row that would be whole without its last comma.
+bool EndsInComma(const TableRow& row, std::size_t cells)
+{
+    return row.Cells.size() == cells + 1 && row.Cells.back().empty();
+}
+
 /// Reads one table; each step adds what is wrong to the contents.
 class TableReader
 {
@@ -87,6 +94,11 @@ private:
 TableContents TableReader::Read()
 {
     contents.LineEnd = LineEndOf(text);
+    if (const auto fault = FaultOfForm(text))
+    {
+        Add(fault->Line, "", {}, fault->Message);
+        return std::move(contents);
+    }
     if (!ReadHeadings())
     {
         return std::move(contents);
@@ -125,6 +137,11 @@ bool TableReader::ReadHeadings()
     if (row.Cells.size() > MostHeadings)
     {
         Add(row.Line, "", {}, std::to_string(row.Cells.size()) + " columns: this is no table of parts");
+        return false;
+    }
+    if (EndsInComma(row, TableColumns))
+    {
+        Add(row.Line, "", {}, "a comma ends the line: there is a column without a heading");
         return false;
     }
     for (const auto& heading : row.Cells)
@@ -167,7 +184,8 @@ void TableReader::ReadPart(const TableRow& row)
     if (row.Cells.size() != columns.size())
     {
         Add(row.Line, "", {},
-            std::to_string(row.Cells.size()) + " cells instead of " + std::to_string(columns.size()));
+            std::to_string(row.Cells.size()) + " cells instead of " + std::to_string(columns.size()) +
+                (EndsInComma(row, columns.size()) ? ": a comma ends the line" : ""));
         return;
     }
     TablePart part;

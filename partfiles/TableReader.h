@@ -43,8 +43,9 @@ struct TableContents
     std::vector<TableError> Errors;
 };
 
-/// Reads a table. Columns are known by their headings and may stand in any order; each must stand once. After
-/// 10,000 errors it is not read on.
+/// Reads a table. One that is saved in another form, such as with semicolons or in UTF-16, has one error,
+/// which tells that. Columns are known by their headings and may stand in any order; each must stand once.
+/// After 10,000 errors it is not read on.
 TableContents ReadTable(std::string_view text);
 
 /// One line: "parts.csv: line 17: rated voltage [V]: "6,3": not a number".

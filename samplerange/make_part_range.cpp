@@ -23,7 +23,7 @@ int main(int argc, char** argv)
         const std::filesystem::path to = argv[2];
         const auto parts = MakePartRange(ReadBytes(from / "sizes.csv", MostTableBytes),
                                          ReadBytes(from / "ratings.csv", MostTableBytes));
-        ReplacePair({.Index = to / "halvex.idx", .Data = to / "halvex.dat"}, PairOf(parts));
+        ReplacePair(to / "halvex", PairOf(parts));
         std::cout << parts.size() << " parts\n";
     }
     catch (const std::exception& error)

@@ -30,6 +30,7 @@ CommandRun RunInto(std::streambuf& standardOutput, std::vector<std::string> argu
     catch (const std::exception& error)
     {
         run.Failure = error.what();
+        run.HasFailed = true;
     }
     std::cout.rdbuf(oldOutput);
     std::cerr.rdbuf(oldNotes);

@@ -11,8 +11,9 @@ struct CommandRun
     std::string Output;
     /// Standard error.
     std::string Notes;
-    /// Message of the exception that ended the command; empty when it went well.
+    /// Message of the exception that ended the command; empty when it went well, or when all was told before.
     std::string Failure;
+    bool HasFailed = false;
 };
 
 /// Runs "data" with the arguments.

@@ -325,7 +325,8 @@ void ProgramTest::TellsThatStandardOutputIsFull()
     program.start(CommandLineProgram(), {"curve", medium, "--chart", "capacitance-dc-voltage"});
     QVERIFY(program.waitForFinished(10000));
     QCOMPARE(program.exitCode(), 1);
-    QCOMPARE(program.readAllStandardError(), QByteArray("tavik-cli: standard output: cannot be written\n"));
+    QCOMPARE(program.readAllStandardError(),
+             QByteArray("tavik-cli: Run-time error '61': Disk full: standard output\n"));
 }
 
 void ProgramTest::WritesIntoAPipe()

@@ -105,13 +105,36 @@ TEST(PartFiles, ThatAreMissingAreNotFound)
               "Run-time error '53': File not found: x.idx");
 }
 
-TEST(PartFiles, ThatAreFoldersCannotBeRead)
+TEST(PartFiles, AreNoFolders)
 {
     const TemporaryFolder folder;
-    folder.Write("parts.idx", "");
-    std::filesystem::create_directory(folder.Path() + "/parts.dat");
-    EXPECT_EQ(FaultOf([&] { LoadPartData(folder.Path()); }),
-              "Run-time error '75': Path/File access error: parts.dat");
+    const auto index = folder.Write("parts.idx", "");
+    folder.Write("parts.dat", "");
+    std::filesystem::create_directory(folder.Path() + "/aaa.idx");
+    std::filesystem::create_directory(folder.Path() + "/aaa.dat");
+    std::filesystem::create_directory_symlink(".", folder.Path() + "/aab.idx");
+    EXPECT_EQ(FindPartFile(folder.Path(), ".idx"), index);
+    EXPECT_EQ(LoadPartData(folder.Path()).PartMax, -1);
+    std::filesystem::remove(folder.Path() + "/parts.dat");
+    EXPECT_EQ(FaultOf([&] { LoadPartData(folder.Path()); }), "Run-time error '53': File not found: *.dat");
+    EXPECT_EQ(FaultOf([&] { ReadPartPair(index, folder.Path() + "/aaa.dat"); }),
+              "Run-time error '75': Path/File access error: aaa.dat");
+}
+
+TEST(PartFiles, ThatAreBeingPutInPlaceCountByTheirNames)
+{
+    const TemporaryFolder folder;
+    folder.Write("z.idx", "");
+    std::filesystem::create_directory(folder.Path() + "/.a.new");
+    EXPECT_EQ(NamesOfPartFiles(folder.Path(), ".idx"), std::vector<std::string>{"z.idx"});
+    folder.Write(".a.new/idx", "");
+    EXPECT_EQ(NamesOfPartFiles(folder.Path(), ".idx"), (std::vector<std::string>{"a.idx", "z.idx"}));
+    folder.Write("a.idx", "");
+    EXPECT_EQ(NamesOfPartFiles(folder.Path(), ".idx"), (std::vector<std::string>{"a.idx", "z.idx"}));
+    EXPECT_TRUE(NamesOfPartFiles(folder.Path(), ".dat").empty());
+    std::filesystem::create_directory(folder.Path() + "/.b.writing");
+    folder.Write(".b.writing/dat", "");
+    EXPECT_TRUE(NamesOfPartFiles(folder.Path(), ".dat").empty());
 }
 
 TEST(PartFiles, WhoseBytesCannotBeReadAreNoShortFiles)

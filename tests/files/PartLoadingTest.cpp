@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 namespace
 {
 std::string FaultIn(const TemporaryFolder& folder)
@@ -50,7 +52,7 @@ TEST(PartLoading, TellsAPartNumberThatStandsTwiceOnceTheDataFileIsThere)
 {
     const TemporaryFolder folder;
     folder.Write("parts.idx", "A,B,C,D,1,2,3,4\nA,F,G,H,1,2,3,4\n");
-    std::filesystem::create_directory(folder.Path() + "/parts.dat");
+    ASSERT_EQ(mkfifo((folder.Path() + "/parts.dat").c_str(), 0600), 0);
     EXPECT_EQ(FaultIn(folder), "Run-time error '75': Path/File access error: parts.dat");
     std::filesystem::remove(folder.Path() + "/parts.dat");
     folder.Write("parts.dat", "");
@@ -83,7 +85,7 @@ TEST(PartLoading, RefusesAnIndexOfMoreThan64Mebibytes)
 TEST(PartLoading, TellsAFaultOfTheIndexBeforeOneOfTheDataFile)
 {
     const TemporaryFolder folder;
-    std::filesystem::create_directory(folder.Path() + "/parts.dat");
+    ASSERT_EQ(mkfifo((folder.Path() + "/parts.dat").c_str(), 0600), 0);
     folder.Write("parts.idx", "A,B,C");
     EXPECT_EQ(FaultIn(folder), "Run-time error '62': Input past end of file: parts.idx: record 1: field 4");
     folder.Write("parts.idx", TwoLines);

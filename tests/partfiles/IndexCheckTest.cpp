@@ -90,10 +90,19 @@ INSTANTIATE_TEST_SUITE_P(
         BrokenIndex{"empty field", Replace("\"B3\"", "\"\""), Warning, "empty-field", 2, "PartNum(2)"},
         BrokenIndex{"quote in an unquoted field", Replace("\"B3\"", "B\"3"), Warning, "stray-quote", 2,
                     "PartNum(2)"},
-        BrokenIndex{"EIA size with two JIS sizes", Replace("\"1608\"", "\"1609\"", "\"C4\""), Warning,
-                    "pairing", 3, "SizeCode(1)"},
-        BrokenIndex{"JIS size with two EIA sizes", Replace("\"0603\"", "\"0604\"", "\"C4\""), Warning,
-                    "pairing", 3, "SizeCode(0)"},
+        BrokenIndex{"size that became a number", Replace("\"0402\"", "\"402\""), Warning, "size", 1,
+                    "SizeCode(0)"},
+        BrokenIndex{"size of another JIS name", Replace("\"1005\"", "\"2012\""), Warning, "size", 1,
+                    "SizeCode(1)"},
+        BrokenIndex{"size that JIS does not know", Replace("\"1005\"", "\"1006\""), Warning, "size", 1,
+                    "SizeCode(1)"},
+        BrokenIndex{"control character", Replace("B2", "B\x1B[2J"), Warning, "control-character", 2,
+                    "PartNum(1)"},
+        BrokenIndex{"character of no shape", Replace("B2", "B\x9D"), Warning, "control-character", 2,
+                    "PartNum(1)"},
+        BrokenIndex{"name that is a formula", Replace("C1", "=C1"), Warning, "formula", 3, "PartNum(0)"},
+        BrokenIndex{"name with an at sign before it", Replace("C1", "@C1"), Warning, "formula", 3,
+                    "PartNum(0)"},
         BrokenIndex{"JIS characteristic with two EIA names", Replace("\"F\"", "\"B\""), Warning, "pairing", 3,
                     "Tcc(0)"}),
     RowName<BrokenIndex>);
@@ -114,11 +123,12 @@ TEST(IndexCheck, TellsAMissingFieldWhereTheShiftBegins)
     Replace("\"B1\",", "")(text);
     const auto findings = FindingsIn(text);
     // The second record borrows from the third line, which then ends too early.
-    ASSERT_THAT(findings, testing::SizeIs(2));
+    ASSERT_THAT(findings, testing::SizeIs(3));
     EXPECT_EQ(findings[0].Rule, "index-end");
     EXPECT_EQ(findings[0].Record, 3U);
     EXPECT_EQ(findings[1].Rule, "record-line");
     EXPECT_EQ(findings[1].Record, 2U);
+    EXPECT_EQ(findings[2].Rule, "size");
 }
 
 TEST(IndexCheck, TellsRecordsThatShareALineOnce)
@@ -136,10 +146,33 @@ TEST(IndexCheck, TellsAFurtherPairingOnce)
     auto text = SoundIndex + "\"D1\",\"D2\",\"D3\",\"D4\",\"0603\",\"1609\",\"Y5V\",\"F\"\n";
     Replace("\"1608\"", "\"1609\"", "\"C4\"")(text);
     const auto findings = FindingsIn(text);
+    // One of the two names is no known partner of the other, which is told too.
+    ASSERT_THAT(findings, testing::SizeIs(2));
+    EXPECT_EQ(findings[0].Rule, "size");
+    EXPECT_EQ(findings[1].Rule, "pairing");
+    EXPECT_EQ(findings[1].Record, 3U);
+    EXPECT_EQ(findings[1].Field, "SizeCode(1)");
+    EXPECT_EQ(findings[1].Value, "1609");
+}
+
+TEST(IndexCheck, TellsAJisSizeWithTwoEiaSizes)
+{
+    auto text = SoundIndex;
+    Replace("\"0603\"", "\"0604\"", "\"C4\"")(text);
+    const auto findings = FindingsIn(text);
+    ASSERT_THAT(findings, testing::SizeIs(2));
+    EXPECT_EQ(findings[0].Rule, "size");
+    EXPECT_EQ(findings[1].Rule, "pairing");
+    EXPECT_EQ(findings[1].Field, "SizeCode(0)");
+}
+
+TEST(IndexCheck, TellsWhichSizesDoNotFitEachOtherOnce)
+{
+    auto text = SoundIndex + "\"D1\",\"D2\",\"D3\",\"D4\",\"0402\",\"2012\",\"Y5V\",\"F\"\n";
+    Replace("\"1005\"", "\"2012\"")(text);
+    const auto findings = FindingsIn(text);
     ASSERT_THAT(findings, testing::SizeIs(1));
-    EXPECT_EQ(findings[0].Rule, "pairing");
-    EXPECT_EQ(findings[0].Record, 3U);
-    EXPECT_EQ(findings[0].Value, "1609");
+    EXPECT_EQ(findings[0].Message, "EIA size 0402 is 1005 in JIS, not 2012");
 }
 
 TEST(IndexCheck, GoesOnBehindADuplicate)

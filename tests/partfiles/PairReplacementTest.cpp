@@ -1,17 +1,20 @@
 #include "partfiles/PairReplacement.h"
 
+#include "files/PartFiles.h"
 #include "files/PartLoading.h"
 #include "partdata/RunTimeError.h"
 #include "partfiles/PairBytes.h"
+#include "partfiles/PairCheck.h"
 #include "tests/calc/NamedRow.h"
 #include "tests/partfiles/SmallPair.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <chrono>
 #include <csignal>
-#include <map>
-#include <stdexcept>
+#include <thread>
 
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -47,11 +50,12 @@ Volts PartsIn(const PairPaths& paths)
 }
 
 /// A folder with an old pair that is to be replaced.
-class Replacement
+class PairFolder
 {
 public:
-    Replacement()
-        : paths{folder.Path() + "/p.idx", folder.Path() + "/p.dat"}
+    PairFolder()
+        : name(folder.Path() + "/p")
+        , paths(PairNamed(name))
     {
     }
     void Write(const PairBytes& pair) const
@@ -59,53 +63,70 @@ public:
         folder.Write("p.idx", pair.Index);
         folder.Write("p.dat", pair.Data);
     }
-    std::size_t FileCount() const
+    std::vector<std::string> Files() const
     {
-        const std::filesystem::directory_iterator files(folder.Path());
-        return static_cast<std::size_t>(std::distance(begin(files), end(files)));
+        std::vector<std::string> files;
+        for (const auto& entry : std::filesystem::directory_iterator(folder.Path()))
+        {
+            files.push_back(entry.path().filename().string());
+        }
+        std::ranges::sort(files);
+        return files;
     }
+    std::string Path() const { return folder.Path(); }
+    const std::string& Name() const { return name; }
     const PairPaths& Paths() const { return paths; }
 
 private:
     TemporaryFolder folder;
+    std::string name;
     PairPaths paths;
 };
+
+const std::vector<std::string> PairAlone = {"p.dat", "p.idx"};
 
 struct Change
 {
     std::string Name;
     Volts Old;
     Volts New;
-    /// What both begin with: the least that a reader may see in between.
-    std::size_t Common;
 };
 
 const Volts ThreeParts = {{"A", 10.0F}, {"B", 20.0F}, {"C", 30.0F}};
 
 const std::vector<Change> Changes = {
-    {"part inserted", ThreeParts, {{"A", 10.0F}, {"X", 15.0F}, {"B", 20.0F}, {"C", 30.0F}}, 1},
-    {"part removed", ThreeParts, {{"B", 20.0F}, {"C", 30.0F}}, 0},
-    {"part appended", ThreeParts, {{"A", 10.0F}, {"B", 20.0F}, {"C", 30.0F}, {"D", 40.0F}}, 3},
-    {"last part dropped", ThreeParts, {{"A", 10.0F}, {"B", 20.0F}}, 2},
-    {"only data changed", ThreeParts, {{"A", 11.0F}, {"B", 21.0F}, {"C", 31.0F}}, 3},
-    {"all parts others", ThreeParts, {{"X", 1.0F}, {"Y", 2.0F}}, 0},
-    {"old range empty", {}, ThreeParts, 0},
-    {"new range empty", ThreeParts, {}, 0},
+    {"part inserted", ThreeParts, {{"A", 10.0F}, {"X", 15.0F}, {"B", 20.0F}, {"C", 30.0F}}},
+    {"part removed", ThreeParts, {{"B", 20.0F}, {"C", 30.0F}}},
+    {"part appended", ThreeParts, {{"A", 10.0F}, {"B", 20.0F}, {"C", 30.0F}, {"D", 40.0F}}},
+    {"last part dropped", ThreeParts, {{"A", 10.0F}, {"B", 20.0F}}},
+    {"only data changed", ThreeParts, {{"A", 11.0F}, {"B", 21.0F}, {"C", 31.0F}}},
+    {"all parts others", ThreeParts, {{"X", 1.0F}, {"Y", 2.0F}}},
+    {"old range empty", {}, ThreeParts},
+    {"new range empty", ThreeParts, {}},
 };
 
-/// Every part in the folder has its own data, old or new, and the common parts are there.
-void ExpectGoodPair(const Replacement& replacement, const Change& change)
+/// Steps of a replacement before the new pair counts, and all of them.
+constexpr int StepsBefore = 4;
+constexpr int AllSteps = 7;
+
+/// Throws at one step, counted from 0.
+BeforeStep FailingAt(int failing)
 {
-    const auto parts = PartsIn(replacement.Paths());
-    EXPECT_GE(parts.size(), change.Common);
-    const std::map<std::string, float> before(change.Old.begin(), change.Old.end());
-    const std::map<std::string, float> after(change.New.begin(), change.New.end());
-    for (const auto& [name, volts] : parts)
+    return [failing, step = 0]() mutable
     {
-        const bool isOld = before.contains(name) && before.at(name) == volts;
-        const bool isNew = after.contains(name) && after.at(name) == volts;
-        EXPECT_TRUE(isOld || isNew) << name << " with " << volts;
-    }
+        if (step++ == failing)
+        {
+            throw RunTimeError(RunTimeErrorNumber::DiskFull);
+        }
+    };
+}
+
+/// The whole old range before the deciding step, the whole new one after it.
+void ExpectWhole(const PairFolder& folder, const Change& change, int stepsDone)
+{
+    EXPECT_EQ(PartsIn(folder.Paths()), stepsDone < StepsBefore ? change.Old : change.New)
+        << "after " << stepsDone << " steps";
+    EXPECT_EQ(CheckPair(folder.Path()).Parts, (stepsDone < StepsBefore ? change.Old : change.New).size());
 }
 
 class ReplacementTest : public testing::TestWithParam<Change>
@@ -114,165 +135,156 @@ class ReplacementTest : public testing::TestWithParam<Change>
 
 TEST_P(ReplacementTest, PutsTheNewPairInPlace)
 {
-    const Replacement replacement;
-    replacement.Write(PairOf(GetParam().Old));
-    ReplacePair(replacement.Paths(), PairOf(GetParam().New));
-    EXPECT_EQ(PartsIn(replacement.Paths()), GetParam().New);
-    EXPECT_EQ(replacement.FileCount(), 2U);
+    const PairFolder folder;
+    folder.Write(PairOf(GetParam().Old));
+    ReplacePair(folder.Name(), PairOf(GetParam().New));
+    EXPECT_EQ(PartsIn(folder.Paths()), GetParam().New);
+    EXPECT_EQ(BytesOf(folder.Paths().Index), PairOf(GetParam().New).Index);
+    EXPECT_EQ(BytesOf(folder.Paths().Data), PairOf(GetParam().New).Data);
+    EXPECT_EQ(folder.Files(), PairAlone);
 }
 
-TEST_P(ReplacementTest, ShowsAGoodPairBeforeAndAfterEveryStep)
+TEST_P(ReplacementTest, ShowsTheOldOrTheNewRangeBeforeEveryStep)
 {
-    const Replacement replacement;
-    replacement.Write(PairOf(GetParam().Old));
-    ReplacePair(replacement.Paths(), PairOf(GetParam().New),
-                [&](const auto& finished, const auto& target)
-                {
-                    ExpectGoodPair(replacement, GetParam());
-                    PutInPlace(finished, target);
-                    ExpectGoodPair(replacement, GetParam());
-                });
+    const PairFolder folder;
+    folder.Write(PairOf(GetParam().Old));
+    int steps = 0;
+    ReplacePair(folder.Name(), PairOf(GetParam().New), [&] { ExpectWhole(folder, GetParam(), steps++); });
+    EXPECT_EQ(steps, AllSteps);
 }
 
-TEST_P(ReplacementTest, PutsTheOldPairBackAfterAFaultAtAnyStep)
+TEST_P(ReplacementTest, KeepsTheOldPairAfterAFaultBeforeTheNewOneCounts)
 {
-    const auto old = PairOf(GetParam().Old);
-    int failing = 0;
-    for (bool failed = true; failed; ++failing)
+    for (int failing = 0; failing < StepsBefore; ++failing)
     {
-        const Replacement replacement;
-        replacement.Write(old);
-        int steps = 0;
-        const auto place = [&](const auto& finished, const auto& target)
-        {
-            if (steps++ == failing)
-            {
-                throw RunTimeError(RunTimeErrorNumber::DiskFull);
-            }
-            PutInPlace(finished, target);
-        };
-        try
-        {
-            ReplacePair(replacement.Paths(), PairOf(GetParam().New), place);
-            failed = false;
-        }
-        catch (const RunTimeError&)
-        {
-            EXPECT_EQ(BytesOf(replacement.Paths().Index), old.Index) << "step " << failing;
-            EXPECT_EQ(BytesOf(replacement.Paths().Data), old.Data) << "step " << failing;
-        }
-        EXPECT_EQ(replacement.FileCount(), 2U);
+        const PairFolder folder;
+        folder.Write(PairOf(GetParam().Old));
+        EXPECT_THROW(ReplacePair(folder.Name(), PairOf(GetParam().New), FailingAt(failing)), RunTimeError);
+        EXPECT_EQ(BytesOf(folder.Paths().Index), PairOf(GetParam().Old).Index) << "step " << failing;
+        EXPECT_EQ(BytesOf(folder.Paths().Data), PairOf(GetParam().Old).Data) << "step " << failing;
+        EXPECT_EQ(folder.Files(), PairAlone);
     }
-    // Two steps at least have failed before all went well.
-    EXPECT_GE(failing, 3);
 }
 
-TEST_P(ReplacementTest, LeavesAGoodPairWhenKilledAtAnyStep)
+TEST_P(ReplacementTest, ShowsTheNewPairAfterALaterFaultUntilTheNextWriterFinishesIt)
 {
-    constexpr int MostSteps = 3;
-    for (int fatal = 0; fatal <= MostSteps; ++fatal)
+    for (int failing = StepsBefore; failing < AllSteps; ++failing)
     {
-        const Replacement replacement;
-        replacement.Write(PairOf(GetParam().Old));
+        const PairFolder folder;
+        folder.Write(PairOf(GetParam().Old));
+        EXPECT_THROW(ReplacePair(folder.Name(), PairOf(GetParam().New), FailingAt(failing)), RunTimeError);
+        ExpectWhole(folder, GetParam(), failing);
+        ReplacePair(folder.Path() + "/q", PairOf({{"Q", 1.0F}}));
+        EXPECT_EQ(BytesOf(folder.Paths().Index), PairOf(GetParam().New).Index) << "step " << failing;
+        EXPECT_EQ(BytesOf(folder.Paths().Data), PairOf(GetParam().New).Data) << "step " << failing;
+        EXPECT_EQ(folder.Files(), (std::vector<std::string>{"p.dat", "p.idx", "q.dat", "q.idx"}));
+    }
+}
+
+TEST_P(ReplacementTest, LeavesOneWholePairWhenKilledAtAnyStep)
+{
+    for (int fatal = 0; fatal < AllSteps; ++fatal)
+    {
+        const PairFolder folder;
+        folder.Write(PairOf(GetParam().Old));
         const auto child = fork();
         if (child == 0)
         {
             int steps = 0;
-            ReplacePair(replacement.Paths(), PairOf(GetParam().New),
-                        [&](const auto& finished, const auto& target)
+            ReplacePair(folder.Name(), PairOf(GetParam().New),
+                        [&]
                         {
                             if (steps++ == fatal)
                             {
                                 raise(SIGKILL);
                             }
-                            PutInPlace(finished, target);
                         });
             _exit(0);
         }
         int status = 0;
         ASSERT_EQ(waitpid(child, &status, 0), child);
-        ExpectGoodPair(replacement, GetParam());
-        if (WIFEXITED(status))
-        {
-            EXPECT_EQ(PartsIn(replacement.Paths()), GetParam().New);
-        }
-        else
-        {
-            EXPECT_EQ(WTERMSIG(status), SIGKILL);
-            // Building once more gets there, whatever was left behind.
-            ReplacePair(replacement.Paths(), PairOf(GetParam().New));
-            EXPECT_EQ(PartsIn(replacement.Paths()), GetParam().New);
-        }
+        ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL) << "step " << fatal;
+        ExpectWhole(folder, GetParam(), fatal);
+        // Building once more gets there, and clears whatever was left behind.
+        ReplacePair(folder.Name(), PairOf(GetParam().Old));
+        EXPECT_EQ(PartsIn(folder.Paths()), GetParam().Old);
+        EXPECT_EQ(folder.Files(), PairAlone);
     }
 }
 
 INSTANTIATE_TEST_SUITE_P(Changes, ReplacementTest, testing::ValuesIn(Changes), RowName<Change>);
 
-TEST(PairReplacement, ShowsNoPairBeforeAFirstOneIsWhole)
+TEST(PairReplacement, LetsAFirstPairAppearAtOnceBesideAnother)
 {
-    const Replacement replacement;
-    ReplacePair(replacement.Paths(), PairOf(ThreeParts),
-                [&](const auto& finished, const auto& target)
-                {
-                    EXPECT_FALSE(std::filesystem::exists(replacement.Paths().Index));
-                    PutInPlace(finished, target);
-                });
-    EXPECT_EQ(PartsIn(replacement.Paths()), ThreeParts);
+    const PairFolder folder;
+    folder.Write(PairOf({}));
+    ReplacePair(folder.Path() + "/z", PairOf({{"Z", 5.0F}}));
+    std::filesystem::remove(folder.Paths().Index);
+    std::filesystem::remove(folder.Paths().Data);
+    int steps = 0;
+    const auto expectOne = [&]
+    {
+        const auto table = LoadPartData(folder.Path());
+        ASSERT_FALSE(table.PartData.empty());
+        const bool isNew = steps++ >= StepsBefore;
+        EXPECT_EQ(table.PartData.front().PartNum[0], isNew ? "A" : "Z") << "step " << steps;
+        EXPECT_EQ(table.PartData.front().Data[Value::RatedVoltage], isNew ? 10.0F : 5.0F);
+    };
+    ReplacePair(folder.Name(), PairOf(ThreeParts), expectOne);
+    EXPECT_EQ(steps, AllSteps);
 }
 
 TEST(PairReplacement, LeavesNothingOfAFirstPairThatFails)
 {
-    const Replacement replacement;
-    int steps = 0;
-    EXPECT_THROW(ReplacePair(replacement.Paths(), PairOf(ThreeParts),
-                             [&](const auto& finished, const auto& target)
-                             {
-                                 if (++steps == 2)
-                                 {
-                                     throw RunTimeError(RunTimeErrorNumber::DiskFull);
-                                 }
-                                 PutInPlace(finished, target);
-                             }),
-                 RunTimeError);
-    EXPECT_EQ(replacement.FileCount(), 0U);
+    const PairFolder folder;
+    EXPECT_THROW(ReplacePair(folder.Name(), PairOf(ThreeParts), FailingAt(2)), RunTimeError);
+    EXPECT_TRUE(folder.Files().empty());
 }
 
 TEST(PairReplacement, ReplacesAPairThatCannotBeLoaded)
 {
-    const Replacement replacement;
-    replacement.Write({.Index = "\"A\",\"unclosed", .Data = "x"});
-    ReplacePair(replacement.Paths(), PairOf(ThreeParts));
-    EXPECT_EQ(PartsIn(replacement.Paths()), ThreeParts);
+    const PairFolder folder;
+    folder.Write({.Index = "\"A\",\"unclosed", .Data = "x"});
+    ReplacePair(folder.Name(), PairOf(ThreeParts));
+    EXPECT_EQ(PartsIn(folder.Paths()), ThreeParts);
 }
 
-TEST(PairReplacement, LeavesTheCommonPartsWhereTheOldDataCannotComeBack)
+TEST(PairReplacement, WaitsForAnotherWriterAndLetsItFinish)
 {
-    const Replacement replacement;
-    replacement.Write(PairOf(ThreeParts));
-    const Volts newParts = {{"A", 10.0F}, {"X", 15.0F}, {"B", 20.0F}, {"C", 30.0F}};
-    const auto place = [&](const auto& finished, const auto& target)
-    {
-        PutInPlace(finished, target);
-        if (target == replacement.Paths().Data)
-        {
-            // A pipe of this name keeps any data from coming back.
-            std::filesystem::remove(target);
-            EXPECT_EQ(mkfifo(target.c_str(), 0600), 0);
-            throw RunTimeError(RunTimeErrorNumber::DiskFull);
-        }
-    };
-    EXPECT_THROW(ReplacePair(replacement.Paths(), PairOf(newParts), place), RunTimeError);
-    EXPECT_EQ(BytesOf(replacement.Paths().Index), PairOf({{"A", 10.0F}}).Index);
-    EXPECT_TRUE(std::filesystem::is_fifo(replacement.Paths().Data));
-    EXPECT_EQ(replacement.FileCount(), 2U);
+    const PairFolder folder;
+    std::thread other;
+    ReplacePair(folder.Name(), PairOf(ThreeParts),
+                [&]
+                {
+                    if (!other.joinable())
+                    {
+                        other = std::thread([&] { ReplacePair(folder.Name(), PairOf({{"N", 1.0F}})); });
+                        std::this_thread::sleep_for(std::chrono::milliseconds(30));
+                    }
+                    EXPECT_FALSE(std::filesystem::exists(folder.Paths().Index) &&
+                                 PartsIn(folder.Paths()) == Volts({{"N", 1.0F}}));
+                });
+    other.join();
+    EXPECT_EQ(PartsIn(folder.Paths()), Volts({{"N", 1.0F}}));
+    EXPECT_EQ(folder.Files(), PairAlone);
+}
+
+TEST(PairReplacement, LeavesFilesAloneThatOnlyLookLikeItsOwn)
+{
+    const PairFolder folder;
+    std::ofstream(folder.Path() + "/p.dat.backup") << "mine";
+    std::ofstream(folder.Path() + "/.hidden") << "mine";
+    std::filesystem::create_directory(folder.Path() + "/.new");
+    ReplacePair(folder.Name(), PairOf(ThreeParts));
+    EXPECT_EQ(folder.Files(),
+              (std::vector<std::string>{".hidden", ".new", "p.dat", "p.dat.backup", "p.idx"}));
 }
 
 TEST(PairReplacement, RefusesAFolderThatIsNotThere)
 {
-    const PairPaths paths = {"/nowhere/at/all.idx", "/nowhere/at/all.dat"};
     try
     {
-        ReplacePair(paths, PairOf(ThreeParts));
+        ReplacePair("/nowhere/at/all", PairOf(ThreeParts));
         FAIL() << "no error";
     }
     catch (const RunTimeError& error)
@@ -284,15 +296,19 @@ TEST(PairReplacement, RefusesAFolderThatIsNotThere)
 
 TEST(PairReplacement, KeepsLinksAndRights)
 {
-    const TemporaryFolder folder;
-    folder.Write("real.idx", "");
-    std::filesystem::permissions(folder.Path() + "/real.idx", std::filesystem::perms{0640});
-    std::filesystem::create_symlink("real.idx", folder.Path() + "/p.idx");
-    const PairPaths paths = {folder.Path() + "/p.idx", folder.Path() + "/p.dat"};
-    ReplacePair(paths, PairOf(ThreeParts));
-    EXPECT_TRUE(std::filesystem::is_symlink(paths.Index));
-    EXPECT_EQ(BytesOf(folder.Path() + "/real.idx"), PairOf(ThreeParts).Index);
-    EXPECT_EQ(std::filesystem::status(paths.Index).permissions(), std::filesystem::perms{0640});
+    const TemporaryFolder elsewhere;
+    const auto real = elsewhere.Write("real.idx", "");
+    std::filesystem::permissions(real, std::filesystem::perms{0640});
+    const PairFolder folder;
+    std::filesystem::create_symlink(real, folder.Paths().Index);
+    std::ofstream(folder.Paths().Data) << "";
+    std::filesystem::permissions(folder.Paths().Data, std::filesystem::perms{0600});
+    ReplacePair(folder.Name(), PairOf(ThreeParts));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.Paths().Index));
+    EXPECT_EQ(BytesOf(real), PairOf(ThreeParts).Index);
+    EXPECT_EQ(std::filesystem::status(real).permissions(), std::filesystem::perms{0640});
+    EXPECT_EQ(std::filesystem::status(folder.Paths().Data).permissions(), std::filesystem::perms{0600});
+    EXPECT_EQ(folder.Files(), PairAlone);
 }
 
 TEST(PairReplacement, RefusesAWriteProtectedFile)
@@ -301,21 +317,22 @@ TEST(PairReplacement, RefusesAWriteProtectedFile)
     {
         GTEST_SKIP() << "nothing is write-protected from root";
     }
-    const Replacement replacement;
-    replacement.Write(PairOf(ThreeParts));
-    std::filesystem::permissions(replacement.Paths().Index, std::filesystem::perms{0444});
-    EXPECT_THROW(ReplacePair(replacement.Paths(), PairOf({})), RunTimeError);
-    EXPECT_EQ(PartsIn(replacement.Paths()), ThreeParts);
+    const PairFolder folder;
+    folder.Write(PairOf(ThreeParts));
+    std::filesystem::permissions(folder.Paths().Index, std::filesystem::perms{0444});
+    EXPECT_THROW(ReplacePair(folder.Name(), PairOf({})), RunTimeError);
+    EXPECT_EQ(PartsIn(folder.Paths()), ThreeParts);
 }
 
-TEST(PairReplacement, PutsNoFileInThePlaceOfAPipe)
+TEST(PairReplacement, PutsNoPairInThePlaceOfAPipeOrAFolder)
 {
-    const Replacement replacement;
-    replacement.Write(PairOf(ThreeParts));
-    const std::string pipe = replacement.Paths().Index.string() + ".pipe";
-    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-    EXPECT_THROW(PutInPlace(replacement.Paths().Data, pipe), RunTimeError);
-    EXPECT_TRUE(std::filesystem::is_fifo(pipe));
-    EXPECT_EQ(PartsIn(replacement.Paths()), ThreeParts);
+    const PairFolder folder;
+    ASSERT_EQ(mkfifo(folder.Paths().Data.c_str(), 0600), 0);
+    EXPECT_THROW(ReplacePair(folder.Name(), PairOf(ThreeParts)), RunTimeError);
+    EXPECT_TRUE(std::filesystem::is_fifo(folder.Paths().Data));
+    std::filesystem::remove(folder.Paths().Data);
+    std::filesystem::create_directory(folder.Paths().Index);
+    EXPECT_THROW(ReplacePair(folder.Name(), PairOf(ThreeParts)), RunTimeError);
+    EXPECT_EQ(folder.Files(), std::vector<std::string>{"p.idx"});
 }
 } // namespace

@@ -130,8 +130,10 @@ INSTANTIATE_TEST_SUITE_P(
         BrokenTable{
             "character outside the code page", SecondCell(0, "B\u2126"),
             "line 3: global part number EIA: \"B\u2126\": a character that the index file cannot hold"},
-        BrokenTable{"no UTF-8", SecondCell(0, "B\xB0"),
-                    "line 3: global part number EIA: \"B\xB0\": a character that the index file cannot hold"},
+        BrokenTable{
+            "no UTF-8", SecondCell(0, "B\xB0"),
+            "line 3: a character is not in UTF-8, perhaps in Windows-1252; save the table as comma-separated "
+            "values in UTF-8"},
         BrokenTable{
             "quote and comma in a name", SecondCell(0, "\"B\"\",1\""),
             "line 3: global part number EIA: \"B\",1\": a quote beside a comma, a line break, or at the "

@@ -43,14 +43,15 @@ std::string Lower(std::string text)
     return text;
 }
 
-/// The first name of the folder that ends in the extension.
+/// The first name of the folder that ends in the extension and is no folder itself.
 std::string FirstName(const fs::path& folder, const std::string& extension)
 {
     std::map<std::pair<std::string, std::string>, int> sorted;
     for (const auto& entry : fs::directory_iterator(folder))
     {
         const auto name = entry.path().filename().string();
-        if (Lower(name).ends_with(extension))
+        std::error_code fault;
+        if (Lower(name).ends_with(extension) && !fs::is_directory(entry.path(), fault))
         {
             sorted[{Lower(name), name}] = 0;
         }

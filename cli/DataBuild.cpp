@@ -1,0 +1,120 @@
+#include "cli/DataBuild.h"
+
+#include "cli/Command.h"
+#include "cli/FileArguments.h"
+#include "files/InputFile.h"
+#include "files/PartLoading.h"
+#include "partdata/RunTimeError.h"
+#include "partfiles/PairCheck.h"
+#include "partfiles/PairReplacement.h"
+#include "partfiles/TablePair.h"
+#include "partfiles/TableReader.h"
+
+#include <iostream>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+std::string ReadStandardInput(std::uintmax_t most)
+{
+    std::string text;
+    std::string piece(std::size_t{64} * 1024, '\0');
+    while (std::cin.read(piece.data(), static_cast<std::streamsize>(piece.size())) || std::cin.gcount() > 0)
+    {
+        text.append(piece, 0, static_cast<std::size_t>(std::cin.gcount()));
+        if (text.size() > most)
+        {
+            throw RunTimeError(RunTimeErrorNumber::Overflow).At("standard input");
+        }
+    }
+    if (std::cin.bad())
+    {
+        throw Failure("standard input: cannot be read");
+    }
+    return text;
+}
+
+/// The table without faults.
+TableContents TableOf(const std::string& file)
+{
+    const bool isStream = file == StandardStream;
+    auto table = ReadTable(isStream ? ReadStandardInput(MostTableBytes) : ReadBytes(file, MostTableBytes));
+    if (table.Errors.empty())
+    {
+        return table;
+    }
+    for (const auto& error : table.Errors)
+    {
+        std::cerr << LineOf(error, isStream ? "standard input" : file) << '\n';
+    }
+    throw Failure("");
+}
+
+/// FOLDER/NAME without the extension that may have been typed.
+fs::path NameOfPair(fs::path output)
+{
+    const auto extension = output.extension();
+    return extension == IndexExtension || extension == DataExtension ? output.replace_extension() : output;
+}
+
+/// Parts of the pair that stands there; 0 where there is none that can be loaded.
+std::size_t PartsIn(const PairPaths& pair)
+{
+    try
+    {
+        return ReadPartPair(pair.Index, pair.Data).PartData.size();
+    }
+    catch (const RunTimeError&)
+    {
+        return 0;
+    }
+}
+
+/// Tells that the folder's pair is another one.
+void TellEarlierFile(const fs::path& file)
+{
+    const auto folder = file.has_parent_path() ? file.parent_path() : fs::path(".");
+    const auto names = NamesOfPartFiles(folder.string(), file.extension().string());
+    const auto own = file.filename().string();
+    if (!names.empty() && StandsBefore(names.front(), own))
+    {
+        std::cerr << own << ": note: " << names.front() << " comes first in " << folder.string()
+                  << " and is loaded instead\n";
+    }
+}
+
+std::string LastLineOf(std::string text)
+{
+    text.pop_back();
+    return text.substr(text.rfind('\n') + 1) + '\n';
+}
+} // namespace
+
+void BuildPair(const BuildOptions& options)
+{
+    const auto name = NameOfPair(options.Output);
+    const auto target = PairNamed(name);
+    RefuseInputAsOutput(target.Index.string(), {options.Table});
+    RefuseInputAsOutput(target.Data.string(), {options.Table});
+    const auto table = TableOf(options.Table);
+    if (table.Parts.empty() && !options.Force)
+    {
+        throw Failure(options.Table + ": has no parts; --force builds a range without any");
+    }
+    const auto pair = PairOf(table);
+    const auto before = PartsIn(target);
+    if (options.DryRun)
+    {
+        RequirePairReplaceable(name);
+    }
+    else
+    {
+        ReplacePair(name, pair);
+    }
+    TellEarlierFile(target.Index);
+    TellEarlierFile(target.Data);
+    std::cerr << Counted(before, "part") << ", " << table.Parts.size() << " after it\n"
+              << LastLineOf(TextOf(CheckPair({.Name = target.Index.filename().string(), .Bytes = pair.Index},
+                                             {.Name = target.Data.filename().string(), .Bytes = pair.Data})));
+}

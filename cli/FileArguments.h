@@ -1,0 +1,33 @@
+#pragma once
+
+/// The names of files and folders on a command line: which are taken, and which make no sense.
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace CLI
+{
+class App;
+class Option;
+} // namespace CLI
+
+/// Reads what the commands take and write: "-" is standard input or standard output.
+inline constexpr const char* StandardStream = "-";
+
+/// Refuses an empty name.
+void TakeInputFile(CLI::Option& option);
+/// Refuses an empty name and "-": a pair of files comes from no stream.
+void TakePair(CLI::Option& option);
+/// Refuses what can only be a folder: an empty name, one that ends in a slash, "." or "..", and a folder that
+/// is there. "-" is taken.
+void TakeOutputFile(CLI::Option& option);
+/// As above, and refuses "-".
+void TakeOutputPair(CLI::Option& option);
+
+/// Throws Failure where an output, "-" or left out for standard output, is one of the files that the command
+/// reads.
+void RefuseInputAsOutput(const std::string& output, const std::vector<std::filesystem::path>& inputs);
+
+/// The files of a pair, a folder or an index file, as far as they are there.
+std::vector<std::filesystem::path> PartFilesOf(const std::string& pair);
