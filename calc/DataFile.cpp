@@ -5,6 +5,8 @@
 #include "calc/NumberText.h"
 #include "calc/ProgramTitle.h"
 #include "calc/Quantities.h"
+#include "partdata/OneLine.h"
+#include "partdata/Windows1252.h"
 
 static constexpr std::string_view ColumnGap = "            ";
 static constexpr std::string_view LineEnd = "\r\n";
@@ -27,6 +29,12 @@ template <class... Pieces> static void AddLine(std::string& text, const Pieces&.
     text.append(LineEnd);
 }
 
+/// A text from elsewhere that stays on its line.
+static std::string Kept(std::string_view ansi)
+{
+    return Windows1252FromUtf8(WithoutControls(Utf8FromWindows1252(ansi)));
+}
+
 std::string DataFileText(const ChartRecord& line, const PartRecord& part, CodeView view,
                          std::string_view date)
 {
@@ -34,9 +42,10 @@ std::string DataFileText(const ChartRecord& line, const PartRecord& part, CodeVi
     const auto conditions = ConditionLines(line);
     const auto code = static_cast<std::size_t>(view);
     std::string text;
-    AddLine(text, "!", ProgramTitleText, "  ", date);
+    AddLine(text, "!", ProgramTitleText, "  ", Kept(date));
     AddLine(text, "!ChartType-> ", ChartKindOf(line.ChartType).Caption);
-    AddLine(text, "!Halvex Part Number-> ", part.PartNum[code], " (", part.PartNum[code + 2], ")");
+    AddLine(text, "!Halvex Part Number-> ", Kept(part.PartNum[code]), " (", Kept(part.PartNum[code + 2]),
+            ")");
     for (const ConditionLine& condition : conditions)
     {
         AddLine(text, "!", condition.Name, "-> ", condition.Value, " ", condition.Unit);

@@ -10,7 +10,7 @@
 
 /// The whole text of a data file in the Windows-1252 code page, lines ended by carriage return and line feed:
 /// title, chart type, part numbers, conditions, the column heading, and 200 lines of X and Y. An X of
-/// frequency is in kHz.
+/// frequency is in kHz. Control characters of part numbers are written as "\x0A".
 ///
 /// @param line a line with its curve
 /// @param view the naming of the part numbers

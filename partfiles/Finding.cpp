@@ -12,7 +12,7 @@ namespace
 /// The place: file, record and part number, as far as they are known.
 std::string PlaceOf(const Finding& finding)
 {
-    std::string place = finding.File;
+    std::string place = WithoutControls(finding.File);
     if (finding.Record != 0)
     {
         place += ": record " + std::to_string(finding.Record);

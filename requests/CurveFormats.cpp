@@ -4,6 +4,7 @@
 #include "calc/ConditionLines.h"
 #include "calc/DataFile.h"
 #include "calc/NumberText.h"
+#include "partdata/OneLine.h"
 #include "requests/CurveJson.h"
 #include "requests/UnitEntry.h"
 
@@ -19,7 +20,7 @@ static std::string DataFile(const RequestedCurve& curve, const CurveSettings& se
 static std::string Csv(const RequestedCurve& curve, const CurveSettings& settings)
 {
     const ChartRecord& line = curve.Line;
-    std::string text = "# part: " + ShownPartNum(*curve.Part, curve.Code, settings) + '\n';
+    std::string text = "# part: " + WithoutControls(ShownPartNum(*curve.Part, curve.Code, settings)) + '\n';
     text.append("# chart: ").append(ChartKindOf(line.ChartType).Caption).append("\n");
     for (const ConditionLine& condition : ConditionLines(line))
     {

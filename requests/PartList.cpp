@@ -3,6 +3,7 @@
 #include "calc/ChartKinds.h"
 #include "calc/NumberText.h"
 #include "partdata/KeyedCollection.h"
+#include "partdata/OneLine.h"
 #include "partdata/Windows1252.h"
 
 #include <nlohmann/json.hpp>
@@ -98,6 +99,16 @@ static std::size_t WidthOf(const std::string& text)
     return static_cast<std::size_t>(std::ranges::count_if(text, [](char c) { return (c & 0xC0) != 0x80; }));
 }
 
+/// The rows with each text on one line.
+static std::vector<Row> OnOneLine(std::vector<Row> rows)
+{
+    for (Row& row : rows)
+    {
+        std::ranges::transform(row, row.begin(), WithoutControls);
+    }
+    return rows;
+}
+
 /// Columns as wide as their widest text; numbers stand to the right.
 static std::string TableOf(const std::vector<Row>& rows)
 {
@@ -190,8 +201,8 @@ static std::vector<Row> RowsOf(const Row& headings, const std::vector<const Part
 static std::string Table(const std::vector<const PartRecord*>& parts, CodeView code,
                          const CurveSettings& settings)
 {
-    return TableOf(
-        RowsOf({"PART", "SIZE", "TCC", "CAPACITANCE[pF]", "RATED[V]", "CHARTS"}, parts, code, settings));
+    return TableOf(OnOneLine(
+        RowsOf({"PART", "SIZE", "TCC", "CAPACITANCE[pF]", "RATED[V]", "CHARTS"}, parts, code, settings)));
 }
 
 static std::string Csv(const std::vector<const PartRecord*>& parts, CodeView code,

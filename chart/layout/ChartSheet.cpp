@@ -2,6 +2,7 @@
 
 #include "chart/layout/ChartDrawing.h"
 #include "chart/layout/PaneText.h"
+#include "partdata/OneLine.h"
 
 static constexpr Box chartPlace = {0, 4, chartSurfaceWidth, chartSurfaceHeight};
 static constexpr Color paneFrameColor = {184, 184, 184};
@@ -29,7 +30,8 @@ static void FillPane(int index, const std::string& partNum, const std::string& c
 {
     const auto frame = PaneFrame(index);
     const auto color = GetPaneColor(index);
-    sheet.Text({frame.Left + 8, frame.Top + 9, 143, 17}, partNum, color);
+    // A pane has room for one line, and a file of a picture for no control characters.
+    sheet.Text({frame.Left + 8, frame.Top + 9, 143, 17}, WithoutControls(partNum), color);
     sheet.Text({frame.Left + 152, frame.Top + 9, 177, 17}, conditions, color);
 }
 

@@ -94,6 +94,18 @@ TEST(DataFile, NamesThePartInTheCodeOnDisplay)
     EXPECT_NE(file.find("!Halvex Part Number-> GLOBAL-JIS (PREVIOUS-JIS)\r\n"), std::string::npos);
 }
 
+TEST(DataFile, KeepsAPartNumberOnItsLine)
+{
+    auto part = NamedPart();
+    part.PartNum[0] = "A\r\n1.00E+00            9.99E+99\x1B[2J";
+    part.PartNum[2] = "\xB5\x90";
+    const auto file = DataFileText(Line(2, "Temperature", "Capacitance"), part, CodeView::Eia, "1\n2");
+    EXPECT_NE(file.find("Library  1\\x0A2\r\n"), std::string::npos);
+    EXPECT_NE(
+        file.find("!Halvex Part Number-> A\\x0D\\x0A1.00E+00            9.99E+99\\x1B[2J (\xB5\\x90)\r\n"),
+        std::string::npos);
+}
+
 TEST(DataFile, OfNoChartTypeIsAnError)
 {
     for (const std::int16_t type : {std::int16_t{-1}, std::int16_t{4}})

@@ -58,6 +58,13 @@ TEST(Finding, IsOneLineWithItsPlace)
         "1 part, 1 error, 1 warning\n");
 }
 
+TEST(Finding, StaysOnItsLineWhateverTheFileIsCalled)
+{
+    PairReport report;
+    report.Findings = {{.Rule = "surplus", .File = "a\nb\x1B.dat", .Message = "1 bytes behind"}};
+    EXPECT_TRUE(TextOf(report).starts_with("a\\x0Ab\\x1B.dat: error: 1 bytes behind [surplus]\n"));
+}
+
 TEST(Finding, IsAnObjectWithoutEmptyMembers)
 {
     const std::string expected = R"json({

@@ -55,4 +55,16 @@ TEST(CurveFormats, TellConditionsHeadingAndAllPointsInCsv)
     EXPECT_EQ(std::ranges::count(text, '\n'), 204);
     EXPECT_NE(text.find("\n25,"), std::string::npos);
 }
+
+TEST(CurveFormats, KeepAPartNumberInItsCommentOfCsv)
+{
+    auto curve = BiasCurve();
+    PartRecord part = *curve.Part;
+    part.PartNum[0] = "A\n1,2\x1B";
+    curve.Part = &part;
+    const auto text = FormatNamed(CurveFormats(), "csv").Write(curve, {});
+    EXPECT_TRUE(text.starts_with("# part: A\\x0A1,2\\x1B\n# chart: "));
+    EXPECT_EQ(nlohmann::json::parse(FormatNamed(CurveFormats(), "json").Write(curve, {})).at("part"),
+              "A\n1,2\x1B");
+}
 } // namespace

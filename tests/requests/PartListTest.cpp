@@ -82,6 +82,20 @@ TEST(PartList, IsWrittenInTheNamingAskedFor)
         "OLD-2  3216  R            4700000        25  capacitance-temperature capacitance-dc-voltage\n");
 }
 
+TEST(PartList, KeepsEveryPartOnItsLineOfTheTable)
+{
+    Range range;
+    range.Add({"GH\n1", "", "", ""}, {"0402", ""}, {"X5R\x1B[2J", ""}, 100, 25, 3);
+    const auto parts = FilterParts(range.Table, {.Text = "GH"});
+    EXPECT_EQ(ListText(parts, "table", CodeView::Eia, {}),
+              "PART     SIZE  TCC         CAPACITANCE[pF]  RATED[V]  CHARTS\n"
+              "GH\\x0A1  0402  X5R\\x1B[2J              100        25  capacitance-temperature "
+              "capacitance-dc-voltage\n");
+    // What is quoted, or written as an escape, is the part's own text.
+    EXPECT_NE(ListText(parts, "csv", CodeView::Eia, {}).find("\n\"GH\n1\",0402,X5R\x1B[2J,"),
+              std::string::npos);
+}
+
 TEST(PartList, QuotesWhatCsvNeedsQuoted)
 {
     const Range range;
