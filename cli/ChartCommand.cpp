@@ -9,6 +9,7 @@
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
 #include "cli/SheetPicture.h"
+#include "cli/Terminal.h"
 #include "formkit/Fonts.h"
 #include "requests/ChartLines.h"
 #include "requests/Names.h"
@@ -57,6 +58,13 @@ static std::string Help()
                    ListOf(ConditionOptionNames()) + ", and " + ChoiceOf(ParameterRequestNames()) +
                    " for a temperature rise over frequency. All other conditions are those of the "
                    "options.");
+}
+
+/// True where a picture that is no text would be written to a terminal.
+static bool IsForTerminal(const ChartOptions& options, const PictureFormat& format)
+{
+    const bool isStandardOutput = options.OutputFile.empty() || options.OutputFile == "-";
+    return isStandardOutput && format.Name != "svg" && IsTerminal(Stream::Output);
 }
 
 /// The format that --format names, or else the one that the file is named for: "rise.PNG".
@@ -130,6 +138,10 @@ static void DrawChart(const ChartOptions& options)
         throw UsageError("chart wants a part number or a --line");
     }
     const auto& format = FormatOf(options);
+    if (IsForTerminal(options, format))
+    {
+        throw UsageError("a picture is not for a terminal; name a file with --output");
+    }
     std::vector<CurveRequest> requests;
     for (const auto& part : options.Parts)
     {

@@ -1,6 +1,7 @@
 #include "cli/Output.h"
 
 #include "cli/Command.h"
+#include "cli/Terminal.h"
 #include "partdata/RunTimeError.h"
 
 #include <cerrno>
@@ -57,7 +58,7 @@ void Output::Write(std::string_view text)
         return;
     }
     errno = 0;
-    std::cout.write(text.data(), static_cast<std::streamsize>(text.size()));
+    WriteToStandardOutput(text);
     CheckStandardOutput();
 }
 

@@ -11,7 +11,7 @@
 #include <string_view>
 
 /// Results in order. A file takes its place at `Finish`; without it a file that stood there is as it was. A
-/// device or pipe gets them as they come.
+/// device or pipe gets them as they come, and a terminal without commands to it.
 class Output
 {
 public:

@@ -3,6 +3,7 @@
 #include "cli/Command.h"
 #include "cli/Commands.h"
 #include "cli/RequestWords.h"
+#include "partdata/OneLine.h"
 
 #include <CLI/CLI.hpp>
 
@@ -16,12 +17,11 @@ static constexpr const char* noOutput = "standard output: cannot be written";
 /// One line on standard error, whatever the message holds; none for an empty one.
 static int End(ExitStatus status, std::string message)
 {
-    const auto isControl = [](unsigned char c) { return c < ' ' || c == 0x7F; };
     std::erase(message, '\r');
-    std::ranges::replace_if(message, isControl, ' ');
+    std::ranges::replace(message, '\n', ' ');
     if (!message.empty())
     {
-        std::cerr << "tavik-cli: " << message << '\n';
+        std::cerr << "tavik-cli: " << WithoutControls(message) << '\n';
     }
     return static_cast<int>(status);
 }

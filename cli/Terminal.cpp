@@ -1,5 +1,10 @@
 #include "cli/Terminal.h"
 
+#include "partdata/OneLine.h"
+
+#include <algorithm>
+#include <iostream>
+
 #ifdef _WIN32
 #include <io.h>
 #else
@@ -13,4 +18,38 @@ bool IsTerminal(Stream stream)
 #else
     return isatty(static_cast<int>(stream)) != 0;
 #endif
+}
+
+/// Takes a line off a text, without its end.
+static std::string_view TakeLine(std::string_view& text, std::string_view& lineEnd)
+{
+    const auto length = std::min(text.find('\n'), text.size());
+    const bool hasReturn = length > 0 && length < text.size() && text[length - 1] == '\r';
+    const auto line = text.substr(0, hasReturn ? length - 1 : length);
+    text.remove_prefix(line.size());
+    lineEnd = text.substr(0, hasReturn ? 2 : 1);
+    text.remove_prefix(lineEnd.size());
+    return line;
+}
+
+std::string TextForTerminal(std::string_view text)
+{
+    std::string shown;
+    while (!text.empty())
+    {
+        std::string_view lineEnd;
+        shown += WithoutControls(TakeLine(text, lineEnd));
+        shown += lineEnd;
+    }
+    return shown;
+}
+
+void WriteToStandardOutput(std::string_view text)
+{
+    if (IsTerminal(Stream::Output))
+    {
+        std::cout << TextForTerminal(text);
+        return;
+    }
+    std::cout.write(text.data(), static_cast<std::streamsize>(text.size()));
 }

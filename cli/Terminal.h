@@ -1,6 +1,9 @@
 #pragma once
 
-/// Whether people or programs are at the other end of a stream.
+/// Whether people or programs are at the other end of a stream, and what people are shown.
+
+#include <string>
+#include <string_view>
 
 enum class Stream
 {
@@ -10,3 +13,11 @@ enum class Stream
 
 /// True when the stream is shown on a terminal.
 bool IsTerminal(Stream stream);
+
+/// A text as a terminal shows it without obeying it: whatever is no line end and no character of UTF-8 that
+/// can be seen is written as "\x1B".
+std::string TextForTerminal(std::string_view text);
+
+/// Writes to standard output, byte by byte as it is, and to a terminal as `TextForTerminal` has it. The state
+/// of `std::cout` tells whether that went well.
+void WriteToStandardOutput(std::string_view text);

@@ -2,15 +2,14 @@
 
 #include "cli/Progress.h"
 
+#include "tests/cli/PseudoTerminal.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
-#include <cstdlib>
 #include <iostream>
 #include <thread>
 
-#include <fcntl.h>
-#include <poll.h>
 #include <unistd.h>
 
 namespace
@@ -39,52 +38,6 @@ private:
     int former;
 };
 
-/// A terminal without a screen, and what is written to it.
-class Terminal
-{
-public:
-    Terminal()
-        : screen(posix_openpt(O_RDWR | O_NOCTTY))
-    {
-        EXPECT_GE(screen, 0);
-        EXPECT_EQ(grantpt(screen), 0);
-        EXPECT_EQ(unlockpt(screen), 0);
-        line = open(ptsname(screen), O_RDWR | O_NOCTTY);
-        EXPECT_GE(line, 0);
-    }
-    ~Terminal()
-    {
-        close(line);
-        close(screen);
-    }
-    Terminal(const Terminal&) = delete;
-    Terminal& operator=(const Terminal&) = delete;
-
-    int Line() const { return line; }
-
-    /// What has been written since the last call.
-    std::string Shown() const
-    {
-        std::string shown;
-        std::array<char, 4096> buffer;
-        pollfd waiting{.fd = screen, .events = POLLIN, .revents = 0};
-        while (poll(&waiting, 1, 50) > 0)
-        {
-            const auto got = read(screen, buffer.data(), buffer.size());
-            if (got <= 0)
-            {
-                break;
-            }
-            shown.append(buffer.data(), static_cast<std::size_t>(got));
-        }
-        return shown;
-    }
-
-private:
-    int screen;
-    int line = -1;
-};
-
 void WaitOutThePatience()
 {
     std::this_thread::sleep_for(milliseconds(550));
@@ -92,7 +45,7 @@ void WaitOutThePatience()
 
 TEST(Progress, ShowsABarOnATerminalOnceWorkTakesLongAndTakesItAway)
 {
-    const Terminal terminal;
+    const PseudoTerminal terminal;
     {
         const ErrorStreamOn errors(terminal.Line());
         Progress progress("curves", 200);
@@ -111,7 +64,7 @@ TEST(Progress, ShowsABarOnATerminalOnceWorkTakesLongAndTakesItAway)
 
 TEST(Progress, IsTakenAwayOnceWhereItMoves)
 {
-    const Terminal terminal;
+    const PseudoTerminal terminal;
     {
         const ErrorStreamOn errors(terminal.Line());
         Progress first("curves", 4);
@@ -125,7 +78,7 @@ TEST(Progress, IsTakenAwayOnceWhereItMoves)
 
 TEST(Progress, ShowsNothingOfWorkOfUnknownAmount)
 {
-    const Terminal terminal;
+    const PseudoTerminal terminal;
     {
         const ErrorStreamOn errors(terminal.Line());
         Progress progress("curves", 0);
