@@ -3,6 +3,7 @@
 /// The main window: the selection form, the chart windows, and the menus over both.
 
 #include "chart/ChartHost.h"
+#include "formkit/PlainTexts.h"
 #include "frame/PrintJob.h"
 #include "selection/frmLibrary.h"
 
@@ -77,6 +78,7 @@ private:
     QPrinter& Printer();
     void PrintWithNotice(const DrawPage& drawPage);
 
+    PlainTexts plainTexts;
     std::unique_ptr<Ui::frmMain> ui;
     frmLibrary* library;
     /// The loaded forms in the order of loading: this window, the selection form, then chart windows.
