@@ -1,6 +1,7 @@
 #include "frame/PrintJob.h"
 
 #include "files/WholeFile.h"
+#include "frame/FileNames.h"
 #include "partdata/RunTimeError.h"
 
 #include <QFile>
@@ -139,6 +140,10 @@ bool DrawOn(QPrinter& printer, const DrawPage& drawPage, const PageArea& area)
 void PrintFile(QPrinter& printer, const DrawPage& drawPage, const PageArea& area)
 {
     const QString target = printer.outputFileName();
+    if (!CanBeWritten(target))
+    {
+        throw PrinterError(printer);
+    }
     const QTemporaryDir folder;
     QFile page(folder.filePath(QStringLiteral("page")));
     bool drawn = false;

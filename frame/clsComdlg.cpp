@@ -1,6 +1,7 @@
 #include "frame/clsComdlg.h"
 
 #include "formkit/Messages.h"
+#include "frame/FileNames.h"
 #include "frame/PrinterChoices.h"
 #include "frame/SettingsLock.h"
 #include "frame/frmHelp.h"
@@ -111,7 +112,19 @@ static QString ExistingFolder(const QString& wanted)
     return usable ? wanted : QDir::currentPath();
 }
 
-/// Runs the dialog until a name is chosen whose folder exists; empty for Cancel.
+/// What is wrong with a chosen name; empty where nothing is.
+static QString FaultOf(const QString& path)
+{
+    if (!CanBeWritten(path))
+    {
+        return QStringLiteral("File name is not valid.\r\nPlease enter another name.");
+    }
+    return QFileInfo(path).absoluteDir().exists()
+               ? QString()
+               : QStringLiteral("Path does not exist.\r\nPlease verify the correct path was given.");
+}
+
+/// Runs the dialog until a name is chosen that can be written and whose folder exists; empty for Cancel.
 QString clsComdlg::RunFileDialog(QFileDialog& dialog)
 {
     // Where the toolkit keeps its places and sizes when the dialog ends.
@@ -140,12 +153,12 @@ QString clsComdlg::RunFileDialog(QFileDialog& dialog)
     while (dialog.exec() == QDialog::Accepted)
     {
         const auto path = dialog.selectedFiles().constFirst();
-        if (QFileInfo(path).absoluteDir().exists())
+        const auto fault = FaultOf(path);
+        if (fault.isEmpty())
         {
             return path;
         }
-        ShowExclamation(hWndOwner, path + QStringLiteral("\r\nPath does not exist.\r\n"
-                                                         "Please verify the correct path was given."));
+        ShowExclamation(hWndOwner, path + QStringLiteral("\r\n") + fault);
     }
     return {};
 }

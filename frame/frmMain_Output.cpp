@@ -8,6 +8,7 @@
 #include "formkit/RunCommand.h"
 #include "formkit/Texts.h"
 #include "frame/DataPage.h"
+#include "frame/FileNames.h"
 #include "frame/LastFolder.h"
 #include "frame/PrintJob.h"
 #include "frame/clsComdlg.h"
@@ -46,24 +47,6 @@ std::optional<ChartRecord> frmMain::CurrentCurve()
 }
 
 // ---- Saving data ----
-
-/// A file name from a part number: what the file system forbids becomes "_".
-static QString FileNameOf(QString partNum)
-{
-#ifdef _WIN32
-    static const QString forbidden = QStringLiteral("\\/:*?\"<>|");
-#else
-    static const QString forbidden = QStringLiteral("/");
-#endif
-    for (QChar& c : partNum)
-    {
-        if (forbidden.contains(c) || c.category() == QChar::Other_Control)
-        {
-            c = QLatin1Char('_');
-        }
-    }
-    return partNum;
-}
 
 void frmMain::mnuSaveDataToFile_Click()
 {

@@ -180,6 +180,21 @@ void ComdlgFilesTest::SaveInAMissingFolderIsAskedAgain()
     QCOMPARE(dialog.FileTitle, "such:name?.tvk");
 }
 
+void ComdlgFilesTest::SaveUnderANameThatIsNoTextIsAskedAgain()
+{
+    clsComdlg dialog;
+    dialog.InitDir = folder->path();
+    QString told;
+    // Half a pair, and the mark that stands for a byte of another code page.
+    WhenShown user({TypeName(QStringLiteral("a") + QChar(0xD83D) + QStringLiteral(".tvk")),
+                    Answer(QMessageBox::Ok, &told),
+                    TypeName(QStringLiteral("caf") + QChar(QChar::ReplacementCharacter)),
+                    Answer(QMessageBox::Ok), TypeName("café 🛈.tvk")});
+    dialog.ShowSave();
+    QVERIFY2(told.endsWith("\nFile name is not valid.\nPlease enter another name."), qPrintable(told));
+    QCOMPARE(dialog.FileTitle, "café 🛈.tvk");
+}
+
 void ComdlgFilesTest::AVanishedFolderGivesTheCurrentOne()
 {
     clsComdlg dialog;

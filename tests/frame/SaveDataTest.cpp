@@ -39,7 +39,8 @@ private Q_SLOTS:
     void DateOfTheFileHasDigitsOfItsCodePage();
     void MessageTellsThePath();
     void OffersPartNumberAsName();
-    void NameWithASlashIsOfferedWithoutIt();
+    void NameIsOfferedAsTheFileSystemTakesIt_data();
+    void NameIsOfferedAsTheFileSystemTakesIt();
     void CancelLeavesEverythingAsItWas();
     void OverwritingIsAskedFor_data();
     void OverwritingIsAskedFor();
@@ -300,21 +301,31 @@ void SaveDataTest::OffersPartNumberAsName()
     QCOMPARE(desk.SaveAs("").second, QString("KTU155R71H101KA01.tvk"));
 }
 
-void SaveDataTest::NameWithASlashIsOfferedWithoutIt()
+void SaveDataTest::NameIsOfferedAsTheFileSystemTakesIt_data()
 {
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QString>("offered");
+    QTest::newRow("slash") << QByteArray("KTU/33 R7:E101") << "KTU_33 R7:E101.tvk";
+    QTest::newRow("quotes, which the dialog reads") << QByteArray("KTU \"33\" R7") << "KTU _33_ R7.tvk";
+    QTest::newRow("home folder") << QByteArray("~root") << "_root.tvk";
+}
+
+void SaveDataTest::NameIsOfferedAsTheFileSystemTakesIt()
+{
+    QFETCH(const QByteArray, name);
+    QFETCH(const QString, offered);
     const QTemporaryDir parts;
     QVERIFY(QFile::copy(SAMPLE_RANGE "/halvex.dat", parts.filePath("halvex.dat")));
     QByteArray index = Contents(SAMPLE_RANGE "/halvex.idx");
-    index.replace("KTU155R71H101KA01", "KTU/33 R7:\"E101");
-    index.replace("\"KTU/33 R7:\"E101\"", "\"KTU/33 R7:E101\"");
+    index.replace("\"KTU155R71H101KA01\"", name.contains('"') ? name : '"' + name + '"');
     QFile file(parts.filePath("halvex.idx"));
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(index) == index.size());
     file.close();
     Desk desk(parts.path().toStdString());
     desk.ClickChartType(2);
-    desk.TypePart("KTU/33 R7:E101");
+    desk.TypePart(name);
     desk.Type("txtDCBiasVol", "0");
-    QCOMPARE(desk.SaveAs("").second, QString("KTU_33 R7:E101.tvk"));
+    QCOMPARE(desk.SaveAs("").second, offered);
 }
 
 void SaveDataTest::CancelLeavesEverythingAsItWas()
