@@ -24,7 +24,8 @@ static WhenShown::Step TypeName(const QString& name)
         QVERIFY(QTest::qWaitForWindowActive(&dialog));
         edit->setFocus();
         edit->selectAll();
-        QTest::keyClicks(edit, name);
+        // As typed on any keyboard, also where the letters are none of ASCII.
+        edit->insert(name);
         QTest::keyClick(edit, Qt::Key_Return);
     };
 }

@@ -23,6 +23,8 @@
 #include <QToolTip>
 #include <QTreeWidget>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -97,8 +99,10 @@ static void ShowHelp(const QString& bookFile)
                partNum.toHtmlEscaped().toUtf8() + "</h2></body></html>");
     book.close();
     OpenHelp(bookFile, nullptr, partNum);
-    const auto* const contents = qobject_cast<QMainWindow*>(QApplication::activeWindow());
-    QVERIFY(contents != nullptr);
+    const auto windows = QApplication::topLevelWidgets();
+    const auto help = std::ranges::find(windows, "frmHelp", &QWidget::objectName);
+    QVERIFY(help != windows.end());
+    const auto* const contents = *help;
     QCOMPARE(contents->windowTitle(), partNum);
     QCOMPARE(contents->findChild<QLineEdit*>("txtFind")->text(), partNum);
     QCOMPARE(contents->findChild<QLabel*>("lblFound")->text(), QString("Found once"));
@@ -166,8 +170,10 @@ void ForeignTextTest::IsPrintedLetterByLetter()
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(folder->filePath("page.pdf"));
     PrintPage(printer, [&](QPainter& painter, const PageArea& area) { DrawDataPage(page, area, painter); });
+    const auto pages = ReadPdf(printer.outputFileName());
+    QCOMPARE(pages.size(), std::size_t{1});
     QString words;
-    for (const auto& word : ReadPdf(printer.outputFileName()).at(0).Words)
+    for (const auto& word : pages[0].Words)
     {
         words += word.Text + ' ';
     }
