@@ -1,6 +1,6 @@
 #include "cli/FileArguments.h"
 
-#include "cli/Command.h"
+#include "cli/CommandError.h"
 #include "files/InputsAndOutputs.h"
 #include "files/PartFiles.h"
 #include "files/StagedPair.h"

@@ -232,8 +232,8 @@ void ProgramTest::EndsBadInputWithOneLine_data()
     row("no folder for the output",
         "curve KTS31NB51E106MA01 --chart capacitance-dc-voltage --output /nowhere/file", 1,
         "Run-time error '76': Path not found: /nowhere/file");
-    row("a folder as output", "curve KTS31NB51E106MA01 --chart capacitance-dc-voltage --output /", 1,
-        "Run-time error '75': Path/File access error: /");
+    row("a folder as output", "curve KTS31NB51E106MA01 --chart capacitance-dc-voltage --output /", 2,
+        "--output: \"/\" is a folder, not a file (see tavik-cli --help)");
     row("capacitance in volts", "parts --capacitance 5V", 2,
         "--capacitance \"5V\": \"V\" is not the unit of a capacitance");
     row("picture of no format", "chart KTS31NB51E106MA01 --chart capacitance-dc-voltage --output a.bmp", 2,
