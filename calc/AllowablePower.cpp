@@ -62,6 +62,23 @@ Curve LargestEffectivePowers(const PowerModel& model, double voltageBound, doubl
     const auto rises = BoundedRise(model, volts, permittedRise, voltageBound);
     return CurveOverFrequency([&](std::size_t i) { return CheckedQuotient(rises[i], model.Rth); });
 }
+
+/// The largest voltage at one frequency, and the rise that it leaves.
+struct BoundedLoad
+{
+    double Volts;
+    double Rise;
+};
+
+BoundedLoad BoundedLoadAt(const PowerModel& model, double voltageBound, double permittedRise,
+                          double frequencyHz)
+{
+    const double kV = model.kV(frequencyHz);
+    const double volts = VoltageOfRise(permittedRise, kV, model.S3);
+    return volts < voltageBound
+               ? BoundedLoad{.Volts = volts, .Rise = permittedRise}
+               : BoundedLoad{.Volts = voltageBound, .Rise = kV * CheckedPower(voltageBound, model.S3)};
+}
 } // namespace
 
 double AllowableVoltageBound(double ratedVolts, double biasVolts)
@@ -81,6 +98,27 @@ Curve AllowableLoad(const PowerModel& model, double voltageBound, double permitt
         return LargestApparentPowers(model, voltageBound, permittedRise);
     case Quantity::EffectivePower:
         return LargestEffectivePowers(model, voltageBound, permittedRise);
+    default:
+        FailOn(load);
+    }
+}
+
+double AllowableLoadAt(const PowerModel& model, double voltageBound, double permittedRise, Quantity load,
+                       double frequencyHz)
+{
+    if (load == Quantity::Current)
+    {
+        return CurrentOfRise(permittedRise, model.kI(frequencyHz));
+    }
+    const auto bounded = BoundedLoadAt(model, voltageBound, permittedRise, frequencyHz);
+    switch (load)
+    {
+    case Quantity::RmsVoltage:
+        return bounded.Volts;
+    case Quantity::ApparentPower:
+        return bounded.Volts * CurrentOfRise(bounded.Rise, model.kI(frequencyHz));
+    case Quantity::EffectivePower:
+        return CheckedQuotient(bounded.Rise, model.Rth);
     default:
         FailOn(load);
     }

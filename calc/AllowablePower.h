@@ -16,3 +16,7 @@ double AllowableVoltageBound(double ratedVolts, double biasVolts);
 /// Y limits are the powers of ten below the smallest and above the largest load; 0.1 and 1 for loads of 0.
 /// Throws RunTimeError 5 for a quantity that is no load, and 5, 6 or 11 at the step that goes wrong.
 Curve AllowableLoad(const PowerModel& model, double voltageBound, double permittedRise, Quantity load);
+
+/// The allowable load at one frequency. Throws as `AllowableLoad`.
+double AllowableLoadAt(const PowerModel& model, double voltageBound, double permittedRise, Quantity load,
+                       double frequencyHz);

@@ -43,7 +43,7 @@ double Combined(double p, double b)
     return p * b / 100 + b + p;
 }
 
-double CapacitanceAt(double nominal, double change)
+double Changed(double nominal, double change)
 {
     return nominal * (change / 100 + 1);
 }
@@ -101,7 +101,12 @@ Reference ReferenceOf(const Coefficients& data, CapacitanceModel model, CodeView
     }
     const double change = model == CapacitanceModel::Peaked ? PeakAt(data, 0).ChangeAt(JisReferenceC)
                                                             : TemperatureChange(data, JisReferenceC);
-    return CheckedFinite(CapacitanceAt(data[Value::NominalCapacitance], change));
+    return CheckedFinite(Changed(data[Value::NominalCapacitance], change));
+}
+
+double ChangeFrom(double capacitance, double reference)
+{
+    return (capacitance - reference) / reference * 100;
 }
 
 /// Smallest and largest of the stored values.
@@ -141,7 +146,7 @@ void StorePoints(Curve& curve, const SweepValues& sweep, double nominal, const R
                  Quantity y, ChangeAt changeAt)
 {
     // A fault of the first point comes before that of a reference of zero.
-    CheckedFinite(CapacitanceAt(nominal, changeAt(sweep[0])));
+    CheckedFinite(Changed(nominal, changeAt(sweep[0])));
     const double divisor = reference ? CheckedDivisor(*reference) : 1;
 
     SweepValues values;
@@ -150,12 +155,12 @@ void StorePoints(Curve& curve, const SweepValues& sweep, double nominal, const R
     if (isCapacitance || reference)
     {
         std::ranges::transform(values, values.begin(),
-                               [=](double change) { return CapacitanceAt(nominal, change); });
+                               [=](double change) { return Changed(nominal, change); });
     }
     if (!isCapacitance && reference)
     {
         std::ranges::transform(values, values.begin(),
-                               [=](double capacitance) { return (capacitance - divisor) / divisor * 100; });
+                               [=](double capacitance) { return ChangeFrom(capacitance, divisor); });
     }
     curve.XData = StoredSingles(sweep);
     curve.YData = StoredSingles(values);
@@ -227,4 +232,25 @@ Curve CalcCapDCVoltage(const PartRecord& part, float ambientC, Quantity y, CodeV
     }
     SetLimits(curve, part.Data[Value::RatedVoltage], 0, y);
     return curve;
+}
+
+std::optional<double> CapacitanceAt(const PartRecord& part, double biasVolts, double celsius, Quantity y,
+                                    CodeView view)
+{
+    const auto model = CapacitanceModelOf(part);
+    if (model == CapacitanceModel::None)
+    {
+        return std::nullopt;
+    }
+    const auto data = CoefficientsOf(part);
+    const double change = model == CapacitanceModel::Peaked
+                              ? PeakAt(data, biasVolts).ChangeAt(celsius)
+                              : Combined(TemperatureChange(data, celsius), BiasChange(data, biasVolts));
+    const auto reference = ReferenceOf(data, model, view);
+    if (y == Quantity::CapacitanceChange && !reference)
+    {
+        return change;
+    }
+    const double capacitance = Changed(data[Value::NominalCapacitance], change);
+    return y == Quantity::Capacitance ? capacitance : ChangeFrom(capacitance, CheckedDivisor(*reference));
 }

@@ -12,6 +12,8 @@
 #include "partdata/Characteristic.h"
 #include "partdata/PartRecord.h"
 
+#include <optional>
+
 /// Capacitance (pF) or capacitance change (%), as `y` says, over the temperature range of the part's
 /// characteristic at a fixed bias. 200 points, both ends included. A part without a model has no points, but
 /// default limits.
@@ -21,3 +23,8 @@ Curve CalcCapTemperature(const PartRecord& part, float biasVolts, Quantity y, Co
 
 /// As `CalcCapTemperature`, over the bias from 0 to the rated voltage at a fixed temperature.
 Curve CalcCapDCVoltage(const PartRecord& part, float ambientC, Quantity y, CodeView view);
+
+/// Capacitance (pF) or capacitance change (%) of a part at one bias and one temperature; nothing for a part
+/// without a model. Throws RunTimeError 5, 6 or 11 at the step that goes wrong.
+std::optional<double> CapacitanceAt(const PartRecord& part, double biasVolts, double celsius, Quantity y,
+                                    CodeView view);

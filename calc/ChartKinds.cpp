@@ -64,10 +64,19 @@ PowerModel ModelOf(const CurveInput& input)
                         input.Line.HeatResistance);
 }
 
+double HertzOf(const CurveInput& input)
+{
+    return double{input.Line.Frequency} * KindOf(Quantity::Frequency).StoredPerShown;
+}
+
 CurveResult RiseOfLoad(const CurveInput& input)
 {
-    const double hertz = double{input.Line.Frequency} * KindOf(Quantity::Frequency).StoredPerShown;
-    return RiseOverLoad(ModelOf(input), RatedVoltage(input.Part), hertz, input.X);
+    return RiseOverLoad(ModelOf(input), RatedVoltage(input.Part), HertzOf(input), input.X);
+}
+
+std::optional<double> RiseAtLoad(const CurveInput& input, double load)
+{
+    return RiseAt(ModelOf(input), input.X, load, HertzOf(input));
 }
 
 CurveResult RiseOfFrequency(const CurveInput& input)
@@ -76,11 +85,29 @@ CurveResult RiseOfFrequency(const CurveInput& input)
                              QuantityNamed(input.Line.ParameterName), input.Line.ParameterValue);
 }
 
+std::optional<double> RiseAtFrequency(const CurveInput& input, double hertz)
+{
+    return RiseAt(ModelOf(input), QuantityNamed(input.Line.ParameterName), input.Line.ParameterValue, hertz);
+}
+
+double VoltageBoundOf(const CurveInput& input)
+{
+    return AllowableVoltageBound(RatedVoltage(input.Part), input.Line.DCBiasVoltage);
+}
+
+double PermittedRiseOf(const CurveInput& input)
+{
+    return dTallow(input.Part.Data[Value::UpperTemperature], input.Line.AmbientTemp);
+}
+
 CurveResult LargestLoads(const CurveInput& input)
 {
-    const double voltageBound = AllowableVoltageBound(RatedVoltage(input.Part), input.Line.DCBiasVoltage);
-    const double permittedRise = dTallow(input.Part.Data[Value::UpperTemperature], input.Line.AmbientTemp);
-    return AllowableLoad(ModelOf(input), voltageBound, permittedRise, input.Y);
+    return AllowableLoad(ModelOf(input), VoltageBoundOf(input), PermittedRiseOf(input), input.Y);
+}
+
+std::optional<double> LargestLoadAt(const CurveInput& input, double hertz)
+{
+    return AllowableLoadAt(ModelOf(input), VoltageBoundOf(input), PermittedRiseOf(input), input.Y, hertz);
 }
 
 CurveResult CapacitanceOfTemperature(const CurveInput& input)
@@ -88,9 +115,19 @@ CurveResult CapacitanceOfTemperature(const CurveInput& input)
     return CalcCapTemperature(input.Part, input.Line.DCBiasVoltage, input.Y, input.View);
 }
 
+std::optional<double> CapacitanceAtTemperature(const CurveInput& input, double celsius)
+{
+    return CapacitanceAt(input.Part, input.Line.DCBiasVoltage, celsius, input.Y, input.View);
+}
+
 CurveResult CapacitanceOfVoltage(const CurveInput& input)
 {
     return CalcCapDCVoltage(input.Part, input.Line.AmbientTemp, input.Y, input.View);
+}
+
+std::optional<double> CapacitanceAtVoltage(const CurveInput& input, double volts)
+{
+    return CapacitanceAt(input.Part, volts, input.Line.AmbientTemp, input.Y, input.View);
 }
 
 // ---- The chart types ----
@@ -122,13 +159,15 @@ constexpr std::array<ChartSweep, 2> riseSweeps = {{
      .Conditions = riseOverLoad,
      .XDivisions = Fixed<5>,
      .YDivisions = FixedY<10>,
-     .CurveOf = RiseOfLoad},
+     .CurveOf = RiseOfLoad,
+     .LawAt = RiseAtLoad},
     {.XAxes = frequencyAxis,
      .Conditions = riseOverFrequency,
      .XKind = AxisKind::Logarithmic,
      .XDivisions = Fixed<5>,
      .YDivisions = FixedY<8>,
-     .CurveOf = RiseOfFrequency},
+     .CurveOf = RiseOfFrequency,
+     .LawAt = RiseAtFrequency},
 }};
 constexpr std::array<ChartSweep, 1> largestLoadSweeps = {{
     {.XAxes = frequencyAxis,
@@ -137,21 +176,24 @@ constexpr std::array<ChartSweep, 1> largestLoadSweeps = {{
      .YKind = AxisKind::Logarithmic,
      .XDivisions = NoDivisions,
      .YDivisions = NoYDivisions,
-     .CurveOf = LargestLoads},
+     .CurveOf = LargestLoads,
+     .LawAt = LargestLoadAt},
 }};
 constexpr std::array<ChartSweep, 1> temperatureSweeps = {{
     {.XAxes = temperatureAxis,
      .Conditions = capacitanceOverTemperature,
      .XDivisions = OnePer25Degrees,
      .YDivisions = CapacitanceDivisions,
-     .CurveOf = CapacitanceOfTemperature},
+     .CurveOf = CapacitanceOfTemperature,
+     .LawAt = CapacitanceAtTemperature},
 }};
 constexpr std::array<ChartSweep, 1> biasSweeps = {{
     {.XAxes = biasAxis,
      .Conditions = capacitanceOverBias,
      .XDivisions = Fixed<5>,
      .YDivisions = CapacitanceDivisions,
-     .CurveOf = CapacitanceOfVoltage},
+     .CurveOf = CapacitanceOfVoltage,
+     .LawAt = CapacitanceAtVoltage},
 }};
 
 /// In the order of their numbers.

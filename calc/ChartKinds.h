@@ -12,6 +12,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <variant>
@@ -70,6 +71,9 @@ struct ChartSweep
     int (*YDivisions)(Quantity y, double span);
     /// Throws RunTimeError 5, 6 or 11 at the step that goes wrong.
     CurveResult (*CurveOf)(const CurveInput& input);
+    /// The law at one X in the unit of records, unbounded; nothing for a part without a model. Throws as
+    /// `CurveOf`.
+    std::optional<double> (*LawAt)(const CurveInput& input, double x);
 
     bool Uses(Condition condition) const;
 };

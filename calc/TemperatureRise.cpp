@@ -87,11 +87,17 @@ AxisLimits FrequencyLimits(float largestRise)
             .YMin = 0};
 }
 
-/// A rise as it is stored: one that the rounding of its load lifts over the ceiling stays on the chart.
-float StoredRise(double rise)
+/// A rise that the rounding of its load lifts over the ceiling stays on the chart.
+double OnChart(double rise)
 {
     const bool isRounding = rise > RiseCeiling && rise < RiseCeiling + ceilingTolerance;
-    return StoredSingle(isRounding ? RiseCeiling : rise);
+    return isRounding ? RiseCeiling : rise;
+}
+
+double RiseOfApparentPower(const PowerModel& model, double voltAmperes, double frequencyHz)
+{
+    const double kV = CheckedPower(model.kV(frequencyHz), 1 / model.S3);
+    return CheckedPower(voltAmperes * std::sqrt(model.kI(frequencyHz)) * kV, ApparentPowerExponent(model.S3));
 }
 
 /// The curve whose rise at each frequency index is `riseAt(i)`.
@@ -100,7 +106,7 @@ template <class RiseAt> Curve CurveOverFrequency(RiseAt riseAt)
     Curve curve{.HasPoints = true, .XData = LogFrequencySweep().XData};
     for (std::size_t i = 0; i < CurvePoints; ++i)
     {
-        curve.YData[i] = StoredRise(riseAt(i));
+        curve.YData[i] = StoredSingle(OnChart(riseAt(i)));
     }
     curve.Limits = FrequencyLimits(std::ranges::max(curve.YData));
     return curve;
@@ -197,6 +203,23 @@ std::variant<Curve, ParameterRefusal> RiseOverFrequency(const PowerModel& model,
         return RiseByApparentPower(model, ratedVolts, parameter);
     case Quantity::EffectivePower:
         return RiseByEffectivePower(model, parameter);
+    default:
+        FailOn(load);
+    }
+}
+
+double RiseAt(const PowerModel& model, Quantity load, double value, double frequencyHz)
+{
+    switch (load)
+    {
+    case Quantity::Current:
+        return OnChart(value * value * model.kI(frequencyHz));
+    case Quantity::RmsVoltage:
+        return OnChart(model.kV(frequencyHz) * CheckedPower(value, model.S3));
+    case Quantity::ApparentPower:
+        return OnChart(RiseOfApparentPower(model, value, frequencyHz));
+    case Quantity::EffectivePower:
+        return OnChart(value * model.Rth);
     default:
         FailOn(load);
     }

@@ -27,3 +27,8 @@ Curve RiseOverLoad(const PowerModel& model, double ratedVolts, double frequencyH
 /// Throws RunTimeError 5 for a quantity that is no load, and 5, 6 or 11 at the step that goes wrong.
 std::variant<Curve, ParameterRefusal> RiseOverFrequency(const PowerModel& model, double ratedVolts,
                                                         Quantity load, float parameter);
+
+/// The rise in °C of one load, in Arms, Vrms, VA or W, at one frequency. It knows no bounds.
+///
+/// Throws RunTimeError 5 for a quantity that is no load, and 5, 6 or 11 at the step that goes wrong.
+double RiseAt(const PowerModel& model, Quantity load, double value, double frequencyHz);
