@@ -8,6 +8,7 @@
 #include "cli/LineOption.h"
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
+#include "cli/RequestWords.h"
 #include "cli/SheetPicture.h"
 #include "cli/Terminal.h"
 #include "formkit/Fonts.h"
@@ -154,10 +155,15 @@ static void DrawChart(const ChartOptions& options)
     }
     RefuseInputAsOutput(options.OutputFile, PartFilesOf(PartFolder(options.DataFolder)));
     const auto parts = LoadParts(options.DataFolder);
-    const auto bytes = Draw(CurvesOf(requests, parts, options.Settings), options, format);
+    const auto curves = CurvesOf(requests, parts, options.Settings);
+    const auto bytes = Draw(curves, options, format);
     Output output(options.OutputFile);
     output.Write({bytes.data(), static_cast<std::size_t>(bytes.size())});
     output.Finish();
+    for (std::size_t i = 0; i < curves.size(); ++i)
+    {
+        TellUnused(curves[i], requests[i].Part);
+    }
 }
 
 /// A whole text as a number above 0.

@@ -7,6 +7,7 @@
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
 #include "cli/RequestStream.h"
+#include "cli/RequestWords.h"
 #include "formkit/Texts.h"
 #include "requests/CurveFormats.h"
 #include "requests/JsonRequest.h"
@@ -43,7 +44,10 @@ static std::string Help()
     return examples +
            Wrapped(
                "Axes that are left out are those that the form shows first. A request line has the keys " +
-               ChoiceOf(RequestKeys(), "and") + '.');
+               ChoiceOf(RequestKeys(), "and") +
+               "; an answer echoes the id. --at and --where are answered as CSV, if no format is given, or "
+               "JSON: "
+               "bare numbers are in the unit in which the axis is entered.");
 }
 
 /// Standard error tells people that some requests have no curve; scripts read it from the answers.
@@ -74,15 +78,57 @@ static void WriteOne(const CurveOptions& options)
         throw UsageError(options.Request.Part.empty() ? "curve wants a part number, or --requests"
                                                       : "curve wants --chart");
     }
+    if ((options.Request.At || options.Request.Where) && options.Format == "tvk")
+    {
+        throw UsageError("--at and --where are answered in csv or json: leave out --format tvk");
+    }
     RefuseInputAsOutput(options.OutputFile, PartFilesOf(PartFolder(options.DataFolder)));
     const auto parts = LoadParts(options.DataFolder);
     auto settings = options.Settings;
     settings.Date = options.Date ? Windows1252FromUtf8(*options.Date) : TodayInFile();
-    const auto& format = FormatNamed(CurveFormats(), options.Format);
-    const auto text = format.Write(CurveOf(options.Request, parts, settings), settings);
+    const bool wantsPoints = options.Request.At || options.Request.Where;
+    const auto& format =
+        FormatNamed(CurveFormats(), wantsPoints && options.Format.empty() ? "csv" : options.Format);
+    const auto curve = CurveOf(options.Request, parts, settings);
+    const auto text = format.Write(curve, settings);
     Output output(options.OutputFile);
     output.Write(text);
     output.Finish();
+    TellUnused(curve, options.Request.Part);
+}
+
+/// "1,2.5" as its pieces.
+static std::vector<std::string> PiecesOf(const std::string& text)
+{
+    std::vector<std::string> pieces(1);
+    for (const char c : text)
+    {
+        if (c == ',')
+        {
+            pieces.emplace_back();
+        }
+        else
+        {
+            pieces.back() += c;
+        }
+    }
+    return pieces;
+}
+
+static void AddPointOptions(CLI::App& command, CurveRequest& request)
+{
+    command
+        .add_option_function<std::string>(
+            "--at", [&request](const std::string& text) { request.At = PiecesOf(text); },
+            "Values at these X in place of the curve, for example 12V,24V")
+        ->type_name("X[,X...]")
+        ->group("Points");
+    command
+        .add_option_function<std::string>(
+            "--where", [&request](const std::string& text) { request.Where = PiecesOf(text); },
+            "Every X at which Y has these values, for example -50%")
+        ->type_name("Y[,Y...]")
+        ->group("Points");
 }
 
 void AddCurveCommand(CLI::App& app)
@@ -93,6 +139,7 @@ void AddCurveCommand(CLI::App& app)
     command.add_option("part", options->Request.Part, "Part number in any of its forms, any letter case")
         ->type_name("PART");
     AddRequestOptions(command, options->Request);
+    AddPointOptions(command, options->Request);
     AddNumberingOption(command, options->Settings);
     AddUncheckedOption(command, options->Settings);
     AddDataOption(command, options->DataFolder);

@@ -26,13 +26,10 @@ static RequestCounts AnswerLines(std::istream& in, Progress progress, const Curv
     while (std::getline(in, line))
     {
         progress.Advance(line.size() + 1);
-        if (line.find_first_not_of(" \t\r") == std::string::npos)
-        {
-            continue;
-        }
         answer.clear();
         ++counts.Requests;
-        counts.WithoutCurve += AppendAnswer(answer, line, defaults, parts, settings, axes) ? 0 : 1;
+        counts.WithoutCurve +=
+            AppendAnswer(answer, {line, counts.Requests}, defaults, parts, settings, axes) ? 0 : 1;
         output.Write(answer);
         if (in.rdbuf()->in_avail() <= 0)
         {

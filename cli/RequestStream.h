@@ -14,7 +14,7 @@ struct RequestCounts
     std::size_t WithoutCurve = 0;
 };
 
-/// Answers every line of a file, or of standard input for "-", in order; empty lines are skipped. Holds one
+/// Answers every line of a file, or of standard input for "-", in order, blank ones too. Holds one
 /// request and one answer at a time, and hands over answers whenever no further request is waiting.
 ///
 /// Throws Failure for a file that cannot be read.

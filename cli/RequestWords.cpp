@@ -1,6 +1,10 @@
 #include "cli/RequestWords.h"
 
+#include "calc/ChartKinds.h"
 #include "requests/Names.h"
+
+#include <algorithm>
+#include <iostream>
 
 std::string OptionNameOf(std::string_view key)
 {
@@ -24,12 +28,42 @@ ExitStatus StatusOf(const RequestError& error)
     return IsMistaken(error.Kind()) ? ExitStatus::Usage : ExitStatus::Failed;
 }
 
+/// The message, and what was probably meant.
+static std::string Message(const RequestError& error)
+{
+    return error.Message() + (error.Hint().empty() ? "" : "; did you mean \"" + error.Hint() + "\"?");
+}
+
+std::string NoteOnUnused(const RequestedCurve& curve, std::string_view partNum)
+{
+    std::vector<std::string> options;
+    for (const std::string& key : curve.Unused)
+    {
+        if (const auto option = OptionOf(key); std::ranges::find(options, option) == options.end())
+        {
+            options.push_back(option);
+        }
+    }
+    const auto chart = ChartKindOf(curve.Line.ChartType).CommandName;
+    return options.empty()
+               ? ""
+               : std::string(partNum) + ": " + std::string(chart) + " does not use " + ListOf(options);
+}
+
+void TellUnused(const RequestedCurve& curve, std::string_view partNum)
+{
+    if (const auto note = NoteOnUnused(curve, partNum); !note.empty())
+    {
+        std::cerr << "tavik-cli: " << note << '\n';
+    }
+}
+
 std::string WordsOf(const RequestError& error)
 {
     if (IsMistaken(error.Kind()))
     {
         const bool namesOption = FollowsKey(error.Kind()) && !error.Key().empty();
-        return (namesOption ? OptionOf(error.Key()) + ' ' : "") + error.Message();
+        return (namesOption ? OptionOf(error.Key()) + ' ' : "") + Message(error);
     }
     std::string words = error.Part().empty() ? "" : error.Part() + ": ";
     if (error.Kind() == RequestErrorKind::Condition)
@@ -37,5 +71,5 @@ std::string WordsOf(const RequestError& error)
         words +=
             OptionOf(error.Key()) + (error.Entry().empty() ? " is not given" : ' ' + error.Entry()) + ": ";
     }
-    return words + error.Message();
+    return words + Message(error);
 }

@@ -3,6 +3,7 @@
 /// Requests in the words of the command line.
 
 #include "cli/Command.h"
+#include "requests/CurveRequest.h"
 #include "requests/RequestError.h"
 
 #include <string>
@@ -17,6 +18,12 @@ std::string OptionNameOf(std::string_view key);
 ///     KTS31NB51E106MA01: --dc-bias 26: DC Bias Voltage is invalid! Please enter a Number from 0 to 25[V]
 ///     --dc-bias "5A": "A" is not the unit of a voltage
 std::string WordsOf(const RequestError& error);
+
+/// What was typed in vain, "ABC: allowable-power does not use --frequency"; empty where all is used.
+std::string NoteOnUnused(const RequestedCurve& curve, std::string_view partNum);
+
+/// Tells it on standard error, where it is anything.
+void TellUnused(const RequestedCurve& curve, std::string_view partNum);
 
 /// A request that makes no sense is a wrong command line.
 ExitStatus StatusOf(const RequestError& error);

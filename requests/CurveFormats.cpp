@@ -15,7 +15,34 @@ static std::string DataFile(const RequestedCurve& curve, const CurveSettings& se
     return DataFileText(curve.Line, *curve.Part, curve.Code, settings.Date);
 }
 
-/// Comment lines that begin with "#" tell part, chart and conditions; then a heading and 200 lines of X and Y
+static std::string RowOf(float x, float y)
+{
+    return NumberText(x) + ',' + NumberText(y) + '\n';
+}
+
+/// The 200 points, or a row for each point and crossing that were asked for in their place.
+static std::string RowsOf(const RequestedCurve& curve)
+{
+    std::string rows;
+    for (std::size_t i = 0; !curve.HasOwnPoints() && i < CurvePoints; ++i)
+    {
+        rows += RowOf(curve.Line.XData[i], curve.Line.YData[i]);
+    }
+    for (const CurvePoint& point : curve.Points.value_or(std::vector<CurvePoint>()))
+    {
+        rows += RowOf(point.X, point.Y);
+    }
+    for (const CurveLevel& level : curve.Levels.value_or(std::vector<CurveLevel>()))
+    {
+        for (const float x : level.X)
+        {
+            rows += RowOf(x, level.Y);
+        }
+    }
+    return rows;
+}
+
+/// Comment lines that begin with "#" tell part, chart and conditions; then a heading and lines of X and Y
 /// as number text, in the unit of the heading.
 static std::string Csv(const RequestedCurve& curve, const CurveSettings& settings)
 {
@@ -28,11 +55,7 @@ static std::string Csv(const RequestedCurve& curve, const CurveSettings& setting
     }
     text += line.XAxisName + " [" + StoredUnitOf(line.XAxisName) + "]," + line.YAxisName + " [" +
             StoredUnitOf(line.YAxisName) + "]\n";
-    for (std::size_t i = 0; i < CurvePoints; ++i)
-    {
-        text += NumberText(line.XData[i]) + ',' + NumberText(line.YData[i]) + '\n';
-    }
-    return text;
+    return text + RowsOf(curve);
 }
 
 static std::string Json(const RequestedCurve& curve, const CurveSettings& settings)

@@ -55,11 +55,115 @@ static void AddConditions(std::string& text, const ChartRecord& line)
     text += '}';
 }
 
+static void AddConditionUnits(std::string& text, const ChartRecord& line)
+{
+    AppendKey(text, "conditionUnits");
+    text += '{';
+    for (const ConditionLine& condition : ConditionLines(line))
+    {
+        const ConditionKind& kind = KindOf(condition.Id);
+        AddText(text, kind.Key,
+                ShownUnitOf(kind.Measures ? *kind.Measures : QuantityNamed(line.ParameterName)));
+    }
+    text += '}';
+}
+
+static void AppendSeparated(std::string& text, std::size_t index)
+{
+    text.append(index == 0 ? 0 : 1, ',');
+}
+
+static void AddUnused(std::string& text, const std::vector<std::string>& keys)
+{
+    if (keys.empty())
+    {
+        return;
+    }
+    AppendKey(text, "unusedConditions");
+    text += '[';
+    for (std::size_t i = 0; i < keys.size(); ++i)
+    {
+        AppendSeparated(text, i);
+        AppendText(text, keys[i]);
+    }
+    text += ']';
+}
+
+static void AddPoints(std::string& text, const std::vector<CurvePoint>& points)
+{
+    AppendKey(text, "points");
+    text += '[';
+    for (std::size_t i = 0; i < points.size(); ++i)
+    {
+        AppendSeparated(text, i);
+        text += '{';
+        AddNumber(text, "x", points[i].X);
+        AddNumber(text, "y", points[i].Y);
+        text += '}';
+    }
+    text += ']';
+}
+
+static void AddLevels(std::string& text, const std::vector<CurveLevel>& levels)
+{
+    AppendKey(text, "crossings");
+    text += '[';
+    for (std::size_t i = 0; i < levels.size(); ++i)
+    {
+        AppendSeparated(text, i);
+        text += '{';
+        AddNumber(text, "y", levels[i].Y);
+        AppendKey(text, "x");
+        text += '[';
+        for (std::size_t j = 0; j < levels[i].X.size(); ++j)
+        {
+            AppendSeparated(text, j);
+            AppendNumber(text, levels[i].X[j]);
+        }
+        text += "]}";
+    }
+    text += ']';
+}
+
+/// The 200 points, or those that were asked for in their place.
+static void AddValues(std::string& text, const RequestedCurve& curve, AxisTexts& axes)
+{
+    if (curve.Points)
+    {
+        AddPoints(text, *curve.Points);
+    }
+    if (curve.Levels)
+    {
+        AddLevels(text, *curve.Levels);
+    }
+    if (!curve.HasOwnPoints())
+    {
+        AppendKey(text, "x");
+        text += axes.Of(curve.Line.XData);
+        AppendKey(text, "y");
+        AppendValues(text, curve.Line.YData);
+    }
+}
+
+/// The beginning of every object that stands alone: the version of its description, and what it is known by.
+static void BeginAnswer(std::string& text, std::string_view id)
+{
+    constexpr int schemaVersion = 1;
+    text += '{';
+    AppendKey(text, "schemaVersion");
+    AppendNumber(text, schemaVersion);
+    if (!id.empty())
+    {
+        AppendKey(text, "id");
+        text += id;
+    }
+}
+
 void AppendCurveJson(std::string& text, const RequestedCurve& curve, const CurveSettings& settings,
-                     AxisTexts& axes)
+                     AxisTexts& axes, std::string_view id)
 {
     const ChartRecord& line = curve.Line;
-    text += '{';
+    BeginAnswer(text, id);
     AddText(text, "part", ShownPartNum(*curve.Part, curve.Code, settings));
     AddText(text, "chart", ChartKindOf(line.ChartType).CommandName);
     AddText(text, "xName", line.XAxisName);
@@ -67,10 +171,9 @@ void AppendCurveJson(std::string& text, const RequestedCurve& curve, const Curve
     AddText(text, "yName", line.YAxisName);
     AddText(text, "yUnit", StoredUnitOf(line.YAxisName));
     AddConditions(text, line);
-    AppendKey(text, "x");
-    text += axes.Of(line.XData);
-    AppendKey(text, "y");
-    AppendValues(text, line.YData);
+    AddConditionUnits(text, line);
+    AddUnused(text, curve.Unused);
+    AddValues(text, curve, axes);
     AddNumber(text, "xMax", line.XMax);
     AddNumber(text, "yMax", line.YMax);
     AddNumber(text, "xMin", line.XMin);
@@ -79,16 +182,50 @@ void AppendCurveJson(std::string& text, const RequestedCurve& curve, const Curve
     text += "}\n";
 }
 
-void AppendErrorJson(std::string& text, int number, std::string_view message, std::optional<double> limit)
+static std::string OnOneLine(std::string_view message)
 {
-    text += "{\"error\":{";
-    AppendKey(text, "number");
-    AppendNumber(text, number);
-    AddText(text, "message", message);
-    if (limit)
+    std::string text;
+    for (const char c : message)
     {
-        AppendKey(text, "limit");
-        AppendNumber(text, *limit);
+        const bool isBreak = c == '\r' || c == '\n';
+        text.append(isBreak && text.ends_with(' ') ? 0 : 1, isBreak ? ' ' : c);
     }
+    return text;
+}
+
+template <class Number>
+static void AddWhereKnown(std::string& text, std::string_view key, const std::optional<Number>& value)
+{
+    if (value)
+    {
+        AppendKey(text, key);
+        AppendNumber(text, *value);
+    }
+}
+
+static void AddWhereKnown(std::string& text, std::string_view key, const std::string& value)
+{
+    if (!value.empty())
+    {
+        AddText(text, key, value);
+    }
+}
+
+void AppendErrorJson(std::string& text, const ErrorAnswer& error, std::string_view id)
+{
+    BeginAnswer(text, id);
+    AppendKey(text, "error");
+    text += '{';
+    AppendKey(text, "number");
+    AppendNumber(text, error.Number);
+    AddText(text, "code", error.Code);
+    AddText(text, "message", OnOneLine(error.Message));
+    AppendKey(text, "line");
+    AppendNumber(text, error.Line);
+    AddWhereKnown(text, "part", error.Part);
+    AddWhereKnown(text, "key", error.Key);
+    AddWhereKnown(text, "limit", error.Limit);
+    AddWhereKnown(text, "position", error.Position);
+    AddWhereKnown(text, "hint", error.Hint);
     text += "}}\n";
 }

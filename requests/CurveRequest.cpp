@@ -5,6 +5,7 @@
 #include "calc/NumberText.h"
 #include "partdata/RunTimeError.h"
 #include "partdata/Windows1252.h"
+#include "requests/CurvePoints.h"
 #include "requests/Names.h"
 #include "requests/RequestError.h"
 #include "requests/UnitEntry.h"
@@ -31,6 +32,17 @@ ConditionTexts::ConditionTexts(std::initializer_list<std::pair<Condition, std::s
     }
 }
 
+/// All part numbers in UTF-8.
+static std::vector<std::string> PartNumsOf(const PartTable& parts)
+{
+    std::vector<std::string> numbers;
+    for (const PartRecord& part : parts.PartData)
+    {
+        std::ranges::transform(part.PartNum, std::back_inserter(numbers), Utf8FromWindows1252);
+    }
+    return numbers;
+}
+
 std::size_t FindPart(const PartTable& parts, std::string_view partNum, std::size_t shownForm)
 {
     const auto key = Windows1252FromUtf8(partNum);
@@ -49,7 +61,8 @@ std::size_t FindPart(const PartTable& parts, std::string_view partNum, std::size
         }
     }
     throw RequestError(RequestErrorKind::UnknownPart, "part",
-                       "there is no part \"" + std::string(partNum) + "\"");
+                       "there is no part \"" + std::string(partNum) + "\"")
+        .Meaning(NameMeantBy(partNum, PartNumsOf(parts)));
 }
 
 std::string ShownPartNum(const PartRecord& part, CodeView code, const CurveSettings& settings)
@@ -93,15 +106,22 @@ std::size_t NumberingOffsetOf(std::string_view name)
     return 2 * IndexOfName(name, numberings, "numbering", "numbering");
 }
 
+/// What was typed as the form would hold it. Throws RequestError for what is no number.
+static std::string NumberInUnit(const std::string& typed, Quantity quantity, std::string_view key)
+{
+    ValueInUnit(typed, quantity, key);
+    return EntryInUnit(typed, quantity, key);
+}
+
 static Entries EntriesOf(const CurveRequest& request, const PartRecord& part, Quantity parameter)
 {
     Entries entries;
     for (const ConditionKind& kind : ConditionKinds())
     {
         const auto& typed = request.Conditions[kind.Id];
-        const auto quantity = kind.Measures.value_or(parameter);
         entries[static_cast<std::size_t>(kind.Id)] =
-            typed ? EntryInUnit(*typed, quantity, kind.Key) : FirstEntry(kind.Id, part, request.Code);
+            typed ? NumberInUnit(*typed, kind.Measures.value_or(parameter), kind.Key)
+                  : FirstEntry(kind.Id, part, request.Code);
     }
     return entries;
 }
@@ -125,8 +145,15 @@ static float PlainValue(const std::string& entry, const ConditionKind& kind)
     return *value;
 }
 
+/// What is told of a condition that is refused: the text as it was typed.
+static std::string Echo(const CurveRequest& request, Condition condition, const Entries& entries)
+{
+    return request.Conditions[condition].value_or(entries[static_cast<std::size_t>(condition)]);
+}
+
 /// Conditions as the form's checks and disabled boxes leave them: those that the sweep does not use are 0.
-static void JudgeConditions(ChartRecord& line, const Entries& entries, const PartRecord& part, CodeView code)
+static void JudgeConditions(ChartRecord& line, const Entries& entries, const PartRecord& part,
+                            const CurveRequest& request)
 {
     const ChartKind& chart = ChartKindOf(line.ChartType);
     const ChartSweep& sweep = SweepOf(line.ChartType, line.XAxisName);
@@ -138,10 +165,10 @@ static void JudgeConditions(ChartRecord& line, const Entries& entries, const Par
         }
         const ConditionKind& kind = KindOf(condition);
         const auto& entry = entries[static_cast<std::size_t>(condition)];
-        if (const auto refusal = RuleOf(chart, condition)(entry, part, code, pointOnly))
+        if (const auto refusal = RuleOf(chart, condition)(entry, part, request.Code, pointOnly))
         {
             throw RequestError(RequestErrorKind::Condition, std::string(kind.Key), OnOneLine(*refusal))
-                .Of(entry);
+                .Of(Echo(request, condition, entries));
         }
         line.*kind.Value = PlainValue(entry, kind);
     }
@@ -155,15 +182,15 @@ static void TakeConditions(ChartRecord& line, const Entries& entries)
     }
 }
 
-static void CalculateOrRefuse(const PartRecord& part, ChartRecord& line, CodeView code,
+static void CalculateOrRefuse(const PartRecord& part, ChartRecord& line, const CurveRequest& request,
                               const Entries& entries)
 {
-    if (const auto refusal = Calculate(part, line, code))
+    if (const auto refusal = Calculate(part, line, request.Code))
     {
         const ConditionKind& parameter = KindOf(Condition::Parameter);
         throw RequestError(RequestErrorKind::Condition, std::string(parameter.Key),
                            OnOneLine(refusal->Message))
-            .Of(entries[static_cast<std::size_t>(parameter.Id)])
+            .Of(Echo(request, parameter.Id, entries))
             .Within(refusal->Limit);
     }
 }
@@ -179,6 +206,28 @@ static Quantity Meant(const std::optional<std::string>& name, std::span<const Qu
     std::vector<std::string_view> names;
     std::ranges::transform(quantities, std::back_inserter(names), NameOf);
     return quantities[IndexOfName(*name, names, what, key)];
+}
+
+/// Keys of conditions that are typed and that the sweep does not use.
+static std::vector<std::string> UnusedKeys(const CurveRequest& request, const ChartSweep& sweep)
+{
+    std::vector<std::string> keys;
+    for (const ConditionKind& kind : ConditionKinds())
+    {
+        if (sweep.Uses(kind.Id))
+        {
+            continue;
+        }
+        if (!kind.Measures && request.Parameter)
+        {
+            keys.emplace_back("parameter");
+        }
+        if (request.Conditions[kind.Id])
+        {
+            keys.emplace_back(kind.Key);
+        }
+    }
+    return keys;
 }
 
 /// As `CurveOf`, but that errors do not tell the part.
@@ -211,9 +260,11 @@ static RequestedCurve CurveOfPart(const CurveRequest& request, const PartTable& 
     }
     else
     {
-        JudgeConditions(line, entries, *curve.Part, request.Code);
+        JudgeConditions(line, entries, *curve.Part, request);
     }
-    CalculateOrRefuse(*curve.Part, line, request.Code, entries);
+    CalculateOrRefuse(*curve.Part, line, request, entries);
+    curve.Unused = UnusedKeys(request, SweepOf(line.ChartType, line.XAxisName));
+    TakePoints(curve, request);
     return curve;
 }
 

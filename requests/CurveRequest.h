@@ -51,6 +51,10 @@ struct CurveRequest
     /// Name of the load that the parameter condition is of, as axis texts are named.
     std::optional<std::string> Parameter = {};
     CodeView Code = CodeView::Eia;
+    /// X values to tell the curve at, in place of its 200 points.
+    std::optional<std::vector<std::string>> At = {};
+    /// Y values to tell every X of, in place of the points.
+    std::optional<std::vector<std::string>> Where = {};
 };
 
 /// How requests are answered.
@@ -65,12 +69,34 @@ struct CurveSettings
     std::string Date = {};
 };
 
+/// One point in the units of the record.
+struct CurvePoint
+{
+    float X;
+    float Y;
+};
+
+/// Every X, upwards, at which a curve takes a value.
+struct CurveLevel
+{
+    float Y;
+    std::vector<float> X;
+};
+
 /// The answer: a line with its points and limits.
 struct RequestedCurve
 {
     const PartRecord* Part = nullptr;
     CodeView Code = CodeView::Eia;
     ChartRecord Line;
+    /// Keys of conditions that were typed but do not bear on the curve, in the form's order.
+    std::vector<std::string> Unused = {};
+    /// What was asked for in place of the 200 points.
+    std::optional<std::vector<CurvePoint>> Points = {};
+    std::optional<std::vector<CurveLevel>> Levels = {};
+
+    /// True when the 200 points are not what was asked for.
+    bool HasOwnPoints() const { return Points || Levels; }
 };
 
 /// The index of a part whose number in any form is `partNum`, in UTF-8. Where several parts are meant, letter

@@ -2,6 +2,7 @@
 
 #include "partdata/RunTimeError.h"
 #include "requests/CurveJson.h"
+#include "requests/Names.h"
 #include "requests/RequestError.h"
 
 #include <nlohmann/json.hpp>
@@ -23,7 +24,7 @@ static std::string TextOf(const std::string& key, const json& value)
     {
         return value.dump();
     }
-    throw RequestError(RequestErrorKind::Syntax, key, "is neither a text nor a number");
+    throw RequestError(RequestErrorKind::NotANumber, key, "is neither a text nor a number");
 }
 
 std::vector<std::string> RequestKeys()
@@ -37,56 +38,96 @@ std::vector<std::string> RequestKeys()
         }
         keys.emplace_back(kind.Key);
     }
-    keys.emplace_back("code");
+    for (const char* last : {"code", "at", "where", "id"})
+    {
+        keys.emplace_back(last);
+    }
     return keys;
 }
 
-/// Puts a value into the request; false for a key that no request has.
-static bool Take(CurveRequest& request, const std::string& key, const std::string& text)
+/// A value, or each of a list of them.
+static std::vector<std::string> TextsOf(const std::string& key, const json& value)
+{
+    std::vector<std::string> texts;
+    for (const json& each : value.is_array() ? value : json::array({value}))
+    {
+        texts.push_back(TextOf(key, each));
+    }
+    return texts;
+}
+
+/// Puts a value into the request. Throws RequestError for a key that no request has.
+static void Take(CurveRequest& request, const std::string& key, const json& value)
 {
     const auto conditions = ConditionKinds();
     const auto condition = std::ranges::find(conditions, key, &ConditionKind::Key);
     if (condition != conditions.end())
     {
-        request.Conditions[condition->Id] = text;
-        return true;
+        request.Conditions[condition->Id] = TextOf(key, value);
     }
-    if (key == "x" || key == "y")
+    else if (key == "x" || key == "y")
     {
-        (key == "x" ? request.X : request.Y) = text;
-        return true;
+        (key == "x" ? request.X : request.Y) = TextOf(key, value);
     }
-    if (key == "parameter")
+    else if (key == "part" || key == "chart")
     {
-        request.Parameter = text;
-        return true;
+        (key == "part" ? request.Part : request.Chart) = TextOf(key, value);
     }
-    if (key == "part" || key == "chart")
+    else if (key == "parameter")
     {
-        (key == "part" ? request.Part : request.Chart) = text;
-        return true;
+        request.Parameter = TextOf(key, value);
     }
-    if (key == "code")
+    else if (key == "code")
     {
-        request.Code = CodeViewOf(text);
-        return true;
+        request.Code = CodeViewOf(TextOf(key, value));
     }
-    return false;
+    else if (key == "at" || key == "where")
+    {
+        (key == "at" ? request.At : request.Where) = TextsOf(key, value);
+    }
+    else if (key != "id")
+    {
+        throw RequestError(RequestErrorKind::UnknownKey, key, "no request has a key \"" + key + '"')
+            .Meaning(NameMeantBy(key, RequestKeys()));
+    }
 }
 
-CurveRequest RequestOfJson(std::string_view text, const CurveRequest& defaults)
+/// Throws RequestError, with the place where there is one.
+static json ParsedLine(std::string_view text)
 {
-    const auto object = json::parse(text, nullptr, false);
+    if (text.find_first_not_of(" \t\r") == std::string_view::npos)
+    {
+        throw RequestError(RequestErrorKind::BlankLine, "", "the line is blank");
+    }
+    const RequestError noObject(RequestErrorKind::Syntax, "", "the line is not a JSON object");
+    json object;
+    try
+    {
+        object = json::parse(text);
+    }
+    catch (const json::parse_error& error)
+    {
+        throw noObject.AtByte(error.byte);
+    }
+    catch (const json::exception&)
+    {
+        throw noObject;
+    }
     if (!object.is_object())
     {
-        throw RequestError(RequestErrorKind::Syntax, "", "the line is not a JSON object");
+        throw noObject;
     }
+    return object;
+}
+
+static CurveRequest RequestOf(const json& object, const CurveRequest& defaults)
+{
     CurveRequest request = defaults;
     for (const auto& [key, value] : object.items())
     {
-        if (!value.is_null() && !Take(request, key, TextOf(key, value)))
+        if (!value.is_null())
         {
-            throw RequestError(RequestErrorKind::UnknownKey, key, "no request has a key \"" + key + '"');
+            Take(request, key, value);
         }
     }
     if (request.Part.empty() || request.Chart.empty())
@@ -97,6 +138,11 @@ CurveRequest RequestOfJson(std::string_view text, const CurveRequest& defaults)
     return request;
 }
 
+CurveRequest RequestOfJson(std::string_view text, const CurveRequest& defaults)
+{
+    return RequestOf(ParsedLine(text), defaults);
+}
+
 /// The message with the key where it goes on behind it.
 static std::string MessageOf(const RequestError& error)
 {
@@ -104,22 +150,58 @@ static std::string MessageOf(const RequestError& error)
     return (namesKey ? '"' + error.Key() + "\" " : "") + error.Message();
 }
 
-bool AppendAnswer(std::string& text, std::string_view request, const CurveRequest& defaults,
+static ErrorAnswer AnswerOf(const RequestError& error, std::size_t line, const std::string& part)
+{
+    return {.Number = refusedNumber,
+            .Code = CodeOf(error),
+            .Message = MessageOf(error),
+            .Line = line,
+            .Part = part,
+            .Key = error.Key(),
+            .Limit = error.Limit(),
+            .Position = error.Position(),
+            .Hint = error.Hint()};
+}
+
+/// The part that an object asks for, as far as it can be told.
+static std::string PartOf(const json& object, const CurveRequest& defaults)
+{
+    const auto part = object.find("part");
+    return part != object.end() && part->is_string() ? part->get<std::string>() : defaults.Part;
+}
+
+static std::string IdOf(const json& object)
+{
+    const auto id = object.find("id");
+    return id != object.end() ? id->dump() : "";
+}
+
+bool AppendAnswer(std::string& text, RequestLine request, const CurveRequest& defaults,
                   const PartTable& parts, const CurveSettings& settings, AxisTexts& axes)
 {
+    std::string id;
+    std::string part = defaults.Part;
     try
     {
-        const auto curve = RequestOfJson(request, defaults);
-        AppendCurveJson(text, CurveOf(curve, parts, settings), settings, axes);
+        const auto object = ParsedLine(request.Text);
+        id = IdOf(object);
+        part = PartOf(object, defaults);
+        AppendCurveJson(text, CurveOf(RequestOf(object, defaults), parts, settings), settings, axes, id);
         return true;
     }
     catch (const RequestError& error)
     {
-        AppendErrorJson(text, refusedNumber, MessageOf(error), error.Limit());
+        AppendErrorJson(text, AnswerOf(error, request.Number, part), id);
     }
     catch (const RunTimeError& error)
     {
-        AppendErrorJson(text, error.Number(), error.Description(), std::nullopt);
+        AppendErrorJson(text,
+                        {.Number = error.Number(),
+                         .Code = "calculation",
+                         .Message = error.Description(),
+                         .Line = request.Number,
+                         .Part = part},
+                        id);
     }
     return false;
 }

@@ -3,6 +3,7 @@
 /// Names as requests spell them, and lists of names in messages.
 
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -30,6 +31,10 @@ template <class Names> std::string ListOf(const Names& names, std::string_view s
 
 /// The names as a sentence lists them: "png, svg or pdf", or with another last word "x, y and code".
 std::string ChoiceOf(const std::vector<std::string>& names, std::string_view lastWord = "or");
+
+/// The known name that was probably meant: one that differs in case, hyphens and blanks, or in a letter of
+/// three, at most in three. Nothing where no name is that near.
+std::optional<std::string> NameMeantBy(std::string_view typed, const std::vector<std::string>& known);
 
 /// The index of the name that is meant: "Apparent Power" and "apparent-power" name the same, in any letter
 /// case.

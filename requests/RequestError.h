@@ -2,13 +2,16 @@
 
 /// Why a request has no answer.
 
+#include <cstddef>
 #include <exception>
 #include <optional>
 #include <string>
+#include <string_view>
 
 /// What is wrong with a request.
 enum class RequestErrorKind
 {
+    BlankLine,    ///< nothing is written
     Syntax,       ///< what is written is no request, or no value
     UnknownKey,   ///< no request has such a key
     MissingKey,   ///< a key that every request has is left out
@@ -42,6 +45,10 @@ public:
     RequestError Of(std::string entry) const;
     /// The same error with the largest permitted value.
     RequestError Within(double limit) const;
+    /// The same error with the place that cannot be read, in bytes from 1.
+    RequestError AtByte(std::size_t position) const;
+    /// The same error with what was probably meant; as it is where that is not known.
+    RequestError Meaning(const std::optional<std::string>& meant) const;
     /// The same error with the part number that was asked for.
     RequestError OfPart(std::string part) const;
 
@@ -52,6 +59,10 @@ public:
     const std::string& Entry() const { return entry; }
     /// Of a parameter that is too large: the largest permitted one.
     std::optional<double> Limit() const { return limit; }
+    /// Of what cannot be read: the place in bytes from 1.
+    std::optional<std::size_t> Position() const { return position; }
+    /// What was probably meant; empty where that is not known.
+    const std::string& Hint() const { return hint; }
     /// The part number that was asked for; empty where the error is in no part's curve.
     const std::string& Part() const { return part; }
 
@@ -63,5 +74,10 @@ private:
     std::string message;
     std::string entry;
     std::optional<double> limit;
+    std::optional<std::size_t> position;
+    std::string hint;
     std::string part;
 };
+
+/// What scripts know the error by: "unknown-chart", "range", "missing-key".
+std::string_view CodeOf(const RequestError& error);

@@ -29,10 +29,11 @@ struct Prefix
 };
 } // namespace
 
-static constexpr std::array<Prefix, 11> prefixes = {{{"", 0},
+static constexpr std::array<Prefix, 12> prefixes = {{{"", 0},
                                                      {"p", -12},
                                                      {"n", -9},
                                                      {"u", -6},
+                                                     {"U", -6},
                                                      {"\u00B5", -6},
                                                      {"\u03BC", -6},
                                                      {"m", -3},
@@ -181,8 +182,35 @@ float ValueInUnit(std::string_view typed, Quantity quantity, std::string_view ke
     return *value;
 }
 
+float StoredValueInUnit(std::string_view typed, Quantity quantity, std::string_view key)
+{
+    const float shown = ValueInUnit(typed, quantity, key);
+    const float factor = KindOf(quantity).StoredPerShown;
+    if (factor == 1)
+    {
+        return shown;
+    }
+    // Read with more digits than a single has, so that a stored value that is typed is met exactly.
+    const auto entry = EntryInUnit(typed, quantity, key);
+    auto digits = WithoutBlanks(entry);
+    digits.remove_prefix(digits.starts_with('+') ? 1 : 0);
+    double value = shown;
+    std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    return static_cast<float>(value * factor);
+}
+
+static std::string WithDegrees(const QuantityKind& kind, std::string_view unit)
+{
+    return std::string(kind.HasDegrees ? defaultDegreeSign : "") + std::string(unit);
+}
+
+std::string ShownUnitOf(Quantity quantity)
+{
+    return WithDegrees(KindOf(quantity), KindOf(quantity).Unit);
+}
+
 std::string StoredUnitOf(std::string_view axisName)
 {
     const QuantityKind& kind = KindOf(QuantityNamed(axisName));
-    return std::string(kind.HasDegrees ? defaultDegreeSign : "") + std::string(kind.StoredUnit);
+    return WithDegrees(kind, kind.StoredUnit);
 }

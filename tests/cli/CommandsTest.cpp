@@ -22,6 +22,9 @@ private Q_SLOTS:
 
     void WritesACurveAsCsv();
     void WritesACurveAsJson();
+    void WritesValuesAtPointsAsCsv();
+    void WritesWhereACurveTakesAValue();
+    void TellsConditionsTypedInVain();
     void ComputesWithoutChecksWhereAsked();
     void TakesTheParameterOfAnOption();
     void DrawsTheParameterOfALine();
@@ -141,6 +144,45 @@ void CommandsTest::WritesACurveAsJson()
     QCOMPARE(curve["x"].toArray().size(), 200);
     QCOMPARE(curve["x"].toArray().last().toDouble(), 25.0);
     QCOMPARE(curve["y"].toArray().size(), 200);
+}
+
+void CommandsTest::WritesValuesAtPointsAsCsv()
+{
+    const QStringList curve = Words("curve KTS31NB51E106MA01 --chart capacitance-dc-voltage");
+    const auto whole = RunCommandLine(curve + Words("--format csv")).Output.split('\n');
+    const Run run = RunCommandLine(curve + Words("--at 0,25V"));
+    QCOMPARE(run.Messages, QByteArray());
+    QCOMPARE(run.Status, 0);
+    // The curve's own headings, first and last row.
+    QCOMPARE(run.Output.split('\n'), whole.mid(0, 5) + whole.mid(203));
+}
+
+void CommandsTest::WritesWhereACurveTakesAValue()
+{
+    const QStringList change = QStringList{"curve", "KTS31NB51E106MA01", "--chart", "capacitance-dc-voltage",
+                                           "--y",   "capacitance-change"};
+    const Run run = RunCommandLine(change + Words("--where -50%,0"));
+    QCOMPARE(run.Messages, QByteArray());
+    const auto lines = run.Output.split('\n');
+    QCOMPARE(lines.size(), 7);
+    QVERIFY2(lines[4].endsWith(",-50"), lines[4]);
+    QCOMPARE(lines[5], QByteArray("0,0"));
+    const Run none = RunCommandLine(change + Words("--where 900 --format json"));
+    QCOMPARE(none.Status, 0);
+    QVERIFY2(none.Output.contains("\"crossings\":[{\"y\":900,\"x\":[]}]"), none.Output);
+}
+
+void CommandsTest::TellsConditionsTypedInVain()
+{
+    const Run curve = RunCommandLine(
+        Words("curve KTS31NB51E106MA01 --chart capacitance-dc-voltage --frequency 300 --dc-bias 2 --at 1"));
+    QCOMPARE(curve.Status, 0);
+    QCOMPARE(curve.Messages, QByteArray("tavik-cli: KTS31NB51E106MA01: capacitance-dc-voltage does not use "
+                                        "--dc-bias, --frequency\n"));
+    const Run batch =
+        RunCommandLine(Words("curve --requests -"),
+                       R"({"part":"KTS31NB51E106MA01","chart":"capacitance-dc-voltage","dcBias":1})");
+    QCOMPARE(batch.Messages, QByteArray());
 }
 
 void CommandsTest::ComputesWithoutChecksWhereAsked()

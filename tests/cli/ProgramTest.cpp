@@ -153,6 +153,9 @@ void ProgramTest::AnswersTheVectors()
     QCOMPARE(run.Messages.count('\n'), 1);
 }
 
+/// How every answer with a curve begins.
+static constexpr const char* curveBegin = "{\"schemaVersion\":1,\"part\"";
+
 void ProgramTest::AnswersRequestsFromAFileIntoAFile()
 {
     QFile requests(InFolder("requests.jsonl"));
@@ -166,12 +169,16 @@ void ProgramTest::AnswersRequestsFromAFileIntoAFile()
     QCOMPARE(run.Status, 1);
     QCOMPARE(run.Output, QByteArray());
     const auto answers = Contents(InFolder("answers.jsonl")).split('\n');
-    QCOMPARE(answers.size(), 4);
-    QVERIFY(answers[0].startsWith("{\"part\""));
-    QCOMPARE(answers[1],
-             QByteArray("{\"error\":{\"number\":5,\"message\":\"there is no part \\\"nothing\\\"\"}}"));
-    QVERIFY(answers[2].startsWith("{\"part\""));
-    QCOMPARE(answers[3], QByteArray());
+    QCOMPARE(answers.size(), 5);
+    QVERIFY(answers[0].startsWith(curveBegin));
+    QCOMPARE(answers[1], QByteArray("{\"schemaVersion\":1,\"error\":{\"number\":5,\"code\":\"blank-line\","
+                                    "\"message\":\"the line is blank\",\"line\":2}}"));
+    QCOMPARE(answers[2],
+             QByteArray(
+                 "{\"schemaVersion\":1,\"error\":{\"number\":5,\"code\":\"unknown-part\",\"message\":"
+                 "\"there is no part \\\"nothing\\\"\",\"line\":3,\"part\":\"nothing\",\"key\":\"part\"}}"));
+    QVERIFY(answers[3].startsWith(curveBegin));
+    QCOMPARE(answers[4], QByteArray());
 }
 
 void ProgramTest::AnswersEachRequestAtOnce()
@@ -187,7 +194,7 @@ void ProgramTest::AnswersEachRequestAtOnce()
             QVERIFY(program.waitForReadyRead(10000));
             answer += program.readAllStandardOutput();
         }
-        QVERIFY(answer.startsWith("{\"part\""));
+        QVERIFY(answer.startsWith(curveBegin));
     }
     program.closeWriteChannel();
     QVERIFY(program.waitForFinished(10000));
@@ -216,6 +223,18 @@ void ProgramTest::EndsBadInputWithOneLine_data()
         "--format: xml not in {tvk,csv,json} (see tavik-cli --help)");
     row("foreign unit", "curve KTS31NB51E106MA01 --chart allowable-power --dc-bias 5kHz", 2,
         "--dc-bias \"5kHz\": \"kHz\" is not the unit of a voltage");
+    row("text for a number", "curve KTS31NB51E106MA01 --chart allowable-power --dc-bias much", 2,
+        "--dc-bias \"much\" is not a number");
+    row("a refused value as typed", "curve KTS31NB51E106MA01 --chart allowable-power --dc-bias 12kV", 1,
+        "KTS31NB51E106MA01: --dc-bias 12kV: DC Bias Voltage is invalid!");
+    row("a name that is nearly one", "curve KTS31NB51E106MA01 --chart allowable-powr", 2,
+        "did you mean \"allowable-power\"?");
+    row("points in a data file", "curve KTS31NB51E106MA01 --chart capacitance-dc-voltage --at 5 --format tvk",
+        2, "leave out --format tvk");
+    row("a point beyond the curve", "curve KTS31NB51E106MA01 --chart capacitance-dc-voltage --at 5,26", 1,
+        "--at 26: the curve reaches from 0 to 25 [V] of DC Bias Voltage");
+    row("a level that is no number", "curve KTS31NB51E106MA01 --chart capacitance-dc-voltage --where ,", 2,
+        "--where \"\" is not a number");
     row("parameter without a value", "curve KTS31NB51E106MA01 --chart temperature-rise --parameter current",
         2, "--parameter \"current\": wants NAME=VALUE, for example current=1.5");
     row("requests as a data file", "curve --requests - --format tvk", 2,

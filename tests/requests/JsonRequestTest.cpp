@@ -24,7 +24,7 @@ json Answer(const std::string& line, bool expectedCurve = true)
 {
     std::string text;
     AxisTexts axes;
-    EXPECT_EQ(AppendAnswer(text, line, {}, Parts(), {}, axes), expectedCurve) << text;
+    EXPECT_EQ(AppendAnswer(text, {line, 1}, {}, Parts(), {}, axes), expectedCurve) << text;
     EXPECT_EQ(std::ranges::count(text, '\n'), 1);
     EXPECT_TRUE(text.ends_with('\n'));
     return json::parse(text);

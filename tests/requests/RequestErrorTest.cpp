@@ -86,7 +86,7 @@ INSTANTIATE_TEST_SUITE_P(
             {.Part = medium, .Chart = "allowable-power", .Conditions = {{Condition::DCBias, "25000mV"}}},
             RequestErrorKind::Condition,
             "dcBias",
-            "25000E-3",
+            "25000mV",
             "DC Bias Voltage is invalid! Please enter a Number from 0 under 25[V]"},
         Row{"condition that is not given",
             {.Part = medium, .Chart = "temperature-rise", .Conditions = {{Condition::DCBias, "0"}}},
