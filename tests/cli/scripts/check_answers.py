@@ -1,0 +1,51 @@
+"""Real answers of tavik-cli against their description. Usage: check_answers.py PROGRAM SCHEMA"""
+import json
+import subprocess
+import sys
+
+import jsonschema
+
+program, schema_file = sys.argv[1:]
+with open(schema_file, encoding="utf-8") as file:
+    schema = json.load(file)
+jsonschema.Draft7Validator.check_schema(schema)
+validator = jsonschema.Draft7Validator(schema)
+PART = "KTS31NB51E106MA01"
+
+
+def run(arguments, lines=""):
+    done = subprocess.run([program, *arguments], input=lines, capture_output=True, encoding="utf-8", check=False)
+    return done.stdout
+
+
+def curve(**members):
+    return json.dumps({"part": PART, "chart": "capacitance-dc-voltage"} | members)
+
+
+requests = [
+    curve(id=[1, None]), curve(at=[0, "25V"]), curve(where="4uF"), curve(at=1, where=[1], frequency=5, parameter="current"),
+    curve(chart="temperature-rise", dcBias=1, frequency=100),
+    curve(chart="temperature-rise", x="Frequency", dcBias=1, parameter="apparent-power", parameterValue=0),
+    curve(chart="allowable-power", dcBias=0, y="Effective Power"),
+    curve(chart="capacitance-temperature", dcBias=0, y="Capacitance Change"),
+    "", "{", "[1]", curve(**{"dc-bias": 1}), curve(part="KTS31NB51E106MA02"), curve(chart="rise"), curve(x="Time"),
+    curve(part="KTU033R71E101KA01", chart="temperature-rise"), json.dumps({"part": PART}), curve(code="din"),
+    curve(ambient="warm"), curve(ambient="1V"), curve(ambient=999), curve(at=999),
+    curve(chart="temperature-rise", x="Frequency", dcBias=1, parameter="current", parameterValue=999, id="last"),
+]
+answers = [json.loads(line) for line in run(["curve", "--requests", "-"], "\n".join(requests) + "\n").splitlines()]
+assert len(answers) == len(requests)
+answers.append(json.loads(run(["curve", PART, "--chart", "allowable-power", "--dc-bias", "1", "--format", "json"])))
+answers.append(json.loads(run(["parts", "--format", "json"])))
+assert len(answers[-1]) > 1000
+for answer in answers:
+    validator.validate(answer)
+
+met = {answer["error"]["code"] for answer in answers[:-1] if "error" in answer}
+named = set(schema["definitions"]["failure"]["properties"]["error"]["properties"]["code"]["enum"])
+assert named - met == {"calculation"} and met <= named, named ^ met
+
+# The description is strict: neither a new member nor a lost one passes.
+for change in ({"colour": 1}, {"schemaVersion": 2}, {"x": "no list"}):
+    assert not validator.is_valid(answers[0] | change), change
+assert not validator.is_valid({key: value for key, value in answers[0].items() if key != "xUnit"})
