@@ -5,12 +5,16 @@
 #include "cli/FileArguments.h"
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
+#include "requests/Names.h"
 #include "requests/PartList.h"
+#include "requests/PartOrder.h"
 #include "requests/RequestError.h"
 #include "requests/UnitEntry.h"
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
+#include <charconv>
 #include <iostream>
 
 namespace
@@ -20,6 +24,8 @@ struct PartsOptions
     PartFilter Filter;
     CurveSettings Settings;
     CodeView Code = CodeView::Eia;
+    std::vector<SortKey> Order;
+    std::size_t Limit = MostParts;
     std::string Format;
     std::string DataFolder;
     std::string OutputFile;
@@ -30,14 +36,18 @@ static constexpr const char* help = R"(Examples:
   tavik-cli parts --chart temperature-rise --capacitance 10uF --rated-voltage 25V
   tavik-cli parts KTS31 --characteristic X7R --format csv
 
-A filter on size and characteristic takes names of either code. Values may bear a unit; without one a
-capacitance is in pF.)";
+Size and characteristic are looked up in the code in force, and in the other one if they stand nowhere there.
+Values may bear a unit; without one a capacitance is in pF. A..B, A.. and ..B are ranges, both ends included.)";
 
 static void ListParts(const PartsOptions& options)
 {
     RefuseInputAsOutput(options.OutputFile, PartFilesOf(PartFolder(options.DataFolder)));
     const auto parts = LoadParts(options.DataFolder);
-    const auto found = FilterParts(parts, options.Filter);
+    auto filter = options.Filter;
+    filter.Code = options.Code;
+    auto found = FilterParts(parts, filter);
+    SortParts(found, parts, options.Order, options.Code, options.Settings);
+    found.resize(std::min(found.size(), options.Limit));
     Output output(options.OutputFile);
     const auto& format = FormatNamed(PartListFormats(), options.Format);
     output.Write(format.Write(found, options.Code, options.Settings));
@@ -50,7 +60,8 @@ static void ListParts(const PartsOptions& options)
 
 /// An option that is read as soon as it is met, so that a wrong one is a wrong command line.
 template <class Take>
-static void AddFilter(CLI::App& command, const char* name, const char* type, const char* text, Take take)
+static void AddFilter(CLI::App& command, const char* name, const char* type, const std::string& text,
+                      Take take)
 {
     command
         .add_option_function<std::string>(
@@ -71,6 +82,18 @@ static void AddFilter(CLI::App& command, const char* name, const char* type, con
         ->group("Filter");
 }
 
+/// A whole number.
+static std::size_t CountOf(std::string_view text)
+{
+    std::size_t count = 0;
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), count);
+    if (read.ec != std::errc() || read.ptr != text.data() + text.size())
+    {
+        throw UsageError("--limit \"" + std::string(text) + "\" is not a whole number");
+    }
+    return count;
+}
+
 void AddPartsCommand(CLI::App& app)
 {
     const auto options = std::make_shared<PartsOptions>();
@@ -85,12 +108,17 @@ void AddPartsCommand(CLI::App& app)
               [&filter](const std::string& value) { filter.SizeCode = value; });
     AddFilter(command, "--characteristic", "TCC", "Temperature characteristic, such as X7R or R",
               [&filter](const std::string& value) { filter.Tcc = value; });
-    AddFilter(command, "--capacitance", "pF", "Nominal capacitance, such as 4.7uF",
+    AddFilter(command, "--capacitance", "pF", "Nominal capacitance, such as 4.7uF or 1uF..10uF",
               [&filter](const std::string& value)
-              { filter.Capacitance = ValueInUnit(value, Quantity::Capacitance); });
-    AddFilter(command, "--rated-voltage", "V", "Rated voltage, such as 25V",
+              { filter.Capacitance = RangeInUnit(value, Quantity::Capacitance); });
+    AddFilter(command, "--rated-voltage", "V", "Rated voltage, such as 25V or 16V..",
               [&filter](const std::string& value)
-              { filter.RatedVoltage = ValueInUnit(value, Quantity::DCVoltage); });
+              { filter.RatedVoltage = RangeInUnit(value, Quantity::DCVoltage); });
+    AddFilter(command, "--sort", "KEY[,KEY...]",
+              "Order by " + ChoiceOf(SortNames()) + "; downwards with a hyphen before the key",
+              [options](const std::string& value) { options->Order = SortKeysOf(value); });
+    AddFilter(command, "--limit", "N", "So many parts at most",
+              [options](const std::string& value) { options->Limit = CountOf(value); });
     AddCodeOption(command, options->Code);
     AddNumberingOption(command, options->Settings);
     AddDataOption(command, options->DataFolder);

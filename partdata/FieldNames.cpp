@@ -24,6 +24,17 @@ std::string FieldName(std::size_t field)
     return Indexed("Tcc", field - FirstTccField);
 }
 
+std::string_view NameHeading(std::size_t field)
+{
+    static constexpr std::array<std::string_view, NameFields> headings = {
+        "global part number EIA",   "global part number JIS", "previous part number EIA",
+        "previous part number JIS", "size code EIA",          "size code JIS",
+        "characteristic EIA",       "characteristic JIS",
+    };
+    static_assert(!headings.back().empty());
+    return headings.at(field);
+}
+
 std::string DataName(std::size_t index)
 {
     return Indexed("Data", index);

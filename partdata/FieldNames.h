@@ -24,6 +24,9 @@ PartNames NamesOf(const PartRecord& part);
 /// "Tcc(0)".
 std::string FieldName(std::size_t field);
 
+/// What tables call a name, in the order of the index: "global part number EIA", "size code JIS".
+std::string_view NameHeading(std::size_t field);
+
 /// As `FieldName`, for the value `Data(index)`: "Data(31)".
 std::string DataName(std::size_t index);
 

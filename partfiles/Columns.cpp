@@ -4,14 +4,6 @@
 #include <array>
 #include <string>
 
-/// What stands above the names, in the order of the index.
-static constexpr std::array<std::string_view, NameFields> NameHeadings = {
-    "global part number EIA",   "global part number JIS", "previous part number EIA",
-    "previous part number JIS", "size code EIA",          "size code JIS",
-    "characteristic EIA",       "characteristic JIS",
-};
-static_assert(!NameHeadings.back().empty());
-
 static std::string HeadingOf(const ValueName& value)
 {
     const std::string name(value.Name);
@@ -21,8 +13,11 @@ static std::string HeadingOf(const ValueName& value)
 static std::array<std::string, TableColumns> MakeHeadings()
 {
     std::array<std::string, TableColumns> headings;
-    const auto firstValue = std::ranges::copy(NameHeadings, headings.begin()).out;
-    std::ranges::transform(ValueNames, firstValue, HeadingOf);
+    for (std::size_t i = 0; i < NameFields; ++i)
+    {
+        headings[i] = NameHeading(i);
+    }
+    std::ranges::transform(ValueNames, headings.begin() + NameFields, HeadingOf);
     return headings;
 }
 

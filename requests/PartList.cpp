@@ -2,14 +2,17 @@
 
 #include "calc/ChartKinds.h"
 #include "calc/NumberText.h"
+#include "partdata/FieldNames.h"
 #include "partdata/KeyedCollection.h"
 #include "partdata/OneLine.h"
 #include "partdata/Windows1252.h"
+#include "requests/UnitEntry.h"
 
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 /// A text in UTF-8 as the keys of the part files are compared.
 static std::string Folded(std::string_view utf8)
@@ -22,9 +25,62 @@ static bool Holds(std::string_view partNum, const std::string& foldedText)
     return FoldedKey(partNum).find(foldedText) != std::string::npos;
 }
 
-static bool IsOneOf(const std::array<std::string_view, CodeForms>& names, const std::string& wanted)
+/// The names of a part in either code.
+using CodeNames = std::array<std::string_view, CodeForms> PartRecord::*;
+
+namespace
 {
-    return std::ranges::any_of(names, [&](auto name) { return EqualKeys(name, wanted); });
+/// A size or characteristic that is looked for.
+struct WantedName
+{
+    CodeNames Names;
+    std::string Folded;
+    std::size_t Code;
+
+    bool IsOf(const PartRecord& part) const { return EqualKeys((part.*Names)[Code], Folded); }
+};
+} // namespace
+
+/// Looked up in the code in force, and in the other one only if it stands nowhere there.
+static std::optional<WantedName> WantedIn(const PartTable& parts, CodeNames names,
+                                          const std::optional<std::string>& typed, CodeView code)
+{
+    if (!typed)
+    {
+        return std::nullopt;
+    }
+    WantedName wanted{names, Folded(*typed), static_cast<std::size_t>(code)};
+    const bool isThere =
+        std::ranges::any_of(parts.PartData, [&](const PartRecord& part) { return wanted.IsOf(part); });
+    wanted.Code = isThere ? wanted.Code : CodeForms - 1 - wanted.Code;
+    return wanted;
+}
+
+static bool Agrees(const std::optional<ValueRange>& range, float value)
+{
+    return !range || (value >= range->Lowest && value <= range->Highest);
+}
+
+ValueRange RangeInUnit(std::string_view typed, Quantity quantity)
+{
+    const auto dots = typed.find("..");
+    if (dots == std::string_view::npos)
+    {
+        const float value = ValueInUnit(typed, quantity);
+        return {value, value};
+    }
+    const auto lowest = typed.substr(0, dots);
+    const auto highest = typed.substr(dots + 2);
+    ValueRange range;
+    if (!lowest.empty() || highest.empty())
+    {
+        range.Lowest = ValueInUnit(lowest, quantity);
+    }
+    if (!highest.empty())
+    {
+        range.Highest = ValueInUnit(highest, quantity);
+    }
+    return range;
 }
 
 static bool IsOffered(const PartRecord& part, std::optional<std::int16_t> chartType)
@@ -40,14 +96,13 @@ static bool IsOffered(const PartRecord& part, std::optional<std::int16_t> chartT
 std::vector<const PartRecord*> FilterParts(const PartTable& parts, const PartFilter& filter)
 {
     const auto text = Folded(filter.Text);
-    const auto size = Folded(filter.SizeCode.value_or(""));
-    const auto tcc = Folded(filter.Tcc.value_or(""));
+    const auto size = WantedIn(parts, &PartRecord::SizeCode, filter.SizeCode, filter.Code);
+    const auto tcc = WantedIn(parts, &PartRecord::Tcc, filter.Tcc, filter.Code);
     const auto agrees = [&](const PartRecord& part)
     {
-        return IsOffered(part, filter.ChartType) && (!filter.SizeCode || IsOneOf(part.SizeCode, size)) &&
-               (!filter.Tcc || IsOneOf(part.Tcc, tcc)) &&
-               (!filter.Capacitance || part.Data[Value::Capacitance] == *filter.Capacitance) &&
-               (!filter.RatedVoltage || part.Data[Value::RatedVoltage] == *filter.RatedVoltage) &&
+        return IsOffered(part, filter.ChartType) && (!size || size->IsOf(part)) &&
+               (!tcc || tcc->IsOf(part)) && Agrees(filter.Capacitance, part.Data[Value::Capacitance]) &&
+               Agrees(filter.RatedVoltage, part.Data[Value::RatedVoltage]) &&
                std::ranges::any_of(part.PartNum, [&](auto number) { return Holds(number, text); });
     };
     std::vector<const PartRecord*> found;
@@ -63,8 +118,10 @@ std::vector<const PartRecord*> FilterParts(const PartTable& parts, const PartFil
 
 namespace
 {
-/// One part as its columns.
-using Row = std::array<std::string, 6>;
+/// One part as its columns: what every list tells, then all its names.
+using Row = std::vector<std::string>;
+/// What every list tells.
+constexpr std::size_t shownColumns = 6;
 } // namespace
 
 static std::vector<std::string> ChartsOf(const PartRecord& part)
@@ -88,9 +145,11 @@ static Row RowOf(const PartRecord& part, CodeView code, const CurveSettings& set
     {
         charts += (charts.empty() ? "" : " ") + chart;
     }
-    return {ShownPartNum(part, code, settings),         Utf8FromWindows1252(part.SizeCode[naming]),
-            Utf8FromWindows1252(part.Tcc[naming]),      NumberText(part.Data[Value::Capacitance]),
-            NumberText(part.Data[Value::RatedVoltage]), charts};
+    Row row = {ShownPartNum(part, code, settings),         Utf8FromWindows1252(part.SizeCode[naming]),
+               Utf8FromWindows1252(part.Tcc[naming]),      NumberText(part.Data[Value::Capacitance]),
+               NumberText(part.Data[Value::RatedVoltage]), charts};
+    std::ranges::transform(NamesOf(part), std::back_inserter(row), Utf8FromWindows1252);
+    return row;
 }
 
 /// Characters of a UTF-8 text.
@@ -113,10 +172,10 @@ static std::vector<Row> OnOneLine(std::vector<Row> rows)
 static std::string TableOf(const std::vector<Row>& rows)
 {
     constexpr std::size_t gap = 2;
-    Row::size_type widths[std::tuple_size_v<Row>] = {};
+    std::size_t widths[shownColumns] = {};
     for (const Row& row : rows)
     {
-        for (std::size_t i = 0; i < row.size(); ++i)
+        for (std::size_t i = 0; i < shownColumns; ++i)
         {
             widths[i] = std::max(widths[i], WidthOf(row[i]));
         }
@@ -124,10 +183,10 @@ static std::string TableOf(const std::vector<Row>& rows)
     std::string text;
     for (const Row& row : rows)
     {
-        for (std::size_t i = 0; i < row.size(); ++i)
+        for (std::size_t i = 0; i < shownColumns; ++i)
         {
             const bool isNumber = i == 3 || i == 4;
-            const bool isLast = i + 1 == row.size();
+            const bool isLast = i + 1 == shownColumns;
             const std::string padding(widths[i] - WidthOf(row[i]), ' ');
             text += isNumber ? padding + row[i] : row[i] + (isLast ? "" : padding);
             text.append(isLast ? 0 : gap, ' ');
@@ -181,6 +240,10 @@ static std::string Json(const std::vector<const PartRecord*>& parts, CodeView co
         object["capacitance"] = nlohmann::json::parse(row[3]);
         object["ratedVoltage"] = nlohmann::json::parse(row[4]);
         object["charts"] = ChartsOf(*part);
+        const auto names = row.begin() + shownColumns;
+        object["partNumbers"] = Row(names, names + FirstSizeCodeField);
+        object["sizes"] = Row(names + FirstSizeCodeField, names + FirstTccField);
+        object["characteristics"] = Row(names + FirstTccField, row.end());
         text += (text.size() == 1 ? "\n" : ",\n") +
                 object.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
     }
@@ -208,8 +271,12 @@ static std::string Table(const std::vector<const PartRecord*>& parts, CodeView c
 static std::string Csv(const std::vector<const PartRecord*>& parts, CodeView code,
                        const CurveSettings& settings)
 {
-    return CsvOf(RowsOf({"part", "size", "characteristic", "capacitance [pF]", "rated voltage [V]", "charts"},
-                        parts, code, settings));
+    Row headings = {"part", "size", "characteristic", "capacitance [pF]", "rated voltage [V]", "charts"};
+    for (std::size_t i = 0; i < NameFields; ++i)
+    {
+        headings.emplace_back(NameHeading(i));
+    }
+    return CsvOf(RowsOf(headings, parts, code, settings));
 }
 
 std::span<const PartListFormat> PartListFormats()

@@ -2,6 +2,9 @@
 
 #include "requests/PartList.h"
 
+#include "requests/PartOrder.h"
+#include "requests/RequestError.h"
+
 #include <gtest/gtest.h>
 
 namespace
@@ -66,10 +69,60 @@ TEST(PartList, IsNarrowedByEachFilter)
     EXPECT_EQ(range.Find({.SizeCode = "1206"}), "AB ");
     EXPECT_EQ(range.Find({.Tcc = "x7r"}), "AB EF ");
     EXPECT_EQ(range.Find({.Tcc = "b"}), "CD ");
-    EXPECT_EQ(range.Find({.Capacitance = 100.0F}), "CD EF ");
-    EXPECT_EQ(range.Find({.RatedVoltage = 6.3F}), "CD ");
-    EXPECT_EQ(range.Find({.Tcc = "X7R", .Capacitance = 100.0F}), "EF ");
+    EXPECT_EQ(range.Find({.Capacitance = ValueRange{100, 100}}), "CD EF ");
+    EXPECT_EQ(range.Find({.RatedVoltage = ValueRange{6.3F, 6.3F}}), "CD ");
+    EXPECT_EQ(range.Find({.Tcc = "X7R", .Capacitance = ValueRange{100, 100}}), "EF ");
     EXPECT_EQ(range.Find({.Tcc = "X8R"}), "");
+}
+
+TEST(PartList, LooksNamesUpInTheCodeInForceFirst)
+{
+    Range range;
+    range.Add({"GH-1", "GH-2", "OLD-9", "OLD-0"}, {"0402", "1206"}, {"X5R", "X7R"}, 100, 25, 3);
+    EXPECT_EQ(range.Find({.SizeCode = "1206"}), "AB ");
+    EXPECT_EQ(range.Find({.SizeCode = "1206", .Code = CodeView::Jis}), "GH ");
+    EXPECT_EQ(range.Find({.SizeCode = "3216"}), "AB ");
+    EXPECT_EQ(range.Find({.SizeCode = "0402", .Code = CodeView::Jis}), "GH ");
+    EXPECT_EQ(range.Find({.Tcc = "X7R", .Code = CodeView::Jis}), "GH ");
+}
+
+TEST(PartList, TakesRangesOfValues)
+{
+    const Range range;
+    const auto found = [&](const char* typed)
+    { return range.Find({.Capacitance = RangeInUnit(typed, Quantity::Capacitance)}); };
+    EXPECT_EQ(found("100pF..4.7uF"), "AB CD EF ");
+    EXPECT_EQ(found("101.."), "AB ");
+    EXPECT_EQ(found("..100"), "CD EF ");
+    EXPECT_EQ(found("4.7UF"), "AB ");
+    EXPECT_THROW(found(".."), RequestError);
+    EXPECT_THROW(found("1..x"), RequestError);
+}
+
+std::string Sorted(const Range& range, const char* keys, CodeView code = CodeView::Eia)
+{
+    auto parts = FilterParts(range.Table, {});
+    SortParts(parts, range.Table, SortKeysOf(keys), code, {});
+    std::string order;
+    for (const PartRecord* part : parts)
+    {
+        order.append(part->PartNum[0].substr(0, 2)).append(" ");
+    }
+    return order;
+}
+
+TEST(PartList, IsSortedByKeysUpAndDown)
+{
+    const Range range;
+    EXPECT_EQ(Sorted(range, "-part"), "EF CD AB ");
+    EXPECT_EQ(Sorted(range, "capacitance"), "CD EF AB ");
+    EXPECT_EQ(Sorted(range, "rated-voltage,-part"), "CD EF AB ");
+    EXPECT_EQ(Sorted(range, "size"), "AB CD EF ");
+    EXPECT_EQ(Sorted(range, "-size"), "CD EF AB ");
+    EXPECT_EQ(Sorted(range, "characteristic"), "AB EF CD ");
+    EXPECT_EQ(Sorted(range, "-characteristic,-part", CodeView::Jis), "CD EF AB ");
+    EXPECT_THROW(SortKeysOf("colour"), RequestError);
+    EXPECT_THROW(SortKeysOf("size,"), RequestError);
 }
 
 TEST(PartList, IsWrittenInTheNamingAskedFor)
@@ -100,20 +153,25 @@ TEST(PartList, QuotesWhatCsvNeedsQuoted)
 {
     const Range range;
     const auto parts = FilterParts(range.Table, {.Text = "EF"});
-    const std::string heading = "part,size,characteristic,capacitance [pF],rated voltage [V],charts\n";
+    const std::string heading = "part,size,characteristic,capacitance [pF],rated voltage [V],charts,"
+                                "global part number EIA,global part number JIS,previous part number EIA,"
+                                "previous part number JIS,size code EIA,size code JIS,characteristic EIA,"
+                                "characteristic JIS\n";
+    const std::string names = ",\"EF\"\"1\",\"EF,2\",OLD-5,OLD-6,0805,2012,X7R,R\n";
     EXPECT_EQ(ListText(parts, "csv", CodeView::Eia, {}),
-              heading + "\"EF\"\"1\",0805,X7R,100,25,capacitance-temperature capacitance-dc-voltage\n");
+              heading + "\"EF\"\"1\",0805,X7R,100,25,capacitance-temperature capacitance-dc-voltage" + names);
     EXPECT_EQ(ListText(parts, "csv", CodeView::Jis, {}),
-              heading + "\"EF,2\",2012,R,100,25,capacitance-temperature capacitance-dc-voltage\n");
+              heading + "\"EF,2\",2012,R,100,25,capacitance-temperature capacitance-dc-voltage" + names);
 }
 
 TEST(PartList, IsAListOfObjectsInJson)
 {
     const Range range;
-    EXPECT_EQ(
-        ListText(FilterParts(range.Table, {.Text = "EF"}), "json", CodeView::Eia, {}),
-        "[\n{\"part\":\"EF\\\"1\",\"size\":\"0805\",\"characteristic\":\"X7R\",\"capacitance\":100,"
-        "\"ratedVoltage\":25,\"charts\":[\"capacitance-temperature\",\"capacitance-dc-voltage\"]}\n]\n");
+    EXPECT_EQ(ListText(FilterParts(range.Table, {.Text = "EF"}), "json", CodeView::Eia, {}),
+              "[\n{\"part\":\"EF\\\"1\",\"size\":\"0805\",\"characteristic\":\"X7R\",\"capacitance\":100,"
+              "\"ratedVoltage\":25,\"charts\":[\"capacitance-temperature\",\"capacitance-dc-voltage\"],"
+              "\"partNumbers\":[\"EF\\\"1\",\"EF,2\",\"OLD-5\",\"OLD-6\"],\"sizes\":[\"0805\",\"2012\"],"
+              "\"characteristics\":[\"X7R\",\"R\"]}\n]\n");
     EXPECT_EQ(ListText({}, "json", CodeView::Eia, {}), "[\n]\n");
 }
 } // namespace
