@@ -268,8 +268,8 @@ void CommandsTest::RefusesWithOneLine_data()
     row("condition that is not given", "curve KTS31NB51E106MA01 --chart temperature-rise --dc-bias 0", 1,
         "--frequency is not given: Frequency is invalid!");
     row("condition that is no number, unchecked",
-        "curve KTS31NB51E106MA01 --chart capacitance-temperature --dc-bias high --unchecked", 1,
-        "--dc-bias high: is not a number");
+        "curve KTS31NB51E106MA01 --chart capacitance-temperature --dc-bias high --unchecked", 2,
+        "--dc-bias \"high\" is not a number");
     row("chart that the part has no data for",
         "curve KTU033R71E101KA01 --chart temperature-rise --dc-bias 0 --frequency 300", 1,
         "KTU033R71E101KA01: has no data for chart temperature-rise");

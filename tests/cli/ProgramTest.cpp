@@ -226,13 +226,15 @@ void ProgramTest::EndsBadInputWithOneLine_data()
     row("text for a number", "curve KTS31NB51E106MA01 --chart allowable-power --dc-bias much", 2,
         "--dc-bias \"much\" is not a number");
     row("a refused value as typed", "curve KTS31NB51E106MA01 --chart allowable-power --dc-bias 12kV", 1,
-        "KTS31NB51E106MA01: --dc-bias 12kV: DC Bias Voltage is invalid!");
+        "KTS31NB51E106MA01: --dc-bias 12kV: DC Bias Voltage is invalid! Please enter a Number from 0 "
+        "under 25[V]");
     row("a name that is nearly one", "curve KTS31NB51E106MA01 --chart allowable-powr", 2,
-        "did you mean \"allowable-power\"?");
+        "chart \"allowable-powr\" is none of: temperature-rise, allowable-power, capacitance-temperature, "
+        "capacitance-dc-voltage; did you mean \"allowable-power\"?");
     row("points in a data file", "curve KTS31NB51E106MA01 --chart capacitance-dc-voltage --at 5 --format tvk",
-        2, "leave out --format tvk");
+        2, "--at and --where are answered in csv or json: leave out --format tvk");
     row("a point beyond the curve", "curve KTS31NB51E106MA01 --chart capacitance-dc-voltage --at 5,26", 1,
-        "--at 26: the curve reaches from 0 to 25 [V] of DC Bias Voltage");
+        "KTS31NB51E106MA01: --at 26: the curve reaches from 0 to 25 [V] of DC Bias Voltage");
     row("a level that is no number", "curve KTS31NB51E106MA01 --chart capacitance-dc-voltage --where ,", 2,
         "--where \"\" is not a number");
     row("parameter without a value", "curve KTS31NB51E106MA01 --chart temperature-rise --parameter current",
@@ -241,7 +243,7 @@ void ProgramTest::EndsBadInputWithOneLine_data()
         "--requests is answered in JSON only: leave out --format tvk");
     row("unknown part", "curve KTS --chart allowable-power", 1, "KTS: there is no part \"KTS\"");
     row("out of range", "curve KTS31NB51E106MA01 --chart allowable-power --dc-bias 25V", 1,
-        "KTS31NB51E106MA01: --dc-bias 25: DC Bias Voltage is invalid! Please enter a Number from 0 under "
+        "KTS31NB51E106MA01: --dc-bias 25V: DC Bias Voltage is invalid! Please enter a Number from 0 under "
         "25[V]");
     row("no request file", "curve --requests /nowhere/requests", 1, "/nowhere/requests: cannot be read");
     row("a folder of requests", "curve --requests /", 1, "/: cannot be read");

@@ -98,7 +98,7 @@ TEST(Requests, LeaveOutConditionsThatTheChartDoesNotUse)
 TEST(Requests, TakeEveryKeyThatTheyName)
 {
     const auto keys = RequestKeys();
-    EXPECT_EQ(keys.size(), 11U);
+    EXPECT_EQ(keys.size(), 14U);
     for (const auto& key : keys)
     {
         const auto value = key == "code" ? "jis" : "1";
