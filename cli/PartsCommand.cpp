@@ -5,6 +5,7 @@
 #include "cli/FileArguments.h"
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
+#include "cli/RequestWords.h"
 #include "requests/Names.h"
 #include "requests/PartList.h"
 #include "requests/PartOrder.h"
@@ -74,7 +75,8 @@ static void AddFilter(CLI::App& command, const char* name, const char* type, con
                 }
                 catch (const RequestError& error)
                 {
-                    throw UsageError(std::string(name) + ' ' + error.Message());
+                    throw UsageError(FollowsKey(error.Kind()) ? std::string(name) + ' ' + error.Message()
+                                                              : WordsOf(error));
                 }
             },
             text)

@@ -4,6 +4,7 @@
 #include "cli/Commands.h"
 #include "cli/RequestWords.h"
 #include "partdata/OneLine.h"
+#include "requests/Names.h"
 
 #include <CLI/CLI.hpp>
 
@@ -11,6 +12,7 @@
 #include <iostream>
 #include <new>
 #include <string>
+#include <vector>
 
 static constexpr const char* noOutput = "standard output: cannot be written";
 
@@ -26,6 +28,42 @@ static int End(ExitStatus status, std::string message)
     return static_cast<int>(status);
 }
 
+/// The command that was reached.
+static const CLI::App& LastCommand(const CLI::App& app)
+{
+    const auto reached = app.get_subcommands();
+    return reached.empty() ? app : LastCommand(*reached.front());
+}
+
+/// What may follow a command: the names of its commands and options.
+static std::vector<std::string> WordsAfter(const CLI::App& command)
+{
+    std::vector<std::string> words;
+    for (const CLI::App* below : command.get_subcommands([](const CLI::App*) { return true; }))
+    {
+        words.push_back(below->get_name());
+    }
+    for (const CLI::Option* option : command.get_options())
+    {
+        for (const std::string& name : option->get_lnames())
+        {
+            words.push_back("--" + name);
+        }
+    }
+    return words;
+}
+
+/// Arguments that no command takes, as they were typed, and what the first of them probably meant.
+static std::string Unexpected(const CLI::App& app)
+{
+    const auto arguments = app.remaining(true);
+    const auto first = arguments.front().substr(0, arguments.front().find('='));
+    const auto meant = NameMeantBy(first, WordsAfter(LastCommand(app)));
+    return (arguments.size() == 1 ? "The following argument was not expected: "
+                                  : "The following arguments were not expected: ") +
+           ListOf(arguments, " ") + (meant ? "; did you mean \"" + *meant + "\"?" : "");
+}
+
 /// Help and version on standard output, anything else as a usage error.
 static int EndParsing(const CLI::App& app, const CLI::ParseError& error)
 {
@@ -34,22 +72,51 @@ static int EndParsing(const CLI::App& app, const CLI::ParseError& error)
         app.exit(error);
         return std::cout.flush() ? 0 : End(ExitStatus::Failed, noOutput);
     }
-    return End(ExitStatus::Usage, error.what() + std::string(" (see tavik-cli --help)"));
+    const auto code = static_cast<CLI::ExitCodes>(error.get_exit_code());
+    // A command is missing also where it is mistyped.
+    const bool isUnexpected = code == CLI::ExitCodes::ExtrasError ||
+                              (code == CLI::ExitCodes::RequiredError && !app.remaining(true).empty());
+    const auto message = isUnexpected ? Unexpected(app) : error.what();
+    return End(ExitStatus::Usage, message + " (see tavik-cli --help)");
+}
+
+/// Lets every command tell the version.
+static void AddVersion(CLI::App& command)
+{
+    command.set_version_flag("--version", "tavik-cli " TAVIK_VERSION);
+    for (CLI::App* below : command.get_subcommands([](const CLI::App*) { return true; }))
+    {
+        AddVersion(*below);
+    }
+}
+
+/// What is typed, the last word first; "help curve" is another way to say "curve --help".
+static std::vector<std::string> ArgumentsOf(int argc, const char* const* argv)
+{
+    std::vector<std::string> arguments(argv + 1, argv + argc);
+    if (!arguments.empty() && arguments.front() == "help")
+    {
+        arguments.erase(arguments.begin());
+        arguments.emplace_back("--help");
+    }
+    std::ranges::reverse(arguments);
+    return arguments;
 }
 
 int RunProgram(int argc, const char* const* argv)
 {
     CLI::App app("Characteristics of multilayer chip capacitors on the command line.", "tavik-cli");
-    app.set_version_flag("--version", "tavik-cli " TAVIK_VERSION);
     app.require_subcommand(0, 1);
     app.get_formatter()->column_width(34);
     for (const auto add : AllCommands)
     {
         add(app);
     }
+    AddVersion(app);
+    app.footer("tavik-cli help COMMAND tells more of a command.");
     try
     {
-        app.parse(argc, argv);
+        app.parse(ArgumentsOf(argc, argv));
         if (app.get_subcommands().empty())
         {
             throw UsageError("a command is missing (see tavik-cli --help)");

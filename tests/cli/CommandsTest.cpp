@@ -242,7 +242,7 @@ void CommandsTest::RefusesWithOneLine_data()
     QTest::addColumn<QByteArray>("message");
     const auto row = [](const char* name, const char* words, int status, const char* message)
     { QTest::newRow(name) << Words(words) << status << QByteArray(message); };
-    row("parts of an unknown chart", "parts --chart power", 2, "--chart chart \"power\" is none of: ");
+    row("parts of an unknown chart", "parts --chart power", 2, "tavik-cli: chart \"power\" is none of: ");
     row("parts rated for no number", "parts --rated-voltage high", 2,
         "--rated-voltage \"high\" is not a number");
     row("unknown code", "parts --code din", 2, "code \"din\" is none of: eia, jis");

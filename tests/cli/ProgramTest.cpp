@@ -214,6 +214,18 @@ void ProgramTest::EndsBadInputWithOneLine_data()
     row("unknown command", "plot", 2, "The following argument was not expected: plot (see tavik-cli --help)");
     row("unknown option", "curve --bias 3", 2,
         "The following argument was not expected: --bias (see tavik-cli --help)");
+    row("nearly a command", "cruve", 2,
+        "The following argument was not expected: cruve; did you mean \"curve\"? (see tavik-cli --help)");
+    row("nearly a command below one", "data chek", 2,
+        "The following argument was not expected: chek; did you mean \"check\"? (see tavik-cli --help)");
+    row("nearly an option", "curve A --dcbias=3", 2,
+        "The following argument was not expected: --dcbias=3; did you mean \"--dc-bias\"? (see tavik-cli "
+        "--help)");
+    row("unknown arguments in their order", "curve A --bias B C", 2,
+        "The following arguments were not expected: --bias B C (see tavik-cli --help)");
+    row("nearly a chart of a list", "parts --chart allowable-powr", 2,
+        "chart \"allowable-powr\" is none of: temperature-rise, allowable-power, capacitance-temperature, "
+        "capacitance-dc-voltage; did you mean \"allowable-power\"?");
     row("no part", "curve --chart allowable-power", 2, "curve wants a part number, or --requests");
     row("no chart", "curve KTS31NB51E106MA01", 2, "curve wants --chart");
     row("unknown chart", "curve KTS31NB51E106MA01 --chart power", 2,
@@ -278,7 +290,8 @@ void ProgramTest::EndsBadInputWithOneLine()
     QFETCH(const int, status);
     QFETCH(const QString, message);
     QStringList withOutput = arguments;
-    const bool writes = !arguments.isEmpty() && arguments[0] != "plot" && !arguments.contains("--output");
+    const bool writes = QStringList{"parts", "curve", "chart"}.contains(arguments.value(0)) &&
+                        !arguments.contains("--output");
     if (writes)
     {
         withOutput << "--output" << InFolder("result.png");
@@ -380,6 +393,9 @@ void ProgramTest::HasHelpAndVersion()
         QVERIFY(run.Messages.isEmpty());
         QVERIFY2(run.Output.contains("Examples:\n  tavik-cli " + QByteArray(command)), run.Output);
         QVERIFY(!run.Output.contains('\x1B'));
+        QCOMPARE(RunCommandLine({"help", command}).Output, run.Output);
+        QCOMPARE(RunCommandLine({command, "--version"}).Output,
+                 QByteArray("tavik-cli " PROGRAM_VERSION "\n"));
     }
 }
 
