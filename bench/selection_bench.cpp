@@ -1,6 +1,7 @@
 /// What users of the longest possible part list wait for: filling the part-number box, changing its naming
 /// and opening its list, beside an ordinary combo box of the same entries.
 
+#include "app/PartNumText.h"
 #include "app/mdlPublic.h"
 #include "bench/Turns.h"
 #include "selection/PartNumBox.h"

@@ -90,7 +90,7 @@ static std::shared_ptr<NotedChart> NoteChart()
     QPainter painter(&picture);
     const QRectF target(0, 0, chartSurfaceWidth, chartSurfaceHeight);
     auto noted = std::make_shared<NotedChart>(painter, target, chartScale);
-    const auto lines = mdlPublic.Charts.Lines();
+    const auto lines = mdlPublic.Charts.LinesToPlace();
     const ChartKey chart = KeyOf(lines.front());
     const ChartView view = {chart, DefaultRange(chart, lines)};
     PlaceCurves(view, lines);

@@ -29,7 +29,6 @@ namespace fs = std::filesystem;
 static constexpr int Charts = 13;
 static constexpr int LinesPerChart = 6;
 static constexpr std::size_t LargestParts = 32767;
-static constexpr std::size_t DataRecordBytes = DataValues * sizeof(float);
 
 static std::string BytesOf(const fs::path& path)
 {
