@@ -35,25 +35,47 @@ std::uintmax_t PairReading::DataBytes() const
     return state ? state->Size : 0;
 }
 
-const fs::path& PairReading::Half::Path()
+void PairReading::Half::Find()
 {
     asked = true;
     if (path.empty())
     {
         path = find();
-        seen = StateOf(WhereRead(path));
+        staged = StagedOf(path);
+    }
+}
+
+const fs::path& PairReading::Half::Path()
+{
+    const bool isNew = path.empty();
+    Find();
+    if (isNew)
+    {
+        seen = StateOf(WhereRead(path, staged));
     }
     return path;
 }
 
 InputFile& PairReading::Half::Open()
 {
-    if (!file)
+    if (file)
     {
-        const auto& found = Path();
-        file = std::make_unique<InputFile>(WhereRead(found), found.filename().string());
-        seen = file->State();
+        return *file;
     }
+    Find();
+    const auto open = [this]
+    { return std::make_unique<InputFile>(WhereRead(path, staged), path.filename().string()); };
+    try
+    {
+        file = open();
+    }
+    catch (const RunTimeError&)
+    {
+        // What cannot be opened is noted before it is tried once more, so that what comes meanwhile is seen.
+        seen = StateOf(WhereRead(path, staged));
+        file = open();
+    }
+    seen = file->State();
     return *file;
 }
 
@@ -61,7 +83,8 @@ std::optional<FileState> PairReading::Half::Look() const
 {
     try
     {
-        return StateOf(WhereRead(find()));
+        const auto found = find();
+        return StateOf(found == path ? WhereRead(path, staged) : WhereRead(found));
     }
     catch (const RunTimeError&)
     {

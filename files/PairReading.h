@@ -61,9 +61,13 @@ private:
         bool IsSettled() const { return !asked || Look() == seen; }
 
     private:
+        void Find();
+
         const std::function<std::filesystem::path()>& find;
         bool asked = false;
         std::filesystem::path path;
+        /// Where it stands while a commit is under way.
+        std::filesystem::path staged;
         std::optional<FileState> seen;
         std::unique_ptr<InputFile> file;
     };

@@ -53,16 +53,22 @@ fs::path FileInStage(const fs::path& folder, std::string_view extension)
     return folder / extension.substr(1);
 }
 
-fs::path WhereRead(const fs::path& partFile)
+fs::path StagedOf(const fs::path& partFile)
 {
     const auto extension = partFile.extension().string();
-    if (extension.size() < 2)
-    {
-        return partFile;
-    }
-    const auto pair = fs::path(partFile).replace_extension();
-    auto staged = FileInStage(StagedFolderOf(pair), extension);
+    return extension.size() < 2
+               ? partFile
+               : FileInStage(StagedFolderOf(fs::path(partFile).replace_extension()), extension);
+}
+
+const fs::path& WhereRead(const fs::path& partFile, const fs::path& staged)
+{
     return IsThere(staged) ? staged : partFile;
+}
+
+fs::path WhereRead(const fs::path& partFile)
+{
+    return WhereRead(partFile, StagedOf(partFile));
 }
 
 std::string NameOfStaged(const fs::path& entry, std::string_view extension)

@@ -23,6 +23,14 @@ std::filesystem::path PairOfStaged(const std::filesystem::path& folder);
 /// The path in one of these folders of the file with an extension, such as ".idx".
 std::filesystem::path FileInStage(const std::filesystem::path& folder, std::string_view extension);
 
+/// Where the file of a part file's name stands while a commit is under way; itself for a name without
+/// extension.
+std::filesystem::path StagedOf(const std::filesystem::path& partFile);
+
+/// The staged file, if it is there, else the part file itself.
+const std::filesystem::path& WhereRead(const std::filesystem::path& partFile,
+                                       const std::filesystem::path& staged);
+
 /// The file that is to be read where a part file is asked for: the staged one, if there is one, else itself.
 std::filesystem::path WhereRead(const std::filesystem::path& partFile);
 
