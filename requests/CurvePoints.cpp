@@ -13,39 +13,33 @@ static std::string ReachOf(const ChartRecord& line)
            NumberText(ShownValue(x, line.XData.back())) + ' ' + UnitOf(x) + " of " + line.XAxisName;
 }
 
-static CurvePoint PointAt(const RequestedCurve& curve, const std::string& typed)
+std::vector<CurvePoint> PointsOf(const PartRecord& part, const ChartRecord& line, CodeView code,
+                                 const std::vector<std::string>& at)
 {
-    const float x = StoredValueInUnit(typed, QuantityNamed(curve.Line.XAxisName), "at");
-    const auto y = ValueAt(*curve.Part, curve.Line, x, curve.Code);
-    if (!y)
+    const auto quantity = QuantityNamed(line.XAxisName);
+    std::vector<CurvePoint> points;
+    for (const std::string& typed : at)
     {
-        throw RequestError(RequestErrorKind::Condition, "at", ReachOf(curve.Line)).Of(typed);
+        const float x = StoredValueInUnit(typed, quantity, "at");
+        const auto y = ValueAt(part, line, x, code);
+        if (!y)
+        {
+            throw RequestError(RequestErrorKind::Condition, "at", ReachOf(line)).Of(typed);
+        }
+        points.push_back({x, static_cast<float>(*y)});
     }
-    return {x, static_cast<float>(*y)};
+    return points;
 }
 
-static CurveLevel LevelOf(const RequestedCurve& curve, const std::string& typed)
+std::vector<CurveLevel> LevelsOf(const PartRecord& part, const ChartRecord& line, CodeView code,
+                                 const std::vector<std::string>& where)
 {
-    const float y = StoredValueInUnit(typed, QuantityNamed(curve.Line.YAxisName), "where");
-    return {y, CrossingsOf(*curve.Part, curve.Line, y, curve.Code)};
-}
-
-void TakePoints(RequestedCurve& curve, const CurveRequest& request)
-{
-    if (request.At)
+    const auto quantity = QuantityNamed(line.YAxisName);
+    std::vector<CurveLevel> levels;
+    for (const std::string& typed : where)
     {
-        curve.Points.emplace();
-        for (const std::string& typed : *request.At)
-        {
-            curve.Points->push_back(PointAt(curve, typed));
-        }
+        const float y = StoredValueInUnit(typed, quantity, "where");
+        levels.push_back({y, CrossingsOf(part, line, y, code)});
     }
-    if (request.Where)
-    {
-        curve.Levels.emplace();
-        for (const std::string& typed : *request.Where)
-        {
-            curve.Levels->push_back(LevelOf(curve, typed));
-        }
-    }
+    return levels;
 }

@@ -2,11 +2,35 @@
 
 /// Values of a curve at single points, and where it takes single values.
 
-#include "requests/CurveRequest.h"
+#include "calc/ChartRecord.h"
+#include "partdata/PartRecord.h"
 
-/// The points and levels that the request asks for, of a curve that is computed. Both are lists in the order
-/// asked for, and nothing where the request asks for none.
+#include <string>
+#include <vector>
+
+/// One point in the units of the record.
+struct CurvePoint
+{
+    float X;
+    float Y;
+};
+
+/// Every X, upwards, at which a curve takes a value.
+struct CurveLevel
+{
+    float Y;
+    std::vector<float> X;
+};
+
+/// The points of a computed line at each X as typed, in that order.
 ///
-/// Throws RequestError with the key "at" or "where" for a text that is no number, for a unit that does not
-/// fit, and for a point that the curve does not reach.
-void TakePoints(RequestedCurve& curve, const CurveRequest& request);
+/// Throws RequestError with the key "at" for a text that is no number, for a unit that does not fit, and for
+/// an X that the line does not reach.
+std::vector<CurvePoint> PointsOf(const PartRecord& part, const ChartRecord& line, CodeView code,
+                                 const std::vector<std::string>& at);
+
+/// Where a computed line takes each Y as typed, in that order.
+///
+/// Throws RequestError with the key "where" for a text that is no number and for a unit that does not fit.
+std::vector<CurveLevel> LevelsOf(const PartRecord& part, const ChartRecord& line, CodeView code,
+                                 const std::vector<std::string>& where);

@@ -5,7 +5,6 @@
 #include "calc/NumberText.h"
 #include "partdata/RunTimeError.h"
 #include "partdata/Windows1252.h"
-#include "requests/CurvePoints.h"
 #include "requests/Names.h"
 #include "requests/RequestError.h"
 #include "requests/UnitEntry.h"
@@ -264,7 +263,14 @@ static RequestedCurve CurveOfPart(const CurveRequest& request, const PartTable& 
     }
     CalculateOrRefuse(*curve.Part, line, request, entries);
     curve.Unused = UnusedKeys(request, SweepOf(line.ChartType, line.XAxisName));
-    TakePoints(curve, request);
+    if (request.At)
+    {
+        curve.Points = PointsOf(*curve.Part, line, request.Code, *request.At);
+    }
+    if (request.Where)
+    {
+        curve.Levels = LevelsOf(*curve.Part, line, request.Code, *request.Where);
+    }
     return curve;
 }
 

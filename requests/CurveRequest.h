@@ -5,6 +5,7 @@
 #include "calc/ChartRecord.h"
 #include "calc/Conditions.h"
 #include "partdata/PartTable.h"
+#include "requests/CurvePoints.h"
 
 #include <array>
 #include <initializer_list>
@@ -67,20 +68,6 @@ struct CurveSettings
     std::size_t NumberingOffset = 0;
     /// The date in a data file, in its code page.
     std::string Date = {};
-};
-
-/// One point in the units of the record.
-struct CurvePoint
-{
-    float X;
-    float Y;
-};
-
-/// Every X, upwards, at which a curve takes a value.
-struct CurveLevel
-{
-    float Y;
-    std::vector<float> X;
 };
 
 /// The answer: a line with its points and limits.
