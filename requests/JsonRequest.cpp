@@ -8,6 +8,7 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <optional>
 
 using nlohmann::json;
 
@@ -92,12 +93,46 @@ static void Take(CurveRequest& request, const std::string& key, const json& valu
     }
 }
 
+/// The first place, in bytes from 1, at which values stand deeper in each other than any request needs.
+/// Writing them again would take a stack as deep.
+static std::optional<std::size_t> PlaceTooDeep(std::string_view text)
+{
+    constexpr std::size_t deepest = 100;
+    std::size_t depth = 0;
+    bool isText = false;
+    for (std::size_t i = 0; i < text.size(); ++i)
+    {
+        const char c = text[i];
+        if (isText && c == '\\')
+        {
+            ++i;
+        }
+        else if (c == '"')
+        {
+            isText = !isText;
+        }
+        else if (!isText && (c == '[' || c == '{') && ++depth > deepest)
+        {
+            return i + 1;
+        }
+        else if (!isText && (c == ']' || c == '}') && depth > 0)
+        {
+            --depth;
+        }
+    }
+    return std::nullopt;
+}
+
 /// Throws RequestError, with the place where there is one.
 static json ParsedLine(std::string_view text)
 {
     if (text.find_first_not_of(" \t\r") == std::string_view::npos)
     {
         throw RequestError(RequestErrorKind::BlankLine, "", "the line is blank");
+    }
+    if (const auto place = PlaceTooDeep(text))
+    {
+        throw RequestError(RequestErrorKind::Syntax, "", "the line is nested too deep").AtByte(*place);
     }
     const RequestError noObject(RequestErrorKind::Syntax, "", "the line is not a JSON object");
     json object;

@@ -38,9 +38,13 @@ static std::string Letters(std::string_view name)
     return letters;
 }
 
-/// Letters to add, drop, change or swap with their neighbour on the way from one text to the other.
-static std::size_t StepsBetween(std::string_view a, std::string_view b)
+/// Letters to add, drop, change or swap with their neighbour on the way from one text to the other; `most`
+/// where it takes as many or more.
+static std::size_t StepsBetween(std::string_view a, std::string_view b, std::size_t most)
 {
+    const auto begins = std::ranges::mismatch(a, b);
+    a.remove_prefix(static_cast<std::size_t>(begins.in1 - a.begin()));
+    b.remove_prefix(static_cast<std::size_t>(begins.in2 - b.begin()));
     std::vector<std::size_t> beforeLast(b.size() + 1);
     std::vector<std::size_t> last(b.size() + 1);
     std::vector<std::size_t> row(b.size() + 1);
@@ -58,6 +62,11 @@ static std::size_t StepsBetween(std::string_view a, std::string_view b)
                 row[j] = std::min(row[j], beforeLast[j - 2] + 1);
             }
         }
+        // A swap may reach back one row, and costs one step.
+        if (std::min(std::ranges::min(row), std::ranges::min(last) + 1) >= most)
+        {
+            return most;
+        }
     }
     return row[b.size()];
 }
@@ -72,7 +81,7 @@ std::optional<std::string> NameMeantBy(std::string_view typed, const std::vector
     {
         const auto other = Letters(name);
         const auto longer = std::max(other.size(), letters.size()) - std::min(other.size(), letters.size());
-        const auto steps = longer < fewest ? StepsBetween(letters, other) : fewest;
+        const auto steps = longer < fewest ? StepsBetween(letters, other, fewest) : fewest;
         if (steps < fewest)
         {
             fewest = steps;

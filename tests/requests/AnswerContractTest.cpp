@@ -137,6 +137,18 @@ TEST(Answers, TellThePlaceThatCannotBeRead)
     EXPECT_FALSE(Error("[1]").contains("position"));
 }
 
+TEST(Answers, RefuseALineThatIsNestedTooDeep)
+{
+    const auto nested = [](std::size_t depth)
+    { return R"({"id":)" + std::string(depth, '[') + std::string(depth, ']') + "}"; };
+    EXPECT_EQ(Error(nested(99)).at("code"), "missing-key");
+    const auto error = Error(nested(100));
+    EXPECT_EQ(error.at("code"), "syntax");
+    EXPECT_EQ(error.at("position"), 106);
+    EXPECT_EQ(Error(nested(500'000)).at("position"), 106);
+    EXPECT_EQ(Error(R"({"id":")" + std::string(500, '[') + R"(\"["})").at("code"), "missing-key");
+}
+
 TEST(Answers, TellThePartOfAnError)
 {
     EXPECT_EQ(Error(Of(R"("colour":1)")).at("part"), "KTS31NB51E106MA01");
