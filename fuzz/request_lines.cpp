@@ -8,7 +8,6 @@
 
 #include <nlohmann/json.hpp>
 
-#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <sstream>
@@ -27,30 +26,34 @@ static void RequireError(const json& error)
     const auto number = error.at("number").get<int>();
     Require(number == 5 || number == 6 || number == 11, "an error is a refusal or one of a calculation");
     Require(!error.at("message").get<std::string>().empty(), "an error says why");
+    Require(!error.at("code").get<std::string>().empty(), "an error has a code");
     Require(!error.contains("limit") || std::isfinite(error.at("limit").get<double>()), "a limit is finite");
 }
 
-/// The numbers of a list within an object.
-static std::ptrdiff_t CountNumbers(std::string_view object, std::string_view key)
+/// JSON knows no number that is not finite.
+static void RequireCurve(const json& curve)
 {
-    const auto begin = object.find(key);
-    Require(begin != std::string_view::npos, "a curve has two lists of values");
-    const auto list = object.substr(begin, object.find(']', begin) - begin);
-    return std::ranges::count(list, ',') + 1;
+    const bool hasOwnPoints = curve.contains("points") || curve.contains("crossings");
+    for (const char* axis : {"x", "y"})
+    {
+        Require(curve.contains(axis) != hasOwnPoints, "a curve has its points or those asked for");
+        Require(hasOwnPoints || curve.at(axis).size() == CurvePoints, "a curve has 200 points");
+    }
+    Require(curve.at("conditions").size() == curve.at("conditionUnits").size(), "a condition has its unit");
 }
 
-/// Whether the answer is an error. JSON knows no number that is not finite.
+/// Whether the answer is an error.
 static bool RequireAnswer(const std::string& line)
 {
     Require(json::accept(line), "an answer is JSON of one line");
-    if (line.starts_with(R"({"error":)"))
+    const auto answer = json::parse(line);
+    Require(answer.at("schemaVersion") == 1, "an answer tells its version");
+    if (answer.contains("error"))
     {
-        RequireError(json::parse(line).at("error"));
+        RequireError(answer.at("error"));
         return true;
     }
-    Require(line.starts_with(R"({"part":")"), "an answer is a curve or an error");
-    Require(CountNumbers(line, R"("x":[)") == CurvePoints && CountNumbers(line, R"("y":[)") == CurvePoints,
-            "a curve has 200 points");
+    RequireCurve(answer);
     return false;
 }
 
@@ -60,7 +63,7 @@ static std::size_t CountRequests(const std::string& lines)
     std::size_t count = 0;
     for (std::string line; std::getline(text, line);)
     {
-        count += line.find_first_not_of(" \t\r") != std::string::npos ? 1 : 0;
+        ++count;
     }
     return count;
 }
@@ -100,7 +103,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     {
         withoutCurve += RequireAnswer(line) ? 1 : 0;
     }
-    Require(answered == counts.Requests && answered == CountRequests(lines), "each request has one answer");
+    Require(answered == counts.Requests && answered == CountRequests(lines), "each line has one answer");
     Require(withoutCurve == counts.WithoutCurve, "what has no curve is counted");
     return 0;
 }
