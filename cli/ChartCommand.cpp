@@ -61,11 +61,15 @@ static std::string Help()
                    "options.");
 }
 
+static bool IsStandardOutput(const ChartOptions& options)
+{
+    return options.OutputFile.empty() || options.OutputFile == "-";
+}
+
 /// True where a picture that is no text would be written to a terminal.
 static bool IsForTerminal(const ChartOptions& options, const PictureFormat& format)
 {
-    const bool isStandardOutput = options.OutputFile.empty() || options.OutputFile == "-";
-    return isStandardOutput && format.Name != "svg" && IsTerminal(Stream::Output);
+    return IsStandardOutput(options) && format.Name != "svg" && IsTerminal(Stream::Output);
 }
 
 /// The format that --format names, or else the one that the file is named for: "rise.PNG".
@@ -75,6 +79,10 @@ static const PictureFormat& FormatOf(const ChartOptions& options)
     const auto name = options.Format.empty() ? suffix.toStdString() : options.Format;
     const auto formats = PictureFormats();
     const auto format = std::ranges::find(formats, name, &PictureFormat::Name);
+    if (format == formats.end() && IsStandardOutput(options) && options.Format.empty())
+    {
+        throw UsageError("a picture on standard output needs --format");
+    }
     if (format == formats.end())
     {
         throw UsageError("--output \"" + options.OutputFile + "\" ends in none of: ." +
@@ -162,7 +170,8 @@ static void DrawChart(const ChartOptions& options)
     output.Finish();
     for (std::size_t i = 0; i < curves.size(); ++i)
     {
-        TellUnused(curves[i], requests[i].Part);
+        const auto line = curves.size() > 1 ? " (line " + std::to_string(i + 1) + ')' : "";
+        TellUnused(curves[i], requests[i].Part + line);
     }
 }
 
@@ -171,7 +180,7 @@ static double PositiveNumber(std::string_view text, const std::string& option)
 {
     double value = 0;
     const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (read.ec != std::errc() || read.ptr != text.data() + text.size() || !(value > 0 && value < 1e9))
+    if (read.ec != std::errc() || read.ptr != text.data() + text.size() || !(value > 0))
     {
         throw UsageError(option + " \"" + std::string(text) + "\" is not a number above 0");
     }

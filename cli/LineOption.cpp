@@ -30,6 +30,7 @@ static std::vector<std::string> LineNames()
     return names;
 }
 
+/// Throws UsageError that says what no condition is called.
 static void TakeCondition(CurveRequest& request, const std::string& name, const std::string& value)
 {
     const auto conditions = ConditionKinds();
@@ -42,10 +43,22 @@ static void TakeCondition(CurveRequest& request, const std::string& name, const 
     }
     if (std::ranges::none_of(Parameters, [&](Quantity load) { return RequestNameOf(NameOf(load)) == name; }))
     {
-        throw UsageError('"' + name + "\" is none of: " + ListOf(LineNames()));
+        const auto meant = NameMeantBy(name, LineNames());
+        throw UsageError('"' + name + "\" is none of: " + ListOf(LineNames()) +
+                         (meant ? "; did you mean \"" + *meant + "\"?" : ""));
     }
     request.Parameter = name;
     request.Conditions[Condition::Parameter] = value;
+}
+
+static void TakeWord(CurveRequest& request, const std::string& word)
+{
+    const auto equals = word.find('=');
+    if (equals == std::string::npos)
+    {
+        throw UsageError('"' + word + "\" is not NAME=VALUE");
+    }
+    TakeCondition(request, word.substr(0, equals), word.substr(equals + 1));
 }
 
 CurveRequest RequestOfLine(const std::string& line, const CurveRequest& defaults)
@@ -59,12 +72,14 @@ CurveRequest RequestOfLine(const std::string& line, const CurveRequest& defaults
     std::string word;
     while (words >> word)
     {
-        const auto equals = word.find('=');
-        if (equals == std::string::npos)
+        try
         {
-            throw UsageError("--line \"" + line + "\": \"" + word + "\" is not NAME=VALUE");
+            TakeWord(request, word);
         }
-        TakeCondition(request, word.substr(0, equals), word.substr(equals + 1));
+        catch (const UsageError& error)
+        {
+            throw UsageError("--line \"" + line + "\": " + error.what());
+        }
     }
     return request;
 }

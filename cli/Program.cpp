@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <iostream>
 #include <new>
+#include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -53,12 +55,16 @@ static std::vector<std::string> WordsAfter(const CLI::App& command)
     return words;
 }
 
-/// Arguments that no command takes, as they were typed, and what the first of them probably meant.
+/// Arguments that no command takes, as they were typed, and what the first that is like a known word meant.
 static std::string Unexpected(const CLI::App& app)
 {
     const auto arguments = app.remaining(true);
-    const auto first = arguments.front().substr(0, arguments.front().find('='));
-    const auto meant = NameMeantBy(first, WordsAfter(LastCommand(app)));
+    const auto known = WordsAfter(LastCommand(app));
+    std::optional<std::string> meant;
+    for (const std::string& argument : arguments)
+    {
+        meant = meant ? meant : NameMeantBy(argument.substr(0, argument.find('=')), known);
+    }
     return (arguments.size() == 1 ? "The following argument was not expected: "
                                   : "The following arguments were not expected: ") +
            ListOf(arguments, " ") + (meant ? "; did you mean \"" + *meant + "\"?" : "");
@@ -90,13 +96,32 @@ static void AddVersion(CLI::App& command)
     }
 }
 
+/// Throws UsageError for a word that is none of the commands.
+static void CheckCommands(const CLI::App& app, std::span<const std::string> words)
+{
+    if (words.empty() || words.front().starts_with('-'))
+    {
+        return;
+    }
+    const auto named =
+        app.get_subcommands([&](const CLI::App* below) { return below->get_name() == words.front(); });
+    if (named.empty())
+    {
+        const auto meant = NameMeantBy(words.front(), WordsAfter(app));
+        throw UsageError("there is no command \"" + words.front() + '"' +
+                         (meant ? "; did you mean \"" + *meant + "\"?" : "") + " (see tavik-cli --help)");
+    }
+    CheckCommands(*named.front(), words.subspan(1));
+}
+
 /// What is typed, the last word first; "help curve" is another way to say "curve --help".
-static std::vector<std::string> ArgumentsOf(int argc, const char* const* argv)
+static std::vector<std::string> ArgumentsOf(const CLI::App& app, int argc, const char* const* argv)
 {
     std::vector<std::string> arguments(argv + 1, argv + argc);
     if (!arguments.empty() && arguments.front() == "help")
     {
         arguments.erase(arguments.begin());
+        CheckCommands(app, arguments);
         arguments.emplace_back("--help");
     }
     std::ranges::reverse(arguments);
@@ -116,7 +141,7 @@ int RunProgram(int argc, const char* const* argv)
     app.footer("tavik-cli help COMMAND tells more of a command.");
     try
     {
-        app.parse(ArgumentsOf(argc, argv));
+        app.parse(ArgumentsOf(app, argc, argv));
         if (app.get_subcommands().empty())
         {
             throw UsageError("a command is missing (see tavik-cli --help)");

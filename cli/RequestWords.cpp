@@ -58,14 +58,29 @@ void TellUnused(const RequestedCurve& curve, std::string_view partNum)
     }
 }
 
+/// Where the error is: the part, and among several lines the line. What is wrong with the only one's command
+/// line needs neither.
+static std::string PlaceOf(const RequestError& error)
+{
+    if (error.Part().empty() || (error.Line() == 0 && IsMistaken(error.Kind())))
+    {
+        return "";
+    }
+    return error.Part() + (error.Line() == 0 ? "" : " (line " + std::to_string(error.Line()) + ')') + ": ";
+}
+
 std::string WordsOf(const RequestError& error)
 {
+    std::string words = PlaceOf(error);
     if (IsMistaken(error.Kind()))
     {
         const bool namesOption = FollowsKey(error.Kind()) && !error.Key().empty();
-        return (namesOption ? OptionOf(error.Key()) + ' ' : "") + Message(error);
+        return words + (namesOption ? OptionOf(error.Key()) + ' ' : "") + Message(error);
     }
-    std::string words = error.Part().empty() ? "" : error.Part() + ": ";
+    if (error.Kind() == RequestErrorKind::AxisRange && !error.Entry().empty())
+    {
+        words += OptionOf(error.Key()) + ' ' + error.Entry() + ' ';
+    }
     if (error.Kind() == RequestErrorKind::Condition)
     {
         words +=

@@ -17,6 +17,7 @@ std::string OptionNameOf(std::string_view key);
 ///
 ///     KTS31NB51E106MA01: --dc-bias 26: DC Bias Voltage is invalid! Please enter a Number from 0 to 25[V]
 ///     --dc-bias "5A": "A" is not the unit of a voltage
+///     KTS31NB51E106MA01 (line 2): --dc-bias "5A": "A" is not the unit of a voltage
 std::string WordsOf(const RequestError& error);
 
 /// What was typed in vain, "ABC: allowable-power does not use --frequency"; empty where all is used.

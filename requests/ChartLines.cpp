@@ -8,20 +8,46 @@
 
 #include <algorithm>
 
+/// A chart of one line needs no number to tell which line is wrong.
+static RequestError InItsLine(const RequestError& error, std::size_t line, std::size_t lines)
+{
+    return lines > 1 ? error.InLine(line) : error;
+}
+
+/// No room on the chart is told before anything that is wrong with a line.
+static void AddLine(std::vector<RequestedCurve>& curves, const CurveRequest& request, const PartTable& parts,
+                    const CurveSettings& settings)
+{
+    const auto refuse = [&](const std::string& why)
+    { throw RequestError(RequestErrorKind::Line, "part", why).OfPart(request.Part); };
+    if (curves.size() >= MaximumLines)
+    {
+        refuse("a chart has at most " + std::to_string(MaximumLines) + " lines");
+    }
+    auto curve = CurveOf(request, parts, settings);
+    const auto same =
+        std::ranges::find_if(curves, [&](const auto& other) { return SameLine(other.Line, curve.Line); });
+    if (same != curves.end())
+    {
+        refuse("is line " + std::to_string(same - curves.begin() + 1) + " already");
+    }
+    curves.push_back(std::move(curve));
+}
+
 std::vector<RequestedCurve> CurvesOf(const std::vector<CurveRequest>& requests, const PartTable& parts,
                                      const CurveSettings& settings)
 {
     std::vector<RequestedCurve> curves;
     for (const CurveRequest& request : requests)
     {
-        auto curve = CurveOf(request, parts, settings);
-        const bool isNew =
-            std::ranges::none_of(curves, [&](const auto& other) { return SameLine(other.Line, curve.Line); });
-        if (const auto refusal = RefusalOfPlot(isNew, static_cast<int>(curves.size())))
+        try
         {
-            throw RequestError(RequestErrorKind::Line, "part", *refusal).OfPart(request.Part);
+            AddLine(curves, request, parts, settings);
         }
-        curves.push_back(std::move(curve));
+        catch (const RequestError& error)
+        {
+            throw InItsLine(error, curves.size() + 1, requests.size());
+        }
     }
     return curves;
 }
@@ -48,6 +74,11 @@ static void Take(float& from, float& to, const std::optional<std::string>& typed
     const float factor = KindOf(quantity).StoredPerShown;
     const float shownFrom = typedFrom ? ValueInUnit(*typedFrom, quantity, axis.FromKey) : from / factor;
     const float shownTo = typedTo ? ValueInUnit(*typedTo, quantity, axis.ToKey) : to / factor;
+    if (typedFrom && typedTo && shownFrom >= shownTo)
+    {
+        throw RequestError(RequestErrorKind::AxisRange, axis.FromKey, "is not below " + *typedTo)
+            .Of(*typedFrom);
+    }
     if (const auto refusal = RefusalOfRange(axis.Name, axis.Quantity, axis.Permitted, shownFrom, shownTo))
     {
         throw RequestError(RequestErrorKind::AxisRange,

@@ -19,7 +19,7 @@ struct TypedRange
 };
 
 /// The curves of up to six requests of one chart. Throws as `CurveOf`, and RequestError for a seventh line
-/// and for one that is there already, as Plot refuses them.
+/// and for one that is there already; of several the error tells the line.
 std::vector<RequestedCurve> CurvesOf(const std::vector<CurveRequest>& requests, const PartTable& parts,
                                      const CurveSettings& settings);
 

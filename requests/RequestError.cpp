@@ -41,6 +41,13 @@ RequestError RequestError::OfPart(std::string askedFor) const
     return error;
 }
 
+RequestError RequestError::InLine(std::size_t number) const
+{
+    RequestError error = *this;
+    error.line = number;
+    return error;
+}
+
 RequestError RequestError::AtByte(std::size_t place) const
 {
     RequestError error = *this;

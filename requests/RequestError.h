@@ -51,6 +51,8 @@ public:
     RequestError Meaning(const std::optional<std::string>& meant) const;
     /// The same error with the part number that was asked for.
     RequestError OfPart(std::string part) const;
+    /// The same error with the line of the chart, from 1.
+    RequestError InLine(std::size_t line) const;
 
     RequestErrorKind Kind() const { return kind; }
     const std::string& Key() const { return key; }
@@ -65,6 +67,8 @@ public:
     const std::string& Hint() const { return hint; }
     /// The part number that was asked for; empty where the error is in no part's curve.
     const std::string& Part() const { return part; }
+    /// The line of the chart that the part is asked for in; 0 where there is but one.
+    std::size_t Line() const { return line; }
 
     const char* what() const noexcept override { return message.c_str(); }
 
@@ -77,6 +81,7 @@ private:
     std::optional<std::size_t> position;
     std::string hint;
     std::string part;
+    std::size_t line = 0;
 };
 
 /// What scripts know the error by: "unknown-chart", "range", "missing-key".

@@ -4,6 +4,7 @@
 
 #include "cli/Command.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace
@@ -43,8 +44,9 @@ TEST(LineOption, RefusesWhatIsNoCondition)
 {
     EXPECT_EQ(UsageErrorOf(" "), "--line is empty");
     EXPECT_EQ(UsageErrorOf("ABC bias=5"),
-              "\"bias\" is none of: dc-bias, frequency, heat-resistance, ambient, "
+              "--line \"ABC bias=5\": \"bias\" is none of: dc-bias, frequency, heat-resistance, ambient, "
               "current, voltage, effective-power, apparent-power");
+    EXPECT_THAT(UsageErrorOf("ABC ambeint=5"), testing::EndsWith("; did you mean \"ambient\"?"));
     EXPECT_EQ(UsageErrorOf("ABC 5V"), "--line \"ABC 5V\": \"5V\" is not NAME=VALUE");
 }
 } // namespace

@@ -281,7 +281,18 @@ void ProgramTest::EndsBadInputWithOneLine_data()
         1, "Set X Range of DC Bias Voltage from 0 to 50 [V]");
     row("the same line twice",
         "chart KTS31NB51E106MA01 KTS31NB51E106MA01 --chart capacitance-dc-voltage --format png", 1,
-        "KTS31NB51E106MA01: This Chart is already opened!");
+        "KTS31NB51E106MA01 (line 2): is line 1 already");
+    row("range upside down",
+        "chart KTS31NB51E106MA01 --chart capacitance-dc-voltage --format png --x-from 10V --x-to 5", 1,
+        "--x-from 10V is not below 5");
+    row("picture beyond all measure",
+        "chart KTS31NB51E106MA01 --chart capacitance-dc-voltage --format png --scale 1e9", 1,
+        "a picture is from 1 to 20000 pixels wide and high");
+    row("help on no command", "help chrt", 2,
+        "there is no command \"chrt\"; did you mean \"chart\"? (see tavik-cli --help)");
+    row("misspelt option", "curve KTS31NB51E106MA01 more --chrt x", 2,
+        "The following arguments were not expected: more --chrt x; did you mean \"--chart\"? (see tavik-cli "
+        "--help)");
 }
 
 void ProgramTest::EndsBadInputWithOneLine()

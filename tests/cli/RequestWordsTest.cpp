@@ -37,6 +37,15 @@ TEST(RequestWords, LeaveOutThePartOfAWrongCommandLine)
     EXPECT_EQ(StatusOf(error), ExitStatus::Usage);
 }
 
+TEST(RequestWords, TellPartAndLineAmongSeveral)
+{
+    const RequestError error(RequestErrorKind::Unit, "dcBias", "\"5A\": \"A\" is not the unit of a voltage");
+    EXPECT_EQ(WordsOf(error.OfPart("ABC").InLine(2)),
+              "ABC (line 2): --dc-bias \"5A\": \"A\" is not the unit of a voltage");
+    const RequestError refused(RequestErrorKind::Condition, "dcBias", "is invalid!");
+    EXPECT_EQ(WordsOf(refused.Of("26").OfPart("ABC").InLine(6)), "ABC (line 6): --dc-bias 26: is invalid!");
+}
+
 TEST(RequestWords, TellThePartOfALineThatIsNotTaken)
 {
     const RequestError error(RequestErrorKind::Line, "part", "This Chart is already opened!");

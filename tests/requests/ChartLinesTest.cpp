@@ -45,10 +45,31 @@ TEST(ChartLines, AreAtMostSixDifferentOnes)
     }
     EXPECT_EQ(CurvesOf(requests, Parts(), {}).size(), 6U);
     requests.push_back(AtBias("6"));
-    EXPECT_EQ(RefusalOf([&] { CurvesOf(requests, Parts(), {}); }),
-              "part: Maximum Numbers of this Chart Type open!");
-    requests.back() = AtBias("3V");
-    EXPECT_EQ(RefusalOf([&] { CurvesOf(requests, Parts(), {}); }), "part: This Chart is already opened!");
+    EXPECT_EQ(RefusalOf([&] { CurvesOf(requests, Parts(), {}); }), "part: a chart has at most 6 lines");
+    requests.resize(3);
+    requests.back() = AtBias("1V");
+    EXPECT_EQ(RefusalOf([&] { CurvesOf(requests, Parts(), {}); }), "part: is line 2 already");
+}
+
+/// The line that is told of an error; 0 for none.
+std::size_t LineOfError(const std::vector<CurveRequest>& requests)
+{
+    try
+    {
+        CurvesOf(requests, Parts(), {});
+    }
+    catch (const RequestError& error)
+    {
+        return error.Line();
+    }
+    return 0;
+}
+
+TEST(ChartLines, TellWhichOfThemIsWrong)
+{
+    EXPECT_EQ(LineOfError({AtBias("1"), AtBias("2"), AtBias("1A")}), 3U);
+    EXPECT_EQ(LineOfError({AtBias("1"), AtBias("1000")}), 2U);
+    EXPECT_EQ(LineOfError({AtBias("1000")}), 0U);
 }
 
 std::vector<ChartRecord> OneLine()
@@ -84,7 +105,7 @@ TEST(ChartRange, IsJudgedAsTheDialogDoes)
     EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.XFrom = "-250", .XTo = "275"}); }), "not refused");
     EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.XFrom = "-250.1"}); }), "xFrom: " + refusal);
     EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.XTo = "275.1"}); }), "xTo: " + refusal);
-    EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.XFrom = "20", .XTo = "20"}); }), "xTo: " + refusal);
+    EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.XFrom = "20", .XTo = "20"}); }), "xFrom: is not below 20");
     // Its capacitance stands between 7 and 9 µF.
     EXPECT_EQ(RefusalOf([&] { ViewOf(lines, {.YTo = "11.1uF"}); }),
               "yTo: Set Y Range of Capacitance from 5000000 to 11000000 [pF]");
