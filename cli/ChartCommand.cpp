@@ -7,6 +7,7 @@
 #include "cli/HelpText.h"
 #include "cli/LineOption.h"
 #include "cli/Output.h"
+#include "cli/PdfDate.h"
 #include "cli/RequestOptions.h"
 #include "cli/RequestWords.h"
 #include "cli/SheetPicture.h"
@@ -164,7 +165,8 @@ static void DrawChart(const ChartOptions& options)
     RefuseInputAsOutput(options.OutputFile, PartFilesOf(PartFolder(options.DataFolder)));
     const auto parts = LoadParts(options.DataFolder);
     const auto curves = CurvesOf(requests, parts, options.Settings);
-    const auto bytes = Draw(curves, options, format);
+    const auto draw = [&] { return Draw(curves, options, format); };
+    const auto bytes = format.Name == "pdf" ? PdfOfSourceDate(draw) : draw();
     Output output(options.OutputFile);
     output.Write({bytes.data(), static_cast<std::size_t>(bytes.size())});
     output.Finish();

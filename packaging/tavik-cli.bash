@@ -29,6 +29,27 @@ _tavik_cli_names()
         sed -e 's/([^)]*)//g' -e 's/.*: //' -e 's/,/ /g' -e 's/ or / /g'
 }
 
+# A column of the list of parts, by its heading, each entry once: of the folder, code and numbering that the command
+# line names.
+_tavik_cli_parts()
+{
+    local program=$1 text=$2 heading=$3 i options=()
+    for ((i = 1; i < COMP_CWORD - 1; ++i)); do
+        case ${COMP_WORDS[i]} in
+            --data | --code | --numbering) options+=("${COMP_WORDS[i]}" "${COMP_WORDS[i + 1]}") ;;
+        esac
+    done
+    "$program" parts --format csv "${options[@]}" -- "$text" 2>/dev/null | awk -F, -v heading="$heading" '
+        NR == 1 { for (i = 1; i <= NF; ++i) if ($i == heading && !column) column = i; next }
+        !/"/ && !seen[$column]++ { print $column }'
+}
+
+# Capacitances in pF as engineers write them.
+_tavik_cli_with_prefix()
+{
+    awk '{ for (i = 1; $1 >= 1000 && i < 3; ++i) $1 /= 1000; print $1 substr("pnu", i, 1) "F" }' CONVFMT=%.9g OFMT=%.9g
+}
+
 _tavik_cli()
 {
     local program=$1 current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
@@ -42,10 +63,19 @@ _tavik_cli()
     case $previous in
         --chart) words=$("$program" curve --help 2>/dev/null | _tavik_cli_names --chart) ;;
         --code | --numbering | --format) words=$(_tavik_cli_names "$previous" <<< "$help") ;;
+        --sort) words=$(_tavik_cli_names --sort <<< "$help" | sed -e 's/Order by//' -e 's/;.*//' -e '/hyphen/d') ;;
+        --size) words=$(_tavik_cli_parts "$program" "" size) ;;
+        --characteristic) words=$(_tavik_cli_parts "$program" "" characteristic) ;;
+        --capacitance) words=$(_tavik_cli_parts "$program" "" "capacitance [pF]" | _tavik_cli_with_prefix) ;;
+        --rated-voltage) words=$(_tavik_cli_parts "$program" "" "rated voltage [V]" | sed 's/$/V/') ;;
         --parameter) words=$(_tavik_cli_names --parameter <<< "$help" | sed 's/[a-z-]\{1,\}/&=/g') ;;
         *)
             if ! _tavik_cli_takes_value "$previous" <<< "$help"; then
                 words="$(_tavik_cli_commands <<< "$help") $(_tavik_cli_options <<< "$help")"
+                # All part numbers are too many to choose from.
+                if [[ $current == [!-]* ]] && grep -q '^  parts\{0,1\} PART' <<< "$help"; then
+                    words+=" $(_tavik_cli_parts "$program" "$current" part)"
+                fi
             fi
             ;;
     esac

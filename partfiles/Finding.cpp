@@ -1,5 +1,6 @@
 #include "partfiles/Finding.h"
 
+#include "partdata/AnswersVersion.h"
 #include "partdata/OneLine.h"
 
 #include <nlohmann/json.hpp>
@@ -118,6 +119,7 @@ std::string JsonOf(const PairReport& report)
         findings.push_back(JsonOf(finding));
     }
     Json object;
+    object["schemaVersion"] = AnswersVersion;
     AddText(object, "indexFile", report.IndexFile);
     AddText(object, "dataFile", report.DataFile);
     object["parts"] = report.Parts;

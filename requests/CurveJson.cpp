@@ -2,6 +2,7 @@
 
 #include "calc/ChartKinds.h"
 #include "calc/ConditionLines.h"
+#include "partdata/AnswersVersion.h"
 #include "requests/Names.h"
 #include "requests/UnitEntry.h"
 
@@ -148,10 +149,9 @@ static void AddValues(std::string& text, const RequestedCurve& curve, AxisTexts&
 /// The beginning of every object that stands alone: the version of its description, and what it is known by.
 static void BeginAnswer(std::string& text, std::string_view id)
 {
-    constexpr int schemaVersion = 1;
     text += '{';
     AppendKey(text, "schemaVersion");
-    AppendNumber(text, schemaVersion);
+    AppendNumber(text, AnswersVersion);
     if (!id.empty())
     {
         AppendKey(text, "id");

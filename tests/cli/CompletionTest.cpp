@@ -114,6 +114,17 @@ void CompletionTest::OffersWhatFits_data()
     row("a parameter", "curve --parameter ap", "apparent-power=");
     row("an option behind one without a value", "curve --unchecked --da", "--data --date");
     row("an option behind a value", "curve --dc-bias 5V --dat", "--data --date");
+    row("a part number", "curve KTS31NB51E106", "KTS31NB51E106MA01");
+    row("part numbers of a chart", "chart KTS31NB51E106MA01 --code jis KTU155F01H102",
+        "KTU155F01H102ZA01");
+    row("no part number as text of a list", "parts KTS31NB51E106", "");
+    row("sizes", "parts --size 0", "0201 0402 0603 0805");
+    row("sizes in the other code", "parts --code jis --size 0", "0603");
+    row("characteristics", "parts --characteristic X", "X7R X5R");
+    row("capacitances", "parts --capacitance 4.7", "4.7nF 4.7uF");
+    row("rated voltages", "parts --rated-voltage 6", "6.3V 630V");
+    row("orders", "parts --sort c", "characteristic capacitance");
+    row("all orders", "parts --sort ", "part size characteristic capacitance rated-voltage");
     row("no option as a value", "curve --dc-bias ", "");
     row("files as a value", "curve --output ", "");
     row("a text that no command bears", "parts * --code j", "jis");

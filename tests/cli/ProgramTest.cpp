@@ -40,6 +40,7 @@ private Q_SLOTS:
     void HasHelpAndVersion();
     void WritesTheDateAsked();
     void DrawsEveryFormat();
+    void DrawsTheSameDocumentOfADate();
     void DrawsInTheSizeAsked();
     void DrawsWithinTheRangeAsked();
 
@@ -443,6 +444,33 @@ void ProgramTest::DrawsEveryFormat()
     QVERIFY(Contents(InFolder("chart.PDF")).startsWith("%PDF-"));
     // 725 by 248 pixels of 1/96 inch, in whole points.
     QVERIFY(Contents(InFolder("chart.PDF")).contains("MediaBox [0 0 544.000000 186.000000]"));
+}
+
+/// A document, made in a zone of time with the date that the build asks for.
+static Run DocumentMadeIn(const char* zone, const char* date)
+{
+    qputenv("TZ", zone);
+    qputenv("SOURCE_DATE_EPOCH", date);
+    const auto run =
+        RunCommandLine({"chart", "KTS31NB51E106MA01", "--chart", "capacitance-dc-voltage", "--format", "pdf"});
+    qunsetenv("TZ");
+    qunsetenv("SOURCE_DATE_EPOCH");
+    return run;
+}
+
+void ProgramTest::DrawsTheSameDocumentOfADate()
+{
+    const auto first = DocumentMadeIn("Asia/Tokyo", "86399");
+    QCOMPARE(first.Status, 0);
+    QVERIFY(first.Output.contains("/CreationDate (D:19700101235959Z)"));
+    QCOMPARE(DocumentMadeIn("America/New_York", "86399").Output, first.Output);
+    for (const char* date : {"today", "-1", "253402300800", ""})
+    {
+        const auto refused = DocumentMadeIn("UTC", date);
+        QCOMPARE(refused.Status, 1);
+        QCOMPARE(refused.Messages, "tavik-cli: SOURCE_DATE_EPOCH \"" + QByteArray(date) +
+                                       "\" is no time in seconds since 1970\n");
+    }
 }
 
 void ProgramTest::DrawsInTheSizeAsked()

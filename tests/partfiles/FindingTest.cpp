@@ -68,6 +68,7 @@ TEST(Finding, StaysOnItsLineWhateverTheFileIsCalled)
 TEST(Finding, IsAnObjectWithoutEmptyMembers)
 {
     const std::string expected = R"json({
+  "schemaVersion": 1,
   "indexFile": "parts.idx",
   "dataFile": "parts.dat",
   "parts": 1,

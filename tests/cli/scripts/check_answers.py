@@ -1,7 +1,9 @@
 """Real answers of tavik-cli against their description. Usage: check_answers.py PROGRAM SCHEMA"""
 import json
+import pathlib
 import subprocess
 import sys
+import tempfile
 
 import jsonschema
 
@@ -40,6 +42,14 @@ answers.append(json.loads(run(["parts", "--format", "json"])))
 assert len(answers[-1]) > 1000
 for answer in answers:
     validator.validate(answer)
+# The sample pair is sound; cut short, it is not.
+with tempfile.TemporaryDirectory() as folder:
+    for name, size in (("a.idx", None), ("a.dat", -100)):
+        source = next(pathlib.Path(program).parent.glob("*" + name[1:]))
+        pathlib.Path(folder, name).write_bytes(source.read_bytes()[:size])
+    report = json.loads(run(["data", "check", folder, "--format", "json"]))
+assert report["findings"]
+validator.validate(report)
 
 met = {answer["error"]["code"] for answer in answers[:-1] if "error" in answer}
 named = set(schema["definitions"]["failure"]["properties"]["error"]["properties"]["code"]["enum"])
