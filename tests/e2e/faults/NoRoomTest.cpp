@@ -78,6 +78,16 @@ void NoRoomTest::OldFileStaysAndTheFaultIsTold_data()
             QTest::addRow("%s, %s", output, name) << command << disk << QByteArray(fault);
         }
     }
+    // Its beginning still fits on the disk.
+    QTest::addRow("part list, nearly full disk")
+        << "parts"
+        << "head -c 57344 /dev/zero >\"$D/filler\"" << QByteArray("'61': Disk full");
+    QTest::addRow("PNG, nearly full disk")
+        << "chart KTS31NB51E106MA01 --chart capacitance-dc-voltage --format png"
+        << "head -c 57344 /dev/zero >\"$D/filler\"" << QByteArray("'61': Disk full");
+    QTest::addRow("table of parts, nearly full disk")
+        << "data export \"$(dirname \"$P\")\""
+        << "head -c 57344 /dev/zero >\"$D/filler\"" << QByteArray("'61': Disk full");
 }
 
 void NoRoomTest::OldFileStaysAndTheFaultIsTold()
