@@ -148,7 +148,7 @@ static Hold HoldName(std::size_t number)
 {
     const Address address(number);
     const int holder = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-    if (bind(holder, address.Get(), address.Size) != 0 || listen(holder, SOMAXCONN) != 0)
+    if (holder < 0 || bind(holder, address.Get(), address.Size) != 0 || listen(holder, SOMAXCONN) != 0)
     {
         const bool taken = errno == EADDRINUSE;
         close(holder);

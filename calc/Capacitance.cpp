@@ -246,11 +246,13 @@ std::optional<double> CapacitanceAt(const PartRecord& part, double biasVolts, do
     const double change = model == CapacitanceModel::Peaked
                               ? PeakAt(data, biasVolts).ChangeAt(celsius)
                               : Combined(TemperatureChange(data, celsius), BiasChange(data, biasVolts));
-    const auto reference = ReferenceOf(data, model, view);
-    if (y == Quantity::CapacitanceChange && !reference)
-    {
-        return change;
-    }
     const double capacitance = Changed(data[Value::NominalCapacitance], change);
-    return y == Quantity::Capacitance ? capacitance : ChangeFrom(capacitance, CheckedDivisor(*reference));
+    // A curve that has no reference to change from is none at all, whatever its Y.
+    const auto reference = ReferenceOf(data, model, view);
+    const double divisor = reference ? CheckedDivisor(*reference) : 1;
+    if (y == Quantity::Capacitance)
+    {
+        return capacitance;
+    }
+    return reference ? ChangeFrom(capacitance, divisor) : change;
 }

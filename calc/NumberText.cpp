@@ -39,7 +39,7 @@ template <class Float> static Decimal DecimalOf(Float value)
     decimal.negative = value < 0;
     std::ranges::copy_if(text.substr(0, mark), std::back_inserter(decimal.digits), IsDigit);
     const auto exponent = text.substr(text[mark + 1] == '+' ? mark + 2 : mark + 1);
-    std::from_chars(exponent.data(), written.ptr, decimal.point);
+    std::from_chars(exponent.data(), exponent.data() + exponent.size(), decimal.point);
     ++decimal.point;
     return decimal;
 }

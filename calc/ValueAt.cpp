@@ -120,9 +120,9 @@ private:
         };
         for (std::size_t i = 0; i + 1 < storedX.size(); ++i)
         {
-            for (double k = 0; k < samplesAnInterval; ++k)
+            for (int k = 0; k < samplesAnInterval; ++k)
             {
-                add(std::lerp(double{storedX[i]}, double{storedX[i + 1]}, k / samplesAnInterval));
+                add(std::lerp(double{storedX[i]}, double{storedX[i + 1]}, double(k) / samplesAnInterval));
             }
         }
         add(storedX.back());
@@ -204,11 +204,12 @@ private:
     {
         double low = from.X;
         double high = to.X;
-        for (double middle = std::midpoint(low, high); low < middle && middle < high;
-             middle = std::midpoint(low, high))
+        double middle = std::midpoint(low, high);
+        while (low < middle && middle < high)
         {
             const bool asAtFrom = (law.At(middle).value_or(y) > y) == (from.Above > 0);
             (asAtFrom ? low : high) = middle;
+            middle = std::midpoint(low, high);
         }
         return static_cast<float>(high);
     }

@@ -115,6 +115,12 @@ void frmSetAxis::cmdCancel_Click()
     reject();
 }
 
+/// The number of a box that has been found to hold one.
+static float NumberOf(const QLineEdit* box)
+{
+    return EntryOf(box).value_or(0);
+}
+
 void frmSetAxis::cmdOK_Click()
 {
     if (!AreEntriesNumeric() || !CheckAxisRange())
@@ -123,10 +129,10 @@ void frmSetAxis::cmdOK_Click()
     }
     const float xFactor = ShownFactor(view.Chart.XAxisName);
     const float yFactor = ShownFactor(view.Chart.YAxisName);
-    range = {.XMax = *EntryOf(txtX[1]) * xFactor,
-             .YMax = *EntryOf(txtY[1]) * yFactor,
-             .XMin = *EntryOf(txtX[0]) * xFactor,
-             .YMin = *EntryOf(txtY[0]) * yFactor};
+    range = {.XMax = NumberOf(txtX[1]) * xFactor,
+             .YMax = NumberOf(txtY[1]) * yFactor,
+             .XMin = NumberOf(txtX[0]) * xFactor,
+             .YMin = NumberOf(txtY[0]) * yFactor};
     accept();
 }
 
@@ -160,8 +166,8 @@ bool frmSetAxis::CheckAxisRange()
 bool frmSetAxis::CheckAxis(const char* axis, const std::string& quantity,
                            const std::array<QLineEdit*, 2>& boxes, const PermittedRange& permitted)
 {
-    const float from = *EntryOf(boxes[0]);
-    const float to = *EntryOf(boxes[1]);
+    const float from = NumberOf(boxes[0]);
+    const float to = NumberOf(boxes[1]);
     const auto refusal = RefusalOfRange(axis, quantity, permitted, from, to);
     if (refusal)
     {

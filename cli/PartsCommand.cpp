@@ -62,7 +62,7 @@ static void ListParts(const PartsOptions& options)
 /// An option that is read as soon as it is met, so that a wrong one is a wrong command line.
 template <class Take>
 static void AddFilter(CLI::App& command, const char* name, const char* type, const std::string& text,
-                      Take take)
+                      const Take& take)
 {
     command
         .add_option_function<std::string>(

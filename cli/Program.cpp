@@ -31,10 +31,10 @@ static int End(ExitStatus status, std::string message)
 }
 
 /// The command that was reached.
-static const CLI::App& LastCommand(const CLI::App& app)
+static const CLI::App* LastCommand(const CLI::App* app)
 {
-    const auto reached = app.get_subcommands();
-    return reached.empty() ? app : LastCommand(*reached.front());
+    const auto reached = app->get_subcommands();
+    return reached.empty() ? app : LastCommand(reached.front());
 }
 
 /// What may follow a command: the names of its commands and options.
@@ -59,7 +59,7 @@ static std::vector<std::string> WordsAfter(const CLI::App& command)
 static std::string Unexpected(const CLI::App& app)
 {
     const auto arguments = app.remaining(true);
-    const auto known = WordsAfter(LastCommand(app));
+    const auto known = WordsAfter(*LastCommand(&app));
     std::optional<std::string> meant;
     for (const std::string& argument : arguments)
     {

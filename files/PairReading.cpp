@@ -45,13 +45,18 @@ void PairReading::Half::Find()
     }
 }
 
+const fs::path& PairReading::Half::Place() const
+{
+    return IsStaged(staged) ? staged : path;
+}
+
 const fs::path& PairReading::Half::Path()
 {
     const bool isNew = path.empty();
     Find();
     if (isNew)
     {
-        seen = StateOf(WhereRead(path, staged));
+        seen = StateOf(Place());
     }
     return path;
 }
@@ -63,8 +68,7 @@ InputFile& PairReading::Half::Open()
         return *file;
     }
     Find();
-    const auto open = [this]
-    { return std::make_unique<InputFile>(WhereRead(path, staged), path.filename().string()); };
+    const auto open = [this] { return std::make_unique<InputFile>(Place(), path.filename().string()); };
     try
     {
         file = open();
@@ -72,7 +76,7 @@ InputFile& PairReading::Half::Open()
     catch (const RunTimeError&)
     {
         // What cannot be opened is noted before it is tried once more, so that what comes meanwhile is seen.
-        seen = StateOf(WhereRead(path, staged));
+        seen = StateOf(Place());
         file = open();
     }
     seen = file->State();
@@ -84,7 +88,7 @@ std::optional<FileState> PairReading::Half::Look() const
     try
     {
         const auto found = find();
-        return StateOf(found == path ? WhereRead(path, staged) : WhereRead(found));
+        return StateOf(found == path ? Place() : WhereRead(found));
     }
     catch (const RunTimeError&)
     {

@@ -62,6 +62,8 @@ private:
 
     private:
         void Find();
+        /// Where the found file is to be read.
+        const std::filesystem::path& Place() const;
 
         const std::function<std::filesystem::path()>& find;
         bool asked = false;

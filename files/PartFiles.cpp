@@ -105,7 +105,7 @@ fs::path DataFileOf(const fs::path& pair)
     {
         return FindPartFile(pair.string(), DataExtension);
     }
-    const auto wanted = fs::path(pair).replace_extension(DataExtension);
+    auto wanted = fs::path(pair).replace_extension(DataExtension);
     std::error_code fault;
     if (fs::exists(WhereRead(wanted), fault))
     {

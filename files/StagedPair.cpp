@@ -61,14 +61,15 @@ fs::path StagedOf(const fs::path& partFile)
                : FileInStage(StagedFolderOf(fs::path(partFile).replace_extension()), extension);
 }
 
-const fs::path& WhereRead(const fs::path& partFile, const fs::path& staged)
+bool IsStaged(const fs::path& staged)
 {
-    return IsThere(staged) ? staged : partFile;
+    return IsThere(staged);
 }
 
 fs::path WhereRead(const fs::path& partFile)
 {
-    return WhereRead(partFile, StagedOf(partFile));
+    auto staged = StagedOf(partFile);
+    return IsStaged(staged) ? staged : partFile;
 }
 
 std::string NameOfStaged(const fs::path& entry, std::string_view extension)

@@ -27,9 +27,8 @@ std::filesystem::path FileInStage(const std::filesystem::path& folder, std::stri
 /// extension.
 std::filesystem::path StagedOf(const std::filesystem::path& partFile);
 
-/// The staged file, if it is there, else the part file itself.
-const std::filesystem::path& WhereRead(const std::filesystem::path& partFile,
-                                       const std::filesystem::path& staged);
+/// True while a commit keeps the file at `StagedOf` its name, where it is to be read then.
+bool IsStaged(const std::filesystem::path& staged);
 
 /// The file that is to be read where a part file is asked for: the staged one, if there is one, else itself.
 std::filesystem::path WhereRead(const std::filesystem::path& partFile);

@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 namespace
 {
 /// Small pieces are collected before they are written.
-constexpr std::size_t BufferBytes = 64 * 1024;
+constexpr std::size_t BufferBytes = std::size_t{64} * 1024;
 /// Links behind one another, after which they are taken for a circle.
 constexpr int MostLinks = 40;
 /// Names that are tried for the new file.

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-static constexpr qint64 MostBytes = 64 * 1024;
+static constexpr qint64 MostBytes = qint64{64} * 1024;
 
 static int DigitOf(QChar c, int base)
 {

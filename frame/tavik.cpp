@@ -57,7 +57,7 @@ private:
         // What was remarked first is the cause of all that follows.
         const QString cause = remarks.isEmpty() ? text : remarks.front();
         std::cerr << "tavik: no window can be shown: " << cause.simplified().toLocal8Bit().constData()
-                  << std::endl;
+                  << '\n';
         std::_Exit(1);
     }
 

@@ -229,19 +229,19 @@ void IndexJudge::JudgeSizes()
     for (std::size_t i = 0; i < parts.size(); ++i)
     {
         const auto& [eia, jis] = parts[i].SizeCode;
-        const bool fits = JisSizeOf(eia) == jis;
+        const auto jisOfEia = JisSizeOf(eia);
+        const bool fits = jisOfEia == jis;
         if (fits || eia.empty() || jis.empty() || !told.insert(FoldedKey(eia) + '\0' + FoldedKey(jis)).second)
         {
             continue;
         }
-        const bool isEiaKnown = JisSizeOf(eia).has_value();
-        const auto message = isEiaKnown && EiaSizeOf(jis)
-                                 ? "EIA size " + Shown(eia) + " is " + std::string(*JisSizeOf(eia)) +
-                                       " in JIS, not " + Shown(jis)
-                                 : std::string("no known size of ") + (isEiaKnown ? "JIS" : "EIA") +
-                                       " code; a spreadsheet may have taken it for a number";
-        const auto field = FirstSizeCodeField + (isEiaKnown ? 1 : 0);
-        Add(Severity::Warning, "size", i + 1, FieldName(field), isEiaKnown ? jis : eia, message);
+        const auto message =
+            jisOfEia && EiaSizeOf(jis)
+                ? "EIA size " + Shown(eia) + " is " + std::string(*jisOfEia) + " in JIS, not " + Shown(jis)
+                : std::string("no known size of ") + (jisOfEia ? "JIS" : "EIA") +
+                      " code; a spreadsheet may have taken it for a number";
+        const auto field = FirstSizeCodeField + (jisOfEia ? 1 : 0);
+        Add(Severity::Warning, "size", i + 1, FieldName(field), jisOfEia ? jis : eia, message);
     }
 }
 

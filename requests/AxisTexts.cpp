@@ -37,6 +37,7 @@ const std::string& AxisTexts::Of(const CurveValues& values)
 {
     Kept& place = kept[PlaceOf(values, kept.size())];
     // Bit by bit: the two zeros have texts of their own.
+    // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison)
     if (place.Text.empty() || std::memcmp(place.Values.data(), values.data(), sizeof values) != 0)
     {
         place.Values = values;

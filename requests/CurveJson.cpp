@@ -8,6 +8,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <charconv>
 
 /// Any number as JSON takes it. Curves hold finite values only.
@@ -18,8 +19,19 @@ template <class Number> static void AppendNumber(std::string& text, Number value
     text.append(digits, end);
 }
 
+/// True for what stands in JSON as it is written, as most texts do.
+static bool IsPlain(char c)
+{
+    return c >= ' ' && c <= '~' && c != '"' && c != '\\';
+}
+
 static void AppendText(std::string& text, std::string_view value)
 {
+    if (std::ranges::all_of(value, IsPlain))
+    {
+        text.append(1, '"').append(value).append(1, '"');
+        return;
+    }
     text += nlohmann::json(value).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <ranges>
 
 static constexpr std::array<std::string_view, 5> columnNames = {"part", "size", "characteristic",
                                                                 "capacitance", "rated-voltage"};
@@ -91,8 +92,8 @@ void SortParts(std::vector<const PartRecord*>& found, const PartTable& parts,
                const std::vector<SortKey>& keys, CodeView code, const CurveSettings& settings)
 {
     // The weightiest key last: each pass keeps the order of those before it among equals.
-    for (auto key = keys.rbegin(); key != keys.rend(); ++key)
+    for (const SortKey& key : std::views::reverse(keys))
     {
-        std::ranges::stable_sort(found, PartLess(parts, *key, code, settings));
+        std::ranges::stable_sort(found, PartLess(parts, key, code, settings));
     }
 }

@@ -50,7 +50,7 @@ bool PartSelection::Agrees(const PartRecord& part, const PartChoice& with) const
            (!with.Tcc || TccOf(part) == *with.Tcc) &&
            (!with.Capacitance || part.Data[Value::Capacitance] == *with.Capacitance) &&
            (!with.RatedVoltage || part.Data[Value::RatedVoltage] == *with.RatedVoltage) &&
-           IsAvailable(part, *chartType);
+           chartType && IsAvailable(part, *chartType);
 }
 
 const PartRecord& PartSelection::Part(std::int16_t index) const

@@ -20,6 +20,7 @@ static constexpr int FormWidth = Twips(3000);
 static std::vector<QRadioButton*> ButtonsOf(const QWidget& form, const char* name, std::size_t count)
 {
     std::vector<QRadioButton*> buttons;
+    buttons.reserve(count);
     for (std::size_t i = 0; i < count; ++i)
     {
         buttons.push_back(form.findChild<QRadioButton*>(QString::fromLatin1(name).arg(i)));

@@ -37,9 +37,9 @@ constexpr QSize TourSize(1010, 700);
 class User
 {
 public:
-    User(frmMain& mainWindow, QDir pictureFolder)
+    User(frmMain& mainWindow, const QDir& pictureFolder)
         : window(mainWindow)
-        , folder(std::move(pictureFolder))
+        , folder(pictureFolder)
     {
     }
 

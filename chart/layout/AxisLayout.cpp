@@ -81,6 +81,7 @@ std::vector<AxisLabel> ReadableLabels(std::vector<Candidate> candidates, double 
 std::vector<GridLine> LogGrid(const LogTicks& ticks)
 {
     std::vector<GridLine> grid;
+    grid.reserve(ticks.Lines.size());
     for (const auto& line : ticks.Lines)
     {
         grid.push_back({line.At, line.Decade ? frameColor : minorGridColor});
@@ -91,6 +92,7 @@ std::vector<GridLine> LogGrid(const LogTicks& ticks)
 std::vector<GridLine> LinearGrid(const std::vector<LinearTick>& ticks)
 {
     std::vector<GridLine> grid;
+    grid.reserve(ticks.size());
     for (const auto& tick : ticks)
     {
         grid.push_back({tick.At, gridColor});

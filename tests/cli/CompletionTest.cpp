@@ -115,8 +115,7 @@ void CompletionTest::OffersWhatFits_data()
     row("an option behind one without a value", "curve --unchecked --da", "--data --date");
     row("an option behind a value", "curve --dc-bias 5V --dat", "--data --date");
     row("a part number", "curve KTS31NB51E106", "KTS31NB51E106MA01");
-    row("part numbers of a chart", "chart KTS31NB51E106MA01 --code jis KTU155F01H102",
-        "KTU155F01H102ZA01");
+    row("part numbers of a chart", "chart KTS31NB51E106MA01 --code jis KTU155F01H102", "KTU155F01H102ZA01");
     row("no part number as text of a list", "parts KTS31NB51E106", "");
     row("sizes", "parts --size 0", "0201 0402 0603 0805");
     row("sizes in the other code", "parts --code jis --size 0", "0603");

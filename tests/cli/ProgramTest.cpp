@@ -451,8 +451,8 @@ static Run DocumentMadeIn(const char* zone, const char* date)
 {
     qputenv("TZ", zone);
     qputenv("SOURCE_DATE_EPOCH", date);
-    const auto run =
-        RunCommandLine({"chart", "KTS31NB51E106MA01", "--chart", "capacitance-dc-voltage", "--format", "pdf"});
+    const auto run = RunCommandLine(
+        {"chart", "KTS31NB51E106MA01", "--chart", "capacitance-dc-voltage", "--format", "pdf"});
     qunsetenv("TZ");
     qunsetenv("SOURCE_DATE_EPOCH");
     return run;
