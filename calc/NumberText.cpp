@@ -180,6 +180,22 @@ std::string FormatNumber(float value, NumberFormat format)
     return {};
 }
 
+std::string FixedNumber(double value, int decimals, int shift)
+{
+    if (!std::isfinite(value))
+    {
+        return NotFiniteText(value);
+    }
+    auto decimal = DecimalOf(value);
+    decimal.point += shift;
+    RoundTo(decimal, decimal.point + decimals);
+    if (!decimal.digits.empty())
+    {
+        decimal.digits.resize(static_cast<std::size_t>(std::max(decimal.point + decimals, 0)), '0');
+    }
+    return PlainText(decimal, 1);
+}
+
 static bool IsSign(char c)
 {
     return c == '+' || c == '-';

@@ -40,6 +40,12 @@ enum class NumberFormat
 /// shows it puts a "0" there. A zero in the scientific formats is "0.00E+00" and "0.00E+0".
 std::string FormatNumber(float value, NumberFormat format);
 
+/// The value times ten to the power `shift`, with exactly `decimals` digits behind the point, rounded half
+/// away from zero on its shortest decimal; "0" for what rounds to nothing.
+///
+///     FixedNumber(89960000, 2, -6)   // "89.96"
+std::string FixedNumber(double value, int decimals, int shift = 0);
+
 /// The value of an entry, or nothing when it is not numeric.
 ///
 /// Numeric is an optional sign, digits, at most one decimal sign and an optional exponent, with blanks

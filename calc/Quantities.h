@@ -38,6 +38,10 @@ struct QuantityKind
     /// Kept units to one shown unit: the X of a frequency is kept in Hz and shown in kHz.
     float StoredPerShown = 1;
     bool CanBeNegative = false;
+    /// The unit that takes prefixes, "F" of a capacitance; empty for a quantity that is told without them.
+    std::string_view PrefixedUnit = {};
+    /// A kept unit is ten to this power of the unit that takes prefixes.
+    int PrefixedExponent = 0;
 };
 
 /// All that is known of a quantity.
