@@ -6,9 +6,6 @@
 #include <array>
 #include <cmath>
 
-/// Width of curves in device-independent pixels.
-static constexpr double curveWidth = 1.3;
-
 /// Dashes and gaps in curve widths; the first curve is a whole line.
 static QList<qreal> DashPattern(int dashes)
 {
@@ -26,7 +23,7 @@ static QList<qreal> DashPattern(int dashes)
 QFont ChartFont(double pixel)
 {
     QFont font(QStringLiteral("Arial"));
-    font.setPixelSize(std::max(1, static_cast<int>(std::lround(11 * pixel))));
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(chartFontSize * pixel))));
     return font;
 }
 

@@ -11,6 +11,9 @@
 
 #include <vector>
 
+/// Font size of charts and panes, in device-independent pixels.
+inline constexpr double chartFontSize = 11;
+
 /// The font of charts and panes: Arial 8, which is 11 device-independent pixels high.
 ///
 /// @param pixel extent of a device-independent pixel in painter units
@@ -33,6 +36,8 @@ public:
     void Line(double x1, double y1, double x2, double y2, const Color& color) override;
     /// 0 to 5, each told apart at a glance.
     void SetCurveDashes(int dashes) override { curveDashes = dashes; }
+    /// Width of the curves that follow, in device-independent pixels.
+    void SetCurveWidth(double width) { curveWidth = width; }
     void Polyline(std::span<const Point> points, const Color& color) override;
     void Text(double x, double y, std::string_view text, const Color& color) override;
     void TextUpwards(double x, double y, std::string_view text, const Color& color) override;
@@ -58,4 +63,5 @@ private:
     double yFactor;
     std::vector<QPointF> curve;
     int curveDashes = 0;
+    double curveWidth = 1.3;
 };

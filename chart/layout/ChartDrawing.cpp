@@ -34,16 +34,56 @@ AxisRange DefaultRange(const ChartKey& chart, std::span<const ChartRecord> lines
     return range;
 }
 
-static void DrawGrid(const AxisLayout& xAxis, const AxisLayout& yAxis, ChartSurface& surface)
+std::string NoteOf(const ChartView& view)
 {
-    for (const auto& line : xAxis.Grid)
+    const ChartKind* kind = FindChartKind(view.Chart.ChartType);
+    if (kind == nullptr || !kind->RecommendsRise)
     {
-        surface.Line(line.At, 0, line.At, 100, line.Color);
+        return {};
     }
-    for (const auto& line : yAxis.Grid)
+    return "-Recommendation of temp. Rise is within " + NumberText(RecommendedRise) +
+           UnitOf(Quantity::TemperatureRise, view.DegreeSign) + "-";
+}
+
+static void AddTitles(ChartAxes& axes, const ChartView& view, const ChartSurface& surface)
+{
+    const auto& xName = view.Chart.XAxisName;
+    const auto& yName = view.Chart.YAxisName;
+    axes.Texts.push_back({{35, -7, xName + ' ' + GetUnit(xName, view.DegreeSign)}});
+    const auto yUnit = GetUnit(yName, view.DegreeSign);
+    if (surface.Kind() == SurfaceKind::Screen)
     {
-        surface.Line(0, line.At, 100, line.At, line.Color);
+        axes.Texts.push_back({{surface.Scale().ScaleLeft, 50, yName + ' ' + yUnit}, true});
     }
+    else
+    {
+        axes.Texts.push_back({{0, 107.5, yUnit}});
+    }
+    if (const auto note = NoteOf(view); !note.empty())
+    {
+        axes.Texts.push_back({{10, 107.3, note}});
+    }
+}
+
+/// Axes in the fixed scale of chart windows and pages.
+static ChartAxes LayOutAxes(const ChartView& view, const ChartSurface& surface)
+{
+    const auto xAxis = LayOutXAxis(view, surface);
+    const auto yAxis = LayOutYAxis(view, xAxis.Labels, surface);
+    ChartAxes axes;
+    for (const auto* axis : {&xAxis, &yAxis})
+    {
+        for (const auto& line : axis->Grid)
+        {
+            axes.Lines.push_back({axis == &xAxis, line});
+        }
+        for (const auto& label : axis->Labels)
+        {
+            axes.Texts.push_back({label});
+        }
+    }
+    AddTitles(axes, view, surface);
+    return axes;
 }
 
 static void DrawFrame(ChartSurface& surface)
@@ -54,47 +94,30 @@ static void DrawFrame(ChartSurface& surface)
     surface.Line(0, 100, 0, 0, frameColor);
 }
 
-static void DrawLabels(const AxisLayout& axis, ChartSurface& surface)
+void DrawAxes(const ChartAxes& axes, ChartSurface& surface)
 {
-    for (const auto& label : axis.Labels)
+    for (const auto& [upright, line] : axes.Lines)
     {
-        surface.Text(label.X, label.Y, label.Text, frameColor);
+        surface.Line(upright ? line.At : 0, upright ? 0 : line.At, upright ? line.At : 100,
+                     upright ? 100 : line.At, line.Color);
     }
-}
-
-static void DrawTitles(const ChartView& view, ChartSurface& surface)
-{
-    const auto& xName = view.Chart.XAxisName;
-    const auto& yName = view.Chart.YAxisName;
-    surface.Text(35, -7, xName + ' ' + GetUnit(xName, view.DegreeSign), frameColor);
-    const auto yUnit = GetUnit(yName, view.DegreeSign);
-    if (surface.Kind() == SurfaceKind::Screen)
+    DrawFrame(surface);
+    for (const auto& [label, upwards] : axes.Texts)
     {
-        surface.TextUpwards(surface.Scale().ScaleLeft, 50, yName + ' ' + yUnit, frameColor);
-    }
-    else
-    {
-        surface.Text(0, 107.5, yUnit, frameColor);
-    }
-    const ChartKind* kind = FindChartKind(view.Chart.ChartType);
-    if (kind != nullptr && kind->RecommendsRise)
-    {
-        surface.Text(10, 107.3,
-                     "-Recommendation of temp. Rise is within " + NumberText(RecommendedRise) +
-                         UnitOf(Quantity::TemperatureRise, view.DegreeSign) + "-",
-                     frameColor);
+        if (upwards)
+        {
+            surface.TextUpwards(label.X, label.Y, label.Text, frameColor);
+        }
+        else
+        {
+            surface.Text(label.X, label.Y, label.Text, frameColor);
+        }
     }
 }
 
 void DrawAxes(const ChartView& view, ChartSurface& surface)
 {
-    const auto xAxis = LayOutXAxis(view, surface);
-    const auto yAxis = LayOutYAxis(view, xAxis.Labels, surface);
-    DrawGrid(xAxis, yAxis, surface);
-    DrawFrame(surface);
-    DrawLabels(xAxis, surface);
-    DrawLabels(yAxis, surface);
-    DrawTitles(view, surface);
+    DrawAxes(LayOutAxes(view, surface), surface);
 }
 
 void PlaceCurves(const ChartView& view, std::span<ChartRecord> lines)

@@ -2,10 +2,13 @@
 
 /// Draws a chart: axes, grid, titles and the curves of its lines.
 
+#include "chart/layout/AxisLayout.h"
 #include "chart/layout/ChartSurface.h"
 #include "chart/layout/ChartView.h"
 
 #include <span>
+#include <string>
+#include <vector>
 
 /// The user scale of a chart: the plot area is 0 to 100 in both directions, and the margins hold the labels.
 inline constexpr UserScale chartScale = {-21, 107, 126, -122};
@@ -16,6 +19,31 @@ inline constexpr double chartSurfaceHeight = 3650 / 15.0;
 /// The range that covers the default limits of all lines of the chart; all zeros for a chart without lines.
 /// Lines of other charts are passed over, here and below: any part of the store will do.
 AxisRange DefaultRange(const ChartKey& chart, std::span<const ChartRecord> lines);
+
+/// Axes that are laid out in a user scale whose plot area is 0 to 100, in the order in which they are drawn.
+struct ChartAxes
+{
+    struct Line
+    {
+        /// Upright lines have their position on the X axis, level ones on the Y axis.
+        bool Upright;
+        GridLine Grid;
+    };
+    struct Text
+    {
+        /// By its upper left corner; one that reads upwards by its left edge and its middle.
+        AxisLabel Label;
+        bool Upwards = false;
+    };
+    std::vector<Line> Lines;
+    std::vector<Text> Texts;
+};
+
+/// The note that a chart bears above its plot, or the empty text.
+std::string NoteOf(const ChartView& view);
+
+/// Draws lines, the frame of the plot, and texts.
+void DrawAxes(const ChartAxes& axes, ChartSurface& surface);
 
 /// Grid, tick labels, frame, axis titles and note. On a printer page the unit of Y stands above the plot
 /// instead of a title along the left edge.

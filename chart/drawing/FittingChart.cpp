@@ -1,0 +1,242 @@
+#include "chart/drawing/FittingChart.h"
+
+#include "chart/drawing/FontRuler.h"
+#include "chart/drawing/QtColors.h"
+#include "chart/layout/Mapping.h"
+
+#include <algorithm>
+#include <cmath>
+
+/// Width of curves where texts are as large as those of chart windows, and how much wider a thick one is.
+static constexpr double fittingCurveWidth = 1.5;
+static constexpr double thickCurve = 2.3;
+static constexpr double largeBadge = 1.25;
+/// In text sizes: radius of a marker, height of a tag, blank beside its text.
+static constexpr double markerRadius = 0.28;
+static constexpr double tagHeight = 1.35;
+static constexpr double tagBlank = 0.35;
+static constexpr QColor tagColor = {40, 40, 40};
+
+FittingChart::FittingChart(ChartView chartView, std::span<const ViewedLine> lines, CodeView code,
+                           const FittingLook& chartLook)
+    : view(std::move(chartView))
+    , look(chartLook)
+    , layout(LayOutFitting(view, look.Extent.width(), look.Extent.height(), FontRuler(look.TextSize)))
+{
+    for (const auto& line : lines)
+    {
+        curves.push_back(ViewedCurve(line, view, code));
+        auto& pixels = pixelCurves.emplace_back();
+        for (const auto& run : curves.back())
+        {
+            auto& pixelRun = pixels.emplace_back();
+            for (const auto& point : run)
+            {
+                const auto pixel = PixelOf(point);
+                pixelRun.push_back({pixel.x(), pixel.y()});
+            }
+        }
+    }
+    badges = PlaceBadges(pixelCurves, layout.Plot, Sized(badgeRadius));
+}
+
+QRectF FittingChart::Plot() const
+{
+    return {layout.Plot.Left, layout.Plot.Top, layout.Plot.Width, layout.Plot.Height};
+}
+
+QPointF FittingChart::PixelOf(const Point& user) const
+{
+    const auto plot = Plot();
+    return {plot.left() + user.X / 100 * plot.width(), plot.bottom() - user.Y / 100 * plot.height()};
+}
+
+double FittingChart::XAt(double pixel) const
+{
+    const AxisMapping axis(XAxisKind(view.Chart), view.Range.XMin, view.Range.XMax);
+    return axis.Value((pixel - layout.Plot.Left) / layout.Plot.Width * 100);
+}
+
+double FittingChart::YAt(double pixel) const
+{
+    const AxisMapping axis(YAxisKind(view.Chart), view.Range.YMin, view.Range.YMax);
+    return axis.Value((Plot().bottom() - pixel) / layout.Plot.Height * 100);
+}
+
+std::optional<double> FittingChart::PixelOfX(double x) const
+{
+    const AxisMapping axis(XAxisKind(view.Chart), view.Range.XMin, view.Range.XMax);
+    return axis.Contains(static_cast<float>(x)) ? std::optional(PixelOf({axis.Position(x), 0}).x())
+                                                : std::nullopt;
+}
+
+std::optional<double> FittingChart::PixelOfY(double y) const
+{
+    const AxisMapping axis(YAxisKind(view.Chart), view.Range.YMin, view.Range.YMax);
+    return axis.Contains(static_cast<float>(y)) ? std::optional(PixelOf({0, axis.Position(y)}).y())
+                                                : std::nullopt;
+}
+
+std::optional<int> FittingChart::LineNear(const QPointF& position, double within) const
+{
+    std::optional<int> nearest;
+    for (std::size_t line = 0; line < pixelCurves.size(); ++line)
+    {
+        const double distance = DistanceFromCurve({position.x(), position.y()}, pixelCurves[line], within);
+        if (distance < within)
+        {
+            within = distance;
+            nearest = static_cast<int>(line);
+        }
+    }
+    return nearest;
+}
+
+Color FittingChart::ColorOf(int line) const
+{
+    return look.Kind == SurfaceKind::MonochromePrinter ? frameColor : GetLineColor(line, ButtonTextColor());
+}
+
+void FittingChart::DrawCurve(int line, double width, QPainter& painter) const
+{
+    const double pixel = look.TextSize / chartFontSize;
+    PainterSurface surface(painter, QRectF({0, 0}, look.Extent), layout.Scale, look.Kind, pixel);
+    surface.SetCurveWidth(width);
+    surface.SetCurveDashes(look.Dashed ? line : 0);
+    for (const auto& run : curves[static_cast<std::size_t>(line)])
+    {
+        surface.Polyline(run, ColorOf(line));
+    }
+}
+
+void FittingChart::Draw(QPainter& painter) const
+{
+    painter.save();
+    PainterSurface surface(painter, QRectF({0, 0}, look.Extent), layout.Scale, look.Kind,
+                           look.TextSize / chartFontSize);
+    surface.Clear();
+    DrawAxes(layout.Axes, surface);
+    for (std::size_t line = 0; line < curves.size(); ++line)
+    {
+        DrawCurve(static_cast<int>(line), fittingCurveWidth, painter);
+    }
+    DrawBadges({}, painter);
+    painter.restore();
+}
+
+void DrawBadge(const QPointF& center, double radius, double textSize, int number, const QColor& rim,
+               QPainter& painter)
+{
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    painter.setBrush(Qt::white);
+    painter.setPen(QPen(rim, radius * 0.2));
+    painter.drawEllipse(center, radius * 0.9, radius * 0.9);
+    auto font = ChartFont(textSize / chartFontSize);
+    font.setBold(true);
+    painter.setFont(font);
+    painter.setPen(QtColor(frameColor));
+    painter.drawText(QRectF(center.x() - radius, center.y() - radius, 2 * radius, 2 * radius),
+                     Qt::AlignCenter, QString::number(number));
+}
+
+void FittingChart::DrawBadges(std::optional<int> thick, QPainter& painter) const
+{
+    for (const auto& badge : badges)
+    {
+        const double factor = badge.Line == thick ? largeBadge : 1;
+        const auto rim = QtColor(ColorOf(badge.Line));
+        const QPointF center(badge.Center.X, badge.Center.Y);
+        if (badge.LeaderFrom)
+        {
+            painter.setRenderHint(QPainter::Antialiasing, true);
+            painter.setPen(QPen(rim, look.TextSize / chartFontSize * 0.75));
+            painter.drawLine(QPointF(badge.LeaderFrom->X, badge.LeaderFrom->Y), center);
+        }
+        DrawBadge(center, Sized(badgeRadius) * factor, look.TextSize * 0.85 * factor, badge.Line + 1, rim,
+                  painter);
+    }
+}
+
+void FittingChart::DrawHairline(const CursorMark& cursor, QPainter& painter) const
+{
+    const double x = *PixelOfX(cursor.X);
+    const double pixel = std::max(1.0, std::round(look.TextSize / chartFontSize));
+    QPen pen(QtColor(frameColor), pixel);
+    pen.setCapStyle(Qt::FlatCap);
+    if (cursor.Dashed)
+    {
+        pen.setDashPattern({4, 3});
+    }
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setPen(pen);
+    painter.drawLine(QPointF(x, Plot().top()), QPointF(x, Plot().bottom()));
+}
+
+QRectF FittingChart::TagBox(const CursorMark& cursor) const
+{
+    const double width = FontRuler(look.TextSize).WidthOf(cursor.Tag.toStdString()) + 2 * Sized(tagBlank);
+    const double left = *PixelOfX(cursor.X) - width / 2;
+    return {std::clamp(left, 0.0, std::max(0.0, look.Extent.width() - width)),
+            Plot().top() - Sized(tagHeight) - 2, width, Sized(tagHeight)};
+}
+
+void FittingChart::DrawTag(const CursorMark& cursor, QPainter& painter) const
+{
+    const auto box = TagBox(cursor);
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(tagColor);
+    painter.drawRoundedRect(box, Sized(0.2), Sized(0.2));
+    painter.setFont(ChartFont(look.TextSize / chartFontSize));
+    painter.setPen(Qt::white);
+    painter.drawText(box, Qt::AlignCenter, cursor.Tag);
+}
+
+void FittingChart::DrawMarkers(const CursorMark& cursor, QPainter& painter) const
+{
+    const double x = *PixelOfX(cursor.X);
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    painter.setBrush(Qt::white);
+    for (std::size_t line = 0; line < cursor.Values.size(); ++line)
+    {
+        const auto y = cursor.Values[line] ? PixelOfY(*cursor.Values[line]) : std::nullopt;
+        if (y)
+        {
+            painter.setPen(QPen(QtColor(ColorOf(static_cast<int>(line))),
+                                fittingCurveWidth * look.TextSize / chartFontSize));
+            painter.drawEllipse(QPointF(x, *y), Sized(markerRadius), Sized(markerRadius));
+        }
+    }
+}
+
+void FittingChart::DrawOverlay(const ChartOverlay& overlay, QPainter& painter) const
+{
+    painter.save();
+    if (overlay.Thick && static_cast<std::size_t>(*overlay.Thick) < curves.size())
+    {
+        DrawCurve(*overlay.Thick, fittingCurveWidth * thickCurve, painter);
+    }
+    for (const auto& cursor : overlay.Cursors)
+    {
+        if (PixelOfX(cursor.X))
+        {
+            DrawHairline(cursor, painter);
+            DrawMarkers(cursor, painter);
+            DrawTag(cursor, painter);
+        }
+    }
+    DrawBadges(overlay.Thick, painter);
+    painter.restore();
+}
+
+QRectF FittingChart::StripOf(const CursorMark& cursor) const
+{
+    const auto x = PixelOfX(cursor.X);
+    if (!x)
+    {
+        return {};
+    }
+    const double half = Sized(markerRadius) + fittingCurveWidth * look.TextSize / chartFontSize + 1;
+    const QRectF strip(*x - half, Plot().top() - half, 2 * half, Plot().height() + 2 * half);
+    return strip.united(TagBox(cursor)).adjusted(-1, -1, 1, 1);
+}

@@ -1,0 +1,217 @@
+#include "chart/layout/Badges.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numbers>
+
+namespace
+{
+
+/// Distances in radii: of badges from each other, of a badge beyond its line from other lines, of one on its
+/// line from them, of its center from the line's end, and between the rings around an end.
+constexpr double apart = 2.3;
+constexpr double clearBeyond = 1.25;
+constexpr double clearOnLine = 2.2;
+constexpr double beyond = 1.3;
+constexpr double ring = 2.4;
+/// Distance of the places that are tried along a line.
+constexpr double stride = 0.5;
+/// Neighbours farther than this, in radii, are all the same.
+constexpr double farAway = 12;
+
+double DistanceOf(const Point& a, const Point& b)
+{
+    return std::hypot(a.X - b.X, a.Y - b.Y);
+}
+
+double DistanceOf(const Point& point, const Point& from, const Point& to)
+{
+    const double dx = to.X - from.X;
+    const double dy = to.Y - from.Y;
+    const double square = dx * dx + dy * dy;
+    const double share = square > 0 ? ((point.X - from.X) * dx + (point.Y - from.Y) * dy) / square : 0;
+    const double held = std::clamp(share, 0.0, 1.0);
+    return DistanceOf(point, {from.X + held * dx, from.Y + held * dy});
+}
+
+} // namespace
+
+double DistanceFromCurve(const Point& point, const PixelCurve& curve, double limit)
+{
+    // Runs go from left to right, so only what is near counts.
+    double nearest = limit;
+    for (const auto& run : curve)
+    {
+        const auto first = std::ranges::lower_bound(run, point.X - limit, {}, &Point::X);
+        for (auto at = first == run.begin() ? first : first - 1;
+             at + 1 < run.end() && at->X <= point.X + limit; ++at)
+        {
+            nearest = std::min(nearest, DistanceOf(point, *at, *(at + 1)));
+        }
+    }
+    return nearest;
+}
+
+namespace
+{
+
+class BadgePlacer
+{
+public:
+    BadgePlacer(std::span<const PixelCurve> chartCurves, const Box& plotBox, double badgeRadius)
+        : curves(chartCurves)
+        , plot(plotBox)
+        , radius(badgeRadius)
+    {
+    }
+
+    std::vector<Badge> Place()
+    {
+        for (std::size_t line = 0; line < curves.size(); ++line)
+        {
+            if (!curves[line].empty())
+            {
+                badges.push_back(PlaceOf(line));
+            }
+        }
+        return std::move(badges);
+    }
+
+private:
+    Badge PlaceOf(std::size_t line) const
+    {
+        const int number = static_cast<int>(line);
+        const Point end = curves[line].back().back();
+        const Point behindEnd = Held({end.X + beyond * radius, end.Y});
+        const bool inPlot = behindEnd.X <= plot.Left + plot.Width;
+        if (IsFree(behindEnd) &&
+            (!inPlot || ClearanceOf(behindEnd, line, clearBeyond) >= clearBeyond * radius))
+        {
+            return {number, behindEnd, {}};
+        }
+        if (const auto onLine = PlaceOnLine(line))
+        {
+            return {number, *onLine, {}};
+        }
+        return {number, PlaceAround(end), end};
+    }
+
+    /// Above and below within the plot.
+    Point Held(const Point& point) const
+    {
+        const double top = plot.Top + radius;
+        return {point.X, std::clamp(point.Y, top, std::max(top, plot.Top + plot.Height - radius))};
+    }
+
+    bool IsFree(const Point& center) const
+    {
+        return std::ranges::none_of(badges, [&](const Badge& badge)
+                                    { return DistanceOf(badge.Center, center) < apart * radius; });
+    }
+
+    /// Distance from the nearest other line, as far as it is below a limit in radii.
+    double ClearanceOf(const Point& center, std::size_t line, double limit) const
+    {
+        double nearest = limit * radius;
+        for (std::size_t other = 0; other < curves.size(); ++other)
+        {
+            nearest = other == line ? nearest
+                                    : std::min(nearest, DistanceFromCurve(center, curves[other], nearest));
+        }
+        return nearest;
+    }
+
+    /// The free place on the line farthest right that is clear of other lines, else the one farthest from
+    /// them.
+    std::optional<Point> PlaceOnLine(std::size_t line) const
+    {
+        std::optional<Point> best;
+        double farthest = -1;
+        for (const Point& place : PlacesOn(line))
+        {
+            if (!IsFree(place))
+            {
+                continue;
+            }
+            const double clearance = ClearanceOf(place, line, farAway);
+            if (clearance >= clearOnLine * radius)
+            {
+                return place;
+            }
+            // Not for a rounding error: the places beside each other of lines that coincide are equally good.
+            if (clearance > farthest + 0.01 * radius)
+            {
+                best = place;
+                farthest = clearance;
+            }
+        }
+        return best;
+    }
+
+    /// Places along a line from its right end leftwards.
+    std::vector<Point> PlacesOn(std::size_t line) const
+    {
+        std::vector<Point> places;
+        double toNext = 0;
+        for (auto run = curves[line].rbegin(); run != curves[line].rend(); ++run)
+        {
+            for (std::size_t i = run->size() - 1; i > 0; --i)
+            {
+                const Point& from = (*run)[i];
+                const Point& to = (*run)[i - 1];
+                const double length = DistanceOf(from, to);
+                for (; toNext <= length; toNext += stride * radius)
+                {
+                    const double share = length > 0 ? toNext / length : 0;
+                    places.push_back(
+                        Held({from.X + share * (to.X - from.X), from.Y + share * (to.Y - from.Y)}));
+                }
+                toNext -= length;
+            }
+        }
+        return places;
+    }
+
+    /// The nearest free place on rings around a line's end.
+    Point PlaceAround(const Point& end) const
+    {
+        for (int k = 1;; ++k)
+        {
+            const int places = 12 * k;
+            for (int i = 0; i < places; ++i)
+            {
+                const double angle = 2 * std::numbers::pi * i / places;
+                const double distance = k * ring * radius;
+                const Point center = {end.X + distance * std::cos(angle), end.Y - distance * std::sin(angle)};
+                if (IsInPlot(center) && IsFree(center))
+                {
+                    return center;
+                }
+            }
+            if (k * ring * radius > plot.Width + plot.Height)
+            {
+                return Held(end);
+            }
+        }
+    }
+
+    /// True for a whole badge within the plot, or in the column right of it.
+    bool IsInPlot(const Point& center) const
+    {
+        return center.X >= plot.Left + radius && center.X <= plot.Left + plot.Width + beyond * radius &&
+               center.Y >= plot.Top + radius && center.Y <= plot.Top + plot.Height - radius;
+    }
+
+    std::span<const PixelCurve> curves;
+    const Box& plot;
+    double radius;
+    std::vector<Badge> badges;
+};
+
+} // namespace
+
+std::vector<Badge> PlaceBadges(std::span<const PixelCurve> curves, const Box& plot, double radius)
+{
+    return BadgePlacer(curves, plot, radius).Place();
+}
