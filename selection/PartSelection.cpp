@@ -49,8 +49,8 @@ bool PartSelection::Agrees(const PartRecord& part, const PartChoice& with) const
     return (!with.SizeCode || SizeCodeOf(part) == *with.SizeCode) &&
            (!with.Tcc || TccOf(part) == *with.Tcc) &&
            (!with.Capacitance || part.Data[Value::Capacitance] == *with.Capacitance) &&
-           (!with.RatedVoltage || part.Data[Value::RatedVoltage] == *with.RatedVoltage) &&
-           chartType && IsAvailable(part, *chartType);
+           (!with.RatedVoltage || part.Data[Value::RatedVoltage] == *with.RatedVoltage) && chartType &&
+           IsAvailable(part, *chartType);
 }
 
 const PartRecord& PartSelection::Part(std::int16_t index) const
