@@ -19,6 +19,8 @@ static constexpr int WindowLeft = Twips(3000);
 static constexpr int WindowWidth = Twips(10995);
 static constexpr int WindowHeight = Twips(4425);
 static constexpr int PanesBottom = 248;
+/// Between a part number and the conditions beside it.
+static constexpr int PaneTextGap = 4;
 
 /// Chart and panes are light on every desktop, so that the line colours can be told apart.
 static QPalette LightPalette()
@@ -61,9 +63,9 @@ frmGraph::frmGraph(ChartHost& chartHost, QWidget* parent)
     lblPara = {ui->lblPara_0, ui->lblPara_1, ui->lblPara_2, ui->lblPara_3, ui->lblPara_4, ui->lblPara_5};
     for (std::size_t i = 0; i < MaximumLines; ++i)
     {
-        // The label reaches under its neighbour, its text does not.
+        // The label reaches under its neighbour, its text ends before it.
         const int covered = lblStatus[i]->geometry().right() + 1 - lblPara[i]->x();
-        lblStatus[i]->setContentsMargins(0, 0, covered, 0);
+        lblStatus[i]->setContentsMargins(0, 0, covered + PaneTextGap, 0);
     }
     ui->grpChart->setPalette(LightPalette());
     for (std::size_t i = 0; i < panels.size(); ++i)

@@ -12,7 +12,7 @@
 #include <memory>
 #include <vector>
 
-class ElidedLabel;
+class FittedLabel;
 class QGroupBox;
 class QMenu;
 class QLabel;
@@ -84,8 +84,8 @@ private:
     std::unique_ptr<Ui::frmGraph> ui;
     ChartHost& host;
     std::array<QGroupBox*, MaximumLines> fraStatus;
-    std::array<ElidedLabel*, MaximumLines> lblStatus;
-    std::array<ElidedLabel*, MaximumLines> lblPara;
+    std::array<FittedLabel*, MaximumLines> lblStatus;
+    std::array<FittedLabel*, MaximumLines> lblPara;
     std::array<QLabel*, 2> panels;
 
     ChartKey key;

@@ -3,7 +3,7 @@
 #include "app/PartNumText.h"
 #include "app/mdlPublic.h"
 #include "calc/ChartKinds.h"
-#include "chart/ElidedLabel.h"
+#include "chart/FittedLabel.h"
 #include "chart/drawing/PainterSheet.h"
 #include "chart/frmSetAxis.h"
 #include "chart/layout/ReadOut.h"

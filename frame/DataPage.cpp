@@ -3,11 +3,10 @@
 #include "calc/ChartKinds.h"
 #include "calc/ConditionLines.h"
 #include "calc/DataFile.h"
+#include "chart/drawing/FittedText.h"
 #include "chart/drawing/QtColors.h"
 #include "formkit/Messages.h"
 #include "formkit/Texts.h"
-
-#include <QFontMetricsF>
 
 #include <algorithm>
 #include <array>
@@ -35,6 +34,13 @@ constexpr std::array<double, 3> ruleEnds = {30, 62, 90};
 constexpr int fontHeight = 180;
 constexpr double ruleWidth = 10;
 
+QFont PageFont()
+{
+    QFont font(QStringLiteral("Arial"));
+    font.setPixelSize(fontHeight);
+    return font;
+}
+
 /// The page in its own units, y upwards.
 class DataSheet
 {
@@ -43,18 +49,17 @@ public:
         : painter(pagePainter)
         , unitWidth(extent.width() / pageWidth)
         , unitHeight(extent.height() / pageHeight)
+        , metrics(PageFont(), pagePainter.device())
+        , baselineDrop(BaselineDrop())
     {
-        QFont font(QStringLiteral("Arial"));
-        font.setPixelSize(fontHeight);
-        painter.setFont(font);
-        baselineDrop = BaselineDrop(QFontMetricsF(font, painter.device()));
+        painter.setFont(PageFont());
+        painter.setPen(QtColor(frameColor));
     }
 
     void Write(double x, double y, const QString& text)
     {
         const auto room = (pageRight - x) * unitWidth;
-        painter.setPen(QtColor(frameColor));
-        DrawFittedText(painter, ToTwips(x, y) + QPointF(0, baselineDrop), text, room);
+        FittedText(text, room, metrics).Draw(painter, ToTwips(x, y) + QPointF(0, baselineDrop));
     }
 
     void Rule(double left, double right, double y)
@@ -73,7 +78,7 @@ private:
 
     /// How far below its position the baseline of a text is: so far that a rule at the height of the units
     /// stands in the middle of what is free between the names above it and the units below it.
-    double BaselineDrop(const QFontMetricsF& metrics) const
+    double BaselineDrop() const
     {
         const auto below = metrics.tightBoundingRect(QStringLiteral("gpqy")).bottom();
         const auto above = -metrics.tightBoundingRect(QStringLiteral("[W]")).top();
@@ -83,7 +88,8 @@ private:
     QPainter& painter;
     double unitWidth;
     double unitHeight;
-    double baselineDrop = 0;
+    QFontMetricsF metrics;
+    double baselineDrop;
 };
 
 QString Utf8(const std::string& text)

@@ -1,7 +1,7 @@
 #include "frame/frmMain.h"
 
 #include "app/mdlPublic.h"
-#include "chart/ElidedLabel.h"
+#include "chart/FittedLabel.h"
 #include "chart/frmGraph.h"
 #include "formkit/HourglassScope.h"
 #include "formkit/Messages.h"
@@ -114,7 +114,7 @@ void frmMain::ShowPartFolder(const QString& folder)
 {
     const QString whole = QDir::cleanPath(QDir::current().absoluteFilePath(folder));
     auto* lblPartFolder =
-        new ElidedLabel(QString::fromStdString(WithoutControls(whole.toStdString())), ui->sbrMain);
+        new FittedLabel(QString::fromStdString(WithoutControls(whole.toStdString())), ui->sbrMain);
     lblPartFolder->setObjectName(QStringLiteral("lblPartFolder"));
     lblPartFolder->setTextFormat(Qt::PlainText);
     // A long name is cut rather than the window kept wide.

@@ -4,6 +4,7 @@
 #include "calc/ChartNames.h"
 #include "calc/ConditionLines.h"
 #include "calc/NumberText.h"
+#include "chart/drawing/FittedText.h"
 #include "chart/drawing/PainterSurface.h"
 #include "chart/drawing/QtColors.h"
 #include "chart/layout/PaneText.h"
@@ -132,7 +133,7 @@ class TextWriter
 public:
     TextWriter(QPainter& pagePainter, const QFont& font)
         : painter(pagePainter)
-        , ascent(QFontMetricsF(font, pagePainter.device()).ascent())
+        , metrics(font, pagePainter.device())
     {
         painter.setFont(font);
         painter.setPen(QtColor(frameColor));
@@ -140,7 +141,7 @@ public:
 
     void Write(double left, double top, const QString& text, double right)
     {
-        DrawFittedText(painter, {left, top + ascent}, text, right - left);
+        FittedText(text, right - left, metrics).Draw(painter, {left, top + metrics.ascent()});
     }
 
     void WriteCell(Column column, double top, const QString& text)
@@ -150,7 +151,7 @@ public:
 
 private:
     QPainter& painter;
-    double ascent;
+    QFontMetricsF metrics;
 };
 
 void DrawChart(const ChartPage& page, std::span<const ChartRecord> lines, SurfaceKind kind, QPainter& painter)

@@ -1,11 +1,10 @@
 #pragma once
 
-/// The printable part of a page, and how texts are put on it.
+/// The printable part of a page.
 
 #include <QPainter>
 #include <QRectF>
 #include <QSizeF>
-#include <QString>
 
 /// The part of a page that can be printed on.
 struct PageArea
@@ -33,7 +32,3 @@ private:
     QPainter& painter;
     QSizeF extent;
 };
-
-/// Draws a line of text that begins at the left end of its baseline, squeezed where it is wider than the room
-/// for it.
-void DrawFittedText(QPainter& painter, const QPointF& baseline, const QString& text, double room);

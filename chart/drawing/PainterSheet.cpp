@@ -1,5 +1,6 @@
 #include "chart/drawing/PainterSheet.h"
 
+#include "chart/drawing/FittedText.h"
 #include "chart/drawing/QtColors.h"
 #include "chart/layout/ChartDrawing.h"
 
@@ -22,8 +23,8 @@ void PainterSheet::Frame(const Box& box, const Color& color)
 void PainterSheet::Text(const Box& box, std::string_view text, const Color& color)
 {
     painter.setPen(QtColor(color));
-    painter.drawText(QtRect(box), Qt::AlignLeft | Qt::AlignTop,
-                     metrics.elidedText(QString::fromUtf8(text), Qt::ElideRight, box.Width));
+    const FittedText fitted(QString::fromUtf8(text), box.Width, metrics);
+    fitted.Draw(painter, {box.Left, box.Top + metrics.ascent()});
 }
 
 double PainterSheet::TextWidth(std::string_view text) const

@@ -31,7 +31,7 @@ static void FillPane(int index, const std::string& partNum, const std::string& c
     const auto frame = PaneFrame(index);
     const auto color = GetPaneColor(index);
     // A pane has room for one line, and a file of a picture for no control characters.
-    sheet.Text({frame.Left + 8, frame.Top + 9, 143, 17}, WithoutControls(partNum), color);
+    sheet.Text({frame.Left + 8, frame.Top + 9, 140, 17}, WithoutControls(partNum), color);
     sheet.Text({frame.Left + 152, frame.Top + 9, 177, 17}, conditions, color);
 }
 

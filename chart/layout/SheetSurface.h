@@ -25,7 +25,8 @@ public:
     /// The outline of a box, one device-independent pixel wide.
     virtual void Frame(const Box& box, const Color& color) = 0;
 
-    /// One line of text from the upper left corner of the box; what is wider ends in an ellipsis.
+    /// One line of text from the upper left corner of the box. What is wider is condensed, then set smaller;
+    /// an ellipsis is the last resort.
     virtual void Text(const Box& box, std::string_view text, const Color& color) = 0;
 
     /// Width of a line of text, positive.

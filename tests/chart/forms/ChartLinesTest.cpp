@@ -1,15 +1,17 @@
 /// Lines of chart windows: adding, refusing, ranges, and what a failed plot leaves.
 
 #include "app/mdlPublic.h"
-#include "chart/ElidedLabel.h"
+#include "chart/FittedLabel.h"
 #include "chart/frmGraph.h"
 #include "partdata/RunTimeError.h"
 #include "tests/frame/Desk.h"
 
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QTest>
+#include <QToolTip>
 
 class ChartLinesTest : public QObject
 {
@@ -25,7 +27,7 @@ private Q_SLOTS:
     void OtherXAxisOpensAnotherWindow();
     void PanesNamePartAndConditions_data();
     void PanesNamePartAndConditions();
-    void LongTextsAreCutAndShownWholeInToolTip();
+    void LongTextsAreFittedAndThoseCutHaveAToolTip();
     void RefusedParameterOpensNoWindow();
     void CalculationErrorLeavesEverythingAsBefore();
     void LineThatCannotBeShownOpensNoWindow();
@@ -39,7 +41,7 @@ static const frmGraph* OnlyChart(const Desk& desk)
 
 static QString Pane(const frmGraph* chart, const char* kind, int i)
 {
-    return chart->findChild<ElidedLabel*>(QStringLiteral("%1_%2").arg(kind).arg(i))->text();
+    return chart->findChild<FittedLabel*>(QStringLiteral("%1_%2").arg(kind).arg(i))->text();
 }
 
 static void VerifyRangeCoversLines(const frmGraph* chart)
@@ -213,27 +215,56 @@ void ChartLinesTest::PanesNamePartAndConditions()
     QCOMPARE(Pane(OnlyChart(desk), "lblPara", 1), QString());
 }
 
-void ChartLinesTest::LongTextsAreCutAndShownWholeInToolTip()
+/// Shows the tool tip of a label, as a resting pointer does, and returns its text.
+static QString ToolTipOf(FittedLabel& label)
 {
-    ElidedLabel label;
+    QToolTip::showText(QPoint(), QStringLiteral("another"), &label);
+    QHelpEvent rest(QEvent::ToolTip, {5, 5}, label.mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(&label, &rest);
+    return QToolTip::isVisible() ? QToolTip::text() : QString();
+}
+
+/// The last column that is not of the ground's colour.
+static int LastInk(FittedLabel& label)
+{
+    const QImage drawn = label.grab().toImage();
+    int last = 0;
+    for (int x = 0; x < drawn.width(); ++x)
+    {
+        for (int y = 0; y < drawn.height(); ++y)
+        {
+            last = drawn.pixel(x, y) == drawn.pixel(0, 0) ? last : x;
+        }
+    }
+    return last;
+}
+
+void ChartLinesTest::LongTextsAreFittedAndThoseCutHaveAToolTip()
+{
+    FittedLabel label;
     label.setPalette(QPalette(Qt::white));
+    const QString conditions = "(0[V],123.456789[C/W],150[kHz],30.5[C])";
+    label.setText(conditions);
+    label.show();
+    const int width = label.fontMetrics().horizontalAdvance(conditions);
+    for (const double share : {1.1, 0.9, 0.6})
+    {
+        // Whole, so that no tip is needed.
+        label.resize(static_cast<int>(width * share), 17);
+        QVERIFY(LastInk(label) < label.width());
+        QVERIFY(LastInk(label) > width * std::min(share, 1.0) - 8);
+        QVERIFY(ToolTipOf(label) != conditions);
+    }
     label.resize(60, 17);
-    label.setText("(0[V],123.456789[C/W],150[kHz],30.5[C])");
-    const QImage cut = label.grab().toImage();
-    // The ellipsis ends inside the label: its last column is free, and the cut text differs from a clipped
-    // one.
+    QVERIFY(LastInk(label) < 60);
+    QCOMPARE(ToolTipOf(label), conditions);
+    QCOMPARE(label.text(), conditions);
+    // What is shorter again stands in full size again, as in any label.
+    label.setText("(0)");
     QLabel plain;
     plain.setPalette(QPalette(Qt::white));
     plain.resize(60, 17);
     plain.setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    plain.setText(label.text());
-    QVERIFY(cut != plain.grab().toImage());
-    QCOMPARE(label.text(), plain.text());
-    for (int y = 0; y < cut.height(); ++y)
-    {
-        QCOMPARE(cut.pixelColor(cut.width() - 1, y), cut.pixelColor(cut.width() - 1, 0));
-    }
-    label.setText("(0)");
     plain.setText("(0)");
     QCOMPARE(label.grab().toImage(), plain.grab().toImage());
 }

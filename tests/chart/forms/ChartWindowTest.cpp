@@ -311,8 +311,8 @@ void ChartWindowTest::LayoutIsFixedInTwips()
         QCOMPARE(number->pos(), QPoint(Pixels(120), Pixels(240)));
         QCOMPARE(number->width(), Pixels(2300));
         const auto* conditions = chart->findChild<QLabel*>(QStringLiteral("lblPara_%1").arg(i));
-        // The label ends under the conditions, its text before them.
-        QCOMPARE(number->x() + number->contentsRect().right() + 1, conditions->x());
+        // The label ends under the conditions, its text four pixels before them.
+        QCOMPARE(number->x() + number->contentsRect().right() + 1, conditions->x() - 4);
         QCOMPARE(conditions->geometry(), QRect(Pixels(2280), Pixels(240), Pixels(2655), Pixels(255)));
     }
     QCOMPARE(chart->findChild<QGroupBox*>("fraStatus_0")->y(), 0);
