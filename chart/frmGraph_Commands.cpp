@@ -4,7 +4,7 @@
 #include "app/mdlPublic.h"
 #include "calc/ChartKinds.h"
 #include "chart/FittedLabel.h"
-#include "chart/drawing/PainterSheet.h"
+#include "chart/drawing/TitledSheet.h"
 #include "chart/frmSetAxis.h"
 #include "chart/layout/ReadOut.h"
 #include "formkit/Messages.h"
@@ -14,6 +14,9 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QPainter>
+
+/// How long the status bar tells that a chart is copied, unless the pointer reads it out before.
+static constexpr int CopiedShownMs = 3000;
 
 // ---- Mouse read-out ----
 
@@ -29,6 +32,7 @@ void frmGraph::picGraph_MouseMove(const QPointF& position, const QPoint& twips)
     }
     MouseX = static_cast<std::int16_t>(twips.x());
     MouseY = static_cast<std::int16_t>(twips.y());
+    ui->sbr1->clearMessage();
     panels[0]->setText(QString::fromStdString(XReadOut(view, position.x())));
     panels[1]->setText(QString::fromStdString(YReadOut(view, position.y())));
     for (std::size_t p = 0; p < std::min<std::size_t>(lines.size(), MaximumLines); ++p)
@@ -59,19 +63,19 @@ void frmGraph::mnuChartExpand_Click()
 /// Puts a picture of chart and panes on the clipboard, at twice the screen's resolution.
 void frmGraph::mnuChartClipboard_Click()
 {
-    const double scale = 2 * devicePixelRatioF();
-    QImage picture((sheetSize * scale).toSize(), QImage::Format_RGB32);
-    picture.setDevicePixelRatio(scale);
-    QPainter painter(&picture);
-    PainterSheet sheet(painter);
     std::vector<std::string> partNums;
     for (const QString& partNum : PartNums(GetPartNumForm()))
     {
         partNums.push_back(partNum.toStdString());
     }
-    DrawChartSheet(ui->picGraph->View(), mdlPublic.Charts.Lines(), partNums, sheet);
+    const double scale = 2 * devicePixelRatioF();
+    QImage picture((TitledSheetSize() * scale).toSize(), QImage::Format_RGB32);
+    picture.setDevicePixelRatio(scale);
+    QPainter painter(&picture);
+    DrawTitledSheet(ui->picGraph->View(), mdlPublic.Charts.Lines(), partNums, painter);
     painter.end();
     QGuiApplication::clipboard()->setImage(picture);
+    ui->sbr1->showMessage(QStringLiteral("Copied"), CopiedShownMs);
 }
 
 // ---- Printing ----

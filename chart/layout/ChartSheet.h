@@ -11,6 +11,8 @@
 /// Extent of the sheet in device-independent pixels.
 inline constexpr double sheetWidth = 725;
 inline constexpr double sheetHeight = 248;
+/// What of it is drawn on: the chart and its panes, without the sheet's margins.
+inline constexpr Box sheetContents = {0, 1, 711, 247};
 /// Colour of the sheet behind the panes.
 inline constexpr Color sheetColor = {240, 240, 240};
 

@@ -11,8 +11,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
+#include <QStatusBar>
 #include <QTest>
 
+#include <array>
 #include <cmath>
 
 class MouseReadOutTest : public QObject
@@ -31,6 +33,8 @@ private Q_SLOTS:
     void EmptyPanesStayEmpty();
     void MovingTheMouseRepaintsNoChart();
     void ClipboardHoldsTheChartAtTwiceItsSize();
+    void StatusBarTellsThatTheChartIsCopied();
+    void CopiedPictureHasATitleAndEvenMargins();
     void ClipboardLooksLikeTheWindow();
 };
 
@@ -267,8 +271,8 @@ void MouseReadOutTest::ClipboardHoldsTheChartAtTwiceItsSize()
     Desk desk;
     desk.ClickChartType(2);
     PlotTwoLines(desk);
-    // 725 by 248 on the screen.
-    QCOMPARE(Copied(desk).size(), QSize(1450, 496));
+    // 711 by 247 on the screen, a margin of 10 all around, and 25 for the title.
+    QCOMPARE(Copied(desk).size(), QSize(1462, 584));
     QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{2});
     QCOMPARE(desk.TakeBoxes().size(), std::size_t{0});
 }
@@ -292,15 +296,64 @@ static double ColourShare(const QImage& picture, const QRectF& part, bool blue)
     return static_cast<double>(count) / (area.width() * area.height());
 }
 
+void MouseReadOutTest::StatusBarTellsThatTheChartIsCopied()
+{
+    Desk desk;
+    desk.ClickChartType(2);
+    const frmGraph* chart = PlotTwoLines(desk);
+    const auto* const bar = chart->findChild<QStatusBar*>("sbr1");
+    QCOMPARE(bar->currentMessage(), QString());
+    Copied(desk);
+    QCOMPARE(bar->currentMessage(), QString("Copied"));
+    // The read-out has the bar for itself again.
+    Point(chart, 50, 50);
+    QCOMPARE(bar->currentMessage(), QString());
+}
+
+/// The box around all that is not of the ground's colour.
+static QRect DrawnPart(const QImage& picture)
+{
+    QRect drawn;
+    for (int y = 0; y < picture.height(); ++y)
+    {
+        for (int x = 0; x < picture.width(); ++x)
+        {
+            drawn |= picture.pixel(x, y) == picture.pixel(0, 0) ? QRect() : QRect(x, y, 1, 1);
+        }
+    }
+    return drawn;
+}
+
+void MouseReadOutTest::CopiedPictureHasATitleAndEvenMargins()
+{
+    Desk desk;
+    desk.ClickChartType(2);
+    PlotTwoLines(desk);
+    const QImage copy = Copied(desk);
+    const QRect drawn = DrawnPart(copy);
+    const std::array margins = {drawn.left(), drawn.top(), copy.width() - 1 - drawn.right(),
+                                copy.height() - 1 - drawn.bottom()};
+    for (const int margin : margins)
+    {
+        QVERIFY2(margin >= 18 && margin <= 28, qPrintable(QString::number(margin)));
+    }
+    // The title stands free above the chart: ink, then an empty row, then the chart's white ground.
+    const QImage head = copy.copy(0, 0, copy.width(), 60);
+    const QRect title = DrawnPart(head);
+    QVERIFY(title.width() > 400 && title.height() > 15 && title.bottom() < 59);
+    QCOMPARE(copy.pixel(30, 90), qRgb(255, 255, 255));
+}
+
 void MouseReadOutTest::ClipboardLooksLikeTheWindow()
 {
     Desk desk;
     desk.ClickChartType(2);
     const frmGraph* chart = PlotTwoLines(desk);
     const QImage window = chart->findChild<QWidget*>("grpChart")->grab().toImage();
-    const QImage copy = Copied(desk);
-    const double width = 725.0 / window.width();
-    const double height = 248.0 / window.height();
+    // What lies between its margins and below its title.
+    const QImage copy = Copied(desk).copy(20, 70, 1422, 494);
+    const double width = 711.0 / window.width();
+    const double height = 247.0 / window.height();
     // Chart, first pane and second pane, as shares of the picture.
     for (const QRectF& part :
          {QRectF(0, 0, 0.5, 1), QRectF(0.51, 0, 0.49, 0.16), QRectF(0.51, 0.17, 0.49, 0.16)})

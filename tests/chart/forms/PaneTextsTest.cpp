@@ -7,6 +7,7 @@
 #include "calc/ChartKinds.h"
 #include "chart/drawing/ChartPage.h"
 #include "chart/drawing/PainterSheet.h"
+#include "chart/drawing/TitledSheet.h"
 #include "chart/frmGraph.h"
 #include "chart/layout/PaneText.h"
 #include "cli/SheetPicture.h"
@@ -31,6 +32,7 @@ private Q_SLOTS:
     void initTestCase();
     void ManyAreWiderThanTheirPlace();
     void StandWholeInTheWindow();
+    void StandWholeInTheCopiedPicture();
     void StandWholeInThePictureOfTheCommandLine();
     void StandWholeOnThePage();
 
@@ -123,7 +125,8 @@ std::vector<PdfWord> WordsOf(const QString& file, double left, double top)
     std::vector<PdfWord> words;
     if (pages.size() == 1)
     {
-        std::ranges::copy_if(pages[0].Words, std::back_inserter(words), [&](const PdfWord& word)
+        std::ranges::copy_if(pages[0].Words, std::back_inserter(words),
+                             [&](const PdfWord& word)
                              { return word.Box.left() >= left && word.Box.top() >= top; });
     }
     return words;
@@ -224,6 +227,19 @@ void PaneTextsTest::StandWholeInTheWindow()
         WritePdf(File(), sheetSize, [&](QPainter& painter) { contents->render(&painter); });
         QVERIFY(PanesAreWhole(File(), lines, sheetPanes));
         mdlPublic.Charts = {};
+    }
+}
+
+void PaneTextsTest::StandWholeInTheCopiedPicture()
+{
+    for (const auto& lines : charts)
+    {
+        const auto extent = TitledSheetSize();
+        WritePdf(File(), extent,
+                 [&](QPainter& painter) { DrawTitledSheet(ViewOf(lines), lines, PartNums(lines), painter); });
+        // The sheet itself begins a pixel above what is drawn on it.
+        const QPointF corner(10, extent.height() - 10 - 248);
+        QVERIFY(PanesAreWhole(File(), lines, sheetPanes.translated(corner)));
     }
 }
 

@@ -157,7 +157,7 @@ void LargeDisplayTest::CopyHasTwiceTheResolution()
     desk.PlotCapacitance("KTS31NB51E106MA01", "0");
     QTest::keyClick(desk.main.get(), Qt::Key_C, Qt::ControlModifier);
     Settle();
-    QCOMPARE(QGuiApplication::clipboard()->image().size(), QSize(725, 248) * 4);
+    QCOMPARE(QGuiApplication::clipboard()->image().size(), QSize(731, 292) * 4);
 }
 
 QTEST_MAIN(LargeDisplayTest)

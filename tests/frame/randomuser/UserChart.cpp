@@ -241,7 +241,7 @@ QString User::Copy()
     QGuiApplication::clipboard()->clear();
     hands->Choose("mnuChartClipboard");
     found.Same("the size of the copied picture", QGuiApplication::clipboard()->image().size(),
-               QSize(1450, 496));
+               QSize(1462, 584));
     QGuiApplication::clipboard()->clear();
     return {};
 }
