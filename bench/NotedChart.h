@@ -51,6 +51,10 @@ public:
     {
         Texts.push_back({At(x, y) + QPointF(0, 10), QString::fromUtf8(text)});
     }
+    void CondensedText(double x, double y, double, std::string_view text, const Color& color) override
+    {
+        Text(x, y, text, color);
+    }
     void TextUpwards(double x, double y, std::string_view text, const Color&) override
     {
         UpwardsText = {At(x, y), QString::fromUtf8(text)};

@@ -100,12 +100,12 @@ static std::string PlainText(const Decimal& decimal, std::size_t least)
     return SignOf(decimal) + text;
 }
 
-/// One digit, a point, two decimals and an exponent of at least `leastExponent` digits.
-static std::string ScientificText(Decimal decimal, std::size_t leastExponent)
+/// One digit, a point, the decimals and an exponent of at least `leastExponent` digits.
+static std::string ScientificText(Decimal decimal, int decimals, std::size_t leastExponent)
 {
-    RoundTo(decimal, 3);
+    RoundTo(decimal, 1 + decimals);
     const int exponent = decimal.digits.empty() ? 0 : decimal.point - 1;
-    decimal.digits.resize(3, '0');
+    decimal.digits.resize(static_cast<std::size_t>(1 + decimals), '0');
     return SignOf(decimal) + decimal.digits.substr(0, 1) + '.' + decimal.digits.substr(1) + 'E' +
            ExponentText(exponent, leastExponent);
 }
@@ -155,27 +155,29 @@ std::string TickText(double value, double range)
     return TextOf(decimal);
 }
 
-std::string FormatNumber(float value, NumberFormat format)
+double ToldBy(std::string_view text)
 {
-    if (!std::isfinite(value))
-    {
-        return NotFiniteText(value);
-    }
-    const auto decimal = DecimalOf(value);
+    double number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+}
+
+static std::string FormatDecimal(const Decimal& decimal, NumberFormat format, int moreDecimals)
+{
     switch (format)
     {
     case NumberFormat::ScientificTwo:
-        return ScientificText(decimal, 2);
+        return ScientificText(decimal, 2 + moreDecimals, 2);
     case NumberFormat::ScientificShort:
-        return ScientificText(decimal, 1);
+        return ScientificText(decimal, 2 + moreDecimals, 1);
     case NumberFormat::PaneValue:
-        return FixedText(decimal, 3, 0);
+        return FixedText(decimal, 3 + moreDecimals, 0);
     case NumberFormat::ReadOut:
-        return FixedText(decimal, 3, 1);
+        return FixedText(decimal, 3 + moreDecimals, 1);
     case NumberFormat::WholeTick:
-        return FixedText(decimal, 0, 1);
+        return FixedText(decimal, moreDecimals, 1);
     case NumberFormat::FractionTick:
-        return FixedText(decimal, 5, 1);
+        return FixedText(decimal, 5 + moreDecimals, 1);
     }
     return {};
 }
@@ -194,6 +196,17 @@ std::string FixedNumber(double value, int decimals, int shift)
         decimal.digits.resize(static_cast<std::size_t>(std::max(decimal.point + decimals, 0)), '0');
     }
     return PlainText(decimal, 1);
+}
+
+std::string FormatNumber(float value, NumberFormat format)
+{
+    return std::isfinite(value) ? FormatDecimal(DecimalOf(value), format, 0) : NotFiniteText(value);
+}
+
+std::string FormatTick(double value, NumberFormat format, int moreDecimals)
+{
+    return std::isfinite(value) ? FormatDecimal(DecimalOf(value), format, moreDecimals)
+                                : NotFiniteText(value);
 }
 
 static bool IsSign(char c)

@@ -21,6 +21,9 @@ std::string NumberText(float value);
 /// significant digits, "0" for what is smaller than a millionth of the range.
 std::string TickText(double value, double range);
 
+/// The number that one of these texts tells.
+double ToldBy(std::string_view text);
+
 /// The number formats of charts, panes and data files. Rounding is half away from zero on the shortest
 /// decimal of the value.
 enum class NumberFormat
@@ -39,6 +42,11 @@ enum class NumberFormat
 /// A zero as a `PaneValue` is the empty text, since "#" shows a digit only where there is one; the pane that
 /// shows it puts a "0" there. A zero in the scientific formats is "0.00E+00" and "0.00E+0".
 std::string FormatNumber(float value, NumberFormat format);
+
+/// The same of the value that a tick's text tells, with so many decimals beyond those of the format:
+///
+///     FormatTick(9994000, NumberFormat::ScientificShort, 1)   // "9.994E+6"
+std::string FormatTick(double value, NumberFormat format, int moreDecimals);
 
 /// The value times ten to the power `shift`, with exactly `decimals` digits behind the point, rounded half
 /// away from zero on its shortest decimal; "0" for what rounds to nothing.

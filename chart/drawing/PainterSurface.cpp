@@ -1,5 +1,6 @@
 #include "chart/drawing/PainterSurface.h"
 
+#include "chart/drawing/FittedText.h"
 #include "chart/drawing/QtColors.h"
 
 #include <algorithm>
@@ -98,6 +99,15 @@ void PainterSurface::Text(double x, double y, std::string_view text, const Color
 {
     painter.setPen(QtColor(color));
     painter.drawText(ToPainter(x, y) + QPointF(0, metrics.ascent()), QString::fromUtf8(text));
+}
+
+void PainterSurface::CondensedText(double x, double y, double across, std::string_view text,
+                                   const Color& color)
+{
+    const auto line = QString::fromUtf8(text);
+    painter.setPen(QtColor(color));
+    FittedText(line, metrics.horizontalAdvance(line) * across, metrics)
+        .Draw(painter, ToPainter(x, y) + QPointF(0, metrics.ascent()));
 }
 
 void PainterSurface::TextUpwards(double x, double y, std::string_view text, const Color& color)

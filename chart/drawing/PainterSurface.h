@@ -40,6 +40,7 @@ public:
     void SetCurveWidth(double width) { curveWidth = width; }
     void Polyline(std::span<const Point> points, const Color& color) override;
     void Text(double x, double y, std::string_view text, const Color& color) override;
+    void CondensedText(double x, double y, double across, std::string_view text, const Color& color) override;
     void TextUpwards(double x, double y, std::string_view text, const Color& color) override;
     double TextWidth(std::string_view text) const override;
     double TextHeight() const override;

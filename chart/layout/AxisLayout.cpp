@@ -23,6 +23,8 @@ constexpr double xLabelGap = 0.8;
 constexpr double yLabelGap = 2.8;
 /// Least distance of Y labels from the title at the left edge; the widest come nearer to the axis for it.
 constexpr double titleGap = 0.5;
+/// How near to the axis they come, before they are condensed.
+constexpr double leastYLabelGap = 0.5;
 
 /// A label and the stretch of its axis that it takes.
 struct Candidate
@@ -37,6 +39,15 @@ struct Candidate
 bool Touch(const Candidate& a, const Candidate& b, double gap)
 {
     return b.Low - a.High < gap;
+}
+
+/// Of neighbours that read alike to six digits only the last stands.
+void DropLastThatReads(const std::string& text, std::vector<Candidate>& candidates)
+{
+    if (!candidates.empty() && candidates.back().Label.Text == text)
+    {
+        candidates.pop_back();
+    }
 }
 
 /// True when every `step`-th label from the first on has its place.
@@ -127,6 +138,7 @@ public:
 
     void Add(double at, const std::string& text, bool yields = false)
     {
+        DropLastThatReads(text, candidates);
         const auto width = surface.TextWidth(text);
         widest = std::max(widest, width);
         candidates.push_back({at - height / 2, at + height / 2, {-width, at + height / 2, text}, yields});
@@ -135,9 +147,13 @@ public:
     /// The labels that can stand. One that would touch the first X label is raised above it.
     std::vector<AxisLabel> Place()
     {
-        const auto right = std::max(-yLabelGap, leftmost + widest);
+        const auto room = -leastYLabelGap - leftmost;
+        const auto across = std::min(1.0, room / widest);
+        const auto right = std::max(-yLabelGap, leftmost + across * widest);
         for (auto& candidate : candidates)
         {
+            candidate.Label.Across = across;
+            candidate.Label.X *= across;
             if (right > xLabelsLeft)
             {
                 candidate.High = std::max(candidate.High, xLabelTop + height);
@@ -165,6 +181,7 @@ AxisLayout LayOutLogX(const AxisRange& range, float unit, const ChartSurface& su
     for (const auto& label : ticks.Labels)
     {
         const auto text = LabelOfLogTick(label.Value / unit);
+        DropLastThatReads(text, candidates);
         const auto left = std::max(label.At - surface.TextWidth(text) / 2, firstXLabelLeft);
         candidates.push_back(BelowXAxis(left, text, surface));
         candidates.back().Yields = label.RangeEnd;
@@ -204,7 +221,7 @@ AxisLayout LayOutLinearY(const ChartView& view, YLabelPlacer placer)
     const auto divisions = GetYDivisions(view.Chart.ChartType, view.Chart.XAxisName, view.Chart.YAxisName,
                                          range.YMax, range.YMin, view.Rescaled);
     const auto ticks = LinearTicks(range.YMin, range.YMax, divisions);
-    const auto texts = LabelsOfYTicks(ticks, range.YMax - range.YMin);
+    const auto texts = LabelsOfYTicks(ticks, range.YMin, range.YMax);
     for (std::size_t i = 0; i < ticks.size(); ++i)
     {
         placer.Add(ticks[i].At, texts[i]);

@@ -22,6 +22,8 @@ struct AxisLabel
     double X;
     double Y;
     std::string Text;
+    /// Width of its letters against those of the font: below 1 where it is condensed.
+    double Across = 1;
 };
 
 struct AxisLayout
@@ -36,6 +38,7 @@ struct AxisLayout
 AxisLayout LayOutXAxis(const ChartView& view, const ChartSurface& surface);
 
 /// The Y axis: horizontal grid lines, and labels that end at the axis, clear of the title at the left edge
-/// and of the labels of the X axis. Where labels would touch, only every second (third) one stands.
+/// and of the labels of the X axis; what is too wide for that is condensed. Where labels would touch, only
+/// every second (third) one stands.
 AxisLayout LayOutYAxis(const ChartView& view, const std::vector<AxisLabel>& xLabels,
                        const ChartSurface& surface);

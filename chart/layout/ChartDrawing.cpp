@@ -108,6 +108,10 @@ void DrawAxes(const ChartAxes& axes, ChartSurface& surface)
         {
             surface.TextUpwards(label.X, label.Y, label.Text, frameColor);
         }
+        else if (label.Across < 1)
+        {
+            surface.CondensedText(label.X, label.Y, label.Across, label.Text, frameColor);
+        }
         else
         {
             surface.Text(label.X, label.Y, label.Text, frameColor);

@@ -53,6 +53,10 @@ public:
     /// One line of text whose upper left corner is at the position.
     virtual void Text(double x, double y, std::string_view text, const Color& color) = 0;
 
+    /// The same with letters of this share of their width, below 1.
+    virtual void CondensedText(double x, double y, double across, std::string_view text,
+                               const Color& color) = 0;
+
     /// One line of text that reads upwards: its left edge is at x and its middle at y.
     virtual void TextUpwards(double x, double y, std::string_view text, const Color& color) = 0;
 

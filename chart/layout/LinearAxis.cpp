@@ -3,22 +3,7 @@
 #include "calc/NumberText.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
-#include <string_view>
-
-static std::string ExponentText(float value)
-{
-    return FormatNumber(value, NumberFormat::ScientificShort);
-}
-
-/// The number that a text of ours tells.
-static double NumberOf(std::string_view text)
-{
-    double number = 0;
-    std::from_chars(text.data(), text.data() + text.size(), number);
-    return number;
-}
 
 std::vector<LinearTick> LinearTicks(float minimum, float maximum, int divisions)
 {
@@ -44,40 +29,64 @@ XTickLabel LabelOfXTick(float value, float range)
     {
         return {plain, false};
     }
-    return {ExponentText(value), true};
+    return {FormatNumber(value, NumberFormat::ScientificShort), true};
 }
 
-/// True when two decimals of the mantissa tell the value as exactly as its plain text does.
-static bool FitsExponentText(std::string_view plain, float value)
+/// The format of all labels of a Y axis whose ticks are at these values.
+static NumberFormat FormatOfYTicks(const std::vector<double>& values)
 {
-    const auto exact = NumberOf(plain);
-    return std::abs(NumberOf(ExponentText(value)) - exact) <= 1e-9 * std::abs(exact);
+    double largest = 0;
+    for (const double value : values)
+    {
+        largest = std::max(largest, std::abs(value));
+    }
+    if (largest >= 1e6 || largest < 0.1)
+    {
+        return NumberFormat::ScientificShort;
+    }
+    const bool allWhole =
+        std::ranges::all_of(values, [](double value) { return value == std::floor(value); });
+    return allWhole ? NumberFormat::WholeTick : NumberFormat::FractionTick;
 }
 
-std::vector<std::string> LabelsOfYTicks(const std::vector<LinearTick>& ticks, float range)
+/// True when no neighbours read alike, and the last label reads as the end of the axis.
+static bool TellTheAxis(const std::vector<std::string>& labels, double end)
 {
-    std::vector<std::string> labels;
-    std::size_t longest = 0;
-    float largest = 0;
-    bool exponentsExact = true;
+    return std::ranges::adjacent_find(labels) == labels.end() && ToldBy(labels.back()) == end;
+}
+
+/// By how many decimals a label may go beyond its format: to six digits.
+static int MostMoreDecimals(NumberFormat format)
+{
+    switch (format)
+    {
+    case NumberFormat::ScientificShort:
+        return 3;
+    case NumberFormat::FractionTick:
+        return 1;
+    default:
+        return 0;
+    }
+}
+
+std::vector<std::string> LabelsOfYTicks(const std::vector<LinearTick>& ticks, float minimum, float maximum)
+{
+    const double range = static_cast<double>(maximum) - minimum;
+    std::vector<double> values;
     for (const auto& tick : ticks)
     {
-        const auto plain = TickText(tick.Value, range);
-        longest = std::max(longest, plain.size());
-        largest = std::max(largest, std::abs(tick.Value));
-        exponentsExact = exponentsExact && FitsExponentText(plain, tick.Value);
-        labels.push_back(plain);
+        values.push_back(ToldBy(TickText(minimum + tick.At / 100 * range, range)));
     }
-    if (longest <= 6 && largest >= 0.1F)
+    const auto format = FormatOfYTicks(values);
+    std::vector<std::string> labels(values.size());
+    for (int more = 0; more <= MostMoreDecimals(format); ++more)
     {
-        return labels;
-    }
-    for (std::size_t i = 0; i < ticks.size(); ++i)
-    {
-        const bool kept = exponentsExact ? labels[i] == "0" : labels[i].size() <= 7;
-        if (!kept)
+        std::ranges::transform(values, labels.begin(),
+                               [&](double value)
+                               { return value == 0 ? "0" : FormatTick(value, format, more); });
+        if (labels.empty() || TellTheAxis(labels, values.back()))
         {
-            labels[i] = ExponentText(ticks[i].Value);
+            break;
         }
     }
     return labels;

@@ -33,11 +33,14 @@ struct XTickLabel
 /// @param range width of the axis, which tells what is a rounding error of zero
 XTickLabel LabelOfXTick(float value, float range);
 
-/// How the ticks of a Y axis read, all in one form: plain digits while no label is longer than six characters
-/// and the largest is at least 0.1, else "#.00E+##" with a plain "0". Where that form would round, labels of
-/// up to seven characters stay plain.
+/// How the ticks of a Y axis read, all in one format: "#.00E+##" when the largest is 1E6 or more in
+/// magnitude, or all but zero are below 0.1; else "#####0" where all are whole, else "0.#####". A zero reads
+/// "0". All take more digits, up to six, where neighbours would read alike or the last would not read as the
+/// maximum.
 ///
 ///     0, 2.4, .. 12       -> "0" "2.4" .. "12"
 ///     0, 2.4E6, .. 1.2E7  -> "0" "2.40E+6" .. "1.20E+7"
-///     9990000, 9992000, .. 1E7 -> "9990000" "9992000" .. "1.00E+7"
-std::vector<std::string> LabelsOfYTicks(const std::vector<LinearTick>& ticks, float range);
+///     9990000, 9992000, .. 1E7 -> "9.990E+6" "9.992E+6" .. "1.000E+7"
+///
+/// @param minimum the range that the ticks split, up to `maximum`
+std::vector<std::string> LabelsOfYTicks(const std::vector<LinearTick>& ticks, float minimum, float maximum);

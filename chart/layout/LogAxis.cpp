@@ -72,7 +72,7 @@ LogTicks LogarithmicTicks(float minimum, float maximum)
     const auto firstDecade = static_cast<int>(std::floor(Log10(minimum) + decadeTolerance));
     const auto lastDecade = static_cast<int>(std::ceil(Log10(maximum) - decadeTolerance));
     LogTicks ticks{GridOf(axis, firstDecade, lastDecade), LabelsOf(axis, firstDecade, lastDecade)};
-    if (ticks.Labels.size() < 2)
+    if (Log10(maximum) - Log10(minimum) < 2 - decadeTolerance)
     {
         LabelRangeEnds(ticks.Labels, minimum, maximum);
     }
@@ -81,7 +81,17 @@ LogTicks LogarithmicTicks(float minimum, float maximum)
 
 std::string LabelOfLogTick(double value)
 {
-    const auto plain = TickText(value, value);
-    const bool readable = value > 0.000999999 && value < 999999.5 && plain.size() <= 7;
-    return readable ? plain : FormatNumber(static_cast<float>(value), NumberFormat::ScientificShort);
+    auto text = TickText(value, value);
+    const auto told = ToldBy(text);
+    if (told >= 0.001 && told < 1e6)
+    {
+        return text;
+    }
+    constexpr int mostMoreDecimals = 3;
+    int more = 0;
+    do
+    {
+        text = FormatTick(told, NumberFormat::ScientificShort, more);
+    } while (ToldBy(text) != told && ++more <= mostMoreDecimals);
+    return text;
 }

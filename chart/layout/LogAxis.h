@@ -31,13 +31,12 @@ struct LogTicks
     std::vector<LogLabel> Labels;
 };
 
-/// Lines at every j * 10^k inside the range, and a label at every power of ten there. Where fewer than two
-/// powers of ten lie inside, the ends of the range are labelled too, so that the axis can be read. Nothing
-/// for a range without extent.
+/// Lines at every j * 10^k inside the range, and a label at every power of ten there. The ends of a range
+/// below two decades are labelled too, so that the axis can be read. Nothing for a range without extent.
 ///
 /// With w the width of a decade, a range from a power of ten on has its lines at (i + log10 j) * w.
 LogTicks LogarithmicTicks(float minimum, float maximum);
 
-/// How a labelled value reads: plainly from 0.001 to below a million while that takes at most seven
-/// characters, else in the form "#.00E+##".
+/// How a labelled value reads: plainly from 0.001 to below a million, else in the form "#.00E+##" with as
+/// many decimals, up to five, as tell six digits of it.
 std::string LabelOfLogTick(double value);

@@ -50,6 +50,24 @@ TEST(TickText, RoundsToSixDigits)
     EXPECT_EQ(TickText(1000, 1000), "1000");
 }
 
+TEST(FormatTick, TakesMoreDecimals)
+{
+    EXPECT_EQ(FormatTick(9994000, NumberFormat::ScientificShort, 0), "9.99E+6");
+    EXPECT_EQ(FormatTick(9994000, NumberFormat::ScientificShort, 1), "9.994E+6");
+    EXPECT_EQ(FormatTick(9994000, NumberFormat::ScientificShort, 3), "9.99400E+6");
+    EXPECT_EQ(FormatTick(0.123456, NumberFormat::FractionTick, 0), "0.12346");
+    EXPECT_EQ(FormatTick(0.123456, NumberFormat::FractionTick, 1), "0.123456");
+    EXPECT_EQ(FormatTick(-12, NumberFormat::WholeTick, 0), "-12");
+    EXPECT_EQ(FormatTick(std::numeric_limits<double>::infinity(), NumberFormat::WholeTick, 0), "inf");
+}
+
+TEST(TextsOfNumbers, TellTheirNumbers)
+{
+    EXPECT_EQ(ToldBy("-12.5"), -12.5);
+    EXPECT_EQ(ToldBy("1.20E+7"), 1.2e7);
+    EXPECT_EQ(ToldBy("0"), 0);
+}
+
 TEST(TickText, ShowsNothingSmallerThanAMillionthOfTheRange)
 {
     EXPECT_EQ(TickText(9.9e-7, 1), "0");

@@ -36,6 +36,11 @@ public:
         Boxes.push_back({x, y - TextHeight(), x + TextWidth(text), y, std::string(text)});
         PainterSurface::Text(x, y, text, color);
     }
+    void CondensedText(double x, double y, double across, std::string_view text, const Color& color) override
+    {
+        Boxes.push_back({x, y - TextHeight(), x + across * TextWidth(text), y, std::string(text)});
+        PainterSurface::CondensedText(x, y, across, text, color);
+    }
     void TextUpwards(double x, double y, std::string_view text, const Color& color) override
     {
         const auto halfLength = TextWidth(text) / 2 * (chartArea.width() / Scale().ScaleWidth) /
@@ -153,6 +158,9 @@ void PainterSurfaceTest::TextsNeitherTouchNorLeaveTheSurface_data()
     row("large capacitance", capacitance, {125, 1.2e7F, -75, 0});
     row("seven digits", capacitance, {100, 1e7F, -50, 9.99e6F}, true);
     row("small capacitance", overVoltage, {6.3F, 0.05F, 0, 0}, true);
+    row("six digits", overVoltage, {6.3F, 1234567, 0, 1234000}, true);
+    row("six digits and two signs", change, {125, 0.0123456F, -75, -0.0123455F}, true);
+    row("six digits on a logarithmic axis", allowable, {1e6F, 0.0123456F, 1e4F, 0.00123456F}, true);
 }
 
 void PainterSurfaceTest::TextsNeitherTouchNorLeaveTheSurface()

@@ -180,6 +180,27 @@ TEST(LogAxes, LetARangeEndGiveWayToADecadeBesideIt)
     EXPECT_THAT(XLabelTexts(surface), testing::ElementsAre("100", "500"));
 }
 
+TEST(LinearAxes, CondenseYLabelsThatAreTooWide)
+{
+    // Ten characters are 20 units wide; the title takes 4 of the 21 units at the left.
+    const auto surface = AxesOf({{3, "DC Bias Voltage", "Capacitance"}, {6, 1234567, 0, 0}, true});
+    const auto label = Find(surface, "1.23457E+6");
+    ASSERT_TRUE(label);
+    EXPECT_LT(label->Across, 1);
+    EXPECT_GE(label->X, -21 + 4 + 0.5 - 1e-9);
+    EXPECT_LE(label->X + 20 * label->Across, -0.5 + 1e-9);
+    EXPECT_EQ(Find(surface, "2.46913E+5")->Across, label->Across);
+}
+
+TEST(Axes, LabelNoNeighboursAlike)
+{
+    // Beyond six digits these cannot be told apart.
+    const auto linear = AxesOf({{3, "DC Bias Voltage", "Capacitance"}, {6, 1000005, 0, 1000000}, true});
+    EXPECT_THAT(YLabelTexts(linear), testing::ElementsAre("1.00000E+6", "1.00001E+6"));
+    const auto logarithmic = AxesOf({riseOverFrequency, {300000.1F, 80, 300000, 0}, true});
+    EXPECT_THAT(XLabelTexts(logarithmic), testing::ElementsAre("300"));
+}
+
 TEST(Axes, OutlineThePlotAreaAfterTheGrid)
 {
     const auto surface = AxesOf({riseOverCurrent, {4, 80, 0, 0}});

@@ -18,6 +18,7 @@ struct DrawnText
 {
     double X, Y;
     std::string Text;
+    double Across = 1;
 };
 
 struct DrawnCurve
@@ -51,6 +52,10 @@ public:
     void Text(double x, double y, std::string_view text, const Color&) override
     {
         Texts.push_back({x, y, std::string(text)});
+    }
+    void CondensedText(double x, double y, double across, std::string_view text, const Color&) override
+    {
+        Texts.push_back({x, y, std::string(text), across});
     }
     void TextUpwards(double x, double y, std::string_view text, const Color&) override
     {

@@ -1,3 +1,4 @@
+#include "calc/NumberText.h"
 #include "chart/layout/LinearAxis.h"
 #include "chart/layout/LogAxis.h"
 #include "chart/layout/Mapping.h"
@@ -71,35 +72,74 @@ TEST(LinearTicks, AreNoneWithoutDivisionsOrWidth)
     EXPECT_TRUE(LinearTicks(5, 5, 5).empty());
 }
 
-static std::vector<std::string> YLabels(float minimum, float maximum, int divisions)
+static std::vector<std::string> YLabels(float minimum, float maximum, int divisions = 5)
 {
-    std::vector<std::string> labels;
-    for (const auto& text : LabelsOfYTicks(LinearTicks(minimum, maximum, divisions), maximum - minimum))
-    {
-        labels.push_back(text);
-    }
-    return labels;
+    return LabelsOfYTicks(LinearTicks(minimum, maximum, divisions), minimum, maximum);
 }
 
-TEST(YLabels, ArePlainWhileShort)
+TEST(YLabels, AreWholeWhereAllAreWhole)
 {
-    EXPECT_THAT(YLabels(0, 12, 5), ElementsAre("0", "2.4", "4.8", "7.2", "9.6", "12"));
     EXPECT_THAT(YLabels(-10, 10, 4), ElementsAre("-10", "-5", "0", "5", "10"));
-    EXPECT_THAT(YLabels(0, 500000, 5), ElementsAre("0", "100000", "200000", "300000", "400000", "500000"));
+    EXPECT_THAT(YLabels(0, 500000), ElementsAre("0", "100000", "200000", "300000", "400000", "500000"));
+    EXPECT_THAT(YLabels(0, 999995), ElementsAre("0", "199999", "399998", "599997", "799996", "999995"));
+}
+
+TEST(YLabels, AreFractionsWhereOneIs)
+{
+    EXPECT_THAT(YLabels(0, 12), ElementsAre("0", "2.4", "4.8", "7.2", "9.6", "12"));
     EXPECT_THAT(YLabels(0, 0.1F, 2), ElementsAre("0", "0.05", "0.1"));
+    EXPECT_THAT(YLabels(0, 40000.5F, 2), ElementsAre("0", "20000.3", "40000.5"));
+    EXPECT_THAT(YLabels(-0.001F, 0.2F, 2), ElementsAre("-0.001", "0.0995", "0.2"));
 }
 
-TEST(YLabels, AreExponentialWhenLongOrSmall)
+TEST(YLabels, AreAllExponentialWhenOneIsLargeOrAllAreSmall)
 {
-    EXPECT_THAT(YLabels(0, 1.2e7F, 5),
-                ElementsAre("0", "2.40E+6", "4.80E+6", "7.20E+6", "9.60E+6", "1.20E+7"));
+    EXPECT_THAT(YLabels(0, 1.2e7F), ElementsAre("0", "2.40E+6", "4.80E+6", "7.20E+6", "9.60E+6", "1.20E+7"));
+    EXPECT_THAT(YLabels(0, 1e6F), ElementsAre("0", "2.00E+5", "4.00E+5", "6.00E+5", "8.00E+5", "1.00E+6"));
+    EXPECT_THAT(YLabels(-1e6F, 0, 2), ElementsAre("-1.00E+6", "-5.00E+5", "0"));
+    EXPECT_THAT(YLabels(10000, 1.2e7F, 2), ElementsAre("1.00E+4", "6.01E+6", "1.20E+7"));
     EXPECT_THAT(YLabels(0, 0.05F, 2), ElementsAre("0", "2.50E-2", "5.00E-2"));
+    EXPECT_THAT(YLabels(-0.05F, 0.05F, 2), ElementsAre("-5.00E-2", "0", "5.00E-2"));
 }
 
-TEST(YLabels, StayPlainWhereTwoDecimalsWouldRound)
+TEST(YLabels, TakeMoreDigitsWhereNeighboursWouldReadAlike)
 {
-    EXPECT_THAT(YLabels(9990000, 1e7F, 5),
-                ElementsAre("9990000", "9992000", "9994000", "9996000", "9998000", "1.00E+7"));
+    EXPECT_THAT(YLabels(9990000, 1e7F),
+                ElementsAre("9.990E+6", "9.992E+6", "9.994E+6", "9.996E+6", "9.998E+6", "1.000E+7"));
+    EXPECT_THAT(YLabels(0.010001F, 0.010006F),
+                ElementsAre("1.0001E-2", "1.0002E-2", "1.0003E-2", "1.0004E-2", "1.0005E-2", "1.0006E-2"));
+    EXPECT_THAT(YLabels(0.123451F, 0.123456F),
+                ElementsAre("0.123451", "0.123452", "0.123453", "0.123454", "0.123455", "0.123456"));
+}
+
+TEST(YLabels, ReadAsTheTypedEndAtTheLast)
+{
+    EXPECT_THAT(YLabels(0, 1234000, 2), ElementsAre("0", "6.170E+5", "1.234E+6"));
+    EXPECT_THAT(YLabels(0, 1234567, 2), ElementsAre("0", "6.17284E+5", "1.23457E+6"));
+    EXPECT_THAT(YLabels(0, 0.0123456F, 2), ElementsAre("0", "6.17280E-3", "1.23456E-2"));
+    // Five steps of a fifth of the range add up to another number in single precision.
+    EXPECT_EQ(YLabels(-1e5F, 0.7F).back(), "0.7");
+}
+
+TEST(YLabels, ReadAsTheTypedEndOfAnyRange)
+{
+    // A fifth of all decades, and ends of one to five digits.
+    for (float power = 1e-4F; power < 1e8F; power *= 10)
+    {
+        for (const float digits : {1.0F, 1.2F, 1.23F, 1.234F, 1.2345F, 9.9999F})
+        {
+            const float end = digits * power;
+            const auto labels = YLabels(0, end);
+            ASSERT_EQ(labels.size(), 6U);
+            EXPECT_NEAR(ToldBy(labels.back()), end, 1e-6 * end);
+            for (std::size_t i = 1; i < labels.size(); ++i)
+            {
+                EXPECT_NE(labels[i], labels[i - 1]);
+                EXPECT_EQ(labels[i].find('E') == std::string::npos, labels[1].find('E') == std::string::npos)
+                    << labels[i];
+            }
+        }
+    }
 }
 
 static std::vector<std::string> LogLabels(float minimum, float maximum)
@@ -162,12 +202,23 @@ TEST(LogLabels, StandAtDecades)
     EXPECT_THAT(LogLabels(15, 3000), ElementsAre("100", "1000"));
 }
 
-TEST(LogLabels, StandAtTheEndsOfAShortRangeToo)
+TEST(LogLabels, StandAtTheEndsOfARangeBelowTwoDecadesToo)
 {
     EXPECT_THAT(LogLabels(20, 500), ElementsAre("20", "100", "500"));
     EXPECT_THAT(LogLabels(20, 50), ElementsAre("20", "50"));
     EXPECT_THAT(LogLabels(10, 50), ElementsAre("10", "50"));
     EXPECT_THAT(LogLabels(20, 100), ElementsAre("20", "100"));
+    EXPECT_THAT(LogLabels(60, 3000), ElementsAre("60", "100", "1000", "3000"));
+    // Two decades, as near as singles go.
+    EXPECT_THAT(LogLabels(20, 2000), ElementsAre("100", "1000"));
+    EXPECT_THAT(LogLabels(0.07F, 7), ElementsAre("0.1", "1"));
+}
+
+TEST(LogLabels, TellSixDigitsOfARangesEnds)
+{
+    EXPECT_THAT(LogLabels(0.123456F, 0.5F), ElementsAre("0.123456", "0.5"));
+    EXPECT_THAT(LogLabels(1.5e-4F, 1.2345e-3F), ElementsAre("1.50E-4", "0.001", "0.0012345"));
+    EXPECT_THAT(LogLabels(1234567, 2.5e6F), ElementsAre("1.23457E+6", "2.50E+6"));
 }
 
 TEST(LogTicks, AreNoneWithoutExtent)
