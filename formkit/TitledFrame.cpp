@@ -1,6 +1,10 @@
 #include "formkit/TitledFrame.h"
 
+#include <QEvent>
 #include <QPainter>
+#include <QRadioButton>
+
+#include <algorithm>
 
 /// From the widget's top to the line, on which the caption stands.
 static constexpr int LineTop = 7;
@@ -9,6 +13,25 @@ static constexpr int CaptionLeft = 7;
 TitledFrame::TitledFrame(QWidget* parent)
     : QGroupBox(parent)
 {
+}
+
+QRadioButton* TitledFrame::ButtonThatIsOn() const
+{
+    const auto buttons = findChildren<QRadioButton*>();
+    const auto on = std::ranges::find_if(buttons, &QRadioButton::isChecked);
+    return on != buttons.end() ? *on : nullptr;
+}
+
+/// Left to itself a frame gives the focus to where it was last.
+bool TitledFrame::event(QEvent* event)
+{
+    QRadioButton* const on = event->type() == QEvent::Shortcut ? ButtonThatIsOn() : nullptr;
+    if (on == nullptr)
+    {
+        return QGroupBox::event(event);
+    }
+    on->setFocus(Qt::ShortcutFocusReason);
+    return true;
 }
 
 void TitledFrame::resizeEvent(QResizeEvent* event)

@@ -8,6 +8,7 @@
 #include "frame/HelpCommand.h"
 #include "frame/frmAbout.h"
 #include "partdata/OneLine.h"
+#include "selection/FormAccessKeys.h"
 #include "ui_frmMain.h"
 
 #include <QDir>
@@ -41,6 +42,7 @@ frmMain::frmMain(QWidget* parent)
     library = new frmLibrary(*this);
     ui->mdiArea->addSubWindow(library);
     forms = {this, library};
+    formKeys = new FormAccessKeys(*library, this);
     Connect();
     WatchChildArea();
     PlaceSelectionForm();
@@ -97,7 +99,7 @@ void frmMain::Connect()
             [this](const QMdiSubWindow* active)
             {
                 ShowMenusOf(ui->mdiArea->currentSubWindow());
-                // The control that had the focus when a chart came to the front may be disabled by now.
+                formKeys->SetEnabled(ui->mdiArea->currentSubWindow() != library);
                 if (active == library)
                 {
                     library->KeepFocus();

@@ -13,6 +13,7 @@
 #include <optional>
 #include <vector>
 
+class FormAccessKeys;
 class QPrinter;
 class frmGraph;
 class QMdiSubWindow;
@@ -81,6 +82,8 @@ private:
     PlainTexts plainTexts;
     std::unique_ptr<Ui::frmMain> ui;
     frmLibrary* library;
+    /// The form's access keys while a chart is in front.
+    FormAccessKeys* formKeys = nullptr;
     /// The loaded forms in the order of loading: this window, the selection form, then chart windows.
     std::vector<QWidget*> forms;
     QList<QAction*> mainMenus;

@@ -67,7 +67,7 @@ void PartNumBox::SetParts(std::vector<std::int16_t> indices, int partNumForm)
     clearEditText();
 }
 
-/// List and arrow keys start from the part that is shown, also where it was typed.
+/// List, arrow keys and wheel start from the part that is shown, also where it was typed.
 void PartNumBox::GoToShownEntry()
 {
     const int row = entries->RowOf(currentText());
@@ -87,4 +87,10 @@ void PartNumBox::keyPressEvent(QKeyEvent* event)
 {
     GoToShownEntry();
     QComboBox::keyPressEvent(event);
+}
+
+void PartNumBox::wheelEvent(QWheelEvent* event)
+{
+    GoToShownEntry();
+    QComboBox::wheelEvent(event);
 }

@@ -7,6 +7,7 @@
 #include "formkit/Messages.h"
 #include "formkit/Texts.h"
 #include "formkit/Twips.h"
+#include "selection/LastControl.h"
 #include "selection/ListBoxes.h"
 #include "ui_frmLibrary.h"
 
@@ -86,11 +87,16 @@ void frmLibrary::Connect()
     connect(ui->cmbPartNum->lineEdit(), &QLineEdit::textEdited, this, &frmLibrary::cmbPartNum_Change);
     connect(ui->cmbXaxis, &QComboBox::activated, this, &frmLibrary::cmbXaxis_Click);
     connect(ui->cmdPlot, &QPushButton::clicked, this, &frmLibrary::cmdPlot_Click);
+    for (const ConditionControls& condition : conditions)
+    {
+        connect(condition.Box, &QLineEdit::returnPressed, ui->cmdPlot, &QPushButton::click);
+    }
     for (QComboBox* list : findChildren<QComboBox*>())
     {
         list->installEventFilter(this);
     }
     GuardEntries();
+    lastControl = new LastControl(this);
 }
 
 void frmLibrary::Form_Load()
@@ -147,10 +153,12 @@ void frmLibrary::ComeToFront(QWidget* control)
 
 void frmLibrary::KeepFocus()
 {
-    const QWidget* focus = window()->focusWidget();
-    if (focus == nullptr || !isAncestorOf(focus))
+    QWidget* const last = lastControl->Control();
+    QWidget* const next = last != nullptr ? last : optChartType[static_cast<std::size_t>(GetChartType())];
+    lastControl->Settle();
+    if (window()->focusWidget() != next)
     {
-        optChartType[static_cast<std::size_t>(GetChartType())]->setFocus();
+        next->setFocus(Qt::ActiveWindowFocusReason);
     }
 }
 

@@ -16,6 +16,7 @@
 #include <vector>
 
 struct ChartSweep;
+class LastControl;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -102,8 +103,8 @@ public:
     /// Shows why a parameter is refused and puts the focus into its box.
     void ReportParameter(const ParameterRefusal& refusal);
 
-    /// Gives the focus to the chosen chart type where no control of the form has it, so that keys reach the
-    /// form that is in front.
+    /// Gives the focus back to the control that had it last, with its text as it was left, or else to the
+    /// chosen chart type: keys reach the form that is in front, and go on where the user was.
     void KeepFocus();
 
     /// A complete part is selected, so that it can be plotted; Plot is enabled just then.
@@ -181,6 +182,7 @@ private:
     std::unique_ptr<Ui::frmLibrary> ui;
     ChartWindows& windows;
     PartSelection selection;
+    LastControl* lastControl = nullptr;
     std::vector<QRadioButton*> optChartType;
     std::vector<QRadioButton*> optParameter;
     /// In the order of `Condition`.

@@ -221,6 +221,7 @@ private Q_SLOTS:
         desk->Press(Qt::Key_Space);
         QCOMPARE(desk->messages.Taken(), QStringList{message});
         desk->Press(Qt::Key_Return);
+        QCOMPARE(desk->messages.Taken(), QStringList{message});
         QCOMPARE(desk->newCharts + desk->redrawnCharts, 0);
         QCOMPARE(mdlPublic.Charts.ChartData().size(), std::size_t{1});
         QCOMPARE(desk->Text(name.constData()), entry);

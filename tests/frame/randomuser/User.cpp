@@ -34,6 +34,7 @@ const std::vector<User::Choice>& User::Choices()
         {90, "plot by mouse", &User::PlotByMouse},
         {30, "plot by key", &User::PlotByKey},
         {2, "plot by access key", &User::PlotByAccessKey},
+        {3, "plot by Enter", &User::PlotByEnter},
         {60, "plot something", &User::PlotSomething},
         {40, "activate", &User::Activate},
         {25, "close", &User::CloseOne},

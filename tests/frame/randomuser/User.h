@@ -60,6 +60,7 @@ private:
     QString PlotByMouse();
     QString PlotByKey();
     QString PlotByAccessKey();
+    QString PlotByEnter();
     QString PlotSomething();
 
     // Windows and menus: UserWindows.cpp.

@@ -133,12 +133,23 @@ QString User::PlotByKey()
     return CaptionOf(form->Asked());
 }
 
+/// Enter in the box that has the focus.
+QString User::PlotByEnter()
+{
+    if (BoxWithFocus().isEmpty())
+    {
+        return "no box has the focus";
+    }
+    hands->Press(Chance(50) ? Qt::Key_Return : Qt::Key_Enter);
+    Plot();
+    return CaptionOf(form->Asked());
+}
+
 /// The button goes down for a moment before it acts.
 QString User::PlotByAccessKey()
 {
-    const bool reaches = form->CanPlot && !ChartIsActive();
     hands->Press(Qt::Key_P, Qt::AltModifier);
-    if (!reaches)
+    if (!form->CanPlot)
     {
         return "not reached";
     }

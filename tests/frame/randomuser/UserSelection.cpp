@@ -303,7 +303,7 @@ QString User::TypeAllConditions()
     return typed.join(", ");
 }
 
-/// Leaves a box by Tab or Backtab, or presses Enter in it.
+/// Leaves a box by Tab or Backtab.
 QString User::LeaveByKey()
 {
     const QString box = BoxWithFocus();
@@ -311,24 +311,22 @@ QString User::LeaveByKey()
     {
         return "no box has the focus";
     }
-    const auto key = AnyOf(std::array{Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Return});
-    const bool leaves = key != Qt::Key_Return;
-    const auto refusal = leaves ? form->Refusal(box) : std::nullopt;
-    hands->Press(key);
+    const auto refusal = form->Refusal(box);
+    hands->Press(AnyOf(std::array{Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Backtab}));
     hands->Ready();
     Expect(refusal ? QStringList{Exclamation(*refusal)} : QStringList());
-    found.Same("the box keeps the focus", hands->Focus() == box, refusal || !leaves);
+    found.Same("the box keeps the focus", hands->Focus() == box, refusal.has_value());
     return box;
 }
 
-/// The access key of a label leads to its box or list, as long as no chart is the active window.
+/// The access key of a label leads to its box or list, also from a chart.
 QString User::GoByAccessKey()
 {
     static const std::vector<std::pair<Qt::Key, QString>> keys = {
         {Qt::Key_S, "cmbSizeCode"},       {Qt::Key_T, "cmbTcc"},        {Qt::Key_A, "cmbCap"},
         {Qt::Key_R, "cmbRatedVol"},       {Qt::Key_N, "cmbPartNum"},    {Qt::Key_X, "cmbXaxis"},
-        {Qt::Key_Y, "cmbYaxis"},          {Qt::Key_D, "txtDCBiasVol"},  {Qt::Key_Q, "txtFrequency"},
-        {Qt::Key_E, "txtHeatResistance"}, {Qt::Key_M, "txtAmbientTemp"}};
+        {Qt::Key_Y, "cmbYaxis"},          {Qt::Key_D, "txtDCBiasVol"},  {Qt::Key_K, "txtFrequency"},
+        {Qt::Key_E, "txtHeatResistance"}, {Qt::Key_B, "txtAmbientTemp"}};
     const auto [key, control] = AnyOf(keys);
     if (control.startsWith("txt") && !form->IsEnabled(control))
     {
@@ -339,6 +337,6 @@ QString User::GoByAccessKey()
     hands->Press(key, Qt::AltModifier);
     hands->Ready();
     Expect(refusal ? QStringList{Exclamation(*refusal)} : QStringList());
-    found.Same("the focus", hands->Focus(), refusal || ChartIsActive() ? focus : control);
+    found.Same("the focus", hands->Focus(), refusal ? focus : control);
     return control;
 }
