@@ -57,7 +57,8 @@ void TitledFrame::paintEvent(QPaintEvent*)
     QPainter painter(this);
     FillOutline(painter, rect().adjusted(0, LineTop, 0, 0), palette().color(QPalette::Mid));
 
-    const QRect caption(CaptionLeft, 0, fontMetrics().horizontalAdvance(title()), 2 * LineTop);
+    const int width = fontMetrics().size(Qt::TextShowMnemonic, title()).width();
+    const QRect caption(CaptionLeft, 0, width, 2 * LineTop);
     painter.fillRect(caption.adjusted(-2, 0, 2, 0), palette().window());
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawText(caption, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, title());

@@ -69,8 +69,20 @@ static void UndoToggle(QAction* action)
     action->setChecked(!action->isChecked());
 }
 
+/// A text in the status bar. A long one is cut rather than the window kept wide.
+static QLabel* StatusText(const char* name, QStatusBar* bar)
+{
+    auto* text = new FittedLabel(bar);
+    text->setObjectName(QLatin1String(name));
+    text->setTextFormat(Qt::PlainText);
+    text->setMinimumWidth(1);
+    return text;
+}
+
 void frmMain::Connect()
 {
+    QLabel* lblHint = StatusText("lblHint", ui->sbrMain);
+    ui->sbrMain->addWidget(lblHint, 1);
     connect(ui->mnuFile, &QMenu::aboutToShow, this, &frmMain::mnuFile_Click);
     connect(ui->mnuResetSelction, &QAction::triggered, this, &frmMain::mnuResetSelction_Click);
     connect(ui->mnuSaveDataToFile, &QAction::triggered, this, &frmMain::mnuSaveDataToFile_Click);
@@ -80,6 +92,7 @@ void frmMain::Connect()
     connect(ui->mnuContents, &QAction::triggered, this, &frmMain::mnuContents_Click);
     connect(ui->mnuAbout, &QAction::triggered, this, &frmMain::mnuAbout_Click);
     connect(library, &frmLibrary::CanPlotChanged, this, &frmMain::EnableOutput);
+    connect(library, &frmLibrary::HintChanged, lblHint, &QLabel::setText);
 
     const auto connectMark = [this](QAction* action, int index, void (frmMain::*command)(int))
     {
@@ -115,12 +128,8 @@ bool frmMain::GetPartNewOld() const
 void frmMain::ShowPartFolder(const QString& folder)
 {
     const QString whole = QDir::cleanPath(QDir::current().absoluteFilePath(folder));
-    auto* lblPartFolder =
-        new FittedLabel(QString::fromStdString(WithoutControls(whole.toStdString())), ui->sbrMain);
-    lblPartFolder->setObjectName(QStringLiteral("lblPartFolder"));
-    lblPartFolder->setTextFormat(Qt::PlainText);
-    // A long name is cut rather than the window kept wide.
-    lblPartFolder->setMinimumWidth(1);
+    QLabel* lblPartFolder = StatusText("lblPartFolder", ui->sbrMain);
+    lblPartFolder->setText(QString::fromStdString(WithoutControls(whole.toStdString())));
     ui->sbrMain->addPermanentWidget(lblPartFolder);
 }
 

@@ -44,6 +44,11 @@ std::string_view PartSelection::TccOf(const PartRecord& part) const
     return part.Tcc[static_cast<std::size_t>(view)];
 }
 
+bool PartSelection::HasData(std::int16_t part) const
+{
+    return chartType && IsAvailable(Part(part), *chartType);
+}
+
 bool PartSelection::Agrees(const PartRecord& part, const PartChoice& with) const
 {
     return (!with.SizeCode || SizeCodeOf(part) == *with.SizeCode) &&

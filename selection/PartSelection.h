@@ -58,6 +58,10 @@ public:
     const std::vector<std::int16_t>& PartNums() const { return partNums; }
 
     const PartChoice& Choice() const { return choice; }
+    /// The naming of sizes and characteristics.
+    CodeView View() const { return view; }
+    /// A part has data for the chart type that was chosen last.
+    bool HasData(std::int16_t part) const;
 
     /// True while one part is chosen whole, by its number or by all four choices.
     bool IsPartChosen() const { return partChosen; }

@@ -90,6 +90,7 @@ void frmLibrary::Connect()
     for (const ConditionControls& condition : conditions)
     {
         connect(condition.Box, &QLineEdit::returnPressed, ui->cmdPlot, &QPushButton::click);
+        connect(condition.Box, &QLineEdit::textChanged, this, &frmLibrary::TellHintLater);
     }
     for (QComboBox* list : findChildren<QComboBox*>())
     {
@@ -117,6 +118,10 @@ void frmLibrary::closeEvent(QCloseEvent* event)
 /// The wheel over a list that is not in use scrolls the form; the list only lies in its way.
 bool frmLibrary::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+    {
+        TellHintLater();
+    }
     const auto* list = qobject_cast<const QComboBox*>(watched);
     if (event->type() == QEvent::Wheel && list != nullptr && !list->hasFocus())
     {
@@ -351,6 +356,7 @@ void frmLibrary::ShowCanPlot()
 {
     ui->cmdPlot->setEnabled(CanPlot());
     Q_EMIT CanPlotChanged(CanPlot());
+    TellHintLater();
 }
 
 bool frmLibrary::CanPlot() const
@@ -370,6 +376,7 @@ void frmLibrary::ChangePartNum(int partNumForm)
     {
         ui->cmbPartNum->setEditText(PartNumText(selected, partNumForm));
     }
+    TellHintLater();
 }
 
 void frmLibrary::ChangeSize()

@@ -113,6 +113,9 @@ public:
 Q_SIGNALS:
     /// A part has become complete or incomplete, and Plot with it.
     void CanPlotChanged(bool canPlot);
+    /// What the user is to be told has changed: why Plot cannot be pressed, or what it still needs, in one
+    /// line; empty when it needs nothing.
+    void HintChanged(const QString& hint);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -163,6 +166,9 @@ private:
     void IncompletePart();
     void CompletePart();
     void ShowCanPlot();
+    void TellHintLater();
+    QString Hint() const;
+    std::vector<Condition> EmptyConditions() const;
     const ConditionControls& ControlsOf(Condition condition) const
     {
         return conditions[static_cast<std::size_t>(condition)];
@@ -187,4 +193,5 @@ private:
     std::vector<QRadioButton*> optParameter;
     /// In the order of `Condition`.
     std::vector<ConditionControls> conditions;
+    bool hintIsDue = false;
 };

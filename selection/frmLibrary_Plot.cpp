@@ -8,7 +8,9 @@
 #include "formkit/HourglassScope.h"
 #include "formkit/Messages.h"
 #include "formkit/RunCommand.h"
+#include "formkit/Texts.h"
 #include "selection/ListBoxes.h"
+#include "selection/PlotNeeds.h"
 #include "ui_frmLibrary.h"
 
 #include <algorithm>
@@ -190,4 +192,51 @@ std::optional<ParameterRefusal> frmLibrary::PlotLine(int lines)
     }
     lines == 0 ? windows.ShowNewChart() : ShowSameChart();
     return std::nullopt;
+}
+
+// ---- What Plot still needs ----
+
+/// Once all that one step of the user's changes has changed.
+void frmLibrary::TellHintLater()
+{
+    if (!std::exchange(hintIsDue, true))
+    {
+        QMetaObject::invokeMethod(
+            this,
+            [this]
+            {
+                hintIsDue = false;
+                Q_EMIT HintChanged(Hint());
+            },
+            Qt::QueuedConnection);
+    }
+}
+
+/// The conditions that the chart uses and that nothing is entered for.
+std::vector<Condition> frmLibrary::EmptyConditions() const
+{
+    std::vector<Condition> empty;
+    for (const ConditionControls& condition : conditions)
+    {
+        if (condition.Box->isEnabled() && condition.Box->text().isEmpty())
+        {
+            empty.push_back(condition.Id);
+        }
+    }
+    return empty;
+}
+
+QString frmLibrary::Hint() const
+{
+    const std::array<const QComboBox*, 4> lists = {ui->cmbSizeCode, ui->cmbTcc, ui->cmbCap, ui->cmbRatedVol};
+    const auto inUse = std::ranges::find_if(lists, &QComboBox::hasFocus);
+    std::string hint =
+        inUse != lists.end() ? WhyListIsEmpty(selection, static_cast<int>(inUse - lists.begin())) : "";
+    if (hint.empty())
+    {
+        hint = CanPlot() ? WhichConditionsAreEmpty(EmptyConditions())
+                         : WhyNoPart(mdlPublic.Parts, selection, ToAnsi(ui->cmbPartNum->currentText()),
+                                     GetPartNumForm());
+    }
+    return QString::fromStdString(hint);
 }
