@@ -125,6 +125,8 @@ void ForeignTextTest::IsShownLetterByLetter()
 
     auto* const pane = desk.Charts().at(0)->findChild<QLabel*>("lblStatus_0");
     QCOMPARE(pane->text(), partNum);
+    // However condensed and small, it no longer fits, which is told in a tool tip.
+    pane->setFixedWidth(20);
     AskForToolTip(pane, pane->rect().center());
     QCOMPARE(QToolTip::text(), partNum);
     QVERIFY(watch.Plain.contains("qtooltip_label"));

@@ -1,6 +1,7 @@
 /// Printing without a printer, keyboard shortcuts, and what a screen reader finds.
 
 #include "app/mdlPublic.h"
+#include "chart/drawing/TitledSheet.h"
 #include "chart/frmGraph.h"
 #include "frame/frmPrinting.h"
 #include "tests/frame/Desk.h"
@@ -252,7 +253,7 @@ void OutputKeysTest::KeysOfAChart()
     PlotOne(desk);
     QGuiApplication::clipboard()->clear();
     Key(desk, Qt::Key_C);
-    QCOMPARE(QGuiApplication::clipboard()->image().size(), QSize(1450, 496));
+    QCOMPARE(QGuiApplication::clipboard()->image().size(), (TitledSheetSize() * 2).toSize());
     QCOMPARE(OpenedBy(desk, Qt::Key_S), QByteArray("QFileDialog"));
     QCOMPARE(desk.TakeBoxes().size(), std::size_t{0});
     Key(desk, Qt::Key_Q);
