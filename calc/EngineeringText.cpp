@@ -62,18 +62,13 @@ static std::pair<double, double> ExtentOf(std::span<const double> values)
     return {smallest, largest};
 }
 
-static std::string PlainUnit(const QuantityKind& kind, std::string_view degreeSign)
-{
-    return std::string(kind.HasDegrees ? degreeSign : std::string_view()) + std::string(kind.Unit);
-}
-
 EngineeringForm FormOf(Quantity quantity, std::span<const double> values, std::string_view degreeSign)
 {
     const auto [smallest, largest] = ExtentOf(values);
     const QuantityKind& kind = KindOf(quantity);
     EngineeringForm form;
     form.HasRatios = quantity != Quantity::CapacitanceChange;
-    form.Unit = PlainUnit(kind, degreeSign);
+    form.Unit = ShownUnitOf(quantity, degreeSign);
     if (!kind.PrefixedUnit.empty())
     {
         const int exponent = largest > 0 ? ExponentOf(largest, 4) + kind.PrefixedExponent : 0;
@@ -167,10 +162,10 @@ static std::string AxisNumber(Quantity quantity, double kept)
 
 std::string AxisValueText(Quantity quantity, double kept, std::string_view degreeSign)
 {
-    return WithMinusSign(AxisNumber(quantity, kept)) + ' ' + PlainUnit(KindOf(quantity), degreeSign);
+    return WithMinusSign(AxisNumber(quantity, kept)) + ' ' + ShownUnitOf(quantity, degreeSign);
 }
 
 std::string AxisDifferenceText(Quantity quantity, double kept, std::string_view degreeSign)
 {
-    return Signed(AxisNumber(quantity, kept)) + ' ' + PlainUnit(KindOf(quantity), degreeSign);
+    return Signed(AxisNumber(quantity, kept)) + ' ' + ShownUnitOf(quantity, degreeSign);
 }

@@ -71,11 +71,26 @@ float ShownValue(Quantity quantity, double stored)
     return static_cast<float>(stored / double{KindOf(quantity).StoredPerShown});
 }
 
+static std::string WithDegrees(const QuantityKind& kind, std::string_view unit, std::string_view degreeSign)
+{
+    return std::string(kind.HasDegrees ? degreeSign : std::string_view()) + std::string(unit);
+}
+
 std::string UnitOf(Quantity quantity, std::string_view degreeSign)
 {
+    return '[' + ShownUnitOf(quantity, degreeSign) + ']';
+}
+
+std::string ShownUnitOf(Quantity quantity, std::string_view degreeSign)
+{
     const QuantityKind& kind = KindOf(quantity);
-    return '[' + std::string(kind.HasDegrees ? degreeSign : std::string_view()) + std::string(kind.Unit) +
-           ']';
+    return WithDegrees(kind, kind.Unit, degreeSign);
+}
+
+std::string StoredUnitOf(std::string_view axisName)
+{
+    const QuantityKind& kind = KindOf(QuantityNamed(axisName));
+    return WithDegrees(kind, kind.StoredUnit, defaultDegreeSign);
 }
 
 std::string GetUnit(std::string_view name, std::string_view degreeSign)

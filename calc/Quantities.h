@@ -72,6 +72,13 @@ std::string UnitOf(Quantity quantity, std::string_view degreeSign = {});
 /// The degree sign of charts, panes and pages.
 inline constexpr std::string_view defaultDegreeSign = "\u00B0";
 
+/// The unit that values are shown and entered in, without brackets: "kHz", "\u00B0C".
+std::string ShownUnitOf(Quantity quantity, std::string_view degreeSign = defaultDegreeSign);
+
+/// The unit that the points of an axis are kept in, by the axis text: "Arms" of "Current", "Hz" of
+/// "Frequency". Throws RunTimeError 5 when no quantity is called so.
+std::string StoredUnitOf(std::string_view axisName);
+
 /// `UnitOf` the quantity of an axis or parameter name. Throws RunTimeError 5 that tells the name when no
 /// quantity is called so.
 std::string GetUnit(std::string_view name, std::string_view degreeSign);

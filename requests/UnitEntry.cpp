@@ -198,19 +198,3 @@ float StoredValueInUnit(std::string_view typed, Quantity quantity, std::string_v
     std::from_chars(digits.data(), digits.data() + digits.size(), value);
     return static_cast<float>(value * factor);
 }
-
-static std::string WithDegrees(const QuantityKind& kind, std::string_view unit)
-{
-    return std::string(kind.HasDegrees ? defaultDegreeSign : "") + std::string(unit);
-}
-
-std::string ShownUnitOf(Quantity quantity)
-{
-    return WithDegrees(KindOf(quantity), KindOf(quantity).Unit);
-}
-
-std::string StoredUnitOf(std::string_view axisName)
-{
-    const QuantityKind& kind = KindOf(QuantityNamed(axisName));
-    return WithDegrees(kind, kind.StoredUnit);
-}

@@ -25,10 +25,3 @@ float ValueInUnit(std::string_view typed, Quantity quantity, std::string_view ke
 /// The value in the unit that points are kept in: 300,000 Hz of "300" for a frequency. Throws as
 /// `ValueInUnit`.
 float StoredValueInUnit(std::string_view typed, Quantity quantity, std::string_view key = {});
-
-/// The unit that conditions are told in, degree sign included: "kHz", "\u00B0C".
-std::string ShownUnitOf(Quantity quantity);
-
-/// The unit that the points of an axis are kept in, by the axis text: "Arms" of "Current", "Hz" of
-/// "Frequency". Throws RunTimeError 5 when no quantity is called so.
-std::string StoredUnitOf(std::string_view axisName);
