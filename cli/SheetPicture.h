@@ -2,16 +2,12 @@
 
 /// A chart with its panes as a picture in a file format.
 
+#include "chart/drawing/PictureFile.h"
 #include "chart/layout/ChartView.h"
 #include "requests/OutputFormat.h"
 
-#include <QByteArray>
-#include <QSizeF>
-
 #include <span>
 #include <vector>
-
-struct Picture;
 
 /// A format of pictures, as the bytes of a file.
 struct PictureFormat : OutputFormat<QByteArray (*)(const Picture& picture)>
