@@ -6,11 +6,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
-/// Width of curves where texts are as large as those of chart windows, and how much wider a thick one is.
-static constexpr double fittingCurveWidth = 1.5;
+/// How much wider a thick curve is.
 static constexpr double thickCurve = 2.3;
 static constexpr double largeBadge = 1.25;
+static constexpr double leaderWidth = 0.75;
 /// In text sizes: radius of a marker, height of a tag, blank beside its text.
 static constexpr double markerRadius = 0.28;
 static constexpr double tagHeight = 1.35;
@@ -18,10 +19,11 @@ static constexpr double tagBlank = 0.35;
 static constexpr QColor tagColor = {40, 40, 40};
 
 FittingChart::FittingChart(ChartView chartView, std::span<const ViewedLine> lines, CodeView code,
-                           const FittingLook& chartLook)
+                           const QSizeF& roomExtent, const LineMarks& lineMarks)
     : view(std::move(chartView))
-    , look(chartLook)
-    , layout(LayOutFitting(view, look.Extent.width(), look.Extent.height(), FontRuler(look.TextSize)))
+    , extent(roomExtent)
+    , marks(lineMarks)
+    , layout(LayOutFitting(view, extent.width(), extent.height(), FontRuler(marks.TextSize)))
 {
     for (const auto& line : lines)
     {
@@ -92,28 +94,27 @@ std::optional<int> FittingChart::LineNear(const QPointF& position, double within
     return nearest;
 }
 
-Color FittingChart::ColorOf(int line) const
+PainterSurface FittingChart::SurfaceOn(QPainter& painter) const
 {
-    return look.Kind == SurfaceKind::MonochromePrinter ? frameColor : GetLineColor(line, ButtonTextColor());
+    return {painter, QRectF({0, 0}, extent), layout.Scale, marks.Kind, marks.Pixel()};
 }
 
 void FittingChart::DrawCurve(int line, double width, QPainter& painter) const
 {
-    const double pixel = look.TextSize / chartFontSize;
-    PainterSurface surface(painter, QRectF({0, 0}, look.Extent), layout.Scale, look.Kind, pixel);
+    auto surface = SurfaceOn(painter);
+    const auto look = marks.LookOf(line);
     surface.SetCurveWidth(width);
-    surface.SetCurveDashes(look.Dashed ? line : 0);
+    surface.SetCurveDashes(look.Dashes);
     for (const auto& run : curves[static_cast<std::size_t>(line)])
     {
-        surface.Polyline(run, ColorOf(line));
+        surface.Polyline(run, look.Color);
     }
 }
 
 void FittingChart::Draw(QPainter& painter) const
 {
     painter.save();
-    PainterSurface surface(painter, QRectF({0, 0}, look.Extent), layout.Scale, look.Kind,
-                           look.TextSize / chartFontSize);
+    auto surface = SurfaceOn(painter);
     surface.Clear();
     DrawAxes(layout.Axes, surface);
     for (std::size_t line = 0; line < curves.size(); ++line)
@@ -124,43 +125,25 @@ void FittingChart::Draw(QPainter& painter) const
     painter.restore();
 }
 
-void DrawBadge(const QPointF& center, double radius, double textSize, int number, const QColor& rim,
-               QPainter& painter)
-{
-    painter.setRenderHint(QPainter::Antialiasing, true);
-    painter.setBrush(Qt::white);
-    painter.setPen(QPen(rim, radius * 0.2));
-    painter.drawEllipse(center, radius * 0.9, radius * 0.9);
-    auto font = ChartFont(textSize / chartFontSize);
-    font.setBold(true);
-    painter.setFont(font);
-    painter.setPen(QtColor(frameColor));
-    painter.drawText(QRectF(center.x() - radius, center.y() - radius, 2 * radius, 2 * radius),
-                     Qt::AlignCenter, QString::number(number));
-}
-
 void FittingChart::DrawBadges(std::optional<int> thick, QPainter& painter) const
 {
     for (const auto& badge : badges)
     {
-        const double factor = badge.Line == thick ? largeBadge : 1;
-        const auto rim = QtColor(ColorOf(badge.Line));
         const QPointF center(badge.Center.X, badge.Center.Y);
         if (badge.LeaderFrom)
         {
             painter.setRenderHint(QPainter::Antialiasing, true);
-            painter.setPen(QPen(rim, look.TextSize / chartFontSize * 0.75));
+            painter.setPen(QPen(QtColor(marks.LookOf(badge.Line).Color), leaderWidth * marks.Pixel()));
             painter.drawLine(QPointF(badge.LeaderFrom->X, badge.LeaderFrom->Y), center);
         }
-        DrawBadge(center, Sized(badgeRadius) * factor, look.TextSize * 0.85 * factor, badge.Line + 1, rim,
-                  painter);
+        marks.DrawBadge(badge.Line, center, painter, badge.Line == thick ? largeBadge : 1);
     }
 }
 
 void FittingChart::DrawHairline(const CursorMark& cursor, QPainter& painter) const
 {
     const double x = *PixelOfX(cursor.X);
-    const double pixel = std::max(1.0, std::round(look.TextSize / chartFontSize));
+    const double pixel = std::max(1.0, std::round(marks.Pixel()));
     QPen pen(QtColor(frameColor), pixel);
     pen.setCapStyle(Qt::FlatCap);
     if (cursor.Dashed)
@@ -174,10 +157,10 @@ void FittingChart::DrawHairline(const CursorMark& cursor, QPainter& painter) con
 
 QRectF FittingChart::TagBox(const CursorMark& cursor) const
 {
-    const double width = FontRuler(look.TextSize).WidthOf(cursor.Tag.toStdString()) + 2 * Sized(tagBlank);
+    const double width = FontRuler(marks.TextSize).WidthOf(cursor.Tag.toStdString()) + 2 * Sized(tagBlank);
     const double left = *PixelOfX(cursor.X) - width / 2;
-    return {std::clamp(left, 0.0, std::max(0.0, look.Extent.width() - width)),
-            Plot().top() - Sized(tagHeight) - 2, width, Sized(tagHeight)};
+    return {std::clamp(left, 0.0, std::max(0.0, extent.width() - width)), Plot().top() - Sized(tagHeight) - 2,
+            width, Sized(tagHeight)};
 }
 
 void FittingChart::DrawTag(const CursorMark& cursor, QPainter& painter) const
@@ -187,7 +170,7 @@ void FittingChart::DrawTag(const CursorMark& cursor, QPainter& painter) const
     painter.setPen(Qt::NoPen);
     painter.setBrush(tagColor);
     painter.drawRoundedRect(box, Sized(0.2), Sized(0.2));
-    painter.setFont(ChartFont(look.TextSize / chartFontSize));
+    painter.setFont(ChartFont(marks.Pixel()));
     painter.setPen(Qt::white);
     painter.drawText(box, Qt::AlignCenter, cursor.Tag);
 }
@@ -202,8 +185,8 @@ void FittingChart::DrawMarkers(const CursorMark& cursor, QPainter& painter) cons
         const auto y = cursor.Values[line] ? PixelOfY(*cursor.Values[line]) : std::nullopt;
         if (y)
         {
-            painter.setPen(QPen(QtColor(ColorOf(static_cast<int>(line))),
-                                fittingCurveWidth * look.TextSize / chartFontSize));
+            painter.setPen(
+                QPen(QtColor(marks.LookOf(static_cast<int>(line)).Color), fittingCurveWidth * marks.Pixel()));
             painter.drawEllipse(QPointF(x, *y), Sized(markerRadius), Sized(markerRadius));
         }
     }
@@ -236,7 +219,7 @@ QRectF FittingChart::StripOf(const CursorMark& cursor) const
     {
         return {};
     }
-    const double half = Sized(markerRadius) + fittingCurveWidth * look.TextSize / chartFontSize + 1;
+    const double half = Sized(markerRadius) + fittingCurveWidth * marks.Pixel() + 1;
     const QRectF strip(*x - half, Plot().top() - half, 2 * half, Plot().height() + 2 * half);
     return strip.united(TagBox(cursor)).adjusted(-1, -1, 1, 1);
 }

@@ -2,6 +2,8 @@
 
 /// A chart of any size on a painter: axes, curves and badges, and over them what points at values.
 
+#include "chart/drawing/LineMarks.h"
+#include "chart/drawing/PainterSurface.h"
 #include "chart/layout/Badges.h"
 #include "chart/layout/FittingLayout.h"
 #include "chart/layout/ViewedCurve.h"
@@ -14,18 +16,6 @@
 
 #include <optional>
 #include <vector>
-
-/// How a fitting chart looks; extents in device-independent pixels.
-struct FittingLook
-{
-    QSizeF Extent;
-    /// `FittingTextSize` of the window.
-    double TextSize = 11;
-    /// Each line has its own dashes.
-    bool Dashed = false;
-    /// A monochrome printer: all lines black, with dashes.
-    SurfaceKind Kind = SurfaceKind::Screen;
-};
 
 /// A cursor on the chart.
 struct CursorMark
@@ -56,8 +46,10 @@ class FittingChart
 {
 public:
     /// @param lines all of the view's chart, in the order of their numbers
+    /// @param roomExtent in device-independent pixels
+    /// @param lineMarks with the text size of all texts (`FittingTextSize` of the window)
     FittingChart(ChartView chartView, std::span<const ViewedLine> lines, CodeView code,
-                 const FittingLook& chartLook);
+                 const QSizeF& roomExtent, const LineMarks& lineMarks);
 
     /// The plot area.
     QRectF Plot() const;
@@ -78,9 +70,9 @@ public:
     QRectF StripOf(const CursorMark& cursor) const;
 
 private:
-    Color ColorOf(int line) const;
     QPointF PixelOf(const Point& user) const;
-    double Sized(double textSizes) const { return textSizes * look.TextSize; }
+    double Sized(double textSizes) const { return textSizes * marks.TextSize; }
+    PainterSurface SurfaceOn(QPainter& painter) const;
     void DrawCurve(int line, double width, QPainter& painter) const;
     void DrawBadges(std::optional<int> thick, QPainter& painter) const;
     void DrawMarkers(const CursorMark& cursor, QPainter& painter) const;
@@ -89,7 +81,8 @@ private:
     QRectF TagBox(const CursorMark& cursor) const;
 
     ChartView view;
-    FittingLook look;
+    QSizeF extent;
+    LineMarks marks;
     FittingLayout layout;
     /// In plot units, one for each line.
     std::vector<std::vector<CurveRun>> curves;
@@ -97,7 +90,3 @@ private:
     std::vector<PixelCurve> pixelCurves;
     std::vector<Badge> badges;
 };
-
-/// A badge: a white disc with its rim in the line's colour and the line's number, 1 and up, in black.
-void DrawBadge(const QPointF& center, double radius, double textSize, int number, const QColor& rim,
-               QPainter& painter);

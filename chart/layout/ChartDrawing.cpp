@@ -170,13 +170,18 @@ static void DrawCurve(const ChartRecord& line, const AxisMapping& xAxis, const A
     finishRun();
 }
 
+CurveLook LookOfCurve(SurfaceKind kind, const Color& buttonText, int position)
+{
+    if (kind == SurfaceKind::MonochromePrinter)
+    {
+        return {buttonText, position};
+    }
+    return {GetLineColor(position, buttonText), 0};
+}
+
 CurveLook LookOfCurve(const ChartSurface& surface, int position)
 {
-    if (surface.Kind() == SurfaceKind::MonochromePrinter)
-    {
-        return {surface.ButtonTextColor(), position};
-    }
-    return {GetLineColor(position, surface.ButtonTextColor()), 0};
+    return LookOfCurve(surface.Kind(), surface.ButtonTextColor(), position);
 }
 
 void DrawCurves(const ChartView& view, std::span<const ChartRecord> lines, ChartSurface& surface)

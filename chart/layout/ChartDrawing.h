@@ -65,6 +65,7 @@ struct CurveLook
 /// Each curve has its own colour and is a whole line; on a monochrome printer all have the colour of button
 /// texts, and each its own dashes.
 CurveLook LookOfCurve(const ChartSurface& surface, int position);
+CurveLook LookOfCurve(SurfaceKind kind, const Color& buttonText, int position);
 
 /// The curves of the chart's lines, in store order, from their placed points. A segment with an end outside
 /// the range is left out whole.
