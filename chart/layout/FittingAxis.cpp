@@ -237,11 +237,17 @@ private:
     {
         static constexpr std::array digits = {1, 2, 3, 4, 5, 6, 7, 8, 9};
         static constexpr std::array some = {1, 2, 5};
-        if (StandsClear(digits))
+        // A range of a decade holds one of each.
+        static constexpr std::array two = {1, 3};
+        for (const std::span<const int> labelled : {std::span<const int>(digits), std::span<const int>(some)})
         {
-            return digits;
+            if (StandsClear(labelled))
+            {
+                return labelled;
+            }
         }
-        return StandsClear(some) ? std::span<const int>(some) : std::span<const int>(digits).first(1);
+        const bool onePower = !IsInside(std::pow(10.0, LastDecade() - 1));
+        return onePower ? std::span<const int>(two) : std::span<const int>(digits).first(1);
     }
 
     /// Every how many decades there is room for a label.
