@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
 
 namespace
 {
@@ -29,15 +28,26 @@ constexpr double columnWidth = 32;
 constexpr double yOffset = 16;
 constexpr std::size_t pointsPerColumn = 67;
 constexpr std::array<double, 3> ruleEnds = {30, 62, 90};
+/// Between neighbouring texts, at least.
+constexpr double textGap = 1;
 
-/// Nine points, and half a point, in twips.
+/// Headings of Y end with their rule; that of the last column, the shortest, leaves this room, and all are
+/// alike.
+constexpr double headingRoom = 10;
+
+/// Nine points, in twips.
 constexpr int fontHeight = 180;
-constexpr double ruleWidth = 10;
+/// Width of the rules against the height of the font: half a point to nine.
+constexpr double ruleWeight = 1 / 18.0;
+/// Of the height of the font what the rows of the table need at least: digits, and white between them.
+constexpr double leastPitch = 0.95;
 
-QFont PageFont()
+/// Arial 9, on small paper as much smaller as the rows of the table need.
+QFont PageFont(double unitHeight)
 {
+    const auto tallest = static_cast<int>(pointPitch * unitHeight / leastPitch);
     QFont font(QStringLiteral("Arial"));
-    font.setPixelSize(fontHeight);
+    font.setPixelSize(std::clamp(tallest, 1, fontHeight));
     return font;
 }
 
@@ -49,16 +59,18 @@ public:
         : painter(pagePainter)
         , unitWidth(extent.width() / pageWidth)
         , unitHeight(extent.height() / pageHeight)
-        , metrics(PageFont(), pagePainter.device())
+        , font(PageFont(unitHeight))
+        , metrics(font, pagePainter.device())
         , baselineDrop(BaselineDrop())
     {
-        painter.setFont(PageFont());
+        painter.setFont(font);
         painter.setPen(QtColor(frameColor));
     }
 
-    void Write(double x, double y, const QString& text)
+    /// Writes a text that ends at `right`, which leaves it so much room, or before.
+    void Write(double x, double y, double right, const QString& text)
     {
-        const auto room = (pageRight - x) * unitWidth;
+        const auto room = (right - x) * unitWidth;
         FittedText(text, room, metrics).Draw(painter, ToTwips(x, y) + QPointF(0, baselineDrop));
     }
 
@@ -66,7 +78,8 @@ public:
     {
         const auto from = ToTwips(left, y);
         const auto to = ToTwips(right, y);
-        painter.fillRect(QRectF(from.x(), from.y() - ruleWidth / 2, to.x() - from.x(), ruleWidth),
+        const auto width = font.pixelSize() * ruleWeight;
+        painter.fillRect(QRectF(from.x(), from.y() - width / 2, to.x() - from.x(), width),
                          QtColor(frameColor));
     }
 
@@ -88,8 +101,17 @@ private:
     QPainter& painter;
     double unitWidth;
     double unitHeight;
+    QFont font;
     QFontMetricsF metrics;
     double baselineDrop;
+};
+
+/// Where a text hangs, and where it ends at the latest.
+struct Place
+{
+    double X;
+    double Y;
+    double Right;
 };
 
 QString Utf8(const std::string& text)
@@ -101,21 +123,25 @@ void DrawNames(const DataPage& page, DataSheet& sheet)
 {
     const auto form = static_cast<std::size_t>(page.View);
     const auto type = ChartKindOf(page.Line.ChartType).Caption;
-    sheet.Write(0, 105, ProgramTitle() + "  " + page.Date);
-    sheet.Write(0, 103, "ChartType -> " + Utf8(std::string(type)));
-    sheet.Write(0, 101,
+    sheet.Write(0, 105, pageRight, ProgramTitle() + "  " + page.Date);
+    sheet.Write(0, 103, pageRight, "ChartType -> " + Utf8(std::string(type)));
+    sheet.Write(0, 101, pageRight,
                 "Halvex Part Num -> " + FromAnsi(page.Part.PartNum[form]) + '(' +
                     FromAnsi(page.Part.PartNum[form + 2]) + ')');
 }
 
 void DrawConditions(const std::vector<ConditionLine>& conditions, DataSheet& sheet)
 {
-    constexpr std::array<std::pair<double, double>, 4> places = {{{0, 99}, {35, 99}, {0, 97}, {35, 97}}};
+    constexpr double secondLeft = 35;
+    constexpr double firstRight = secondLeft - textGap;
+    constexpr std::array<Place, 4> places = {
+        {{0, 99, firstRight}, {secondLeft, 99, pageRight}, {0, 97, firstRight}, {secondLeft, 97, pageRight}}};
     for (std::size_t i = 0; i < conditions.size(); ++i)
     {
         const auto& condition = conditions[i];
-        const auto [x, y] = places.at(i);
-        sheet.Write(x, y, Utf8(condition.Name + " -> " + condition.Value + ' ' + condition.Unit));
+        const auto& place = places.at(i);
+        sheet.Write(place.X, place.Y, place.Right,
+                    Utf8(condition.Name + " -> " + condition.Value + ' ' + condition.Unit));
     }
 }
 
@@ -123,13 +149,16 @@ void DrawTableHeading(const DataPage& page, DataSheet& sheet)
 {
     const auto xName = Utf8(page.Line.XAxisName);
     const auto yName = Utf8(page.Line.YAxisName);
+    const auto xUnit = Utf8(GetUnit(page.Line.XAxisName, page.DegreeSign));
+    const auto yUnit = Utf8(GetUnit(page.Line.YAxisName, page.DegreeSign));
     for (std::size_t column = 0; column < ruleEnds.size(); ++column)
     {
         const auto left = columnWidth * static_cast<double>(column);
-        sheet.Write(left, namesTop, xName);
-        sheet.Write(left, unitsTop, Utf8(GetUnit(page.Line.XAxisName, page.DegreeSign)));
-        sheet.Write(left + yOffset, namesTop, yName);
-        sheet.Write(left + yOffset, unitsTop, Utf8(GetUnit(page.Line.YAxisName, page.DegreeSign)));
+        const auto yLeft = left + yOffset;
+        sheet.Write(left, namesTop, yLeft - textGap, xName);
+        sheet.Write(left, unitsTop, yLeft - textGap, xUnit);
+        sheet.Write(yLeft, namesTop, yLeft + headingRoom, yName);
+        sheet.Write(yLeft, unitsTop, yLeft + headingRoom, yUnit);
         sheet.Rule(left, ruleEnds[column], unitsTop);
     }
 }
@@ -141,8 +170,9 @@ void DrawPoints(const ChartRecord& line, DataSheet& sheet)
         const auto column = i / pointsPerColumn;
         const auto left = columnWidth * static_cast<double>(column);
         const auto top = pointsTop - pointPitch * static_cast<double>(i - pointsPerColumn * column);
-        sheet.Write(left, top, Utf8(DataXText(line, i)));
-        sheet.Write(left + yOffset, top, Utf8(DataYText(line, i)));
+        const auto yLeft = left + yOffset;
+        sheet.Write(left, top, yLeft - textGap, Utf8(DataXText(line, i)));
+        sheet.Write(yLeft, top, std::min(left + columnWidth - textGap, pageRight), Utf8(DataYText(line, i)));
     }
 }
 

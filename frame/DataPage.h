@@ -23,7 +23,8 @@ struct DataPage
 };
 
 /// Draws the page. The printable area is scaled from -5 to 95 from left to right and from 110 to -5
-/// downwards. Texts are in Arial 9 and hang from their positions:
+/// downwards. Texts are in Arial 9, on small paper smaller, so that the rows of the table stay apart, and
+/// hang from their positions:
 ///
 ///     (0, 105)                   title and date
 ///     (0, 103)                   chart type
@@ -32,6 +33,7 @@ struct DataPage
 ///     (32c and 32c + 16, 95)     in each column c of the table the axis names, 93.5 the units
 ///     (32c, 32c + 16, 92 - 1.3r) X and Y of point 67c + r
 ///
-/// A rule at 93.5 parts names and units of each column and touches neither. Throws RunTimeError 5 for an
-/// axis, parameter or chart type that does not exist.
+/// A rule at 93.5 parts names and units of each column, reaches over both headings, and touches neither. A
+/// text that is too wide for its place is condensed, then set smaller. Throws RunTimeError 5 for an axis,
+/// parameter or chart type that does not exist.
 void DrawDataPage(const DataPage& page, const PageArea& area, QPainter& painter);

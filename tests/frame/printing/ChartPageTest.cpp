@@ -10,6 +10,7 @@
 
 #include <array>
 #include <cmath>
+#include <optional>
 #include <set>
 
 /// Prints chart pages to PDF and reads them back.
@@ -22,6 +23,7 @@ private Q_SLOTS:
     void HoldsTableAndTitlesInTheirPlaces();
     void NoTextTouchesAnotherOrLeavesThePage_data();
     void NoTextTouchesAnotherOrLeavesThePage();
+    void ColumnsWithoutEntriesAreAsNarrowAsTheirHeadings();
     void RowsAreAsManyAsLines();
     void LinesOfOtherChartsAreLeftOut();
     void PiecesOfLinesDiffer_data();
@@ -44,9 +46,6 @@ namespace
 /// Margins of 5 mm, in points.
 constexpr double margin = 5 / 25.4 * 72;
 
-/// Left ends of the nine columns in twips.
-constexpr std::array<int, 9> columns = {200, 600, 1480, 3400, 4350, 5700, 7050, 9150, 10100};
-
 /// Takes a text by the upper left corner of its box, in twips from the corner of the printable area.
 bool TakeAt(PdfPage& page, const QString& text, double x, double y)
 {
@@ -58,8 +57,32 @@ bool TakeAt(PdfPage& page, const QString& text, double x, double y)
     return !place.isNull();
 }
 
+/// Takes a text whose line is so many twips below the upper edge of the printable area, wherever it begins,
+/// and tells where, in twips; nothing when it is not there. A text that is set smaller begins up to 2.5
+/// points lower.
+std::optional<double> TakeInLine(PdfPage& page, const QString& text, double y)
+{
+    const auto first = text.section(u' ', 0, 0);
+    for (const auto& word : std::vector(page.Words))
+    {
+        const auto below = word.Box.top() - margin - y / 20;
+        if (word.Text == first && below > -0.5 && below < 2.5 &&
+            !page.Take(text, word.Box.topLeft(), 0.01).isNull())
+        {
+            return (word.Box.left() - margin) * 20;
+        }
+    }
+    qWarning("no \"%s\" at a height of %g", qPrintable(text), y);
+    return std::nullopt;
+}
+
+constexpr double headingTop = 8660;
+
 /// One row of the table by column; the line column has no text.
 using Cells = std::array<QString, 9>;
+
+/// Left ends of the columns in twips.
+using Lefts = std::array<double, 9>;
 
 struct Row
 {
@@ -106,26 +129,44 @@ void AddPapers(const ChartKey& chart, std::size_t row)
     }
 }
 
-/// The texts that head the table: the uppermost 8450 twips down, the second line 210 twips below.
-bool TakeHeadings(PdfPage& page, const QString& yUnit)
+/// Takes the headings, whole on one line and in order, and tells where the columns begin; nothing when one is
+/// missing.
+std::optional<Lefts> TakeHeadings(PdfPage& page, const QString& yUnit)
 {
-    const std::array<std::pair<QString, QString>, 9> headings = {{{"", "No."},
-                                                                  {"", "Line"},
-                                                                  {"", "Halvex Part Number"},
-                                                                  {"DC Bias", "Voltage[V]"},
-                                                                  {"Heat", "Resistance[°C/W]"},
-                                                                  {"Ambient", "Temperature[°C]"},
-                                                                  {"", "Parameter"},
-                                                                  {"Frequency", "[MHz]"},
-                                                                  {"", "Max " + yUnit}}};
-    bool all = true;
+    const Cells headings = {"No.",
+                            "Line",
+                            "Halvex Part Number",
+                            "DC Bias Voltage[V]",
+                            "Heat Resistance[°C/W]",
+                            "Ambient Temperature[°C]",
+                            "Parameter",
+                            "Frequency[MHz]",
+                            "Max " + yUnit};
+    Lefts lefts{};
     for (std::size_t i = 0; i < headings.size(); ++i)
     {
-        const auto& [upper, lower] = headings[i];
-        all = (upper.isEmpty() || TakeAt(page, upper, columns[i], 8450)) && all;
-        all = TakeAt(page, lower, columns[i], 8660) && all;
+        const auto left = TakeInLine(page, headings[i], headingTop);
+        if (!left || (i > 0 && *left <= lefts[i - 1]))
+        {
+            return std::nullopt;
+        }
+        lefts[i] = *left;
     }
-    return all;
+    return lefts;
+}
+
+/// Takes the cells of a row, each where its column begins.
+bool TakeRow(PdfPage& page, const Lefts& lefts, const Cells& cells, double y)
+{
+    for (std::size_t i = 0; i < cells.size(); ++i)
+    {
+        const auto left = cells[i].isEmpty() ? lefts[i] : TakeInLine(page, cells[i], y);
+        if (!left || std::abs(*left - lefts[i]) > 10)
+        {
+            return false;
+        }
+    }
+    return true;
 }
 
 } // namespace
@@ -169,19 +210,17 @@ void ChartPageTest::HoldsTableAndTitlesInTheirPlaces()
     QVERIFY(!page.Words.empty());
 
     QVERIFY(TakeAt(page, "Halvex Chip Capacitor Characteristics Data Library  11/21/26", 200, 150));
-    QVERIFY(TakeHeadings(page, expected.YUnit));
-    for (std::size_t i = 0; i < columns.size(); ++i)
-    {
-        // The second of the six rows from 8950 to 10450.
-        const auto& text = expected.SecondLine[i];
-        QVERIFY(text.isEmpty() || TakeAt(page, text, columns[i], 9250));
-        std::erase_if(page.Words,
-                      [&](const PdfWord& word)
-                      {
-                          const auto y = (word.Box.top() - margin) * 20;
-                          return y > 8940 && std::abs(y - 9250) > 100;
-                      });
-    }
+    const auto lefts = TakeHeadings(page, expected.YUnit);
+    QVERIFY(lefts);
+    QVERIFY(std::abs((*lefts)[0] - 200) < 10);
+    // The second of the six rows from 8950 to 10450.
+    QVERIFY(TakeRow(page, *lefts, expected.SecondLine, 9250));
+    std::erase_if(page.Words,
+                  [&](const PdfWord& word)
+                  {
+                      const auto y = (word.Box.top() - margin) * 20;
+                      return y > 8940 && std::abs(y - 9250) > 100;
+                  });
     // One user unit of the chart is 8400 / 126 twips wide and 6750 / 122 high; its corner (-21, 107) is at
     // (1300, 1250). A text begins at its upper edge.
     const auto x = [](double units) { return 1300 + (units + 21) * 8400 / 126; };
@@ -223,6 +262,30 @@ void ChartPageTest::NoTextTouchesAnotherOrLeavesThePage()
     }
 }
 
+void ChartPageTest::ColumnsWithoutEntriesAreAsNarrowAsTheirHeadings()
+{
+    const auto page = PrintAndRead(SixLines({3, "DC Bias Voltage", "Capacitance"}));
+    auto rest = page;
+    const auto lefts = TakeHeadings(rest, "[pF]");
+    QVERIFY(lefts);
+    const auto endOf = [&](const QString& word)
+    {
+        const auto found = std::ranges::find_if(
+            page.Words, [&](const PdfWord& printed)
+            { return printed.Text == word && printed.Box.top() > margin + 8600.0 / 20; });
+        return found == page.Words.end() ? 0.0 : (found->Box.right() - margin) * 20;
+    };
+    // These lines have an ambient temperature alone. Behind an empty column stands the gap of all columns.
+    for (const auto& [column, lastWord] :
+         {std::pair{3, "Voltage[V]"}, {4, "Resistance[°C/W]"}, {6, "Parameter"}, {7, "Frequency[MHz]"}})
+    {
+        const auto gap = (*lefts)[static_cast<std::size_t>(column) + 1] - endOf(lastWord);
+        QVERIFY2(gap > 60 && gap < 160, qPrintable(QStringLiteral("%1 %2").arg(lastWord).arg(gap)));
+    }
+    // The last column ends with the table.
+    QVERIFY(std::abs(endOf("[pF]") - 11000) < 60);
+}
+
 void ChartPageTest::RowsAreAsManyAsLines()
 {
     auto lines = SixLines({3, "DC Bias Voltage", "Capacitance"});
@@ -232,11 +295,11 @@ void ChartPageTest::RowsAreAsManyAsLines()
     for (int i = 0; i < 6; ++i)
     {
         QVERIFY(TakeAt(all, QString::number(i + 1), 200, 8950 + 300 * i));
-        QVERIFY(TakeAt(all, QStringLiteral("KTU155R72A68%1KA01").arg(i), 1480, 8950 + 300 * i));
+        QVERIFY(TakeInLine(all, QStringLiteral("KTU155R72A68%1KA01").arg(i), 8950 + 300 * i));
         if (i < 2)
         {
             QVERIFY(TakeAt(two, QString::number(i + 1), 200, 8950 + 300 * i));
-            QVERIFY(TakeAt(two, QStringLiteral("KTU155R72A68%1KA01").arg(i), 1480, 8950 + 300 * i));
+            QVERIFY(TakeInLine(two, QStringLiteral("KTU155R72A68%1KA01").arg(i), 8950 + 300 * i));
         }
     }
     for (const auto& word : two.Words)
@@ -252,8 +315,8 @@ void ChartPageTest::LinesOfOtherChartsAreLeftOut()
     lines[1].YAxisName = "Capacitance Change";
     lines.push_back(SixLines({3, "DC Bias Voltage", "Capacitance"})[4]);
     auto page = PrintAndRead(lines);
-    QVERIFY(TakeAt(page, "KTU155R72A680KA01", 1480, 8950));
-    QVERIFY(TakeAt(page, "KTU155R72A684KA01", 1480, 9250));
+    QVERIFY(TakeInLine(page, "KTU155R72A680KA01", 8950));
+    QVERIFY(TakeInLine(page, "KTU155R72A684KA01", 9250));
     for (const auto& word : page.Words)
     {
         QVERIFY2((word.Box.top() - margin) * 20 < 9350, qPrintable(word.Text));
@@ -262,20 +325,29 @@ void ChartPageTest::LinesOfOtherChartsAreLeftOut()
 
 void ChartPageTest::PiecesOfLinesDiffer_data()
 {
+    QTest::addColumn<ChartKey>("chart");
     QTest::addColumn<bool>("monochrome");
-    QTest::newRow("by colour") << false;
-    QTest::newRow("by dashes on a monochrome printer") << true;
+    const ChartKey current = {0, "Current", "Temperature Rise"};
+    // The table with the widest texts.
+    const ChartKey frequency = {0, "Frequency", "Temperature Rise"};
+    QTest::newRow("by colour") << current << false;
+    QTest::newRow("by dashes on a monochrome printer") << current << true;
+    QTest::newRow("by dashes beside condensed columns") << frequency << true;
 }
 
 void ChartPageTest::PiecesOfLinesDiffer()
 {
+    QFETCH(ChartKey, chart);
     QFETCH(bool, monochrome);
-    const auto file = Print(SixLines({0, "Current", "Temperature Rise"}), QPageSize::A4,
+    const auto file = Print(SixLines(chart), QPageSize::A4,
                             monochrome ? SurfaceKind::MonochromePrinter : SurfaceKind::ColorPrinter);
     const auto strip = StripOfPdf(file, 600, margin + 8950.0 / 20, 95);
     QVERIFY(!strip.Picture.isNull());
-    const auto left = strip.Dots(margin + 600.0 / 20);
-    const auto right = strip.Dots(margin + 1400.0 / 20);
+    auto page = ReadPdf(file).at(0);
+    const auto lefts = TakeHeadings(page, "[°C]");
+    QVERIFY(lefts);
+    const auto left = strip.Dots(margin + (*lefts)[1] / 20);
+    const auto right = strip.Dots(margin + ((*lefts)[2] - 80) / 20);
 
     // Each line by the lengths of its dashes, in tenths of a millimetre, and by its colour.
     std::set<std::vector<int>> dashes;
@@ -323,7 +395,9 @@ void ChartPageTest::ZeroAsLargestValueIsShown()
     lines.resize(1);
     lines[0].ExtraValue = 0;
     auto page = PrintAndRead(lines);
-    QVERIFY(TakeAt(page, "0", columns[8], 8950));
+    const auto lefts = TakeHeadings(page, "[Arms]");
+    QVERIFY(lefts);
+    QVERIFY(TakeAt(page, "0", (*lefts)[8], 8950));
 }
 
 QTEST_MAIN(ChartPageTest)

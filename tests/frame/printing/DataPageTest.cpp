@@ -11,6 +11,7 @@
 
 #include <array>
 #include <cmath>
+#include <map>
 
 /// Prints data pages to PDF and reads them back.
 class DataPageTest : public QObject
@@ -24,6 +25,10 @@ private Q_SLOTS:
     void ParameterIsToldWithItsUnit();
     void ColumnsEndAtTheirLastPoints();
     void TextsAreInArialNine();
+    void TextsStandApart_data();
+    void TextsStandApart();
+    void RulesReachOverTheirHeadings_data();
+    void RulesReachOverTheirHeadings();
     void RulesPartNamesAndUnits_data();
     void RulesPartNamesAndUnits();
     void PageWithoutAxisIsRefused();
@@ -32,8 +37,11 @@ private:
     QString Print(const ChartRecord& line, QPageSize::PageSizeId paper, CodeView view = CodeView::Eia);
     PdfPage PrintAndRead(const ChartRecord& line, QPageSize::PageSizeId paper = QPageSize::A4,
                          CodeView view = CodeView::Eia);
+    /// The page of the second sample line of a row's chart, printed once for all tests.
+    const PdfPage& PageOf(std::size_t row, int paper);
 
     QTemporaryDir folder;
+    std::map<std::pair<std::size_t, int>, PdfPage> printed;
 };
 
 namespace
@@ -51,10 +59,10 @@ QPointF Place(const PdfPage& page, double x, double y)
 }
 
 /// Takes a text that hangs from its place. The box of a word begins at the font's ascent, a hair above the
-/// place.
-bool TakeAt(PdfPage& page, const QString& text, double x, double y)
+/// place; that of a heading that is set smaller begins lower.
+bool TakeAt(PdfPage& page, const QString& text, double x, double y, double tolerance = 0.7)
 {
-    const auto place = page.Take(text, Place(page, x, y) - QPointF(0, 0.7), 0.7);
+    const auto place = page.Take(text, Place(page, x, y) - QPointF(0, 0.7), tolerance);
     if (place.isNull())
     {
         qWarning("no \"%s\" at (%g, %g)", qPrintable(text), x, y);
@@ -127,7 +135,7 @@ std::vector<Row> Rows()
 
 void AddPapers(const ChartKey& chart, std::size_t row)
 {
-    for (const auto paper : {QPageSize::A4, QPageSize::Letter})
+    for (const auto paper : {QPageSize::A4, QPageSize::Letter, QPageSize::A5, QPageSize::A6})
     {
         const auto name = QString::fromStdString(chart.XAxisName + ", " + chart.YAxisName + " on ") +
                           QPageSize::name(paper) + ' ' + QString::number(chart.ChartType);
@@ -153,6 +161,16 @@ PdfPage DataPageTest::PrintAndRead(const ChartRecord& line, QPageSize::PageSizeI
     return pages.size() == 1 ? pages.front() : PdfPage{};
 }
 
+const PdfPage& DataPageTest::PageOf(std::size_t row, int paper)
+{
+    auto& page = printed[{row, paper}];
+    if (page.Words.empty())
+    {
+        page = PrintAndRead(SixLines(Rows().at(row).Chart)[1], static_cast<QPageSize::PageSizeId>(paper));
+    }
+    return page;
+}
+
 void DataPageTest::HoldsEveryTextInItsPlace_data()
 {
     QTest::addColumn<std::size_t>("row");
@@ -171,7 +189,7 @@ void DataPageTest::HoldsEveryTextInItsPlace()
     QFETCH(int, paper);
     const auto expected = Rows().at(row);
     const auto line = SixLines(expected.Chart)[1];
-    auto page = PrintAndRead(line, static_cast<QPageSize::PageSizeId>(paper));
+    auto page = PageOf(row, paper);
     QVERIFY(!page.Words.empty());
 
     QVERIFY(TakeAt(page, "Halvex Chip Capacitor Characteristics Data Library  11/21/26", 0, 105));
@@ -185,7 +203,7 @@ void DataPageTest::HoldsEveryTextInItsPlace()
     {
         QVERIFY(TakeAt(page, QString::fromStdString(expected.Chart.XAxisName), left, 95));
         QVERIFY(TakeAt(page, expected.XUnit, left, 93.5));
-        QVERIFY(TakeAt(page, QString::fromStdString(expected.Chart.YAxisName), left + 16, 95));
+        QVERIFY(TakeAt(page, QString::fromStdString(expected.Chart.YAxisName), left + 16, 95, 1.5));
         QVERIFY(TakeAt(page, expected.YUnit, left + 16, 93.5));
     }
     const double xUnit = expected.XUnit == QLatin1String("[kHz]") ? 1000 : 1;
@@ -257,6 +275,70 @@ void DataPageTest::TextsAreInArialNine()
     }
     // In the title, in the chart type, and in the two headings of three columns.
     QCOMPARE(words, 8U);
+}
+
+void DataPageTest::TextsStandApart_data()
+{
+    HoldsEveryTextInItsPlace_data();
+}
+
+/// True when two boxes share a stretch from left to right.
+static bool AreSideways(const QRectF& a, const QRectF& b)
+{
+    return a.left() < b.right() && b.left() < a.right();
+}
+
+void DataPageTest::TextsStandApart()
+{
+    QFETCH(std::size_t, row);
+    QFETCH(int, paper);
+    const auto& page = PageOf(row, paper);
+    QVERIFY(!page.Words.empty());
+    // Of a box, which goes from the ascent to the descent of the font, digits and capitals fill this much.
+    const auto ink = [](const PdfWord& word)
+    { return word.Box.adjusted(0, 0.15 * word.Box.height(), 0, -0.18 * word.Box.height()); };
+    for (std::size_t i = 0; i < page.Words.size(); ++i)
+    {
+        const auto box = ink(page.Words[i]);
+        QVERIFY(box.left() >= margin && box.right() <= page.Paper.width() - margin);
+        for (std::size_t k = 0; k < i; ++k)
+        {
+            const auto other = ink(page.Words[k]);
+            // White of a tenth of the letters stands between rows.
+            const bool apart = !AreSideways(box, other) ||
+                               box.top() > other.bottom() + 0.1 * other.height() ||
+                               other.top() > box.bottom() + 0.1 * other.height();
+            QVERIFY2(apart, qPrintable(page.Words[k].Text + " touches " + page.Words[i].Text));
+        }
+    }
+}
+
+void DataPageTest::RulesReachOverTheirHeadings_data()
+{
+    HoldsEveryTextInItsPlace_data();
+}
+
+void DataPageTest::RulesReachOverTheirHeadings()
+{
+    QFETCH(std::size_t, row);
+    QFETCH(int, paper);
+    const auto& page = PageOf(row, paper);
+    int headings = 0;
+    for (const auto& word : page.Words)
+    {
+        const auto x =
+            (word.Box.left() - Place(page, 0, 0).x()) / (Place(page, 1, 0).x() - Place(page, 0, 0).x());
+        const bool isHeading =
+            word.Box.top() > Place(page, 0, 95.5).y() && word.Box.top() < Place(page, 0, 93).y();
+        if (isHeading)
+        {
+            ++headings;
+            const double end = x < 31 ? 30 : x < 63 ? 62 : 90;
+            // Margins are whole points, which puts every place a fifth of a point aside.
+            QVERIFY2(word.Box.right() <= Place(page, end, 0).x() + 0.3, qPrintable(word.Text));
+        }
+    }
+    QVERIFY(headings >= 12);
 }
 
 void DataPageTest::RulesPartNamesAndUnits_data()
