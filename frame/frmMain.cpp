@@ -6,6 +6,7 @@
 #include "formkit/HourglassScope.h"
 #include "formkit/Messages.h"
 #include "frame/HelpCommand.h"
+#include "frame/StartPlace.h"
 #include "frame/frmAbout.h"
 #include "partdata/OneLine.h"
 #include "selection/FormAccessKeys.h"
@@ -13,7 +14,6 @@
 
 #include <QDir>
 #include <QPrinter>
-#include <QScreen>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -30,7 +30,7 @@ frmMain::frmMain(QWidget* parent)
 {
     ui->setupUi(this);
     setWindowTitle(ProgramTitle());
-    resize(FirstSize.boundedTo(screen()->availableSize()));
+    new StartPlace(this, FirstSize);
     mainMenus = ui->mnuBar->actions();
 
     const std::array<QAction*, 2> mnuViewCode = {ui->mnuViewCode_0, ui->mnuViewCode_1};

@@ -13,7 +13,6 @@
 
 #include <QCloseEvent>
 #include <QMdiArea>
-#include <QScrollArea>
 
 static constexpr int FormWidth = Twips(3000);
 
@@ -49,14 +48,8 @@ frmLibrary::frmLibrary(ChartWindows& chartWindows, QWidget* parent)
                               contents->findChild<QLineEdit*>("txt" + name)});
     }
 
-    // A short window scrolls the form; it never takes more than its share of the width.
-    auto* scroller = new QScrollArea;
-    scroller->setFrameShape(QFrame::NoFrame);
-    scroller->setFocusPolicy(Qt::NoFocus);
-    scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroller->setWidgetResizable(true);
-    scroller->setWidget(contents);
-    setWidget(scroller);
+    setWidget(contents);
+    // The form never takes more than its share of the width.
     setFixedWidth(FormWidth);
     // A click on empty ground leaves the focus in its box, and no menu moves the form from its place.
     setFocusPolicy(Qt::NoFocus);
