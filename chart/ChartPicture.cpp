@@ -1,22 +1,27 @@
 #include "chart/ChartPicture.h"
 
 #include "app/mdlPublic.h"
+#include "chart/ChartPictureText.h"
 #include "chart/drawing/PainterSurface.h"
 #include "chart/layout/ChartDrawing.h"
 #include "formkit/Twips.h"
 
+#include <QAccessible>
 #include <QMouseEvent>
 
 ChartPicture::ChartPicture(QWidget* parent)
     : QWidget(parent)
 {
     setMouseTracking(true);
+    OfferChartPictureText();
 }
 
 void ChartPicture::Show(const ChartView& shown)
 {
     view = shown;
     update();
+    QAccessibleEvent changed(this, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&changed);
 }
 
 void ChartPicture::paintEvent(QPaintEvent*)

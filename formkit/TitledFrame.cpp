@@ -1,5 +1,7 @@
 #include "formkit/TitledFrame.h"
 
+#include "formkit/Edges.h"
+
 #include <QEvent>
 #include <QPainter>
 #include <QRadioButton>
@@ -55,7 +57,7 @@ static void FillOutline(QPainter& painter, const QRect& outer, const QColor& col
 void TitledFrame::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    FillOutline(painter, rect().adjusted(0, LineTop, 0, 0), palette().color(QPalette::Mid));
+    FillOutline(painter, rect().adjusted(0, LineTop, 0, 0), EdgeColor(palette()));
 
     const int width = fontMetrics().size(Qt::TextShowMnemonic, title()).width();
     const QRect caption(CaptionLeft, 0, width, 2 * LineTop);

@@ -3,6 +3,7 @@
 #include "app/Main.h"
 #include "app/StartOptions.h"
 #include "files/PartFolder.h"
+#include "formkit/EdgedStyle.h"
 #include "formkit/Fonts.h"
 #include "formkit/Messages.h"
 #include "frame/ProgramIcon.h"
@@ -12,6 +13,7 @@
 #include <QDebug>
 #include <QFile>
 #include <QStringList>
+#include <QStyleFactory>
 
 #include <cstdlib>
 #include <exception>
@@ -122,6 +124,7 @@ int main(int argc, char* argv[])
     QApplication::setApplicationName("tavik");
     QApplication::setApplicationVersion(TAVIK_VERSION);
     QApplication::setWindowIcon(ProgramIcon());
+    QApplication::setStyle(new EdgedStyle(QStyleFactory::create(QApplication::style()->name())));
     if (!HasFonts())
     {
         // No box could say so.

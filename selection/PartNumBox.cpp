@@ -43,7 +43,7 @@ int PartNumModel::RowOf(const QString& text) const
 }
 
 PartNumBox::PartNumBox(QWidget* parent)
-    : QComboBox(parent)
+    : ChoiceBox(parent)
     , entries(new PartNumModel(this))
 {
     setEditable(true);
@@ -58,6 +58,7 @@ PartNumBox::PartNumBox(QWidget* parent)
     list->setUniformItemSizes(true);
     setView(list);
     setModel(entries);
+    FollowEntries();
 }
 
 void PartNumBox::SetParts(std::vector<std::int16_t> indices, int partNumForm)
@@ -80,17 +81,17 @@ void PartNumBox::GoToShownEntry()
 void PartNumBox::showPopup()
 {
     GoToShownEntry();
-    QComboBox::showPopup();
+    ChoiceBox::showPopup();
 }
 
 void PartNumBox::keyPressEvent(QKeyEvent* event)
 {
     GoToShownEntry();
-    QComboBox::keyPressEvent(event);
+    ChoiceBox::keyPressEvent(event);
 }
 
 void PartNumBox::wheelEvent(QWheelEvent* event)
 {
     GoToShownEntry();
-    QComboBox::wheelEvent(event);
+    ChoiceBox::wheelEvent(event);
 }

@@ -2,8 +2,9 @@
 
 /// The part-number box: a list of part numbers of any length, with room to type one.
 
+#include "selection/ChoiceBox.h"
+
 #include <QAbstractListModel>
-#include <QComboBox>
 
 #include <cstdint>
 #include <vector>
@@ -32,7 +33,7 @@ private:
 
 /// An editable box that neither completes what is typed nor takes it into its list, and whose list opens
 /// at once however long it is.
-class PartNumBox : public QComboBox
+class PartNumBox : public ChoiceBox
 {
     Q_OBJECT
 

@@ -48,6 +48,7 @@ frmLibrary::frmLibrary(ChartWindows& chartWindows, QWidget* parent)
                               contents->findChild<QLineEdit*>("txt" + name)});
     }
 
+    ui->cmbPartNum->lineEdit()->setAccessibleName(ui->cmbPartNum->accessibleName());
     setWidget(contents);
     // The form never takes more than its share of the width.
     setFixedWidth(FormWidth);

@@ -6,6 +6,7 @@
 #include "calc/NumberText.h"
 #include "formkit/Entries.h"
 #include "formkit/Messages.h"
+#include "formkit/Texts.h"
 #include "selection/EntryGuard.h"
 #include "ui_frmLibrary.h"
 
@@ -241,7 +242,11 @@ static void Empty(QLineEdit* box)
 void frmLibrary::optParameter_Click(int index)
 {
     Empty(ui->txtParameter);
-    ui->lblParameter->setText(QString::fromStdString(UnitOf(Parameters.at(static_cast<std::size_t>(index)))));
+    const Quantity parameter = Parameters.at(static_cast<std::size_t>(index));
+    const QString unit = QString::fromStdString(UnitOf(parameter));
+    ui->lblParameter->setText(unit);
+    ui->txtParameter->setAccessibleName(
+        QStringLiteral("Parameter: %1 in %2").arg(FromAnsi(NameOf(parameter)), unit.mid(1, unit.size() - 2)));
 }
 
 void frmLibrary::ResetAmbientTemp(int codeForm)
