@@ -1,7 +1,6 @@
 #include "chart/ChartPicture.h"
 
 #include "app/mdlPublic.h"
-#include "chart/ChartPictureText.h"
 #include "chart/drawing/PainterSurface.h"
 #include "chart/layout/ChartDrawing.h"
 #include "formkit/Twips.h"
@@ -13,7 +12,6 @@ ChartPicture::ChartPicture(QWidget* parent)
     : QWidget(parent)
 {
     setMouseTracking(true);
-    OfferChartPictureText();
 }
 
 void ChartPicture::Show(const ChartView& shown)

@@ -4,6 +4,7 @@
 #include "app/mdlPublic.h"
 #include "calc/ChartKinds.h"
 #include "calc/ChartNames.h"
+#include "chart/ChartPictureText.h"
 #include "chart/drawing/QtColors.h"
 #include "chart/layout/ChartDrawing.h"
 #include "chart/layout/PaneText.h"
@@ -49,6 +50,7 @@ frmGraph::frmGraph(ChartHost& chartHost, QWidget* parent)
     , host(chartHost)
 {
     setObjectName("frmGraph");
+    OfferChartPictureText();
     setAttribute(Qt::WA_DeleteOnClose);
     RemoveUnofferedEntries(systemMenu());
     auto* contents = new QMainWindow;
