@@ -5,10 +5,13 @@
 #include "chart/layout/AxisLimits.h"
 #include "formkit/Entries.h"
 #include "formkit/Messages.h"
+#include "formkit/WindowFrame.h"
 #include "ui_frmSetAxis.h"
 
 #include <QFocusEvent>
 #include <QLineEdit>
+
+#include <algorithm>
 
 static float ShownFactor(const std::string& axisName)
 {
@@ -38,6 +41,10 @@ frmSetAxis::frmSetAxis(const ChartView& shown, const AxisRange& chartDefaults, Q
     txtY[1]->setText(ShownText(view.Range.YMax, yName));
     ui->lblXunit->setText(QString::fromStdString(GetUnit(xName, view.DegreeSign)));
     ui->lblYunit->setText(QString::fromStdString(GetUnit(yName, view.DegreeSign)));
+    // The boxes of both axes stand in line, however long their units are.
+    const int unitWidth = std::max(ui->lblXunit->sizeHint().width(), ui->lblYunit->sizeHint().width());
+    ui->lblXunit->setMinimumWidth(unitWidth);
+    ui->lblYunit->setMinimumWidth(unitWidth);
     // Both frames have the same labels.
     ui->lblYFrom->setObjectName(ui->lblFrom->objectName());
     ui->lblYTo->setObjectName(ui->lblTo->objectName());
@@ -56,9 +63,7 @@ void frmSetAxis::Form_Load()
 {
     if (const QWidget* mainWindow = parentWidget() != nullptr ? parentWidget()->window() : nullptr)
     {
-        const QRect over = mainWindow->frameGeometry();
-        move(over.left() + (over.width() - frameGeometry().width()) / 2,
-             over.top() + (over.height() - frameGeometry().height()) / 2);
+        setGeometry(CentredOver(*mainWindow, size(), FrameOf(*this)));
     }
 }
 

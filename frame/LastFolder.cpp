@@ -51,10 +51,23 @@ QString LastFolder()
     return !folder.isEmpty() && QDir(folder).exists() ? folder : QDir::currentPath();
 }
 
+/// The folder without steps up and down again: what it is called where it lies. A step up from a link leads
+/// to where the link's folder lies.
+static QString WithoutSteps(const QString& folder)
+{
+    const QStringList names = folder.split('/');
+    if (!names.contains(QStringLiteral("..")) && !names.contains(QStringLiteral(".")))
+    {
+        return folder;
+    }
+    const QString place = QFileInfo(folder).canonicalFilePath();
+    return place.isEmpty() ? QDir::cleanPath(folder) : place;
+}
+
 void RememberFolder(const QString& fileName, const QString& fileTitle)
 {
     const QString folder = fileName.left(fileName.size() - fileTitle.size() - 1);
     UserSettings settings;
     RemoveEmptyLock(settings);
-    settings.setValue(FilePathKey, folder.isEmpty() ? QStringLiteral("/") : folder);
+    settings.setValue(FilePathKey, folder.isEmpty() ? QStringLiteral("/") : WithoutSteps(folder));
 }

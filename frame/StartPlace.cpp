@@ -1,5 +1,7 @@
 #include "frame/StartPlace.h"
 
+#include "formkit/WindowFrame.h"
+
 #include <QEvent>
 #include <QScreen>
 #include <QWidget>
@@ -23,14 +25,6 @@ StartPlace::StartPlace(QWidget* placedWindow, const QSize& wantedSize)
 {
     window->setGeometry(PlaceInside(window->screen()->availableGeometry(), wanted, UsualFrame));
     window->installEventFilter(this);
-}
-
-static QMargins FrameOf(const QWidget& window)
-{
-    const QRect outer = window.frameGeometry();
-    const QRect inner = window.geometry();
-    return {inner.left() - outer.left(), inner.top() - outer.top(), outer.right() - inner.right(),
-            outer.bottom() - inner.bottom()};
 }
 
 /// A frame that is larger than usual still stands inside.

@@ -51,6 +51,8 @@ private Q_SLOTS:
     void ChartsOwnEntrySavesTheSelection();
     void FolderIsRememberedAcrossRuns();
     void FolderThatIsGoneIsForgotten();
+    void FolderIsRememberedWithoutSteps();
+    void StepsAreNotOfferedAgain();
     void RootFolderIsRemembered();
     void LockOfAKilledProgramKeepsNobodyWaiting();
     void LockOfTheFileDialogsSettingsKeepsNobodyWaiting();
@@ -487,6 +489,38 @@ void SaveDataTest::FolderThatIsGoneIsForgotten()
     QCOMPARE(LastFolder(), folder->path());
     folder.reset();
     QCOMPARE(LastFolder(), QDir::currentPath());
+}
+
+void SaveDataTest::FolderIsRememberedWithoutSteps()
+{
+    QVERIFY(QDir(folder->path()).mkpath("down/below"));
+    const auto remembered = [&](const QString& typed)
+    {
+        RememberFolder(folder->filePath(typed + "/a.tvk"), "a.tvk");
+        const QSettings now(settings->filePath("tavik/tavik.conf"), QSettings::IniFormat);
+        return now.value("Settings/FilePath").toString();
+    };
+    QCOMPARE(remembered("down/.."), folder->path());
+    QCOMPARE(remembered("down/below/.."), folder->filePath("down"));
+    QCOMPARE(remembered("./down/../down/."), folder->filePath("down"));
+    QCOMPARE(remembered("gone/../down"), folder->filePath("down"));
+    // A step up from a link leads to where the linked folder lies.
+    QVERIFY(QFile::link(folder->filePath("down/below"), folder->filePath("link")));
+    QCOMPARE(remembered("link/.."), folder->filePath("down"));
+    QCOMPARE(remembered("link"), folder->filePath("link"));
+}
+
+void SaveDataTest::StepsAreNotOfferedAgain()
+{
+    QVERIFY(QDir(folder->path()).mkpath("down"));
+    Desk desk;
+    Choose(desk, 2, "Temperature", "Capacitance");
+    desk.Type("txtDCBiasVol", "0");
+    desk.SaveAs(folder->filePath("down/../a.tvk"));
+    QVERIFY(QFile::exists(folder->filePath("a.tvk")));
+    QCOMPARE(desk.SaveAs(QString()).first, folder->path());
+    const QSettings stored(settings->filePath("tavik/tavik.conf"), QSettings::IniFormat);
+    QCOMPARE(stored.value("Settings/FilePath").toString(), folder->path());
 }
 
 void SaveDataTest::RootFolderIsRemembered()

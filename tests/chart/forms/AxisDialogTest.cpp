@@ -4,6 +4,7 @@
 
 #include "chart/ChartPicture.h"
 #include "chart/frmGraph.h"
+#include "formkit/WindowFrame.h"
 
 #include <QApplication>
 #include <QGroupBox>
@@ -22,6 +23,9 @@ private Q_SLOTS:
     void UnitsStandBehindTheBoxes();
     void BothFramesHaveTheSameLabels();
     void IsCentredOverTheMainWindow();
+    void IsCentredWithItsFrame();
+    void BoxesStandInLine_data();
+    void BoxesStandInLine();
     void BoxesSelectTheirTextByKey();
     void BoxesSelectTheirTextByMouse();
     void AccessKeysLeadToTheBoxes();
@@ -134,6 +138,52 @@ void AxisDialogTest::IsCentredOverTheMainWindow()
                  QVERIFY(std::abs(own.x() - over.x() - (over.width() - own.width()) / 2) <= 1);
                  QVERIFY(std::abs(own.y() - over.y() - (over.height() - own.height()) / 2) <= 1);
                  QVERIFY(dialog.isModal());
+             });
+}
+
+void AxisDialogTest::IsCentredWithItsFrame()
+{
+    QWidget window;
+    window.setGeometry(105, 130, 1000, 600);
+    const QSize size(370, 180);
+    // Its contents are 600 high, its frame 35 more.
+    const QMargins frame(5, 30, 5, 5);
+    QCOMPARE(CentredOver(window, size, frame),
+             QRect(QPoint(105 + (1000 - 380) / 2 + 5, 130 + (600 - 215) / 2 + 30), size));
+    window.show();
+    const QMargins own = FrameOf(window);
+    QVERIFY(own.top() > 0);
+    const QRect outer = window.frameGeometry();
+    // Before it is shown, a dialog is reckoned to get the frame that its window has.
+    const QRect place = CentredOver(window, size, {});
+    QCOMPARE(place, CentredOver(window, size, own));
+    const int above = place.marginsAdded(own).top() - outer.top();
+    const int below = outer.bottom() - place.marginsAdded(own).bottom();
+    QVERIFY(std::abs(above - below) <= 1);
+}
+
+void AxisDialogTest::BoxesStandInLine_data()
+{
+    QTest::addColumn<int>("chartType");
+    QTest::newRow("units of different length") << 0;
+    QTest::newRow("capacitance") << 2;
+}
+
+void AxisDialogTest::BoxesStandInLine()
+{
+    QFETCH(int, chartType);
+    Desk desk;
+    chartType == 0 ? desk.PlotRise(0, "25") : desk.PlotCapacitance(ListedPart(desk, 0), "0");
+    InDialog(desk,
+             [](QDialog& dialog)
+             {
+                 for (const int index : {0, 1})
+                 {
+                     const auto* x = Box(dialog, QStringLiteral("txtX_%1").arg(index));
+                     const auto* y = Box(dialog, QStringLiteral("txtY_%1").arg(index));
+                     QCOMPARE(x->mapTo(&dialog, QPoint()).x(), y->mapTo(&dialog, QPoint()).x());
+                     QCOMPARE(x->width(), y->width());
+                 }
              });
 }
 
