@@ -6,16 +6,20 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <utility>
 
 /// How much wider a thick curve is.
 static constexpr double thickCurve = 2.3;
 static constexpr double largeBadge = 1.25;
 static constexpr double leaderWidth = 0.75;
-/// In text sizes: radius of a marker, height of a tag, blank beside its text.
+/// In text sizes: radius of a marker, height of a tag, blank beside its text, between tags, and their round
+/// corners.
 static constexpr double markerRadius = 0.28;
 static constexpr double tagHeight = 1.35;
 static constexpr double tagBlank = 0.35;
+static constexpr double tagGap = 0.2;
+static constexpr double tagCorner = 0.2;
 static constexpr QColor tagColor = {40, 40, 40};
 
 FittingChart::FittingChart(ChartView chartView, std::span<const ViewedLine> lines, CodeView code,
@@ -163,16 +167,45 @@ QRectF FittingChart::TagBox(const CursorMark& cursor) const
             width, Sized(tagHeight)};
 }
 
-void FittingChart::DrawTag(const CursorMark& cursor, QPainter& painter) const
+std::vector<CursorMark> FittingChart::InView(const std::vector<CursorMark>& cursors) const
 {
-    const auto box = TagBox(cursor);
+    std::vector<CursorMark> seen;
+    std::ranges::copy_if(cursors, std::back_inserter(seen),
+                         [this](const CursorMark& cursor) { return PixelOfX(cursor.X).has_value(); });
+    return seen;
+}
+
+/// The tags of cursors in view; two that would overlap stand side by side.
+std::vector<QRectF> FittingChart::TagBoxes(const std::vector<CursorMark>& cursors) const
+{
+    std::vector<QRectF> boxes;
+    for (const auto& cursor : cursors)
+    {
+        boxes.push_back(TagBox(cursor));
+    }
+    if (boxes.size() == 2)
+    {
+        const bool inOrder = cursors[0].X <= cursors[1].X;
+        auto& left = boxes[inOrder ? 0 : 1];
+        auto& right = boxes[inOrder ? 1 : 0];
+        const double overlap = std::max(0.0, left.right() + Sized(tagGap) - right.left());
+        left.moveLeft(std::max(0.0, left.left() - overlap / 2));
+        right.moveLeft(std::max(right.left(), left.right() + Sized(tagGap)));
+        right.moveRight(std::min(right.right(), extent.width()));
+        left.moveRight(std::min(left.right(), right.left() - Sized(tagGap)));
+    }
+    return boxes;
+}
+
+void FittingChart::DrawTag(const QString& tag, const QRectF& box, QPainter& painter) const
+{
     painter.setRenderHint(QPainter::Antialiasing, true);
     painter.setPen(Qt::NoPen);
     painter.setBrush(tagColor);
-    painter.drawRoundedRect(box, Sized(0.2), Sized(0.2));
+    painter.drawRoundedRect(box, Sized(tagCorner), Sized(tagCorner));
     painter.setFont(ChartFont(marks.Pixel()));
     painter.setPen(Qt::white);
-    painter.drawText(box, Qt::AlignCenter, cursor.Tag);
+    painter.drawText(box, Qt::AlignCenter, tag);
 }
 
 void FittingChart::DrawMarkers(const CursorMark& cursor, QPainter& painter) const
@@ -199,27 +232,32 @@ void FittingChart::DrawOverlay(const ChartOverlay& overlay, QPainter& painter) c
     {
         DrawCurve(*overlay.Thick, fittingCurveWidth * thickCurve, painter);
     }
-    for (const auto& cursor : overlay.Cursors)
+    const auto cursors = InView(overlay.Cursors);
+    const auto tags = TagBoxes(cursors);
+    for (std::size_t i = 0; i < cursors.size(); ++i)
     {
-        if (PixelOfX(cursor.X))
-        {
-            DrawHairline(cursor, painter);
-            DrawMarkers(cursor, painter);
-            DrawTag(cursor, painter);
-        }
+        DrawHairline(cursors[i], painter);
+        DrawMarkers(cursors[i], painter);
+        DrawTag(cursors[i].Tag, tags[i], painter);
     }
     DrawBadges(overlay.Thick, painter);
     painter.restore();
 }
 
-QRectF FittingChart::StripOf(const CursorMark& cursor) const
+QRegion FittingChart::StripsOf(const std::vector<CursorMark>& cursors) const
 {
-    const auto x = PixelOfX(cursor.X);
-    if (!x)
-    {
-        return {};
-    }
+    const auto seen = InView(cursors);
+    // A pixel more all around: smooth edges reach over.
     const double half = Sized(markerRadius) + fittingCurveWidth * marks.Pixel() + 1;
-    const QRectF strip(*x - half, Plot().top() - half, 2 * half, Plot().height() + 2 * half);
-    return strip.united(TagBox(cursor)).adjusted(-1, -1, 1, 1);
+    QRegion strips;
+    for (const auto& box : TagBoxes(seen))
+    {
+        strips += box.adjusted(-1, -1, 1, 1).toAlignedRect();
+    }
+    for (const auto& cursor : seen)
+    {
+        const double x = *PixelOfX(cursor.X);
+        strips += QRectF(x - half, Plot().top() - half, 2 * half, Plot().height() + 2 * half).toAlignedRect();
+    }
+    return strips;
 }

@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QPointF>
 #include <QRectF>
+#include <QRegion>
 #include <QSizeF>
 #include <QString>
 
@@ -66,8 +67,10 @@ public:
     void Draw(QPainter& painter) const;
     /// What lies over the chart; all badges stand over it again.
     void DrawOverlay(const ChartOverlay& overlay, QPainter& painter) const;
-    /// What a cursor covers, tag and markers included; empty for one that is out of view.
-    QRectF StripOf(const CursorMark& cursor) const;
+    /// What cursors cover, tags and markers included; nothing for those that are out of view.
+    QRegion StripsOf(const std::vector<CursorMark>& cursors) const;
+    /// The box around what one cursor alone covers.
+    QRectF StripOf(const CursorMark& cursor) const { return StripsOf({cursor}).boundingRect(); }
 
 private:
     QPointF PixelOf(const Point& user) const;
@@ -77,8 +80,10 @@ private:
     void DrawBadges(std::optional<int> thick, QPainter& painter) const;
     void DrawMarkers(const CursorMark& cursor, QPainter& painter) const;
     void DrawHairline(const CursorMark& cursor, QPainter& painter) const;
-    void DrawTag(const CursorMark& cursor, QPainter& painter) const;
+    void DrawTag(const QString& tag, const QRectF& box, QPainter& painter) const;
     QRectF TagBox(const CursorMark& cursor) const;
+    std::vector<QRectF> TagBoxes(const std::vector<CursorMark>& cursors) const;
+    std::vector<CursorMark> InView(const std::vector<CursorMark>& cursors) const;
 
     ChartView view;
     QSizeF extent;

@@ -7,8 +7,9 @@
 #include <array>
 #include <cmath>
 
-/// Dashes and gaps in curve widths; the first curve is a whole line.
-static QList<qreal> DashPattern(int dashes)
+/// Dashes and gaps of a curve in its widths; the first curve is a whole line. A thick curve has the dashes of
+/// a usual one, so that it covers it.
+static QList<qreal> DashPattern(int dashes, double width)
 {
     static const std::array<QList<qreal>, 6> patterns = {{
         {},
@@ -18,7 +19,12 @@ static QList<qreal> DashPattern(int dashes)
         {15, 4},
         {9, 3, 2, 3, 2, 3},
     }};
-    return patterns.at(static_cast<std::size_t>(dashes));
+    auto pattern = patterns.at(static_cast<std::size_t>(dashes));
+    for (qreal& length : pattern)
+    {
+        length *= usualCurveWidth / width;
+    }
+    return pattern;
 }
 
 QFont ChartFont(double pixel)
@@ -89,7 +95,7 @@ void PainterSurface::Polyline(std::span<const Point> points, const Color& color)
     if (curveDashes > 0)
     {
         pen.setCapStyle(Qt::FlatCap);
-        pen.setDashPattern(DashPattern(curveDashes));
+        pen.setDashPattern(DashPattern(curveDashes, curveWidth));
     }
     painter.setPen(pen);
     painter.drawPolyline(curve.data(), static_cast<int>(curve.size()));

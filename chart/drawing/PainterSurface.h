@@ -14,6 +14,9 @@
 /// Font size of charts and panes, in device-independent pixels.
 inline constexpr double chartFontSize = 11;
 
+/// Width of the curves of charts, in device-independent pixels.
+inline constexpr double usualCurveWidth = 1.3;
+
 /// The font of charts and panes: Arial 8, which is 11 device-independent pixels high.
 ///
 /// @param pixel extent of a device-independent pixel in painter units
@@ -64,5 +67,5 @@ private:
     double yFactor;
     std::vector<QPointF> curve;
     int curveDashes = 0;
-    double curveWidth = 1.3;
+    double curveWidth = usualCurveWidth;
 };
