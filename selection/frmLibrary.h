@@ -103,6 +103,12 @@ public:
     /// Shows why a parameter is refused and puts the focus into its box.
     void ReportParameter(const ParameterRefusal& refusal);
 
+    /// Fills the condition boxes that are in use from a plotted line, No. 1 to 6 of its chart; what the line
+    /// was not computed under stays. Nothing is judged: Plot does that. Returns what the user is told.
+    QString TakeConditions(const ChartRecord& line, int number);
+    /// Comes to the front with the focus on Plot, or where it was while Plot is not offered.
+    void FocusPlot();
+
     /// Gives the focus back to the control that had it last, with its text as it was left, or else to the
     /// chosen chart type: keys reach the form that is in front, and go on where the user was.
     void KeepFocus();
@@ -116,11 +122,14 @@ Q_SIGNALS:
     /// What the user is to be told has changed: why Plot cannot be pressed, or what it still needs, in one
     /// line; empty when it needs nothing.
     void HintChanged(const QString& hint);
+    /// Conditions of a plotted line were asked for by key; `told` says which were taken, or why none.
+    void ConditionsTaken(QString told);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     struct ConditionControls
@@ -184,6 +193,7 @@ private:
     void OfferForCorrection(QLineEdit* box);
     void ComeToFront(QWidget* control);
     ChartKey ShownChart() const;
+    QString TakeLastConditions();
 
     std::unique_ptr<Ui::frmLibrary> ui;
     ChartWindows& windows;
