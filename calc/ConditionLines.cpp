@@ -3,11 +3,16 @@
 #include "calc/ChartKinds.h"
 #include "calc/NumberText.h"
 
+Quantity MeasuredBy(Condition condition, const ChartRecord& line)
+{
+    return KindOf(condition).Measures ? *KindOf(condition).Measures : QuantityNamed(line.ParameterName);
+}
+
 /// The condition that a line was computed under; the parameter is told by the name of its load.
 static ConditionLine LineOf(Condition condition, const ChartRecord& line)
 {
     const ConditionKind& kind = KindOf(condition);
-    const auto measures = kind.Measures ? *kind.Measures : QuantityNamed(line.ParameterName);
+    const auto measures = MeasuredBy(condition, line);
     return {condition, std::string(kind.Measures ? kind.Name : NameOf(measures)),
             NumberText(line.*kind.Value), UnitOf(measures)};
 }
@@ -20,4 +25,11 @@ std::vector<ConditionLine> ConditionLines(const ChartRecord& line)
         lines.push_back(LineOf(use.Id, line));
     }
     return lines;
+}
+
+std::string ConditionText(const ConditionLine& condition, const ChartRecord& line,
+                          std::string_view degreeSign)
+{
+    const std::string unit = UnitOf(MeasuredBy(condition.Id, line), degreeSign);
+    return condition.Value + ' ' + unit.substr(1, unit.size() - 2);
 }

@@ -33,3 +33,11 @@ struct ConditionLine
 /// Throws RunTimeError 5 for a chart type outside 0 to 3 and, where the parameter counts, for a parameter
 /// name that no parameter bears.
 std::vector<ConditionLine> ConditionLines(const ChartRecord& line);
+
+/// A condition of the line as it is read, "12 V", "75 °C/W" where the degree sign is given. Throws as
+/// `ConditionLines`.
+std::string ConditionText(const ConditionLine& condition, const ChartRecord& line,
+                          std::string_view degreeSign);
+
+/// The quantity that a condition of the line measures. Throws as `ConditionLines`.
+Quantity MeasuredBy(Condition condition, const ChartRecord& line);

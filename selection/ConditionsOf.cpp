@@ -5,13 +5,6 @@
 
 #include <algorithm>
 
-/// "12 V" of "12" and "[V]".
-static std::string WithUnit(const std::string& value, Quantity quantity, std::string_view degreeSign)
-{
-    const std::string unit = UnitOf(quantity, degreeSign);
-    return value + ' ' + unit.substr(1, unit.size() - 2);
-}
-
 static std::size_t ButtonOf(Quantity load)
 {
     return static_cast<std::size_t>(std::ranges::find(Parameters, load) - Parameters.begin());
@@ -29,12 +22,11 @@ std::vector<TakenCondition> ConditionsOf(const ChartRecord& line, const PartReco
         {
             continue;
         }
-        const ConditionKind& kind = KindOf(told.Id);
-        const Quantity quantity = kind.Measures ? *kind.Measures : QuantityNamed(line.ParameterName);
-        taken.push_back({.Id = told.Id,
-                         .Entry = told.Value,
-                         .Text = WithUnit(told.Value, quantity, degreeSign),
-                         .Parameter = told.Id == Condition::Parameter ? ButtonOf(quantity) : 0});
+        taken.push_back(
+            {.Id = told.Id,
+             .Entry = told.Value,
+             .Text = ConditionText(told, line, degreeSign),
+             .Parameter = told.Id == Condition::Parameter ? ButtonOf(MeasuredBy(told.Id, line)) : 0});
     }
     return taken;
 }
