@@ -4,6 +4,7 @@
 #include "app/mdlPublic.h"
 #include "formkit/Messages.h"
 #include "frame/clsComdlg.h"
+#include "frame/frmHelp.h"
 #include "partdata/RunTimeError.h"
 
 #include <QCoreApplication>
@@ -11,7 +12,7 @@
 
 static constexpr int ContentsCommand = 3;
 
-void ShowHelpContents(QWidget* owner)
+void ShowHelpContents(QWidget* owner, const QString& anchor)
 {
     const std::string_view book = HelpLanguageOf(mdlPublic.HelpLanguage).Book;
     clsComdlg help;
@@ -27,6 +28,7 @@ void ShowHelpContents(QWidget* owner)
     try
     {
         help.ShowHelp();
+        ShowHelpTopic(anchor);
     }
     catch (const RunTimeError& error)
     {

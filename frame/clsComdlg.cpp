@@ -113,15 +113,17 @@ static QString ExistingFolder(const QString& wanted)
 }
 
 /// What is wrong with a chosen name; empty where nothing is.
-static QString FaultOf(const QString& path)
+QString clsComdlg::FaultOf(const QString& path) const
 {
     if (!CanBeWritten(path))
     {
         return QStringLiteral("File name is not valid.\r\nPlease enter another name.");
     }
-    return QFileInfo(path).absoluteDir().exists()
-               ? QString()
-               : QStringLiteral("Path does not exist.\r\nPlease verify the correct path was given.");
+    if (!QFileInfo(path).absoluteDir().exists())
+    {
+        return QStringLiteral("Path does not exist.\r\nPlease verify the correct path was given.");
+    }
+    return Refuse ? Refuse(path) : QString();
 }
 
 /// Runs the dialog until a name is chosen that can be written and whose folder exists; empty for Cancel.

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <functional>
 
 class QFileDialog;
 class QFont;
@@ -63,6 +64,8 @@ public:
     /// Name without its folder.
     QString FileTitle;
     QString DialogTitle;
+    /// What is wrong with a chosen name for this command, or an empty text; the dialog then asks again.
+    std::function<QString(const QString& path)> Refuse;
     /// File dialogs: 2 asks before overwriting, 4 hides the read-only box (there is none), 4096 accepts
     /// only a file that exists. Printer dialog: 2 starts with the page range, 8 offers no page range,
     /// 64 is print set-up.
@@ -111,6 +114,7 @@ public:
     std::int32_t Color = 0;
 
 private:
+    QString FaultOf(const QString& path) const;
     QString RunFileDialog(QFileDialog& dialog);
     void TakeFile(QFileDialog& dialog, const QString& path);
     void TakeFont(const QFont& font);

@@ -1,5 +1,6 @@
 #include "frame/frmHelp.h"
 
+#include "formkit/ClosesWith.h"
 #include "formkit/Messages.h"
 #include "formkit/RunCommand.h"
 #include "frame/HelpBook.h"
@@ -10,6 +11,8 @@
 #include <QPointer>
 #include <QPrinter>
 #include <QShortcut>
+
+#include <algorithm>
 
 static QPointer<frmHelp> viewer;
 
@@ -29,6 +32,14 @@ void OpenHelp(const QString& bookFile, QWidget* owner, const QString& searchFor)
     viewer->show();
     viewer->raise();
     viewer->activateWindow();
+}
+
+void ShowHelpTopic(const QString& anchor)
+{
+    if (!viewer.isNull())
+    {
+        viewer->ShowTopic(anchor);
+    }
 }
 
 void CloseHelp()
@@ -141,6 +152,15 @@ void frmHelp::ShowTopicOf(const QTreeWidgetItem* item)
     ui->txtBook->ShowTopic(topics.at(topic));
 }
 
+void frmHelp::ShowTopic(const QString& anchor)
+{
+    const auto topic = std::ranges::find(topics, anchor, &HelpTopic::anchor);
+    if (topic != topics.end())
+    {
+        ui->txtBook->ShowTopic(*topic);
+    }
+}
+
 void frmHelp::GoHome()
 {
     ui->txtBook->moveCursor(QTextCursor::Start);
@@ -203,8 +223,12 @@ void frmHelp::Print()
 
 void frmHelp::CloseWith(QWidget* window)
 {
-    window->installEventFilter(this);
-    connect(window, &QObject::destroyed, this, [this] { delete this; });
+    if (owner != window)
+    {
+        delete closing;
+        owner = window;
+        closing = new ClosesWith(*this, *window);
+    }
 }
 
 bool frmHelp::eventFilter(QObject* watched, QEvent* event)
@@ -218,11 +242,6 @@ bool frmHelp::eventFilter(QObject* watched, QEvent* event)
             FindPrevious();
             return true;
         }
-    }
-    else if (event->type() == QEvent::Hide && !event->spontaneous())
-    {
-        // The owner is closed, not just put away by the desktop.
-        close();
     }
     return QMainWindow::eventFilter(watched, event);
 }

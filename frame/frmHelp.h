@@ -5,10 +5,12 @@
 #include "frame/HelpBrowser.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include <memory>
 #include <vector>
 
+class ClosesWith;
 class QTreeWidgetItem;
 
 namespace Ui
@@ -21,6 +23,9 @@ class frmHelp;
 ///
 /// Throws RunTimeError, with the viewer as it was, when the book cannot be read: see `ReadHelpBook`.
 void OpenHelp(const QString& bookFile, QWidget* owner = nullptr, const QString& searchFor = {});
+
+/// Turns the book in the viewer to the heading of an anchor; nothing happens where there is none.
+void ShowHelpTopic(const QString& anchor);
 
 /// Closes the viewer where it is open.
 void CloseHelp();
@@ -36,6 +41,7 @@ public:
 
     void ShowBook(const QString& file, const QString& html);
     void SearchFor(const QString& text);
+    void ShowTopic(const QString& anchor);
     /// Closes this window together with `window`.
     void CloseWith(QWidget* window);
 
@@ -55,4 +61,7 @@ private:
 
     std::unique_ptr<Ui::frmHelp> ui;
     std::vector<HelpTopic> topics;
+    /// What it closes with.
+    QPointer<QWidget> owner;
+    QPointer<ClosesWith> closing;
 };

@@ -181,6 +181,19 @@ void ComdlgFilesTest::SaveInAMissingFolderIsAskedAgain()
     QCOMPARE(dialog.FileTitle, "such:name?.tvk");
 }
 
+void ComdlgFilesTest::ANameThatDoesNotSuitTheCommandIsAskedAgain()
+{
+    clsComdlg dialog;
+    dialog.InitDir = folder->path();
+    dialog.Refuse = [](const QString& path)
+    { return path.endsWith(QStringLiteral(".png")) ? QString() : QStringLiteral("Not a picture."); };
+    QString told;
+    WhenShown user({TypeName("chart.txt"), Answer(QMessageBox::Ok, &told), TypeName("chart.png")});
+    dialog.ShowSave();
+    QCOMPARE(told, InFolder("chart.txt") + "\nNot a picture.");
+    QCOMPARE(dialog.FileTitle, "chart.png");
+}
+
 void ComdlgFilesTest::SaveUnderANameThatIsNoTextIsAskedAgain()
 {
     clsComdlg dialog;

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void OverwritingIsNotAskedForWithoutTheFlag();
     void OverwritingIsAskedForTheNameWithExtension();
     void SaveInAMissingFolderIsAskedAgain();
+    void ANameThatDoesNotSuitTheCommandIsAskedAgain();
     void SaveUnderANameThatIsNoTextIsAskedAgain();
     void AVanishedFolderGivesTheCurrentOne();
     void FiltersMatchEveryCaseAndNamesWithoutPoint_data();

@@ -420,6 +420,17 @@ void HelpViewerTest::TheHelpCommandTakesTheBookOfTheLanguage()
     QCOMPARE(Viewers().constFirst()->windowTitle(), title);
 }
 
+void HelpViewerTest::TheHelpCommandOpensAtATopic()
+{
+    const ProgramFile english("tavike.hlp", TwoChapters());
+    mdlPublic.PathSep = "/";
+    mdlPublic.HelpLanguage = 2;
+    ShowHelpContents(nullptr, "two");
+    QCOMPARE(FirstLine(Viewers().constFirst()), "Two");
+    ShowHelpContents(nullptr, "no such topic");
+    QCOMPARE(Page(Viewers().constFirst())->verticalScrollBar()->value(), 0);
+}
+
 void HelpViewerTest::TheHelpCommandTellsThatThereIsNoBook()
 {
     const ProgramFile japanese("tavikj.hlp", JapaneseBook);

@@ -36,6 +36,7 @@ private Q_SLOTS:
 
     void TheHelpCommandTakesTheBookOfTheLanguage_data();
     void TheHelpCommandTakesTheBookOfTheLanguage();
+    void TheHelpCommandOpensAtATopic();
     void TheHelpCommandTellsThatThereIsNoBook();
     void TheHelpCommandTellsWhyABookIsNotShown();
 
