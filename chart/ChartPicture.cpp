@@ -55,6 +55,14 @@ void ChartPicture::mouseMoveEvent(QMouseEvent* event)
     }
 }
 
+void ChartPicture::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+    {
+        Q_EMIT DoubleClicked();
+    }
+}
+
 void ChartPicture::leaveEvent(QEvent*)
 {
     Q_EMIT PointerLeft();

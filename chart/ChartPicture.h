@@ -27,10 +27,13 @@ Q_SIGNALS:
     void PointerMoved(QPointF position, QPoint twips);
     /// The pointer has left the plot area.
     void PointerLeft();
+    /// The chart was clicked twice.
+    void DoubleClicked();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
 private:

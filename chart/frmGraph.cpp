@@ -6,6 +6,7 @@
 #include "calc/ChartNames.h"
 #include "chart/ChartPictureText.h"
 #include "chart/drawing/QtColors.h"
+#include "chart/frmChartView.h"
 #include "chart/layout/ChartDrawing.h"
 #include "chart/layout/PaneText.h"
 #include "formkit/Texts.h"
@@ -77,9 +78,13 @@ frmGraph::frmGraph(ChartHost& chartHost, QWidget* parent)
         ui->sbr1->addWidget(panels[i], 1);
     }
     Connect();
+    ConnectView();
 }
 
-frmGraph::~frmGraph() = default;
+frmGraph::~frmGraph()
+{
+    delete chartView;
+}
 
 void frmGraph::Connect()
 {
@@ -210,6 +215,7 @@ void frmGraph::Draw(const AxisRange& range)
     PlaceCurves(view, mdlPublic.Charts.LinesToPlace());
     ui->picGraph->Show(view);
     FillStatusPanes();
+    ShowInView();
 }
 
 /// The window's lines in store order.
@@ -258,6 +264,7 @@ void frmGraph::RelabelParts(int partNumForm)
     {
         lblStatus[p]->setText(partNums[p]);
     }
+    ShowInView();
 }
 
 void frmGraph::ClearReadOut()
@@ -312,6 +319,10 @@ void frmGraph::Form_Unload()
         return;
     }
     mdlPublic.Charts.RemoveChart(key);
+    if (chartView != nullptr)
+    {
+        chartView->close();
+    }
     host.ChartUnloaded(this);
 }
 

@@ -2,20 +2,23 @@
 
 /// A chart window: one chart, up to six lines, and a pane for each.
 
-#include "chart/ChartHost.h"
+#include "chart/ViewedChart.h"
 #include "chart/layout/ChartView.h"
 
 #include <QMdiSubWindow>
+#include <QPointer>
 
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class FittedLabel;
 class QGroupBox;
 class QMenu;
 class QLabel;
+class frmChartView;
 
 namespace Ui
 {
@@ -24,7 +27,7 @@ class frmGraph;
 
 /// A chart window of fixed size. It belongs to all lines of the store that are of its chart, and takes them
 /// along when it closes.
-class frmGraph : public QMdiSubWindow
+class frmGraph : public QMdiSubWindow, public ViewedChart
 {
     Q_OBJECT
 
@@ -53,6 +56,15 @@ public:
     /// Names the parts in the panes in a part-number form, up to the first pane that shows none.
     void RelabelParts(int partNumForm);
 
+    // What its chart view asks.
+    ChartView View() const override;
+    std::vector<ViewedLine> ViewedLines() const override;
+    void SetRange(const AxisRange& range) override;
+    ChartHost& Host() override { return host; }
+
+    /// Shows the chart in a view of its own, or brings that to the front.
+    void OpenView();
+
     /// The window's menus, which stand in the main window's place while it is active.
     QList<QAction*> Menus() const;
 
@@ -60,6 +72,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void Connect();
@@ -70,6 +84,12 @@ private:
     void mnuChartClipboard_Click();
     void picGraph_MouseMove(const QPointF& position, const QPoint& twips);
     void picGraph_MouseLeave();
+    void ConnectView();
+    void ShowInView();
+    std::optional<std::size_t> PaneAt(const QPoint& place) const;
+    void ShowChartMenu(const QPoint& at);
+    void ShowPaneMenu(std::size_t pane, const QPoint& at);
+    void UseConditionsOf(std::size_t line);
     void InitChartWindow(const ChartKey& chart);
     void ColorPane(std::size_t index, const QColor& color);
     void Draw(const AxisRange& range);
@@ -95,4 +115,5 @@ private:
     std::int16_t MouseY = 0;
     bool rescaled = false;
     bool unloaded = false;
+    QPointer<frmChartView> chartView;
 };

@@ -93,6 +93,7 @@ void frmMain::Connect()
     connect(ui->mnuAbout, &QAction::triggered, this, &frmMain::mnuAbout_Click);
     connect(library, &frmLibrary::CanPlotChanged, this, &frmMain::EnableOutput);
     connect(library, &frmLibrary::HintChanged, lblHint, &QLabel::setText);
+    connect(library, &frmLibrary::ConditionsTaken, this, &frmMain::TellInStatusBar);
 
     const auto connectMark = [this](QAction* action, int index, void (frmMain::*command)(int))
     {

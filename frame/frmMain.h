@@ -8,6 +8,7 @@
 #include "selection/frmLibrary.h"
 
 #include <QMainWindow>
+#include <QVariantHash>
 
 #include <memory>
 #include <optional>
@@ -48,6 +49,15 @@ public:
     void SwitchCodeView(int index) override;
     void PrintChart(const ChartPage& page) override;
 
+    // What chart views ask for.
+    QWidget* MainWindow() override { return this; }
+    void PrintSheet(const DrawSheet& draw, const QString& title) override;
+    std::optional<QString> AskForFile(QWidget* window, const FileQuestion& question) override;
+    void UseConditions(const ChartRecord& line, int number) override;
+    void ShowHelpTopic(const QString& anchor) override;
+    void Keep(const QString& name, const QVariant& value) override;
+    QVariant Kept(const QString& name) const override;
+
     // The commands of the menus.
     void mnuFile_Click();
     void mnuResetSelction_Click() override;
@@ -75,6 +85,8 @@ private:
     void EnableOutput(bool enabled);
     std::optional<ChartRecord> CurrentCurve();
     void SaveData(const ChartRecord& line);
+    void NoteFolder(const QString& dialog, const QString& file);
+    void TellInStatusBar(const QString& text);
     void PrintData(const ChartRecord& line);
     QPrinter& Printer();
     void PrintWithNotice(const DrawPage& drawPage);
@@ -88,4 +100,6 @@ private:
     std::vector<QWidget*> forms;
     QList<QAction*> mainMenus;
     std::unique_ptr<QPrinter> printer;
+    /// What the user has chosen in this run: the folders of dialogs, places and looks of windows.
+    QVariantHash kept;
 };

@@ -76,6 +76,7 @@ void frmMain::SaveData(const ChartRecord& line)
     dialog.FileName = FileNameOf(library->ShownPartNum()) + QStringLiteral(".tvk");
     dialog.ShowSave();
     RememberFolder(dialog.FileName, dialog.FileTitle);
+    NoteFolder({}, dialog.FileName);
     {
         const HourglassScope hourglass;
         const auto text = DataFileText(line, PartOf(line), GetCodeView(), TodayInFile());

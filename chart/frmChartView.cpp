@@ -1,0 +1,269 @@
+#include "chart/frmChartView.h"
+
+#include "app/mdlPublic.h"
+#include "chart/LineTable.h"
+#include "chart/drawing/PainterSurface.h"
+#include "chart/layout/ChartDrawing.h"
+#include "chart/layout/FittingText.h"
+#include "formkit/ClosesWith.h"
+#include "ui_frmChartView.h"
+
+#include <QHeaderView>
+#include <QScreen>
+
+#include <cmath>
+
+/// Share of the screen that a view takes at first, and how small it may be then.
+static constexpr double ScreenShare = 0.7;
+static constexpr QSize SmallestStart(900, 600);
+/// Room for the frame of a window, which is not known before it is shown.
+static constexpr QSize FrameRoom(8, 40);
+
+namespace Kept
+{
+static const QString Geometry = QStringLiteral("place of the chart view");
+static const QString Dashes = QStringLiteral("dashes of the chart view");
+static const QString TextScale = QStringLiteral("text size of the chart view");
+} // namespace Kept
+
+frmChartView::frmChartView(ViewedChart& viewedChart)
+    : ui(std::make_unique<Ui::frmChartView>())
+    , chart(viewedChart)
+    , table(new LineTable(this))
+{
+    ui->setupUi(this);
+    // The program ends with its main window, also while a view is open.
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    new ClosesWith(*this, *chart.Host().MainWindow());
+    const QVariant keptScale = chart.Host().Kept(Kept::TextScale);
+    textScale = keptScale.isValid() ? keptScale.toDouble() : 1;
+    scene.Dashed = chart.Host().Kept(Kept::Dashes).toBool();
+    ui->mnuDashes->setChecked(scene.Dashed);
+    ui->picChartView->SetScene(&scene);
+    SetUpTable();
+    Connect();
+    ConnectCommands();
+    ConnectCanvas();
+    Place();
+    ShowLines();
+    ui->picChartView->setFocus();
+}
+
+frmChartView::~frmChartView() = default;
+
+void frmChartView::Connect()
+{
+    connect(ui->txtCursorX, &QLineEdit::returnPressed, this, &frmChartView::EnterX);
+    connect(ui->tblLines->horizontalHeader(), &QHeaderView::sectionClicked, table, &LineTable::SortNextWay);
+    connect(table, &LineTable::RowsMoved, this, &frmChartView::ShowChosenRow);
+    connect(ui->tblLines->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &frmChartView::tblLines_CurrentChanged);
+    connect(ui->tblLines, &QAbstractItemView::entered, this,
+            [this](const QModelIndex& cell) { Hover(table->LineOf(cell.row())); });
+    connect(ui->tblLines, &QAbstractItemView::viewportEntered, this, [this] { Hover({}); });
+    for (QObject* watched :
+         std::initializer_list<QObject*>{ui->picChartView, ui->txtCursorX, ui->tblLines->viewport()})
+    {
+        watched->installEventFilter(this);
+    }
+    setTabOrder(ui->picChartView, ui->txtCursorX);
+    setTabOrder(ui->txtCursorX, ui->tblLines);
+}
+
+void frmChartView::ConnectCanvas()
+{
+    const ChartCanvas* const canvas = ui->picChartView;
+    connect(canvas, &ChartCanvas::PointerMoved, this,
+            [this](double x)
+            {
+                scene.Cursors.Follow(x);
+                ShowCursors();
+            });
+    connect(canvas, &ChartCanvas::LineHovered, this, &frmChartView::Hover);
+    connect(canvas, &ChartCanvas::Clicked, this, &frmChartView::PinCursor);
+    connect(canvas, &ChartCanvas::DoubleClicked, this,
+            [this]
+            {
+                scene.Cursors.TakePinBack();
+                mnuDefaultRange_Click();
+            });
+    connect(canvas, &ChartCanvas::DragStarted, this, [this] { zoomAtDrag = zoom; });
+    connect(canvas, &ChartCanvas::Dragged, this,
+            [this](double byX, double byY)
+            {
+                zoom = zoomAtDrag;
+                Pan(byX, byY);
+            });
+    connect(canvas, &ChartCanvas::RectangleDrawn, this,
+            [this](double fromX, double fromY, double toX, double toY)
+            {
+                zoom.ZoomTo(fromX, fromY, toX, toY);
+                ChangeRange();
+            });
+    connect(canvas, &ChartCanvas::WheelTurned, this,
+            [this](double factor, double atX, double atY, ZoomAxes axes)
+            {
+                zoom.Zoom(factor, atX, atY, axes);
+                ChangeRange();
+            });
+}
+
+// ---- The lines ----
+
+static bool SameRange(const AxisRange& a, const AxisRange& b)
+{
+    return a.XMax == b.XMax && a.YMax == b.YMax && a.XMin == b.XMin && a.YMin == b.YMin;
+}
+
+static AxisRange DefaultOf(const ChartKey& chart, const std::vector<ViewedLine>& lines)
+{
+    std::vector<ChartRecord> records;
+    for (const ViewedLine& line : lines)
+    {
+        records.push_back(line.Line);
+    }
+    return DefaultRange(chart, records);
+}
+
+void frmChartView::ShowLines()
+{
+    const ChartView shown = chart.View();
+    const bool rangeWasSet = shown.Rescaled && !SameRange(shown.Range, chartShown.Range);
+    const AxisRange own = zoom.Range();
+    chartShown = shown;
+    scene.Lines = chart.ViewedLines();
+    scene.Code = GetCodeView();
+    scene.View = shown;
+    defaults = DefaultOf(shown.Chart, scene.Lines);
+    zoom = ZoomRange(shown.Chart, defaults);
+    if (rangeWasSet)
+    {
+        hasOwnRange = false;
+    }
+    zoom.Set(hasOwnRange ? own : shown.Range);
+    scene.View.Range = zoom.Range();
+    if (scene.Chosen && *scene.Chosen >= static_cast<int>(scene.Lines.size()))
+    {
+        scene.Chosen.reset();
+    }
+    scene.Hovered.reset();
+    NoteUnseenLines();
+    widths.clear();
+    ShowTable();
+    ShowTextSize();
+    ShowCursorTexts();
+}
+
+// ---- The window ----
+
+void frmChartView::Place()
+{
+    const QByteArray kept = chart.Host().Kept(Kept::Geometry).toByteArray();
+    if (!kept.isEmpty() && restoreGeometry(kept))
+    {
+        return;
+    }
+    const QScreen* const on = chart.Host().MainWindow()->screen();
+    const QSize room = on->availableSize() - FrameRoom;
+    const QSize wanted = (QSizeF(on->availableSize()) * ScreenShare).toSize().expandedTo(SmallestStart);
+    resize(wanted.boundedTo(room));
+}
+
+void frmChartView::KeepPlace()
+{
+    if (isVisible() && !isMinimized())
+    {
+        chart.Host().Keep(Kept::Geometry, saveGeometry());
+    }
+}
+
+void frmChartView::ComeToFront()
+{
+    if (isMinimized())
+    {
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+    }
+    show();
+    raise();
+    activateWindow();
+}
+
+void frmChartView::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    ShowTextSize();
+    KeepPlace();
+}
+
+/// A stands where it begins once the size is known, which decides where the ticks stand.
+void frmChartView::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    if (!std::exchange(hasCursor, true))
+    {
+        StartCursor();
+    }
+}
+
+void frmChartView::moveEvent(QMoveEvent* event)
+{
+    QMainWindow::moveEvent(event);
+    KeepPlace();
+}
+
+void frmChartView::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange)
+    {
+        ui->mnuFullScreen->setChecked(isFullScreen());
+    }
+}
+
+/// The desktop's font, enlarged to a size in device-independent pixels.
+static QFont AtLeast(const QFont& desktop, double size)
+{
+    QFont font = desktop;
+    font.setPixelSize(std::max(QFontInfo(desktop).pixelSize(), static_cast<int>(std::lround(size))));
+    return font;
+}
+
+/// Sets all texts in the size that the window has room for.
+void frmChartView::ShowTextSize()
+{
+    scene.TextSize = FittingTextSize(width(), height(), textScale);
+    const QFont texts = ChartFont(scene.TextSize / chartFontSize);
+    if (ui->grpValues->font().pixelSize() != texts.pixelSize())
+    {
+        widths.clear();
+        ui->grpValues->setFont(texts);
+        ui->tbrChartView->setFont(AtLeast(font(), scene.TextSize));
+        ui->txtCursorX->setFixedWidth(ui->txtCursorX->fontMetrics().averageCharWidth() * 12);
+    }
+    FitTable();
+    FitTableHeight();
+    ui->picChartView->Redraw();
+}
+
+void frmChartView::ScaleText(double factor)
+{
+    static constexpr double Smallest = 0.5;
+    static constexpr double Largest = 3;
+    textScale = std::clamp(textScale * factor, Smallest, Largest);
+    chart.Host().Keep(Kept::TextScale, textScale);
+    ShowTextSize();
+}
+
+void frmChartView::mnuDashes_Click(bool dashed)
+{
+    scene.Dashed = dashed;
+    chart.Host().Keep(Kept::Dashes, dashed);
+    ui->tblLines->viewport()->update();
+    ui->picChartView->Redraw();
+}
+
+void frmChartView::mnuFullScreen_Click(bool full)
+{
+    full ? showFullScreen() : showNormal();
+}

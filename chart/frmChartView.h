@@ -1,0 +1,125 @@
+#pragma once
+
+/// A chart in a window of its own: any size, values at an exact X, zoom, pictures and data to take away.
+
+#include "chart/ChartCanvas.h"
+#include "chart/ViewedChart.h"
+
+#include <QMainWindow>
+
+#include <memory>
+
+class LineTable;
+
+namespace Ui
+{
+class frmChartView;
+}
+
+/// The view of one chart window, which owns it. It shows copies of the chart's lines, follows it in what it
+/// shows, and has a range of its own.
+class frmChartView : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit frmChartView(ViewedChart& viewedChart);
+    ~frmChartView() override;
+
+    /// Shows the lines of the chart as they are now. A range that the user has set in the chart window is
+    /// taken over; a new line leaves a range of the view's own alone.
+    void ShowLines();
+    /// Shows the window in front of all others.
+    void ComeToFront();
+
+    /// What is shown.
+    const ViewScene& Scene() const { return scene; }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    // The window.
+    void SetUpTable();
+    void Connect();
+    void ConnectCommands();
+    void ConnectCanvas();
+    void Place();
+    void KeepPlace();
+    void ShowTextSize();
+    void FitTable();
+    int NeededWidth(int column) const;
+    void SetWidths();
+    void FitTableHeight();
+
+    // The range.
+    void ChangeRange();
+    void NoteUnseenLines();
+    void Zoom(double factor);
+    void Pan(double byX, double byY);
+    void mnuDefaultRange_Click();
+    void mnuRange_Click();
+    void mnuToChartWindow_Click();
+
+    // The cursors.
+    void StartCursor();
+    void ShowCursors();
+    void ShowCursorTexts();
+    void ShowTable();
+    void PinCursor(double x);
+    void StepCursor(int points);
+    void EnterX();
+    void LeaveEntry();
+    void ShowTold(const QString& text, bool refusal);
+    bool PressOnChart(QKeyEvent* key);
+    bool MoveByKey(const QKeyEvent& key);
+    bool PanByKey(const QKeyEvent& key);
+    bool PressInEntry(QKeyEvent* key);
+    void Escape();
+    const ViewedLine& SteppedLine() const;
+
+    // The chosen line.
+    void Choose(std::optional<int> line);
+    void ChooseNext(int rows);
+    void ShowChosenRow();
+    void tblLines_CurrentChanged();
+    void Hover(std::optional<int> line);
+
+    // The commands.
+    void mnuDashes_Click(bool dashed);
+    void ScaleText(double factor);
+    void mnuFullScreen_Click(bool full);
+    void mnuUseConditions_Click();
+    void mnuCopy_Click();
+    void mnuCopyTable_Click();
+    void CopyPicture();
+    void ShowMenu(const QPoint& at);
+
+    QString AxisText(double x) const;
+
+    std::unique_ptr<Ui::frmChartView> ui;
+    ViewedChart& chart;
+    LineTable* table;
+    ViewScene scene;
+    /// The range that covers all lines.
+    AxisRange defaults{};
+    ZoomRange zoom;
+    /// The range that the chart window showed last, by which its changes are noticed.
+    ChartView chartShown;
+    /// The range as a drag began.
+    ZoomRange zoomAtDrag;
+    bool hasOwnRange = false;
+    /// Numbers of lines that have nothing in the range shown.
+    QStringList unseen;
+    double textScale = 1;
+    bool hasCursor = false;
+    bool hasOwnTableHeight = false;
+    /// The room that columns have needed so far.
+    std::vector<int> widths;
+};
