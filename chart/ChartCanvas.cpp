@@ -68,8 +68,8 @@ const FittingChart& ChartCanvas::Chart() const
 {
     if (chart == nullptr)
     {
-        const FittingLook look{.Extent = size(), .TextSize = scene->TextSize, .Dashed = scene->Dashed};
-        chart = std::make_unique<FittingChart>(scene->View, scene->Lines, scene->Code, look);
+        chart = std::make_unique<FittingChart>(scene->View, scene->Lines, scene->Code, QSizeF(size()),
+                                               scene->Marks);
     }
     return *chart;
 }
@@ -162,7 +162,7 @@ double ChartCanvas::XUnder(double pixel) const
 double ChartCanvas::MiddleX() const
 {
     const QRectF plot = Chart().Plot();
-    const auto ticks = FitXAxis(scene->View, plot.width(), FontRuler(scene->TextSize)).Ticks;
+    const auto ticks = FitXAxis(scene->View, plot.width(), FontRuler(scene->Marks.TextSize)).Ticks;
     const auto nearest =
         std::ranges::min_element(ticks, {}, [](const FittingTick& tick) { return std::abs(tick.At - 50); });
     const double at = nearest == ticks.end() ? 50 : nearest->At;

@@ -27,8 +27,8 @@ struct ViewScene
     /// The line of the row that is chosen, and the one that the pointer is at.
     std::optional<int> Chosen;
     std::optional<int> Hovered;
-    bool Dashed = false;
-    double TextSize = 11;
+    /// Text size of chart and table, and whether each line has its own dashes.
+    LineMarks Marks;
 };
 
 /// What lies over the chart of a scene.

@@ -1,8 +1,7 @@
 #include "chart/LineDelegate.h"
 
 #include "chart/LineTable.h"
-#include "chart/drawing/PainterSurface.h"
-#include "chart/drawing/QtColors.h"
+#include "chart/drawing/LegendTable.h"
 
 #include <QPainter>
 
@@ -28,7 +27,7 @@ void LineDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     }
     if (lines->ColumnAt(index.column()) == CursorColumn::Number)
     {
-        PaintMark(line, QRectF(option.rect).adjusted(2, 1, -2, -1), *painter);
+        DrawLegendChip(line, option.rect, scene.Marks, *painter);
     }
     else
     {
@@ -44,22 +43,4 @@ void LineDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
             option.fontMetrics.elidedText(text, Qt::ElideRight, option.rect.width() - 2 * blank));
     }
     painter->restore();
-}
-
-/// A piece of the line, and its badge at the right end, on white.
-void LineDelegate::PaintMark(int line, const QRectF& chip, QPainter& painter) const
-{
-    const bool thick = scene.Hovered ? scene.Hovered == line : scene.Chosen == line;
-    const double radius = std::min(badgeRadius * scene.TextSize, chip.height() / 2);
-    const QPointF center(chip.right() - radius - 2, chip.center().y());
-    const QColor color = QtColor(GetLineColor(line, ButtonTextColor()));
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(Qt::white);
-    painter.drawRoundedRect(chip, 3, 3);
-    QPen pen(color, (thick ? 3.5 : 1.5) * scene.TextSize / chartFontSize);
-    pen.setCapStyle(Qt::FlatCap);
-    painter.setPen(pen);
-    painter.drawLine(QPointF(chip.left() + 4, center.y()), QPointF(center.x() - radius, center.y()));
-    DrawBadge(center, radius, scene.TextSize, line + 1, color, painter);
 }

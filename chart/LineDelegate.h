@@ -27,7 +27,5 @@ public:
                const QModelIndex& index) const override;
 
 private:
-    void PaintMark(int line, const QRectF& chip, QPainter& painter) const;
-
     const ViewScene& scene;
 };

@@ -71,7 +71,7 @@ void LineTable::Sort()
     {
         return;
     }
-    const bool texts = *sortedBy == CursorColumn::Part || *sortedBy == CursorColumn::Conditions;
+    const bool texts = IsText(*sortedBy);
     const auto cell = [&](int line) -> const CursorCell&
     { return *table.Find(static_cast<std::size_t>(line), *sortedBy); };
     std::ranges::stable_sort(order,
@@ -130,11 +130,6 @@ int LineTable::rowCount(const QModelIndex& parent) const
 int LineTable::columnCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(table.Headings.size());
-}
-
-static bool IsText(CursorColumn column)
-{
-    return column == CursorColumn::Part || column == CursorColumn::Conditions;
 }
 
 QVariant LineTable::data(const QModelIndex& index, int role) const

@@ -9,6 +9,12 @@
 #include <optional>
 #include <vector>
 
+/// True for a column of texts, which is sorted by them.
+constexpr bool IsText(CursorColumn column)
+{
+    return column == CursorColumn::Part || column == CursorColumn::Conditions;
+}
+
 /// The table of a chart view at its cursors, in the order that the user sorts it by.
 class LineTable : public QAbstractTableModel
 {

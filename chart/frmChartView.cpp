@@ -38,8 +38,8 @@ frmChartView::frmChartView(ViewedChart& viewedChart)
     new ClosesWith(*this, *chart.Host().MainWindow());
     const QVariant keptScale = chart.Host().Kept(Kept::TextScale);
     textScale = keptScale.isValid() ? keptScale.toDouble() : 1;
-    scene.Dashed = chart.Host().Kept(Kept::Dashes).toBool();
-    ui->mnuDashes->setChecked(scene.Dashed);
+    scene.Marks.Dashed = chart.Host().Kept(Kept::Dashes).toBool();
+    ui->mnuDashes->setChecked(scene.Marks.Dashed);
     ui->picChartView->SetScene(&scene);
     SetUpTable();
     Connect();
@@ -67,8 +67,26 @@ void frmChartView::Connect()
     {
         watched->installEventFilter(this);
     }
-    setTabOrder(ui->picChartView, ui->txtCursorX);
-    setTabOrder(ui->txtCursorX, ui->tblLines);
+    SetTabOrder();
+}
+
+/// Tab goes from the chart down to the table, then through the tool bar.
+void frmChartView::SetTabOrder()
+{
+    QList<QWidget*> order = {ui->picChartView, ui->txtCursorX, ui->tblLines};
+    for (QAction* command : ui->tbrChartView->actions())
+    {
+        QWidget* const button = ui->tbrChartView->widgetForAction(command);
+        if (!command->isSeparator())
+        {
+            button->setFocusPolicy(Qt::TabFocus);
+            order << button;
+        }
+    }
+    for (qsizetype i = 1; i < order.size(); ++i)
+    {
+        setTabOrder(order[i - 1], order[i]);
+    }
 }
 
 void frmChartView::ConnectCanvas()
@@ -232,13 +250,13 @@ static QFont AtLeast(const QFont& desktop, double size)
 /// Sets all texts in the size that the window has room for.
 void frmChartView::ShowTextSize()
 {
-    scene.TextSize = FittingTextSize(width(), height(), textScale);
-    const QFont texts = ChartFont(scene.TextSize / chartFontSize);
+    scene.Marks.TextSize = FittingTextSize(width(), height(), textScale);
+    const QFont texts = ChartFont(scene.Marks.TextSize / chartFontSize);
     if (ui->grpValues->font().pixelSize() != texts.pixelSize())
     {
         widths.clear();
         ui->grpValues->setFont(texts);
-        ui->tbrChartView->setFont(AtLeast(font(), scene.TextSize));
+        ui->tbrChartView->setFont(AtLeast(font(), scene.Marks.TextSize));
         ui->txtCursorX->setFixedWidth(ui->txtCursorX->fontMetrics().averageCharWidth() * 12);
     }
     FitTable();
@@ -257,7 +275,7 @@ void frmChartView::ScaleText(double factor)
 
 void frmChartView::mnuDashes_Click(bool dashed)
 {
-    scene.Dashed = dashed;
+    scene.Marks.Dashed = dashed;
     chart.Host().Keep(Kept::Dashes, dashed);
     ui->tblLines->viewport()->update();
     ui->picChartView->Redraw();

@@ -10,6 +10,8 @@
 #include <memory>
 
 class LineTable;
+struct PictureChoice;
+struct ViewSheet;
 
 namespace Ui
 {
@@ -48,6 +50,7 @@ private:
     // The window.
     void SetUpTable();
     void Connect();
+    void SetTabOrder();
     void ConnectCommands();
     void ConnectCanvas();
     void Place();
@@ -98,7 +101,13 @@ private:
     void mnuUseConditions_Click();
     void mnuCopy_Click();
     void mnuCopyTable_Click();
+    void mnuSavePicture_Click();
+    void mnuSaveData_Click();
+    void mnuPrint_Click();
     void CopyPicture();
+    ViewSheet Sheet() const;
+    QString Caption() const;
+    std::optional<PictureChoice> AskForPictureSize();
     void ShowMenu(const QPoint& at);
 
     QString AxisText(double x) const;

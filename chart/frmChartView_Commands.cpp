@@ -2,6 +2,7 @@
 
 #include "chart/LineTable.h"
 #include "chart/frmSetAxis.h"
+#include "formkit/RunCommand.h"
 #include "ui_frmChartView.h"
 
 #include <QClipboard>
@@ -25,7 +26,15 @@ void frmChartView::ConnectCommands()
     connectTo(ui->mnuTextSmaller, [this] { ScaleText(1 / TextStep); });
     connectTo(ui->mnuTextLarger, [this] { ScaleText(TextStep); });
     connectTo(ui->mnuFullScreen, &frmChartView::mnuFullScreen_Click);
-    connectTo(ui->mnuCopy, &frmChartView::mnuCopy_Click);
+    const auto connectOutput = [this](QAction* action, void (frmChartView::*command)())
+    {
+        connect(action, &QAction::triggered, this,
+                [=, this] { RunCommand(this, [=, this] { (this->*command)(); }); });
+    };
+    connectOutput(ui->mnuSavePicture, &frmChartView::mnuSavePicture_Click);
+    connectOutput(ui->mnuSaveData, &frmChartView::mnuSaveData_Click);
+    connectOutput(ui->mnuCopy, &frmChartView::mnuCopy_Click);
+    connectTo(ui->mnuPrint, &frmChartView::mnuPrint_Click);
     connectTo(ui->mnuCopyTable, &frmChartView::mnuCopyTable_Click);
     connectTo(ui->mnuUseConditions, &frmChartView::mnuUseConditions_Click);
     connectTo(ui->mnuHelp, [this] { chart.Host().ShowHelpTopic(QStringLiteral("chart-view")); });
@@ -104,10 +113,6 @@ void frmChartView::mnuToChartWindow_Click()
 }
 
 // ---- Taking away ----
-
-void frmChartView::CopyPicture()
-{
-}
 
 void frmChartView::mnuCopyTable_Click()
 {

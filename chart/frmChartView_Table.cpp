@@ -3,6 +3,7 @@
 #include "app/mdlPublic.h"
 #include "chart/LineDelegate.h"
 #include "chart/LineTable.h"
+#include "chart/drawing/LegendTable.h"
 #include "ui_frmChartView.h"
 
 #include <QHeaderView>
@@ -60,7 +61,8 @@ int frmChartView::NeededWidth(int column) const
     {
         width = std::max(width, letters.horizontalAdvance(table->index(row, column).data().toString()));
     }
-    return column == 0 ? 4 * letters.height() : width + 3 * LineDelegate::Blank(letters.height());
+    return column == 0 ? qCeil(LegendChipSize(scene.Marks.TextSize).width())
+                       : width + 3 * LineDelegate::Blank(letters.height());
 }
 
 /// Widens columns for what they hold by now; they only get narrower with other lines or another text size, so

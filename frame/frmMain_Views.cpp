@@ -62,9 +62,11 @@ std::optional<QString> frmMain::AskForFile(QWidget* window, const FileQuestion& 
 
 // ---- What chart views ask for ----
 
+/// Tells the user something for a while, in the place of what else stands there.
 void frmMain::TellInStatusBar(const QString& text)
 {
-    ui->sbrMain->showMessage(text);
+    static constexpr int MilliSeconds = 10000;
+    ui->sbrMain->showMessage(text, MilliSeconds);
 }
 
 void frmMain::UseConditions(const ChartRecord& line, int number)

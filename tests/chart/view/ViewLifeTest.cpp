@@ -163,14 +163,14 @@ void ViewLifeTest::ItKeepsPlaceAndLooksForTheRun()
     desk.View()->setGeometry(20, 30, 640, 480);
     desk.Press(Qt::Key_F6);
     desk.Press(Qt::Key_F8);
-    const double size = desk.Scene().TextSize;
+    const double size = desk.Scene().Marks.TextSize;
     desk.Press(Qt::Key_W, Qt::ControlModifier);
     Settle();
     QCOMPARE(desk.View(), nullptr);
     desk.Open();
     QCOMPARE(desk.View()->size(), QSize(640, 480));
-    QVERIFY(desk.Scene().Dashed);
-    QCOMPARE(desk.Scene().TextSize, size);
+    QVERIFY(desk.Scene().Marks.Dashed);
+    QCOMPARE(desk.Scene().Marks.TextSize, size);
 }
 
 void ViewLifeTest::ItClosesWithItsChart_data()
