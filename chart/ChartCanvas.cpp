@@ -92,12 +92,7 @@ void ChartCanvas::resizeEvent(QResizeEvent*)
 
 QRegion ChartCanvas::Strips() const
 {
-    QRegion region;
-    for (const CursorMark& mark : MarksOf(*scene))
-    {
-        region += Chart().StripOf(mark).toAlignedRect();
-    }
-    return region;
+    return Chart().StripsOf(MarksOf(*scene));
 }
 
 void ChartCanvas::ShowCursors()

@@ -167,7 +167,7 @@ void frmChartView::ShowLines()
     }
     scene.Hovered.reset();
     NoteUnseenLines();
-    widths.clear();
+    ForgetWidths();
     ShowTable();
     ShowTextSize();
     ShowCursorTexts();
@@ -254,7 +254,7 @@ void frmChartView::ShowTextSize()
     const QFont texts = ChartFont(scene.Marks.TextSize / chartFontSize);
     if (ui->grpValues->font().pixelSize() != texts.pixelSize())
     {
-        widths.clear();
+        ForgetWidths();
         ui->grpValues->setFont(texts);
         ui->tbrChartView->setFont(AtLeast(font(), scene.Marks.TextSize));
         ui->txtCursorX->setFixedWidth(ui->txtCursorX->fontMetrics().averageCharWidth() * 12);

@@ -58,7 +58,8 @@ private:
     void ShowTextSize();
     void FitTable();
     int NeededWidth(int column) const;
-    void SetWidths();
+    int WidthWith(bool shortHeadings);
+    void ForgetWidths();
     void FitTableHeight();
 
     // The range.
@@ -129,6 +130,6 @@ private:
     double textScale = 1;
     bool hasCursor = false;
     bool hasOwnTableHeight = false;
-    /// The room that columns have needed so far.
-    std::vector<int> widths;
+    /// The room that columns have needed so far, below long headings and below short ones.
+    std::array<std::vector<int>, 2> widths;
 };

@@ -41,7 +41,7 @@ void frmChartView::ShowTable()
     ui->tblLines->horizontalHeader()->setSortIndicatorShown(sorted.has_value());
     if (table->columnCount() != columns)
     {
-        widths.clear();
+        ForgetWidths();
         ShowChosenRow();
     }
     FitTable();
@@ -65,30 +65,32 @@ int frmChartView::NeededWidth(int column) const
                        : width + 3 * LineDelegate::Blank(letters.height());
 }
 
+/// The widths with short headings or long ones.
+int frmChartView::WidthWith(bool shortHeadings)
+{
+    table->SetShortHeadings(shortHeadings);
+    auto& needed = widths[shortHeadings ? 1 : 0];
+    needed.resize(static_cast<std::size_t>(table->columnCount()));
+    for (int column = 0; column < table->columnCount(); ++column)
+    {
+        int& width = needed[static_cast<std::size_t>(column)];
+        width = std::max(width, NeededWidth(column));
+    }
+    return std::accumulate(needed.begin(), needed.end(), 0);
+}
+
 /// Widens columns for what they hold by now; they only get narrower with other lines or another text size, so
-/// that nothing wavers while a cursor moves.
+/// that nothing wavers while a cursor moves. Where all columns do not fit, headings are set short, then all
+/// texts narrower; what is still too wide scrolls.
 void frmChartView::FitTable()
 {
-    const int columns = table->columnCount();
-    if (columns == 0)
+    if (table->columnCount() == 0)
     {
         return;
     }
-    widths.resize(static_cast<std::size_t>(columns));
-    for (int column = 0; column < columns; ++column)
-    {
-        int& width = widths[static_cast<std::size_t>(column)];
-        width = std::max(width, NeededWidth(column));
-    }
-    SetWidths();
-}
-
-/// Where all columns do not fit, headings are set short, then all texts narrower; what is still too wide
-/// scrolls.
-void frmChartView::SetWidths()
-{
     const int room = ui->tblLines->viewport()->width();
-    const int needed = std::accumulate(widths.begin(), widths.end(), 0);
+    const bool brief = WidthWith(false) > room;
+    const int needed = brief ? WidthWith(true) : 0;
     const int stretch = needed <= room ? 100 : std::clamp(room * 100 / needed, NarrowestLetters, 100);
     QFont letters = ui->grpValues->font();
     letters.setStretch(stretch);
@@ -96,14 +98,20 @@ void frmChartView::SetWidths()
     {
         ui->tblLines->setFont(letters);
     }
-    for (std::size_t column = 0; column < widths.size(); ++column)
+    const auto& columns = widths[brief ? 1 : 0];
+    for (int column = 0; column < table->columnCount(); ++column)
     {
-        const int width = widths[column] * stretch / 100;
-        if (ui->tblLines->columnWidth(static_cast<int>(column)) != width)
+        const int width = columns[static_cast<std::size_t>(column)] * stretch / 100;
+        if (ui->tblLines->columnWidth(column) != width)
         {
-            ui->tblLines->setColumnWidth(static_cast<int>(column), width);
+            ui->tblLines->setColumnWidth(column, width);
         }
     }
+}
+
+void frmChartView::ForgetWidths()
+{
+    widths = {};
 }
 
 /// The table is as high as its lines, unless the user has moved its edge.

@@ -72,6 +72,9 @@ public:
     /// Message boxes that have this button are answered by it from now on.
     void AnswerBy(QMessageBox::StandardButton button) { answer = button; }
 
+    /// Message boxes are left to the test from now on.
+    void StopAnswering() { answering.stop(); }
+
     /// The boxes shown since the last call.
     std::vector<Said> TakeBoxes();
     /// The text of the only box shown since the last call; names the count when it was not one.

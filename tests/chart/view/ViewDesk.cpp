@@ -77,6 +77,8 @@ frmChartView* ViewDesk::View() const
 
 void ViewDesk::Press(int key, Qt::KeyboardModifiers modifiers) const
 {
+    // Without a desktop, nothing brings the window back after a dialog.
+    QApplication::setActiveWindow(View());
     QWidget* const focus = View()->focusWidget();
     QTest::keyClick(focus != nullptr ? focus : View(), static_cast<Qt::Key>(key), modifiers);
 }

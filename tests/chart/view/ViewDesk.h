@@ -57,7 +57,7 @@ public:
         return View()->findChild<T*>(QString::fromLatin1(name));
     }
 
-    Desk desk;
+    mutable Desk desk;
 
 private:
     Kind kind;

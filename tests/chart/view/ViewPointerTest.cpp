@@ -317,14 +317,7 @@ void ViewPointerTest::StripsAreEqualToAWholeRepaint()
     {
         Screen screen(desk.Canvas());
         const auto stripsOf = [&]
-        {
-            QRegion strips;
-            for (const CursorMark& mark : OverlayOf(desk.Scene()).Cursors)
-            {
-                strips += desk.Canvas()->Chart().StripOf(mark).toAlignedRect();
-            }
-            return strips;
-        };
+        { return desk.Canvas()->Chart().StripsOf(OverlayOf(desk.Scene()).Cursors); };
         const QRegion before = stripsOf();
         step == 7 ? desk.Press(Qt::Key_Return) : desk.Press(Qt::Key_Right, Qt::ShiftModifier);
         if (step == 7)
