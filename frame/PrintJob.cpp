@@ -18,17 +18,21 @@ namespace
 
 constexpr double marginMillimetres = 5;
 
-/// Sets portrait and narrow margins, and puts the former layout back at the end of its life.
+/// Sets narrow margins, and portrait where it is asked for, and puts the former layout back at the end of its
+/// life.
 class LayoutScope
 {
 public:
-    explicit LayoutScope(QPrinter& jobPrinter)
+    LayoutScope(QPrinter& jobPrinter, PageTurn turn)
         : printer(jobPrinter)
         , former(jobPrinter.pageLayout())
     {
         auto layout = former;
         layout.setMode(QPageLayout::StandardMode);
-        layout.setOrientation(QPageLayout::Portrait);
+        if (turn == PageTurn::Portrait)
+        {
+            layout.setOrientation(QPageLayout::Portrait);
+        }
         layout.setUnits(QPageLayout::Millimeter);
         const auto least = layout.minimumMargins();
         layout.setMargins(
@@ -105,6 +109,25 @@ bool IsWhole(const QByteArray& contents)
     return contents.last(std::min(contents.size(), tailSize)).contains("%%EOF");
 }
 
+/// Names the printer's jobs while it lives.
+class TitleScope
+{
+public:
+    TitleScope(QPrinter& jobPrinter, const QString& title)
+        : printer(jobPrinter)
+        , former(jobPrinter.docName())
+    {
+        printer.setDocName(title);
+    }
+    ~TitleScope() { printer.setDocName(former); }
+    TitleScope(const TitleScope&) = delete;
+    TitleScope& operator=(const TitleScope&) = delete;
+
+private:
+    QPrinter& printer;
+    QString former;
+};
+
 /// Lets a printer write another file while it lives.
 class OutputFileScope
 {
@@ -124,7 +147,9 @@ private:
     QString former;
 };
 
-/// False when the job could not be started or finished.
+/// Prints a whole job; false when it could not be started or finished.
+using RunJob = std::function<bool()>;
+
 bool DrawOn(QPrinter& printer, const DrawPage& drawPage, const PageArea& area)
 {
     QPainter painter;
@@ -137,7 +162,7 @@ bool DrawOn(QPrinter& printer, const DrawPage& drawPage, const PageArea& area)
 }
 
 /// Prints elsewhere first, so that the user's file is the old or the new one.
-void PrintFile(QPrinter& printer, const DrawPage& drawPage, const PageArea& area)
+void PrintFile(QPrinter& printer, const RunJob& run)
 {
     const QString target = printer.outputFileName();
     if (!CanBeWritten(target))
@@ -149,7 +174,7 @@ void PrintFile(QPrinter& printer, const DrawPage& drawPage, const PageArea& area
     bool drawn = false;
     {
         const OutputFileScope output(printer, page.fileName());
-        drawn = DrawOn(printer, drawPage, area);
+        drawn = run();
     }
     if (!drawn || !page.open(QIODevice::ReadOnly))
     {
@@ -174,25 +199,42 @@ void PrintFile(QPrinter& printer, const DrawPage& drawPage, const PageArea& area
     }
 }
 
-} // namespace
-
-void PrintPage(QPrinter& printer, const DrawPage& drawPage)
+void Print(QPrinter& printer, const RunJob& run)
 {
-    CheckPrinter(printer);
-    const LayoutScope layout(printer);
-    const auto page = printer.pageLayout().paintRectPixels(printer.resolution());
-    const PageArea area = {{QPointF(0, 0), page.size()}, static_cast<double>(printer.resolution())};
-    Rehearse(drawPage, area);
-
     if (PrintsToFile(printer))
     {
-        PrintFile(printer, drawPage, area);
+        PrintFile(printer, run);
         return;
     }
-    if (!DrawOn(printer, drawPage, area) || !ServerTookJob())
+    if (!run() || !ServerTookJob())
     {
         throw PrinterError(printer);
     }
+}
+
+} // namespace
+
+void PrintPage(QPrinter& printer, const DrawPage& drawPage, const QString& title, PageTurn turn)
+{
+    CheckPrinter(printer);
+    const LayoutScope layout(printer, turn);
+    const TitleScope named(printer, title);
+    const auto page = printer.pageLayout().paintRectPixels(printer.resolution());
+    const PageArea area = {{QPointF(0, 0), page.size()}, static_cast<double>(printer.resolution())};
+    Rehearse(drawPage, area);
+    Print(printer, [&] { return DrawOn(printer, drawPage, area); });
+}
+
+void PrintPages(QPrinter& printer, const std::function<void(QPrinter&)>& printPages, const QString& title)
+{
+    CheckPrinter(printer);
+    const TitleScope named(printer, title);
+    Print(printer,
+          [&]
+          {
+              printPages(printer);
+              return printer.printerState() != QPrinter::Error;
+          });
 }
 
 SurfaceKind KindOf(const QPrinter& printer)

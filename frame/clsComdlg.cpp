@@ -1,6 +1,7 @@
 #include "frame/clsComdlg.h"
 
 #include "formkit/Messages.h"
+#include "frame/AskForPrinter.h"
 #include "frame/FileNames.h"
 #include "frame/PrinterChoices.h"
 #include "frame/SettingsLock.h"

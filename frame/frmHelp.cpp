@@ -1,10 +1,13 @@
 #include "frame/frmHelp.h"
 
 #include "formkit/ClosesWith.h"
+#include "formkit/HourglassScope.h"
 #include "formkit/Messages.h"
 #include "formkit/RunCommand.h"
+#include "frame/AskForPrinter.h"
 #include "frame/HelpBook.h"
-#include "frame/PrinterChoices.h"
+#include "frame/PrintJob.h"
+#include "frame/PrinterHost.h"
 #include "ui_frmHelp.h"
 
 #include <QKeyEvent>
@@ -211,10 +214,13 @@ void frmHelp::Print()
     RunCommand(this,
                [this]
                {
-                   QPrinter printer;
+                   QPrinter ownPrinter(QPrinter::HighResolution);
+                   QPrinter& printer = printers != nullptr ? printers->Printer() : ownPrinter;
                    if (AskForPrinter(printer, {}, 0, {}, this))
                    {
-                       ui->txtBook->print(&printer);
+                       const HourglassScope hourglass;
+                       PrintPages(
+                           printer, [this](QPrinter& pages) { ui->txtBook->print(&pages); }, windowTitle());
                    }
                });
 }
@@ -228,6 +234,7 @@ void frmHelp::CloseWith(QWidget* window)
         delete closing;
         owner = window;
         closing = new ClosesWith(*this, *window);
+        printers = dynamic_cast<PrinterHost*>(window);
     }
 }
 

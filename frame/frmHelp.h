@@ -11,6 +11,7 @@
 #include <vector>
 
 class ClosesWith;
+class PrinterHost;
 class QTreeWidgetItem;
 
 namespace Ui
@@ -19,7 +20,8 @@ class frmHelp;
 }
 
 /// Opens a book in the help viewer, at `searchFor` where it is given. There is one viewer: a second call
-/// shows its book in the same window. It does not block its owner, and closes when the owner closes.
+/// shows its book in the same window. It does not block its owner, closes when the owner closes, and prints
+/// on the owner's printer where that is a `PrinterHost`.
 ///
 /// Throws RunTimeError, with the viewer as it was, when the book cannot be read: see `ReadHelpBook`.
 void OpenHelp(const QString& bookFile, QWidget* owner = nullptr, const QString& searchFor = {});
@@ -42,7 +44,7 @@ public:
     void ShowBook(const QString& file, const QString& html);
     void SearchFor(const QString& text);
     void ShowTopic(const QString& anchor);
-    /// Closes this window together with `window`.
+    /// Closes this window together with `window`, and prints on its printer where it is a `PrinterHost`.
     void CloseWith(QWidget* window);
 
 protected:
@@ -64,4 +66,5 @@ private:
     /// What it closes with.
     QPointer<QWidget> owner;
     QPointer<ClosesWith> closing;
+    PrinterHost* printers = nullptr;
 };

@@ -5,6 +5,7 @@
 #include "chart/ChartHost.h"
 #include "formkit/PlainTexts.h"
 #include "frame/PrintJob.h"
+#include "frame/PrinterHost.h"
 #include "selection/frmLibrary.h"
 
 #include <QMainWindow>
@@ -15,7 +16,6 @@
 #include <vector>
 
 class FormAccessKeys;
-class QPrinter;
 class frmGraph;
 class QMdiSubWindow;
 
@@ -26,7 +26,7 @@ class frmMain;
 
 /// The main window. The check marks of its View menu are the only store of the code system and the
 /// part-number generation on display.
-class frmMain : public QMainWindow, public ChartHost, public ChartWindows
+class frmMain : public QMainWindow, public ChartHost, public ChartWindows, public PrinterHost
 {
     Q_OBJECT
 
@@ -48,6 +48,7 @@ public:
     bool ShowSameChart(const ChartKey& chart) override;
     void SwitchCodeView(int index) override;
     void PrintChart(const ChartPage& page) override;
+    QPrinter& Printer() override;
 
     // What chart views ask for.
     QWidget* MainWindow() override { return this; }
@@ -88,8 +89,8 @@ private:
     void NoteFolder(const QString& dialog, const QString& file);
     void TellInStatusBar(const QString& text);
     void PrintData(const ChartRecord& line);
-    QPrinter& Printer();
-    void PrintWithNotice(const DrawPage& drawPage);
+    bool MayReplaceFile();
+    void PrintWithNotice(const DrawPage& drawPage, const QString& title);
 
     PlainTexts plainTexts;
     std::unique_ptr<Ui::frmMain> ui;

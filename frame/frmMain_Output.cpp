@@ -1,6 +1,7 @@
 #include "frame/frmMain.h"
 
 #include "app/mdlPublic.h"
+#include "calc/ChartNames.h"
 #include "calc/DataFile.h"
 #include "files/WholeFile.h"
 #include "formkit/HourglassScope.h"
@@ -15,6 +16,7 @@
 #include "frame/frmPrinting.h"
 #include "partdata/Windows1252.h"
 
+#include <QFileInfo>
 #include <QPrinter>
 
 static const PartRecord& PartOf(const ChartRecord& line)
@@ -119,7 +121,8 @@ void frmMain::PrintChart(const ChartPage& page)
                   dialog.ShowPrinter();
                   const SurfaceKind kind = KindOf(Printer());
                   PrintWithNotice([&](QPainter& painter, const PageArea& area)
-                                  { DrawChartPage(page, area, kind, painter); });
+                                  { DrawChartPage(page, area, kind, painter); },
+                                  FromAnsi(ChartCaption(page.View.Chart)));
               });
 }
 
@@ -134,7 +137,7 @@ void frmMain::mnuPrintData_Click()
               {
                   const auto line = CurrentCurve();
                   const auto question = QStringLiteral("Would you print %1 Data ?");
-                  if (line && AskOkCancel(this, question.arg(library->ShownPartNum())))
+                  if (line && AskOkCancel(this, question.arg(library->ShownPartNum())) && MayReplaceFile())
                   {
                       PrintData(*line);
                   }
@@ -148,13 +151,22 @@ void frmMain::PrintData(const ChartRecord& line)
                         .View = GetCodeView(),
                         .Date = Today(),
                         .DegreeSign = Utf8FromWindows1252(mdlPublic.DegreeSign)};
-    PrintWithNotice([&](QPainter& painter, const PageArea& area) { DrawDataPage(page, area, painter); });
+    PrintWithNotice([&](QPainter& painter, const PageArea& area) { DrawDataPage(page, area, painter); },
+                    library->ShownPartNum() + u' ' + FromAnsi(ChartCaption(KeyOf(line))));
+}
+
+/// Asks before a print into a file replaces it, where no printer dialog has asked.
+bool frmMain::MayReplaceFile()
+{
+    const QString file = Printer().outputFileName();
+    return file.isEmpty() || !QFileInfo::exists(file) ||
+           AskOkCancel(this, file + QStringLiteral(" already exists.\r\nDo you want to replace it?"));
 }
 
 /// Prints one page with the notice on the screen.
-void frmMain::PrintWithNotice(const DrawPage& drawPage)
+void frmMain::PrintWithNotice(const DrawPage& drawPage, const QString& title)
 {
     const HourglassScope hourglass;
     const frmPrinting notice(this);
-    PrintPage(Printer(), drawPage);
+    PrintPage(Printer(), drawPage, title);
 }

@@ -40,6 +40,21 @@ std::vector<PdfPage> ReadPdf(const QString& fileName)
     return pages;
 }
 
+QString TitleOfPdf(const QString& fileName)
+{
+    QProcess reader;
+    reader.start(QStringLiteral("pdfinfo"), {QStringLiteral("-enc"), QStringLiteral("UTF-8"), fileName});
+    reader.waitForFinished();
+    for (const auto& line : QString::fromUtf8(reader.readAllStandardOutput()).split(u'\n'))
+    {
+        if (line.startsWith(QLatin1String("Title:")))
+        {
+            return line.section(u':', 1).trimmed();
+        }
+    }
+    return {};
+}
+
 QPointF PdfPage::Take(const QString& text, const QPointF& leftTop, double tolerance)
 {
     const auto parts = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);

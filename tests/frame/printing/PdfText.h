@@ -31,6 +31,9 @@ struct PdfPage
 /// All pages of a file; empty when it cannot be read.
 std::vector<PdfPage> ReadPdf(const QString& fileName);
 
+/// The title that a file bears in its description.
+QString TitleOfPdf(const QString& fileName);
+
 /// A stretch of the first page across its whole width, in shades of grey.
 struct PdfStrip
 {

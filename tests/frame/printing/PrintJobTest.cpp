@@ -46,6 +46,10 @@ private Q_SLOTS:
     void init();
     void PageIsPortraitWithNarrowMargins_data();
     void PageIsPortraitWithNarrowMargins();
+    void PageIsTurnedAsSetUpWhereAsked();
+    void JobsBearTheirTitles();
+    void PagesAreWrittenWholeAsSetUp();
+    void PagesWithoutPrinterAreRefused();
     void PrinterIsAsBefore_data();
     void PrinterIsAsBefore();
     void WithoutPrinterNothingIsDrawn();
@@ -102,6 +106,82 @@ void PrintJobTest::PageIsPortraitWithNarrowMargins()
     QCOMPARE(pages.size(), 1U);
     QVERIFY(std::abs(pages[0].Paper.width() - width / 25.4 * 72) < 1);
     QVERIFY(std::abs(pages[0].Paper.height() - height / 25.4 * 72) < 1);
+}
+
+void PrintJobTest::PageIsTurnedAsSetUpWhereAsked()
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(file);
+    printer.setPageOrientation(QPageLayout::Landscape);
+    PageArea area;
+    PrintPage(
+        printer, [&](QPainter&, const PageArea& printable) { area = printable; }, {}, PageTurn::AsSetUp);
+    QVERIFY(area.Printable.width() > area.Printable.height());
+    QVERIFY(ReadPdf(file).at(0).Paper.width() > ReadPdf(file).at(0).Paper.height());
+    PrintPage(printer, DrawWord);
+    QVERIFY(ReadPdf(file).at(0).Paper.width() < ReadPdf(file).at(0).Paper.height());
+}
+
+void PrintJobTest::JobsBearTheirTitles()
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(file);
+    printer.setDocName(QStringLiteral("former"));
+    PrintPage(printer, DrawWord, QStringLiteral("Allowable power(Frequency,Current) 25 °C"));
+    QCOMPARE(TitleOfPdf(file), QStringLiteral("Allowable power(Frequency,Current) 25 °C"));
+    PrintPages(
+        printer, [](QPrinter& pages) { QPainter(&pages).drawText(100, 400, QStringLiteral("Word")); },
+        QStringLiteral("ヘルプ"));
+    QCOMPARE(TitleOfPdf(file), QStringLiteral("ヘルプ"));
+    QCOMPARE(printer.docName(), QStringLiteral("former"));
+}
+
+void PrintJobTest::PagesAreWrittenWholeAsSetUp()
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(file);
+    printer.setPageSize(QPageSize(QPageSize::A5));
+    printer.setPageOrientation(QPageLayout::Landscape);
+    const auto twoPages = [](QPrinter& pages)
+    {
+        QPainter painter(&pages);
+        painter.drawText(100, 400, QStringLiteral("First"));
+        pages.newPage();
+        painter.drawText(100, 400, QStringLiteral("Second"));
+    };
+    PrintPages(printer, twoPages, QStringLiteral("Book"));
+    const auto pages = ReadPdf(file);
+    QCOMPARE(pages.size(), std::size_t{2});
+    QCOMPARE(pages[1].Words.at(0).Text, QStringLiteral("Second"));
+    QVERIFY(std::abs(pages[0].Paper.width() - 210 / 25.4 * 72) < 1);
+    QVERIFY(std::abs(pages[0].Paper.height() - 148 / 25.4 * 72) < 1);
+
+    std::optional<RunTimeError> error;
+    {
+        const FullDisk disk(2000);
+        error = ErrorOf([&] { PrintPages(printer, twoPages, QStringLiteral("Book")); });
+    }
+    QVERIFY(error);
+    QCOMPARE(error->Number(), 61);
+    QCOMPARE(ReadPdf(file).size(), std::size_t{2});
+}
+
+void PrintJobTest::PagesWithoutPrinterAreRefused()
+{
+    QPrinter printer(QPrinter::HighResolution);
+    bool drawn = false;
+    const auto error = ErrorOf(
+        [&]
+        {
+            PrintPages(
+                printer, [&](QPrinter&) { drawn = true; }, QStringLiteral("Book"));
+        });
+    QVERIFY(error);
+    QCOMPARE(error->Number(), 65534);
+    QVERIFY(!drawn);
 }
 
 void PrintJobTest::PrinterIsAsBefore_data()
