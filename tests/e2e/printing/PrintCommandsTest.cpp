@@ -31,6 +31,8 @@ private Q_SLOTS:
     void DataIsPrintedOnThePrinterOfTheSetUp();
     void CancelledDialogEndsSilently();
     void PaperOfTheSetUpHoldsForEveryPrint();
+    void ShadesOfGreyHoldUntilAnotherPrinter();
+    void CancelledSetUpChangesNothing();
     void FileOfTheSetUpTakesEveryPrint();
     void FileIsReplacedOnlyWhenAsked();
     void HelpOnAQueueThatTakesNoJobsIsTold();
@@ -96,6 +98,7 @@ struct DialogUse
     QString Paper{};
     bool Landscape = false;
     bool OpenProperties = false;
+    bool Gray = false;
     Qt::Key Key = Qt::Key_Return;
 
     // What the dialog showed first.
@@ -104,6 +107,7 @@ struct DialogUse
     QString FirstFile{};
     QString FirstPaper{};
     bool FirstLandscape = false;
+    bool FirstGray = false;
 };
 
 /// Chooses the entry that begins so.
@@ -134,6 +138,12 @@ static void UseDialog(QPrintDialog* dialog, DialogUse& use)
     auto* const file = dialog->findChild<QLineEdit*>("filename");
     use.FirstPrinter = printers->currentText();
     use.FirstFile = file->text();
+    auto* const gray = dialog->findChild<QRadioButton*>("grayscale");
+    use.FirstGray = gray->isChecked();
+    if (use.Gray)
+    {
+        gray->click();
+    }
     Pick(printers, use.Printer);
     file->setText(use.File.isEmpty() ? use.FirstFile : use.File);
     if (use.OpenProperties || !use.Paper.isEmpty())
@@ -281,6 +291,41 @@ void PrintCommandsTest::PaperOfTheSetUpHoldsForEveryPrint()
     QVERIFY(help.FirstPaper.startsWith("Letter"));
     QVERIFY(IsLetter(Printed("color"), true));
     QVERIFY(IsAtRest());
+}
+
+void PrintCommandsTest::ShadesOfGreyHoldUntilAnotherPrinter()
+{
+    Desk desk;
+    Plot(desk);
+    DialogUse setUp{.Gray = true};
+    InPrinterDialog(setUp, [&] { desk.Choose("mnuFilePageSetup"); });
+    QVERIFY(!setUp.FirstGray);
+    QCOMPARE(KindOf(desk.main->Printer()), SurfaceKind::MonochromePrinter);
+    DialogUse again;
+    InPrinterDialog(again, [&] { desk.Choose("mnuFilePageSetup"); });
+    QVERIFY(again.FirstGray);
+    QCOMPARE(KindOf(desk.main->Printer()), SurfaceKind::MonochromePrinter);
+
+    // They were chosen for the printer that was shown.
+    DialogUse gray{.Printer = "gray"};
+    InPrinterDialog(gray, [&] { desk.Choose("mnuFilePageSetup"); });
+    QCOMPARE(KindOf(desk.main->Printer()), SurfaceKind::MonochromePrinter);
+    DialogUse color{.Printer = "color"};
+    InPrinterDialog(color, [&] { desk.Choose("mnuFilePageSetup"); });
+    QCOMPARE(KindOf(desk.main->Printer()), SurfaceKind::ColorPrinter);
+}
+
+void PrintCommandsTest::CancelledSetUpChangesNothing()
+{
+    Desk desk;
+    Plot(desk);
+    DialogUse setUp{.Paper = "Letter", .Landscape = true, .Gray = true, .Key = Qt::Key_Escape};
+    InPrinterDialog(setUp, [&] { desk.Choose("mnuFilePageSetup"); });
+    QVERIFY(setUp.Shown);
+    const auto& layout = desk.main->Printer().pageLayout();
+    QVERIFY(layout.pageSize().isEquivalentTo(QPageSize(QPageSize::A4)));
+    QCOMPARE(layout.orientation(), QPageLayout::Portrait);
+    QCOMPARE(KindOf(desk.main->Printer()), SurfaceKind::ColorPrinter);
 }
 
 void PrintCommandsTest::FileOfTheSetUpTakesEveryPrint()
