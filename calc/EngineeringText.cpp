@@ -95,8 +95,7 @@ bool ReadsZero(const EngineeringForm& form, double value)
     return NumberOf(form, value) == "0";
 }
 
-/// The text with a sign that is set, not typed.
-static std::string WithMinusSign(std::string number)
+std::string WithMinusSign(std::string number)
 {
     return number.starts_with('-') ? std::string(MinusSign) + number.substr(1) : number;
 }

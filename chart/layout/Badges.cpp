@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <numbers>
+#include <utility>
 
 namespace
 {

@@ -2,25 +2,13 @@
 
 /// The ticks of an axis that is as long as its window leaves room for.
 
-#include "chart/layout/AxisLayout.h"
-#include "chart/layout/TextRuler.h"
-
-/// A labelled place of an axis.
-struct FittingTick
-{
-    /// Position in plot units, 0 to 100.
-    double At;
-    std::string Text;
-};
+#include "chart/layout/FittingScale.h"
 
 /// What stands along an axis.
-struct FittingAxis
+struct FittingAxis : FittingTicks
 {
     /// Name and unit, which the labels are told in: "Capacitance [µF]".
     std::string Title;
-    std::vector<FittingTick> Ticks;
-    /// Lines of the ticks and between them, light where they are many.
-    std::vector<GridLine> Grid;
 };
 
 /// The X axis over a plot of a width in device-independent pixels, in the unit that it is entered in.

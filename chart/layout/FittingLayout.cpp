@@ -3,6 +3,9 @@
 #include "chart/layout/FittingAxis.h"
 
 #include <algorithm>
+#include <functional>
+#include <iterator>
+#include <utility>
 
 /// Distances in text sizes: around the chart, of labels from the axes, of the title from the Y labels, and
 /// the height of cursor tags.
