@@ -130,19 +130,20 @@ private:
         double farthest = -1;
         for (const Point& place : PlacesOn(line))
         {
-            if (!IsFree(place))
+            const Point center = Held(place);
+            if (!IsFree(center))
             {
                 continue;
             }
             const double clearance = ClearanceOf(place, line, farAway);
             if (clearance >= clearOnLine * radius)
             {
-                return place;
+                return center;
             }
             // Not for a rounding error: the places beside each other of lines that coincide are equally good.
             if (clearance > farthest + 0.01 * radius)
             {
-                best = place;
+                best = center;
                 farthest = clearance;
             }
         }
@@ -164,8 +165,7 @@ private:
                 for (; toNext <= length; toNext += stride * radius)
                 {
                     const double share = length > 0 ? toNext / length : 0;
-                    places.push_back(
-                        Held({from.X + share * (to.X - from.X), from.Y + share * (to.Y - from.Y)}));
+                    places.push_back({from.X + share * (to.X - from.X), from.Y + share * (to.Y - from.Y)});
                 }
                 toNext -= length;
             }

@@ -63,6 +63,14 @@ TEST(Badges, StandSideBySideOnLinesThatCoincide)
     }
 }
 
+TEST(Badges, StandSideBySideOnLinesThatBeginAtTheEdge)
+{
+    // The plot holds badges up there, away from the line: no reason to leave its end.
+    const auto line = Curve({{50, 440}, {300, 439}, {1000, 100}});
+    const auto badges = PlaceBadges(std::vector<PixelCurve>(3, line), plot, radius);
+    EXPECT_GT(badges[2].Center.X, 900);
+}
+
 TEST(Badges, HaveLeadersWhereTheirLineIsShorterThanABadge)
 {
     const auto dot = Curve({{500, 200}, {504, 201}});
@@ -72,6 +80,14 @@ TEST(Badges, HaveLeadersWhereTheirLineIsShorterThanABadge)
     EXPECT_EQ(badges[1].LeaderFrom, (Point{504, 201}));
     EXPECT_EQ(badges[2].LeaderFrom, (Point{504, 201}));
     EXPECT_GE(DistanceOf(badges[1].Center, badges[2].Center), 2.3 * radius);
+}
+
+TEST(Badges, StandAtTheirEndWhereThePlotHasNoPlace)
+{
+    const auto dot = Curve({{4, 5}, {6, 5}});
+    const auto badges = PlaceBadges(std::vector<PixelCurve>(2, dot), {0, 0, 10, 10}, radius);
+    ASSERT_EQ(badges.size(), 2U);
+    EXPECT_EQ(badges[1].Center, (Point{6, 10}));
 }
 
 TEST(Badges, StayWithinThePlotAboveAndBelow)

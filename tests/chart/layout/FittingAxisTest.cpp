@@ -69,6 +69,7 @@ INSTANTIATE_TEST_SUITE_P(
                 "Current [Arms]",
                 "0 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18"},
         AxisRow{"in a tiny one", rise, {18, 100, 0, 0}, 9, "Current [Arms]", "0 10"},
+        AxisRow{"on less room than labels take", rise, {18, 100, 0, 0}, 3, "Current [Arms]", "0 10"},
         AxisRow{"temperatures in quarters of hundreds",
                 change,
                 {125, 20, -75, -80},
