@@ -17,6 +17,10 @@ constexpr double beyond = 1.3;
 constexpr double ring = 2.4;
 /// Distance of the places that are tried along a line.
 constexpr double stride = 0.5;
+/// Lines that are nowhere farther apart, in radii, are alike.
+constexpr double alike = 0.2;
+/// How much farther neighbours must be, in radii, for a place farther left.
+constexpr double worthwhile = 0.3;
 /// Neighbours farther than this, in radii, are all the same.
 constexpr double farAway = 12;
 
@@ -79,18 +83,21 @@ public:
     }
 
 private:
+    using Curves = std::vector<const PixelCurve*>;
+
     Badge PlaceOf(std::size_t line) const
     {
         const int number = static_cast<int>(line);
+        const auto others = OthersThan(line);
         const Point end = curves[line].back().back();
         const Point behindEnd = Held({end.X + beyond * radius, end.Y});
         const bool inPlot = behindEnd.X <= plot.Left + plot.Width;
         if (IsFree(behindEnd) &&
-            (!inPlot || ClearanceOf(behindEnd, line, clearBeyond) >= clearBeyond * radius))
+            (!inPlot || ClearanceOf(behindEnd, others, clearBeyond) >= clearBeyond * radius))
         {
             return {number, behindEnd, {}};
         }
-        if (const auto onLine = PlaceOnLine(line))
+        if (const auto onLine = PlaceOnLine(line, others))
         {
             return {number, *onLine, {}};
         }
@@ -110,24 +117,51 @@ private:
                                     { return DistanceOf(badge.Center, center) < apart * radius; });
     }
 
-    /// Distance from the nearest other line, as far as it is below a limit in radii.
-    double ClearanceOf(const Point& center, std::size_t line, double limit) const
+    /// The lines that can be told apart from this one.
+    Curves OthersThan(std::size_t line) const
+    {
+        Curves others;
+        for (const auto& other : curves)
+        {
+            if (&other != &curves[line] && !Covers(other, curves[line]))
+            {
+                others.push_back(&other);
+            }
+        }
+        return others;
+    }
+
+    /// Distance from the nearest of other lines, as far as it is below a limit in radii.
+    double ClearanceOf(const Point& center, const Curves& others, double limit) const
     {
         double nearest = limit * radius;
-        for (std::size_t other = 0; other < curves.size(); ++other)
+        for (const auto* other : others)
         {
-            nearest = other == line ? nearest
-                                    : std::min(nearest, DistanceFromCurve(center, curves[other], nearest));
+            nearest = DistanceFromCurve(center, *other, nearest);
         }
         return nearest;
     }
 
+    /// True when one line lies on another from end to end: no place tells such lines apart, so their badges
+    /// stand side by side.
+    bool Covers(const PixelCurve& upper, const PixelCurve& lower) const
+    {
+        const double near = alike * radius;
+        return std::ranges::all_of(lower,
+                                   [&](const auto& run)
+                                   {
+                                       return std::ranges::all_of(
+                                           run, [&](const Point& point)
+                                           { return DistanceFromCurve(point, upper, near) < near; });
+                                   });
+    }
+
     /// The free place on the line farthest right that is clear of other lines, else the one farthest from
     /// them.
-    std::optional<Point> PlaceOnLine(std::size_t line) const
+    std::optional<Point> PlaceOnLine(std::size_t line, const Curves& others) const
     {
         std::optional<Point> best;
-        double farthest = -1;
+        double farthest = 0;
         for (const Point& place : PlacesOn(line))
         {
             const Point center = Held(place);
@@ -135,13 +169,12 @@ private:
             {
                 continue;
             }
-            const double clearance = ClearanceOf(place, line, farAway);
+            const double clearance = ClearanceOf(place, others, farAway);
             if (clearance >= clearOnLine * radius)
             {
                 return center;
             }
-            // Not for a rounding error: the places beside each other of lines that coincide are equally good.
-            if (clearance > farthest + 0.01 * radius)
+            if (!best || clearance > farthest + worthwhile * radius)
             {
                 best = center;
                 farthest = clearance;

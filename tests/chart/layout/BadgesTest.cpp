@@ -63,6 +63,29 @@ TEST(Badges, StandSideBySideOnLinesThatCoincide)
     }
 }
 
+TEST(Badges, StandSideBySideOnLinesThatNearlyCoincide)
+{
+    const std::vector<PixelCurve> curves = {Curve({{50, 100}, {1050, 200}}), Curve({{50, 101}, {1050, 200}}),
+                                            Curve({{50, 102}, {1050, 200}})};
+    const auto badges = PlaceBadges(curves, plot, radius);
+    EXPECT_GT(badges[1].Center.X, 1000);
+    EXPECT_GT(badges[2].Center.X, 980);
+}
+
+TEST(Badges, StandSideBySideWhereTheirLinesCanBeToldFromOthers)
+{
+    const auto one = Curve({{50, 100}, {1050, 300}});
+    const auto two = Curve({{50, 400}, {1050, 305}});
+    const std::vector<PixelCurve> curves = {one, two, two};
+    const auto badges = PlaceBadges(curves, plot, radius);
+    for (const std::size_t badge : {1U, 2U})
+    {
+        EXPECT_LT(DistanceFromCurve(badges[badge].Center, two, 100), 1e-9);
+        EXPECT_GE(DistanceFromCurve(badges[badge].Center, one, 100), 22);
+    }
+    EXPECT_LT(DistanceOf(badges[1].Center, badges[2].Center), 3.5 * radius);
+}
+
 TEST(Badges, StandSideBySideOnLinesThatBeginAtTheEdge)
 {
     // The plot holds badges up there, away from the line: no reason to leave its end.
