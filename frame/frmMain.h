@@ -90,7 +90,7 @@ private:
     void TellInStatusBar(const QString& text);
     void PrintData(const ChartRecord& line);
     bool MayReplaceFile();
-    void PrintWithNotice(const DrawPage& drawPage, const QString& title);
+    void PrintWithNotice(const DrawPage& drawPage, const QString& title, PageTurn turn = PageTurn::Portrait);
 
     PlainTexts plainTexts;
     std::unique_ptr<Ui::frmMain> ui;

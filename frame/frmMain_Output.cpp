@@ -164,9 +164,9 @@ bool frmMain::MayReplaceFile()
 }
 
 /// Prints one page with the notice on the screen.
-void frmMain::PrintWithNotice(const DrawPage& drawPage, const QString& title)
+void frmMain::PrintWithNotice(const DrawPage& drawPage, const QString& title, PageTurn turn)
 {
     const HourglassScope hourglass;
     const frmPrinting notice(this);
-    PrintPage(Printer(), drawPage, title);
+    PrintPage(Printer(), drawPage, title, turn);
 }

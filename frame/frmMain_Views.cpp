@@ -86,7 +86,7 @@ void frmMain::ShowHelpTopic(const QString& anchor)
     ShowHelpContents(this, anchor);
 }
 
-void frmMain::PrintSheet(const DrawSheet& draw, const QString& /*title*/)
+void frmMain::PrintSheet(const DrawSheet& draw, const QString& title)
 {
     RunCommand(this,
                [&]
@@ -96,6 +96,7 @@ void frmMain::PrintSheet(const DrawSheet& draw, const QString& /*title*/)
                    dialog.ShowPrinter();
                    const SurfaceKind kind = KindOf(Printer());
                    PrintWithNotice([&](QPainter& painter, const PageArea& area)
-                                   { draw(painter, area, kind); });
+                                   { draw(painter, area, kind); },
+                                   title, PageTurn::AsSetUp);
                });
 }
