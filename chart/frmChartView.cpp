@@ -218,6 +218,7 @@ void frmChartView::resizeEvent(QResizeEvent* event)
 void frmChartView::showEvent(QShowEvent* event)
 {
     QMainWindow::showEvent(event);
+    ShowTextSize();
     if (!std::exchange(hasCursor, true))
     {
         StartCursor();

@@ -110,6 +110,7 @@ private:
     QString Caption() const;
     std::optional<PictureChoice> AskForPictureSize();
     void ShowMenu(const QPoint& at);
+    void ShowMenuByKey();
 
     QString AxisText(double x) const;
 

@@ -164,8 +164,24 @@ void frmChartView::ShowMenu(const QPoint& at)
     menu->popup(at);
 }
 
+/// At the chosen row while the table is worked in, else in the middle of the chart.
+void frmChartView::ShowMenuByKey()
+{
+    const QWidget* const rows = ui->tblLines->viewport();
+    const QRect row = ui->tblLines->visualRect(ui->tblLines->currentIndex());
+    const bool atRow = ui->tblLines->hasFocus() && row.isValid();
+    ShowMenu(atRow ? rows->mapToGlobal(row.center())
+                   : ui->picChartView->mapToGlobal(ui->picChartView->rect().center()));
+}
+
 void frmChartView::contextMenuEvent(QContextMenuEvent* event)
 {
+    event->accept();
+    if (event->reason() == QContextMenuEvent::Keyboard)
+    {
+        ShowMenuByKey();
+        return;
+    }
     const QPoint inTable = ui->tblLines->viewport()->mapFromGlobal(event->globalPos());
     const int line = table->LineOf(ui->tblLines->rowAt(inTable.y()));
     if (ui->tblLines->viewport()->rect().contains(inTable) && line >= 0)

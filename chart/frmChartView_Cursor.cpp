@@ -287,7 +287,7 @@ void frmChartView::keyPressEvent(QKeyEvent* event)
                              (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier);
     if (asksForMenu)
     {
-        ShowMenu(ui->picChartView->mapToGlobal(ui->picChartView->rect().center()));
+        ShowMenuByKey();
     }
     else if (event->key() == Qt::Key_Escape)
     {

@@ -88,6 +88,7 @@ private:
     void ShowInView();
     std::optional<std::size_t> PaneAt(const QPoint& place) const;
     void ShowChartMenu(const QPoint& at);
+    void ShowChartMenuByKey();
     void ShowPaneMenu(std::size_t pane, const QPoint& at);
     void UseConditionsOf(std::size_t line);
     void InitChartWindow(const ChartKey& chart);

@@ -125,8 +125,18 @@ std::optional<std::size_t> frmGraph::PaneAt(const QPoint& place) const
     return std::nullopt;
 }
 
+void frmGraph::ShowChartMenuByKey()
+{
+    ShowChartMenu(ui->picGraph->mapToGlobal(ui->picGraph->rect().center()));
+}
+
 void frmGraph::contextMenuEvent(QContextMenuEvent* event)
 {
+    if (event->reason() == QContextMenuEvent::Keyboard && !isMinimized() && !Lines().empty())
+    {
+        ShowChartMenuByKey();
+        return;
+    }
     const QPoint place = ui->grpChart->mapFromGlobal(event->globalPos());
     if (isMinimized() || Lines().empty() || !ui->grpChart->rect().contains(place))
     {
@@ -143,7 +153,7 @@ void frmGraph::keyPressEvent(QKeyEvent* event)
                              (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier);
     if (asksForMenu && !isMinimized() && !Lines().empty())
     {
-        ShowChartMenu(ui->picGraph->mapToGlobal(ui->picGraph->rect().center()));
+        ShowChartMenuByKey();
         return;
     }
     QMdiSubWindow::keyPressEvent(event);

@@ -35,6 +35,8 @@ private Q_SLOTS:
     void ItsRangeGoesToTheChartWindow();
     void PaneMenuOffersConditionsAndPartNumber();
     void ChartMenuNamesAllLines();
+    void ItsMenuOffersEveryCommandWithItsKey_data();
+    void ItsMenuOffersEveryCommandWithItsKey();
     void ConditionsGoToTheForm();
     void EntriesOfTheFormKeepControlE();
 };
@@ -319,6 +321,54 @@ void ViewLifeTest::ChartMenuNamesAllLines()
                                          "Copy to Clipboard", "Print..."}));
     QCOMPARE(Entries(menu->actions()[1]->menu()),
              (QStringList{"No.1 KTS21JB51E106MA01", "No.2 KTS31NB51E106MA01"}));
+    menu->close();
+}
+
+void ViewLifeTest::ItsMenuOffersEveryCommandWithItsKey_data()
+{
+    QTest::addColumn<QString>("way");
+    for (const char* way : {"chart", "row", "entry's label", "Menu key", "Shift+F10 in the table"})
+    {
+        QTest::newRow(way) << way;
+    }
+}
+
+void ViewLifeTest::ItsMenuOffersEveryCommandWithItsKey()
+{
+    QFETCH(QString, way);
+    const ViewDesk desk;
+    if (way == "chart")
+    {
+        SendContextMenu(desk.Canvas(), desk.At(50, 50));
+    }
+    else if (way == "row")
+    {
+        const QRect row = desk.Table()->visualRect(desk.Table()->model()->index(1, 1));
+        SendContextMenu(desk.Table()->viewport(), row.center());
+        QCOMPARE(desk.Scene().Chosen, std::optional(1));
+    }
+    else if (way == "entry's label")
+    {
+        SendContextMenu(desk.Find<QLabel>("lblCursorX"), QPoint(2, 2));
+    }
+    else if (way == "Menu key")
+    {
+        desk.Press(Qt::Key_Menu);
+    }
+    else
+    {
+        desk.Table()->setFocus();
+        desk.Press(Qt::Key_F10, Qt::ShiftModifier);
+    }
+    QMenu* const menu = OpenMenu();
+    QVERIFY(menu != nullptr);
+    int commands = 0;
+    for (const QAction* command : menu->actions())
+    {
+        commands += command->isSeparator() ? 0 : 1;
+        QVERIFY2(command->isSeparator() || !command->shortcut().isEmpty(), qPrintable(command->text()));
+    }
+    QCOMPARE(commands, 17);
     menu->close();
 }
 

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void TheWholeTableIsCopiedWithPlainNumbers();
     void EachNumberTellsItsPlainFormInATip();
     void ANarrowTableShortensThenCondensesThenScrolls();
+    void AllRowsAreSeenAtOnce();
     void EveryTextStandsWholeInTheUsualSizes_data();
     void EveryTextStandsWholeInTheUsualSizes();
 };
@@ -185,6 +186,18 @@ void ViewTableTest::ANarrowTableShortensThenCondensesThenScrolls()
                                desk.Table()->font().stretch() == 100);
     }
     QVERIFY(onlyTheHeading);
+}
+
+void ViewTableTest::AllRowsAreSeenAtOnce()
+{
+    ViewDesk desk(Kind::RiseOverFrequency, 5);
+    QCOMPARE(desk.Table()->verticalScrollBar()->maximum(), 0);
+    desk.PlotLine(5);
+    Settle();
+    QCOMPARE(desk.Table()->verticalScrollBar()->maximum(), 0);
+    desk.View()->resize(1000, 700);
+    Settle();
+    QCOMPARE(desk.Table()->verticalScrollBar()->maximum(), 0);
 }
 
 void ViewTableTest::EveryTextStandsWholeInTheUsualSizes_data()
