@@ -75,6 +75,8 @@ Q_SIGNALS:
     void Dragged(double byX, double byY);
     /// A rectangle was drawn, in plot units.
     void RectangleDrawn(double fromX, double fromY, double toX, double toY);
+    /// A screen reader asks for this X.
+    void XAskedFor(double x);
     /// The wheel was turned over a place in plot units.
     void WheelTurned(double factor, double atX, double atY, ZoomAxes axes);
 

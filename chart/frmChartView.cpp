@@ -1,6 +1,7 @@
 #include "chart/frmChartView.h"
 
 #include "app/mdlPublic.h"
+#include "chart/ChartAccessible.h"
 #include "chart/LineTable.h"
 #include "chart/drawing/PainterSurface.h"
 #include "chart/layout/ChartDrawing.h"
@@ -18,6 +19,9 @@ static constexpr double ScreenShare = 0.7;
 static constexpr QSize SmallestStart(900, 600);
 /// Room for the frame of a window, which is not known before it is shown.
 static constexpr QSize FrameRoom(8, 40);
+
+/// A screen reader is told of a moving cursor four times a second at most.
+static constexpr int MilliSecondsBetweenTellings = 250;
 
 namespace Kept
 {
@@ -41,6 +45,8 @@ frmChartView::frmChartView(ViewedChart& viewedChart)
     scene.Marks.Dashed = chart.Host().Kept(Kept::Dashes).toBool();
     ui->mnuDashes->setChecked(scene.Marks.Dashed);
     ui->picChartView->SetScene(&scene);
+    static const bool installed = (ChartAccessible::Install(), true);
+    Q_UNUSED(installed);
     SetUpTable();
     Connect();
     ConnectCommands();
@@ -54,6 +60,16 @@ frmChartView::~frmChartView() = default;
 
 void frmChartView::Connect()
 {
+    telling.setSingleShot(true);
+    telling.setInterval(MilliSecondsBetweenTellings);
+    connect(&telling, &QTimer::timeout, this,
+            [this]
+            {
+                if (isChangeUntold)
+                {
+                    TellReader();
+                }
+            });
     connect(ui->txtCursorX, &QLineEdit::returnPressed, this, &frmChartView::EnterX);
     connect(ui->tblLines->horizontalHeader(), &QHeaderView::sectionClicked, table, &LineTable::SortNextWay);
     connect(table, &LineTable::RowsMoved, this, &frmChartView::ShowChosenRow);
@@ -96,6 +112,12 @@ void frmChartView::ConnectCanvas()
             [this](double x)
             {
                 scene.Cursors.Follow(x);
+                ShowCursors();
+            });
+    connect(canvas, &ChartCanvas::XAskedFor, this,
+            [this](double x)
+            {
+                scene.Cursors.MoveTo(x);
                 ShowCursors();
             });
     connect(canvas, &ChartCanvas::LineHovered, this, &frmChartView::Hover);

@@ -37,6 +37,10 @@ public:
     /// What is shown.
     const ViewScene& Scene() const { return scene; }
 
+Q_SIGNALS:
+    /// Screen readers are told where the cursors stand.
+    void CursorsTold();
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -76,6 +80,7 @@ private:
     void ShowCursors();
     void ShowCursorTexts();
     void ShowTable();
+    void TellReader();
     void PinCursor(double x);
     void StepCursor(int points);
     void EnterX();
@@ -129,6 +134,9 @@ private:
     /// Numbers of lines that have nothing in the range shown.
     QStringList unseen;
     double textScale = 1;
+    /// Runs while a screen reader has been told of a change just now.
+    QTimer telling;
+    bool isChangeUntold = false;
     bool hasCursor = false;
     bool hasOwnTableHeight = false;
     /// The room that columns have needed so far, below long headings and below short ones.

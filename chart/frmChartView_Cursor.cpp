@@ -2,6 +2,7 @@
 
 #include "calc/EngineeringText.h"
 #include "calc/NumberText.h"
+#include "chart/ChartAccessible.h"
 #include "chart/layout/AxisLimits.h"
 #include "chart/layout/FittingAxis.h"
 #include "chart/layout/Mapping.h"
@@ -82,6 +83,7 @@ void frmChartView::ShowCursorTexts()
                     QStringLiteral(" outside the range shown");
     }
     ShowTold(told.join(QStringLiteral("    ")), false);
+    TellReader();
     const auto& x = KindOf(XOf(scene));
     if (!ui->txtCursorX->hasFocus() || !ui->txtCursorX->isModified())
     {
@@ -90,6 +92,18 @@ void frmChartView::ShowCursorTexts()
     }
     ui->lblCursorX->setText(QStringLiteral("C&ursor %1").arg(QString::fromLatin1(x.Name)));
     ui->lblCursorUnit->setText(QString::fromStdString(ShownUnitOf(x.Id)));
+}
+
+/// Tells a screen reader where the cursors stand, now or when it has been left alone for a moment.
+void frmChartView::TellReader()
+{
+    isChangeUntold = telling.isActive();
+    if (!isChangeUntold)
+    {
+        telling.start();
+        ChartAccessible::TellChange(*ui->picChartView);
+        Q_EMIT CursorsTold();
+    }
 }
 
 /// Shows the line beside the entry; a refusal in red, and the entry with a red frame.

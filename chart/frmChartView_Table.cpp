@@ -138,6 +138,7 @@ void frmChartView::Choose(std::optional<int> line)
     if (line != scene.Chosen)
     {
         scene.Chosen = line;
+        TellReader();
         ui->picChartView->ShowOverlay();
     }
 }
