@@ -37,7 +37,7 @@ void frmChartView::ConnectCommands()
     connectTo(ui->mnuPrint, &frmChartView::mnuPrint_Click);
     connectTo(ui->mnuCopyTable, &frmChartView::mnuCopyTable_Click);
     connectTo(ui->mnuUseConditions, &frmChartView::mnuUseConditions_Click);
-    connectTo(ui->mnuHelp, [this] { chart.Host().ShowHelpTopic(QStringLiteral("chart-view")); });
+    connectTo(ui->mnuHelp, [this] { chart.Host().ShowHelpTopic(QStringLiteral("windows-view")); });
     connectTo(ui->mnuClose, &frmChartView::close);
     // The plus sign shares its key with the equals sign on many keyboards, and comes with Shift on others.
     ui->mnuZoomIn->setShortcuts(

@@ -3,6 +3,7 @@
 #include "app/mdlPublic.h"
 #include "chart/ChartPicture.h"
 #include "chart/frmGraph.h"
+#include "frame/frmHelp.h"
 #include "tests/chart/view/ViewDesk.h"
 
 #include <QApplication>
@@ -15,6 +16,7 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QTest>
+#include <QTextBlock>
 
 class ViewLifeTest : public QObject
 {
@@ -39,6 +41,7 @@ private Q_SLOTS:
     void ItsMenuOffersEveryCommandWithItsKey();
     void ConditionsGoToTheForm();
     void EntriesOfTheFormKeepControlE();
+    void HelpOpensAtItsPage();
 };
 
 static void SendContextMenu(QWidget* widget, const QPoint& place)
@@ -399,6 +402,21 @@ void ViewLifeTest::EntriesOfTheFormKeepControlE()
     QTest::keyClick(box, Qt::Key_E, Qt::ControlModifier);
     Settle();
     QCOMPARE(desk.View(), nullptr);
+}
+
+void ViewLifeTest::HelpOpensAtItsPage()
+{
+    const ViewDesk desk;
+    mdlPublic.PathSep = "/";
+    desk.Press(Qt::Key_F1);
+    QTextBrowser* page = nullptr;
+    for (const QWidget* window : QApplication::topLevelWidgets())
+    {
+        page = page != nullptr ? page : window->findChild<QTextBrowser*>("txtBook");
+    }
+    QVERIFY(page != nullptr);
+    QCOMPARE(page->cursorForPosition(QPoint(20, 8)).block().text().simplified(), "Chart view");
+    CloseHelp();
 }
 
 QTEST_MAIN(ViewLifeTest)
