@@ -12,7 +12,10 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QSplitter>
 #include <QStatusBar>
+#include <QTableWidget>
+#include <QToolBar>
 #include <QVBoxLayout>
 
 // ---- The selection form ----
@@ -151,4 +154,36 @@ QMdiSubWindow* AddBareChart(QMdiArea& area, const PaintSurface& paint)
     window->setWindowTitle(QStringLiteral("Capacitance-DC Bias Voltage"));
     window->setGeometry(200, 0, 733, 295);
     return window;
+}
+
+static QTableWidget* BareTable()
+{
+    auto* table = new QTableWidget(6, 8);
+    for (int row = 0; row < table->rowCount(); ++row)
+    {
+        for (int column = 0; column < table->columnCount(); ++column)
+        {
+            table->setItem(row, column, new QTableWidgetItem(QStringLiteral("4.372 \u00B5F")));
+        }
+    }
+    return table;
+}
+
+BareView::BareView()
+{
+    auto* tools = addToolBar(QStringLiteral("Tools"));
+    for (const char* text : {"Default Range", "Range", "To Chart Window", "Dashes", "Save Picture",
+                             "Save Data", "Copy", "Print", "Use These Conditions"})
+    {
+        tools->addAction(QString::fromLatin1(text));
+    }
+    auto* values = new QWidget;
+    auto* layout = new QVBoxLayout(values);
+    layout->addWidget(new QLineEdit(QStringLiteral("300")));
+    layout->addWidget(BareTable());
+    auto* splitter = new QSplitter(Qt::Vertical);
+    splitter->addWidget(new Surface([](QPainter&) {}, splitter));
+    splitter->addWidget(values);
+    splitter->setStretchFactor(0, 1);
+    setCentralWidget(splitter);
 }

@@ -31,3 +31,10 @@ using PaintSurface = std::function<void(QPainter& painter)>;
 
 /// Opens a window with a chart window's controls and menus, not shown yet.
 QMdiSubWindow* AddBareChart(QMdiArea& area, const PaintSurface& paint = {});
+
+/// A window with a chart view's controls: tool bar, surface, entry, and a table of six lines.
+class BareView : public QMainWindow
+{
+public:
+    BareView();
+};
