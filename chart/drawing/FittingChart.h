@@ -69,8 +69,6 @@ public:
     void DrawOverlay(const ChartOverlay& overlay, QPainter& painter) const;
     /// What cursors cover, tags and markers included; nothing for those that are out of view.
     QRegion StripsOf(const std::vector<CursorMark>& cursors) const;
-    /// The box around what one cursor alone covers.
-    QRectF StripOf(const CursorMark& cursor) const { return StripsOf({cursor}).boundingRect(); }
 
 private:
     QPointF PixelOf(const Point& user) const;
