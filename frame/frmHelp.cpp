@@ -229,6 +229,7 @@ void frmHelp::Print()
 
 void frmHelp::CloseWith(QWidget* window)
 {
+    printers = dynamic_cast<PrinterHost*>(window);
     if (owner != window)
     {
         delete closing;

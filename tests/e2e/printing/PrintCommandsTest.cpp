@@ -248,19 +248,26 @@ static void PrintDataBy(Desk& desk)
     PressPrint(desk);
 }
 
+/// Prints what a window beside the main window shows.
+static void PrintWindow(const char* form, DialogUse& use)
+{
+    for (const QWidget* window : QApplication::topLevelWidgets())
+    {
+        auto* const print = window->findChild<QAction*>("mnuPrint");
+        if (print != nullptr && window->objectName() == QLatin1String(form))
+        {
+            InPrinterDialog(use, [&] { print->trigger(); });
+        }
+    }
+}
+
 /// Opens the help book and prints it.
 static void PrintHelp(Desk& desk, DialogUse& use)
 {
     mdlPublic.PathSep = "/";
     desk.Area()->setActiveSubWindow(desk.Find<frmLibrary>("frmLibrary"));
     desk.Choose("mnuContents");
-    for (QWidget* window : QApplication::topLevelWidgets())
-    {
-        if (auto* const print = window->findChild<QAction*>("mnuPrint"))
-        {
-            InPrinterDialog(use, [&] { print->trigger(); });
-        }
-    }
+    PrintWindow("frmHelp", use);
 }
 
 void PrintCommandsTest::PaperOfTheSetUpHoldsForEveryPrint()
@@ -285,6 +292,18 @@ void PrintCommandsTest::PaperOfTheSetUpHoldsForEveryPrint()
     desk.Area()->setActiveSubWindow(desk.Charts().front());
     InPrinterDialog(again, [&] { PressPrint(desk); });
     QVERIFY(IsLetter(Printed("color"), false));
+
+    // Chart view and help are turned as set up.
+    QApplication::setActiveWindow(desk.main.get());
+    QTest::keyClick(desk.main.get(), Qt::Key_E, Qt::ControlModifier);
+    Settle();
+    DialogUse view{.OpenProperties = true};
+    PrintWindow("frmChartView", view);
+    QVERIFY(view.FirstPaper.startsWith("Letter"));
+    QTRY_VERIFY(QFile::exists(folder + "/color.pdf"));
+    const auto pages = Printed("color");
+    QVERIFY(IsLetter(pages, true));
+    QVERIFY(Holds(pages, ListedPart(desk, 0)));
 
     DialogUse help{.OpenProperties = true};
     PrintHelp(desk, help);
