@@ -4,7 +4,7 @@
 
 /// How far letters are condensed, and how far they are set smaller then, before a text is cut.
 static constexpr double leastCondensed = 0.75;
-static constexpr double leastSize = 0.7;
+static constexpr double leastSize = 0.6;
 
 FittedText::FittedText(const QString& text, double room, const QFontMetricsF& metrics)
     : shown(text)

@@ -29,8 +29,8 @@ void FittedTextTest::IsCondensedThenSmallerThenCut_data()
     QTest::newRow("as condensed as can be read") << 0.75 << 0.75 << 1.0 << false;
     // Three quarters across, and all of it four fifths as large.
     QTest::newRow("smaller too") << 0.6 << 0.6 << 0.8 << false;
-    QTest::newRow("as small as can be read") << 0.525 << 0.525 << 0.7 << false;
-    QTest::newRow("longer still") << 0.4 << 0.525 << 0.7 << true;
+    QTest::newRow("as small as can be read") << 0.45 << 0.45 << 0.6 << false;
+    QTest::newRow("longer still") << 0.4 << 0.45 << 0.6 << true;
 }
 
 void FittedTextTest::IsCondensedThenSmallerThenCut()

@@ -15,6 +15,7 @@
 #include "partdata/ValueNames.h"
 #include "tests/frame/Desk.h"
 #include "tests/frame/printing/PdfText.h"
+#include "tests/frame/printing/SamplePages.h"
 
 #include <QPdfWriter>
 #include <QPrinter>
@@ -35,6 +36,7 @@ private Q_SLOTS:
     void StandWholeInTheCopiedPicture();
     void StandWholeInThePictureOfTheCommandLine();
     void StandWholeOnThePage();
+    void StandWholeWithManyDigits();
 
 private:
     QString File() const { return folder.filePath(QStringLiteral("chart.pdf")); }
@@ -78,7 +80,7 @@ std::optional<ChartRecord> EverydayLine(const ChartKey& key, std::size_t n)
     return hasCurve ? std::optional(line) : std::nullopt;
 }
 
-std::vector<ChartRecord> SixLines(const ChartKey& key, std::size_t& n)
+std::vector<ChartRecord> EverydayLines(const ChartKey& key, std::size_t& n)
 {
     std::vector<ChartRecord> lines;
     while (lines.size() < linesOfAChart)
@@ -191,7 +193,7 @@ void PaneTextsTest::initTestCase()
     {
         for (const auto& key : keys)
         {
-            charts.push_back(SixLines(key, n));
+            charts.push_back(EverydayLines(key, n));
             PlaceCurves(ViewOf(charts.back()), charts.back());
         }
     }
@@ -279,6 +281,26 @@ void PaneTextsTest::StandWholeOnThePage()
             QVERIFY(Take(words, PartNumText(line.PartDataIndex, 0)));
         }
         QVERIFY(std::ranges::none_of(words, [](const PdfWord& word) { return word.Text.contains(u'…'); }));
+    }
+}
+
+void PaneTextsTest::StandWholeWithManyDigits()
+{
+    for (const auto& key : AllCharts())
+    {
+        auto lines = SixLines(key);
+        for (auto& line : lines)
+        {
+            line.DCBiasVoltage = 12.345678F;
+            line.HeatResistance = 123.45678F;
+            line.AmbientTemp = -12.345678F;
+        }
+        PlaceCurves(ViewOf(lines), lines);
+        const auto extent = TitledSheetSize();
+        WritePdf(File(), extent,
+                 [&](QPainter& painter) { DrawTitledSheet(ViewOf(lines), lines, PartNums(lines), painter); });
+        const QPointF corner(10, extent.height() - 10 - 248);
+        QVERIFY(PanesAreWhole(File(), lines, sheetPanes.translated(corner)));
     }
 }
 
