@@ -2,8 +2,12 @@
 ///
 ///     tour FOLDER
 ///
-/// A designer has a 12 V rail with 1.5 A of ripple at 300 kHz and compares three parts.
+/// A designer has a 12 V rail with 1.5 A of ripple at 300 kHz and compares three parts, once in JIS code,
+/// whose pictures have names that end in "-jis", and once in EIA code. The pictures of the help books have
+/// twice the pixels of their place on the page.
 
+#include "app/HelpLanguages.h"
+#include "app/PartNumText.h"
 #include "app/mdlPublic.h"
 #include "files/PartLoading.h"
 #include "frame/ProgramIcon.h"
@@ -21,7 +25,9 @@
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <iostream>
 
 namespace
@@ -29,6 +35,9 @@ namespace
 
 constexpr std::array<const char*, 3> ComparedParts = {"KTS31NR71E475KA01", "KTS21JB51E106MA01",
                                                       "KTS32XF51E106ZA01"};
+
+/// As wide as a picture may be on a page of the help.
+constexpr int WidestPlace = 620;
 
 /// Room for the selection form and a chart window beside it.
 constexpr QSize TourSize(1010, 700);
@@ -40,6 +49,7 @@ public:
     User(frmMain& mainWindow, const QDir& pictureFolder)
         : window(mainWindow)
         , folder(pictureFolder)
+        , nameEnd(GetCodeView() == CodeView::Jis ? "-jis" : "")
     {
     }
 
@@ -53,7 +63,7 @@ public:
     {
         auto* box = Find<QComboBox>(QStringLiteral("cmbPartNum"));
         box->lineEdit()->selectAll();
-        QTest::keyClicks(box, QString::fromLatin1(partNum));
+        QTest::keyClicks(box, NumberOnDisplay(partNum));
     }
 
     void Enter(const char* box, const char* entry)
@@ -67,13 +77,23 @@ public:
     void Plot() { QTest::mouseClick(Find<QPushButton>(QStringLiteral("cmdPlot")), Qt::LeftButton); }
 
     /// The whole window, as it stands.
-    void SaveWindow(const char* name) { Save(window, name); }
+    void SaveWindow(const char* name) { Save(window.grab(), name); }
 
-    /// The selection form alone.
-    void SaveForm(const char* name) { Save(*Find<QWidget>(QStringLiteral("frmLibraryContents")), name); }
+    /// The selection form alone, down to Plot.
+    void SaveForm(const char* name)
+    {
+        QApplication::processEvents();
+        auto* form = Find<QWidget>(QStringLiteral("frmLibraryContents"));
+        const auto* last = Find<QPushButton>(QStringLiteral("cmdPlot"));
+        Save(PictureForHelp(*form, {form->width(), last->geometry().bottom() + 3}), name);
+    }
 
     /// The chart window in front, alone.
-    void SaveChart(const char* name) { Save(*window.findChild<QMdiArea*>()->activeSubWindow(), name); }
+    void SaveChart(const char* name)
+    {
+        QWidget& chart = *window.findChild<QMdiArea*>()->activeSubWindow();
+        Save(PictureForHelp(chart, chart.size()), name);
+    }
 
     /// The axis-range dialog of the chart in front.
     void SaveAxisRange(const char* name)
@@ -82,7 +102,7 @@ public:
                            [this, name]
                            {
                                QWidget* dialog = QApplication::activeModalWidget();
-                               Save(*dialog, name);
+                               Save(PictureForHelp(*dialog, dialog->size()), name);
                                dialog->close();
                            });
         window.findChild<QMdiArea*>()->activeSubWindow()->findChild<QAction*>("mnuChartExpand")->trigger();
@@ -98,17 +118,38 @@ private:
         return control;
     }
 
-    void Save(QWidget& widget, const char* name)
+    /// The number of a part in the code on display, by its global EIA number.
+    static QString NumberOnDisplay(const char* partNum)
+    {
+        return PartNumText(*mdlPublic.Parts.PartIndex[0].Find(partNum), GetPartNumForm());
+    }
+
+    /// The upper left part of a widget, drawn with twice the pixels that its place on a page of the help has.
+    static QPixmap PictureForHelp(QWidget& widget, const QSize& part)
     {
         QApplication::processEvents();
-        const QString file = folder.filePath(QString::fromLatin1(name) + QStringLiteral(".png"));
-        const bool saved = widget.grab().save(file);
+        const double scale = std::min(1.0, double{WidestPlace} / part.width());
+        const QSize place(qRound(part.width() * scale), static_cast<int>(std::ceil(part.height() * scale)));
+        QPixmap picture(2 * place);
+        picture.fill(Qt::white);
+        picture.setDevicePixelRatio(2 * scale);
+        widget.render(&picture, {}, QRect({}, part));
+        picture.setDevicePixelRatio(1);
+        return picture;
+    }
+
+    void Save(const QPixmap& picture, const char* name)
+    {
+        const QString file =
+            folder.filePath(QLatin1String(name) + QLatin1String(nameEnd) + QStringLiteral(".png"));
+        const bool saved = picture.save(file);
         allSaved = allSaved && saved;
         std::cout << (saved ? "saved " : "cannot write ") << file.toStdString() << '\n';
     }
 
     frmMain& window;
     QDir folder;
+    const char* nameEnd;
     bool allSaved = true;
 };
 
@@ -119,6 +160,7 @@ void CompareTemperatureRise(User& user)
         user.TypePart(part);
         user.Enter("txtDCBiasVol", "12");
         user.Enter("txtFrequency", "300");
+        user.Enter("txtAmbientTemp", "25");
         if (part == ComparedParts.front())
         {
             user.SaveForm("selection-form");
@@ -137,6 +179,7 @@ void CompareAllowablePower(User& user)
     {
         user.TypePart(part);
         user.Enter("txtDCBiasVol", "12");
+        user.Enter("txtAmbientTemp", "25");
         user.Plot();
     }
     user.SaveChart("allowable-power");
@@ -157,9 +200,26 @@ void CompareCapacitance(User& user)
     for (const char* part : ComparedParts)
     {
         user.TypePart(part);
+        user.Enter("txtAmbientTemp", "25");
         user.Plot();
     }
     user.SaveChart("capacitance-dc-voltage");
+}
+
+/// The whole job in a window of its own; false where a picture could not be written.
+bool CompareInLanguage(std::int16_t helpLanguage, const QDir& folder)
+{
+    mdlPublic.HelpLanguage = helpLanguage;
+    mdlPublic.Charts = ChartStore{};
+    frmMain mainWindow;
+    // As on a usual desktop: the screen that stands in for a display is small.
+    mainWindow.resize(TourSize);
+    mainWindow.show();
+    User user(mainWindow, folder);
+    CompareTemperatureRise(user);
+    CompareAllowablePower(user);
+    CompareCapacitance(user);
+    return user.AllSaved();
 }
 
 } // namespace
@@ -177,15 +237,13 @@ int main(int argc, char* argv[])
     {
         mdlPublic.Parts = LoadPartData(QApplication::applicationDirPath().toStdString());
         mdlPublic.DegreeSign = "\xB0";
-        frmMain mainWindow;
-        // As on a usual desktop: the screen that stands in for a display is small.
-        mainWindow.resize(TourSize);
-        mainWindow.show();
-        User user(mainWindow, QDir(QString::fromLocal8Bit(argv[1])));
-        CompareTemperatureRise(user);
-        CompareAllowablePower(user);
-        CompareCapacitance(user);
-        return user.AllSaved() ? 0 : 1;
+        const QDir folder(QString::fromLocal8Bit(argv[1]));
+        bool allSaved = true;
+        for (const HelpLanguageRow& language : HelpLanguages)
+        {
+            allSaved = CompareInLanguage(language.Number, folder) && allSaved;
+        }
+        return allSaved ? 0 : 1;
     }
     catch (const RunTimeError& error)
     {

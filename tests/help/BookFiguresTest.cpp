@@ -2,6 +2,7 @@
 
 #include "calc/Calculate.h"
 #include "calc/DataFile.h"
+#include "chart/layout/PaneText.h"
 #include "files/PartLoading.h"
 
 #include <gmock/gmock.h>
@@ -155,6 +156,32 @@ TEST_P(BookFigures, TellTheLinesOfADataFile)
     const auto dataLine = [&line](std::size_t point)
     { return "\n" + DataXText(line, point) + "            " + DataYText(line, point) + "\n"; };
     EXPECT_THAT(book, testing::HasSubstr(dataLine(0) + dataLine(1).substr(1) + "..." + dataLine(199)));
+}
+
+/// A whole entry of the table of panes.
+std::string PaneExample(const ChartRecord& line)
+{
+    return "<code>" + PaneText(line) + "</code>";
+}
+
+TEST_P(BookFigures, TellWhatPanesShow)
+{
+    ChartRecord overLoad = Line(0, 0, "Current", "Temperature Rise");
+    overLoad.Frequency = 300;
+    EXPECT_THAT(book, testing::HasSubstr(PaneExample(overLoad)));
+
+    ChartRecord overFrequency = Line(0, 0, "Frequency", "Temperature Rise");
+    overFrequency.ParameterName = "Current";
+    overFrequency.ParameterValue = 1.5F;
+    EXPECT_THAT(book, testing::HasSubstr(PaneExample(overFrequency)));
+
+    // The largest load is that of the whole curve, not of one frequency.
+    ChartRecord allowable = Line(0, 1, "Frequency", "Current");
+    ASSERT_FALSE(Calculate(Part(0), allowable, BookView()));
+    EXPECT_THAT(book, testing::HasSubstr(PaneExample(allowable)));
+
+    EXPECT_THAT(book, testing::HasSubstr(PaneExample(Line(0, 2, "Temperature", "Capacitance"))));
+    EXPECT_THAT(book, testing::HasSubstr(PaneExample(Line(0, 3, "DC Bias Voltage", "Capacitance"))));
 }
 
 INSTANTIATE_TEST_SUITE_P(Books, BookFigures, testing::Values("tavike.hlp", "tavikj.hlp"),

@@ -38,6 +38,7 @@ std::vector<std::string> All(const std::string& text, const char* pattern)
 /// The text with its lines joined and its entities and tags taken away.
 std::string PlainText(std::string text)
 {
+    text = std::regex_replace(text, std::regex("<br/>"), " ");
     text = std::regex_replace(text, std::regex("<[^>]*>"), "");
     text = std::regex_replace(text, std::regex("&quot;"), "\"");
     text = std::regex_replace(text, std::regex("&amp;"), "&");
@@ -87,6 +88,58 @@ TEST_P(EachBook, ShowsPicturesThatExist)
     }
 }
 
+/// Width and height, as a PNG file tells them behind its first 16 bytes.
+std::pair<int, int> PixelsOf(const std::string& picture)
+{
+    const std::string bytes = BookText(picture);
+    const auto number = [&bytes](std::size_t at)
+    {
+        int value = 0;
+        for (std::size_t i = at; i < at + 4; ++i)
+        {
+            value = value * 256 + static_cast<unsigned char>(bytes.at(i));
+        }
+        return value;
+    };
+    return {number(16), number(20)};
+}
+
+TEST_P(EachBook, ShowsPicturesWithTwiceThePixelsOfTheirPlace)
+{
+    const auto text = BookText(GetParam());
+    const auto pictures = All(text, "<img width=\"\\d+\" height=\"\\d+\" src=\"([^\"]+)\"");
+    EXPECT_EQ(pictures.size(), All(text, "<(img) ").size());
+    for (const auto& picture : pictures)
+    {
+        const auto width = All(text, ("<img width=\"(\\d+)\" height=\"\\d+\" src=\"" + picture).c_str());
+        const auto height = All(text, ("<img width=\"\\d+\" height=\"(\\d+)\" src=\"" + picture).c_str());
+        const auto [pixelsAcross, pixelsDown] = PixelsOf(picture);
+        EXPECT_LE(std::stoi(width.at(0)), 620) << picture;
+        EXPECT_EQ(pixelsAcross, 2 * std::stoi(width.at(0))) << picture;
+        EXPECT_EQ(pixelsDown, 2 * std::stoi(height.at(0))) << picture;
+    }
+}
+
+/// Only the dialog for axis ranges names no part.
+TEST(Books, ShowTheFormsInTheCodeTheyAreWrittenFor)
+{
+    for (const auto& picture : All(BookText("tavikj.hlp"), "<img [^>]*src=\"([^\"]+)\""))
+    {
+        EXPECT_TRUE(picture.ends_with("-jis.png") || picture.ends_with("axis-range.png")) << picture;
+    }
+    for (const auto& picture : All(BookText("tavike.hlp"), "<img [^>]*src=\"([^\"]+)\""))
+    {
+        EXPECT_FALSE(picture.ends_with("-jis.png")) << picture;
+    }
+}
+
+TEST_P(EachBook, BearsATitleOfItsOwn)
+{
+    const auto title = All(BookText(GetParam()), "<title>([^<]+)</title>");
+    ASSERT_EQ(title.size(), 1U);
+    EXPECT_THAT(title[0], testing::EndsWith(" - Halvex Chip Capacitor Characteristics Data Library"));
+}
+
 TEST_P(EachBook, HasNoEmptyChapter)
 {
     const auto text = std::regex_replace(BookText(GetParam()), std::regex("\\n"), " ");
@@ -134,6 +187,8 @@ TEST(Books, ExplainEveryMessage)
              "Unexpected Error",
              "There is no printer in this system.",
              "Would you print",
+             "Path does not exist. Please verify the correct path was given.",
+             "File name is not valid. Please enter another name.",
          })
     {
         EXPECT_THAT(english, testing::HasSubstr(message));
