@@ -1,7 +1,11 @@
 #include "frame/HelpBrowser.h"
 
+#include "frame/HelpPictures.h"
+
+#include <QAbstractTextDocumentLayout>
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QWheelEvent>
 
@@ -18,6 +22,15 @@ HelpBrowser::HelpBrowser(QWidget* parent)
     , firstPointSize(font().pointSizeF())
 {
     setOpenLinks(false);
+    document()->documentLayout()->registerHandler(QTextFormat::ImageObject, new HelpPictures(this));
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this,
+            [this]
+            {
+                if (!keepsPlace)
+                {
+                    place = cursorForPosition(QPoint(0, 0)).position();
+                }
+            });
     // Later, since the page still brings a link that was chosen by key into view.
     connect(this, &QTextBrowser::anchorClicked, this, &HelpBrowser::FollowLink, Qt::QueuedConnection);
 }
@@ -157,14 +170,31 @@ void HelpBrowser::ClearMarks()
     setTextCursor(cursor);
 }
 
-// Zoom.
+// Zoom and size.
+
+/// Changes how the text breaks into lines, with the line that stood at the top of the page still there. The
+/// place stays the same through any number of changes.
+void HelpBrowser::KeepPlace(const std::function<void()>& change)
+{
+    keepsPlace = true;
+    change();
+    QTextCursor top(document());
+    top.setPosition(std::min(place, document()->characterCount() - 1));
+    verticalScrollBar()->setValue(place == 0 ? 0 : verticalScrollBar()->value() + cursorRect(top).top());
+    keepsPlace = false;
+}
+
+void HelpBrowser::resizeEvent(QResizeEvent* event)
+{
+    KeepPlace([&] { QTextBrowser::resizeEvent(event); });
+}
 
 void HelpBrowser::ZoomBy(int steps)
 {
     zoomSteps = std::clamp(zoomSteps + steps, SmallestZoom, LargestZoom);
     auto zoomed = font();
     zoomed.setPointSizeF(firstPointSize + zoomSteps);
-    setFont(zoomed);
+    KeepPlace([&] { setFont(zoomed); });
 }
 
 void HelpBrowser::ResetZoom()

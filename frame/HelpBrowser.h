@@ -4,6 +4,7 @@
 
 #include <QTextBrowser>
 
+#include <functional>
 #include <vector>
 
 /// One heading of a book.
@@ -45,15 +46,20 @@ public:
 
 protected:
     void wheelEvent(QWheelEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     QVariant loadResource(int type, const QUrl& name) override;
 
 private:
     void GoTo(const QUrl& place);
     void FollowLink(const QUrl& link);
     int MarkAll(const QString& text);
+    void KeepPlace(const std::function<void()>& change);
 
     QUrl book;
     QString bookHtml;
     qreal firstPointSize;
     int zoomSteps = 0;
+    /// The character at the top of the page, where the reader has come to.
+    int place = 0;
+    bool keepsPlace = false;
 };

@@ -23,15 +23,17 @@ StartPlace::StartPlace(QWidget* placedWindow, const QSize& wantedSize)
     , window(placedWindow)
     , wanted(wantedSize)
 {
-    window->setGeometry(PlaceInside(window->screen()->availableGeometry(), wanted, UsualFrame));
+    const QRect place = PlaceInside(window->screen()->availableGeometry(), wanted, UsualFrame);
+    placed = place.size();
+    window->setGeometry(place);
     window->installEventFilter(this);
 }
 
-/// A frame that is larger than usual still stands inside.
+/// A frame that is larger than usual still stands inside. A size that was given since stays.
 void StartPlace::Correct()
 {
     const QRect free = window->screen()->availableGeometry();
-    if (!window->isMaximized() && !window->isFullScreen() && !free.contains(window->frameGeometry()))
+    if (window->size() == placed && !free.contains(window->frameGeometry()))
     {
         window->setGeometry(PlaceInside(free, wanted, FrameOf(*window)));
     }

@@ -29,4 +29,5 @@ private:
 
     QWidget* window;
     QSize wanted;
+    QSize placed;
 };

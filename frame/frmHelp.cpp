@@ -8,12 +8,14 @@
 #include "frame/HelpBook.h"
 #include "frame/PrintJob.h"
 #include "frame/PrinterHost.h"
+#include "frame/StartPlace.h"
 #include "ui_frmHelp.h"
 
 #include <QKeyEvent>
 #include <QPointer>
 #include <QPrinter>
 #include <QShortcut>
+#include <QToolButton>
 
 #include <algorithm>
 
@@ -58,6 +60,7 @@ frmHelp::frmHelp()
     : ui(std::make_unique<Ui::frmHelp>())
 {
     ui->setupUi(this);
+    new StartPlace(this, size());
     // The program ends with its main window, also while help is open.
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -66,6 +69,7 @@ frmHelp::frmHelp()
     // Search box and answer stand behind the buttons, which then stay where they are.
     const auto searchBox = ui->tbrHelp->actions().first(2);
     ui->tbrHelp->addActions(searchBox);
+    LetTabReachTheTools();
     Connect();
 }
 
@@ -108,6 +112,8 @@ void frmHelp::Connect()
 
 void frmHelp::ShowBook(const QString& file, const QString& html)
 {
+    words = HelpWordsOf(html);
+    ShowWords();
     ui->txtBook->ShowBook(file, html);
     const auto title = ui->txtBook->documentTitle();
     setWindowTitle(title.isEmpty() ? ProgramTitle() : title);
@@ -124,6 +130,45 @@ void frmHelp::SearchFor(const QString& text)
     {
         FindNext();
     }
+}
+
+/// The tools and answers speak the language of the book.
+void frmHelp::ShowWords()
+{
+    const auto show = [](QAction* action, const QString& text, const QString& tip)
+    {
+        action->setText(text);
+        action->setToolTip(tip);
+    };
+    show(ui->mnuHome, words.Start, words.StartTip);
+    show(ui->mnuBack, words.Back, words.BackTip);
+    show(ui->mnuForward, words.Forward, words.ForwardTip);
+    show(ui->mnuPrint, words.Print, words.PrintTip);
+    show(ui->mnuFindPrevious, words.Previous, words.PreviousTip);
+    show(ui->mnuFindNext, words.Next, words.NextTip);
+    ui->mnuZoomOut->setToolTip(words.SmallerTip);
+    ui->mnuZoomReset->setToolTip(words.NormalTip);
+    ui->mnuZoomIn->setToolTip(words.LargerTip);
+    ui->txtFind->setPlaceholderText(words.Search);
+    ui->txtFind->setAccessibleName(words.Search);
+    ui->treContents->setAccessibleName(words.Contents);
+    ui->txtBook->setAccessibleName(words.Page);
+    ui->tbrHelp->setWindowTitle(words.Tools);
+}
+
+/// A tool bar keeps its buttons to the mouse otherwise.
+void frmHelp::LetTabReachTheTools()
+{
+    for (QAction* action : ui->tbrHelp->actions())
+    {
+        if (auto* button = qobject_cast<QToolButton*>(ui->tbrHelp->widgetForAction(action)))
+        {
+            button->setFocusPolicy(Qt::TabFocus);
+        }
+    }
+    // An answer can be gone through, and copied, by keys.
+    ui->lblFound->setTextInteractionFlags(Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse);
+    ui->lblFound->setFocusPolicy(Qt::NoFocus);
 }
 
 void frmHelp::FillContents()
@@ -191,9 +236,10 @@ void frmHelp::TellPlaces(int count)
         ui->txtBook->ClearMarks();
     }
     ui->lblFound->setText(text.isEmpty() ? QString()
-                          : count == 0   ? QStringLiteral("Not found")
-                          : count == 1   ? QStringLiteral("Found once")
-                                         : QStringLiteral("Found %1 times").arg(count));
+                          : count == 0   ? words.NotFound
+                          : count == 1   ? words.FoundOnce
+                                         : words.FoundTimes.arg(count));
+    ui->lblFound->setFocusPolicy(text.isEmpty() ? Qt::NoFocus : Qt::StrongFocus);
 }
 
 /// Leaves the search first, then the viewer.

@@ -3,6 +3,7 @@
 /// The help viewer: a book, its contents and a search through it.
 
 #include "frame/HelpBrowser.h"
+#include "frame/HelpWords.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -52,6 +53,8 @@ protected:
 
 private:
     void Connect();
+    void ShowWords();
+    void LetTabReachTheTools();
     void FillContents();
     void ShowTopicOf(const QTreeWidgetItem* item);
     void GoHome();
@@ -63,6 +66,7 @@ private:
 
     std::unique_ptr<Ui::frmHelp> ui;
     std::vector<HelpTopic> topics;
+    HelpWords words;
     /// What it closes with.
     QPointer<QWidget> owner;
     QPointer<ClosesWith> closing;

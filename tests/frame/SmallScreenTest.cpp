@@ -2,6 +2,7 @@
 
 #include "chart/frmGraph.h"
 #include "frame/StartPlace.h"
+#include "frame/frmHelp.h"
 #include "tests/frame/Desk.h"
 
 #include <QLayout>
@@ -19,6 +20,7 @@ class SmallScreenTest : public QObject
 
 private Q_SLOTS:
     void StandsInsideTheScreen();
+    void HelpStandsInsideTheScreen();
     void StartsTheSameASecondTime();
     void PlotStaysInSight();
     void ControlsInUseComeIntoSight_data();
@@ -39,6 +41,24 @@ void SmallScreenTest::StandsInsideTheScreen()
     // It takes what there is, up to its own size.
     QVERIFY(desk.main->width() >= std::min(1010, screen.width() - 20));
     QVERIFY(desk.main->height() >= std::min(700, screen.height() - 50));
+}
+
+void SmallScreenTest::HelpStandsInsideTheScreen()
+{
+    OpenHelp(TEST_DATA "/../help/tavike.hlp");
+    Settle();
+    int viewers = 0;
+    for (const QWidget* window : QApplication::topLevelWidgets())
+    {
+        if (qobject_cast<const frmHelp*>(window) != nullptr)
+        {
+            ++viewers;
+            QVERIFY(window->screen()->availableGeometry().contains(window->frameGeometry()));
+            QVERIFY(window->width() == 920);
+        }
+    }
+    QCOMPARE(viewers, 1);
+    CloseHelp();
 }
 
 void SmallScreenTest::StartsTheSameASecondTime()
