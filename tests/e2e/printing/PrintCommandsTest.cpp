@@ -454,7 +454,7 @@ void PrintCommandsTest::PrintedHelpBearsItsTitle()
     PrintHelp(desk, use);
     const auto file = folder + "/gray.pdf";
     QTRY_VERIFY_WITH_TIMEOUT(!ReadPdf(file).empty(), 10000);
-    QCOMPARE(TitleOfPdf(file), QString("Halvex Chip Capacitor Characteristics Data Library"));
+    QCOMPARE(TitleOfPdf(file), QString("Help - Halvex Chip Capacitor Characteristics Data Library"));
     QVERIFY(desk.TakeBoxes().empty());
     QFile::remove(file);
 }
