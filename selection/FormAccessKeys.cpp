@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QLabel>
+#include <QRadioButton>
 #include <QShortcut>
 
 /// The control that an access key leads to: a label's box, a frame's button that is on, or a button itself.
