@@ -23,6 +23,7 @@ void User::Compare()
 {
     ++comparisons;
     CompareForm();
+    CompareHint();
     CompareCharts();
     CompareStore();
     ComparePlaces();
@@ -112,6 +113,23 @@ void User::CompareForm()
     const QRect place = hands->Find<frmLibrary>("frmLibrary")->geometry();
     found.Same("the place of the selection form", place,
                QRect(0, 0, 200, hands->Area()->viewport()->height()));
+}
+
+/// The status bar says what is missing just while something is. What it says of an empty list goes first.
+void User::CompareHint()
+{
+    const QString hint = hands->Find<QLabel>("lblHint")->text();
+    if (hint.contains(" is empty: "))
+    {
+        found.Check(UpperLists.contains(hands->Focus()), "another control has the focus: " + hint);
+        return;
+    }
+    const bool isEntered =
+        std::ranges::none_of(ConditionBoxes, [this](const QString& box)
+                             { return form->IsEnabled(box) && form->Boxes[box].isEmpty(); });
+    found.Same("the hint \"" + hint + "\" is of conditions", hint.startsWith("Plot still needs: "),
+               form->CanPlot && !isEntered);
+    found.Same("the hint \"" + hint + "\" says nothing", hint.isEmpty(), form->CanPlot && isEntered);
 }
 
 // ---- Chart windows ----

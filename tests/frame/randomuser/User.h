@@ -120,6 +120,7 @@ private:
     void Compare();
     void CompareLists();
     void CompareForm();
+    void CompareHint();
     void CompareCharts();
     void ComparePanes(const frmGraph* chart, const PlainWindow& window);
     void CompareStore();
