@@ -3,9 +3,11 @@
 #include "chart/drawing/FontRuler.h"
 #include "chart/drawing/QtColors.h"
 #include "chart/layout/FittingLayout.h"
+#include "partdata/OneLine.h"
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 /// In text sizes: blank beside the texts of a cell, height of a row, length of a chip's line and the blank
 /// around line and badge.
@@ -24,9 +26,9 @@ namespace
 class LegendPainter
 {
 public:
-    LegendPainter(const LegendTable& legendTable, const QRectF& legendPlace, const LineMarks& lineMarks,
+    LegendPainter(LegendTable legendTable, const QRectF& legendPlace, const LineMarks& lineMarks,
                   QPainter& legendPainter)
-        : table(legendTable)
+        : table(std::move(legendTable))
         , place(legendPlace)
         , marks(lineMarks)
         , painter(legendPainter)
@@ -158,7 +160,7 @@ private:
         }
     }
 
-    const LegendTable& table;
+    LegendTable table;
     QRectF place;
     const LineMarks& marks;
     QPainter& painter;
@@ -171,6 +173,19 @@ private:
 
 } // namespace
 
+/// A row has room for one line, and a file of a picture for no control characters.
+static LegendTable WithoutControls(LegendTable table)
+{
+    for (auto& row : table.Rows)
+    {
+        for (QString& text : row.Texts)
+        {
+            text = QString::fromStdString(WithoutControls(text.toStdString()));
+        }
+    }
+    return table;
+}
+
 double LegendHeight(std::size_t rows, double textSize)
 {
     return static_cast<double>(rows + 1) * rowHeight * textSize;
@@ -179,7 +194,7 @@ double LegendHeight(std::size_t rows, double textSize)
 void DrawLegend(const LegendTable& table, const QRectF& place, const LineMarks& marks, QPainter& painter)
 {
     painter.save();
-    LegendPainter(table, place, marks, painter).Draw();
+    LegendPainter(WithoutControls(table), place, marks, painter).Draw();
     painter.restore();
 }
 

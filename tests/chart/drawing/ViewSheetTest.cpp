@@ -18,6 +18,7 @@ private Q_SLOTS:
     void SheetsHaveEvenWhiteMargins();
     void MonochromeSheetsHaveNoColour();
     void DrawingsHoldTitleAndAllTextsWhole();
+    void DrawingsHoldNoControlCharacters();
     void PaintersKeepNothing();
 };
 
@@ -179,6 +180,17 @@ void ViewSheetTest::DrawingsHoldTitleAndAllTextsWhole()
     {
         QVERIFY2(svg.contains('>' + text.toUtf8() + '<'), text.toUtf8().data());
     }
+}
+
+void ViewSheetTest::DrawingsHoldNoControlCharacters()
+{
+    const auto lines = FallingLines(1, "A\nB\x01");
+    const auto sheet = Sheet(lines);
+    const auto svg = PictureTypeOf("a.svg")->Write({QSizeF(600, 400), sheet.Title, [&](QPainter& painter) {
+                                                        DrawViewSheet(sheet, {600, 400}, painter);
+                                                    }});
+    QVERIFY(svg.contains(">A\\x0AB\\x01<"));
+    QVERIFY(!svg.contains('\x01'));
 }
 
 void ViewSheetTest::PaintersKeepNothing()
