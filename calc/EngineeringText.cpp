@@ -95,7 +95,7 @@ bool ReadsZero(const EngineeringForm& form, double value)
     return NumberOf(form, value) == "0";
 }
 
-std::string WithMinusSign(std::string number)
+std::string WithMinusSign(const std::string& number)
 {
     return number.starts_with('-') ? std::string(MinusSign) + number.substr(1) : number;
 }
@@ -123,7 +123,7 @@ std::string DifferenceToText(const EngineeringForm& form, std::optional<double> 
     {
         return std::string(NoValueText);
     }
-    const auto text = DifferenceText(form, *value - *reference);
+    auto text = DifferenceText(form, *value - *reference);
     if (!form.HasRatios || ReadsZero(form, *reference))
     {
         return text;

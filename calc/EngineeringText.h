@@ -15,7 +15,7 @@ inline constexpr std::string_view NoValueText = "\u2013";
 inline constexpr std::string_view MinusSign = "\u2212";
 
 /// A text of ours with the sign that is set, where it has one.
-std::string WithMinusSign(std::string number);
+std::string WithMinusSign(const std::string& number);
 
 /// How texts that stand together read: in one unit, with one number of decimals.
 struct EngineeringForm

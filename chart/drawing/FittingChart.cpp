@@ -2,7 +2,6 @@
 
 #include "chart/drawing/FontRuler.h"
 #include "chart/drawing/QtColors.h"
-#include "chart/layout/Mapping.h"
 
 #include <algorithm>
 #include <cmath>
@@ -28,6 +27,8 @@ FittingChart::FittingChart(ChartView chartView, std::span<const ViewedLine> line
     , extent(roomExtent)
     , marks(lineMarks)
     , layout(LayOutFitting(view, extent.width(), extent.height(), FontRuler(marks.TextSize)))
+    , xAxis(XAxisKind(view.Chart), view.Range.XMin, view.Range.XMax)
+    , yAxis(YAxisKind(view.Chart), view.Range.YMin, view.Range.YMax)
 {
     for (const auto& line : lines)
     {
@@ -59,28 +60,23 @@ QPointF FittingChart::PixelOf(const Point& user) const
 
 double FittingChart::XAt(double pixel) const
 {
-    const AxisMapping axis(XAxisKind(view.Chart), view.Range.XMin, view.Range.XMax);
-    return axis.Value((pixel - layout.Plot.Left) / layout.Plot.Width * 100);
+    return xAxis.Value((pixel - layout.Plot.Left) / layout.Plot.Width * 100);
 }
 
 double FittingChart::YAt(double pixel) const
 {
-    const AxisMapping axis(YAxisKind(view.Chart), view.Range.YMin, view.Range.YMax);
-    return axis.Value((Plot().bottom() - pixel) / layout.Plot.Height * 100);
+    return yAxis.Value((Plot().bottom() - pixel) / layout.Plot.Height * 100);
 }
 
 std::optional<double> FittingChart::PixelOfX(double x) const
 {
-    const AxisMapping axis(XAxisKind(view.Chart), view.Range.XMin, view.Range.XMax);
-    return axis.Contains(static_cast<float>(x)) ? std::optional(PixelOf({axis.Position(x), 0}).x())
-                                                : std::nullopt;
+    return xAxis.Contains(static_cast<float>(x)) ? std::optional(PlaceOfX(x)) : std::nullopt;
 }
 
 std::optional<double> FittingChart::PixelOfY(double y) const
 {
-    const AxisMapping axis(YAxisKind(view.Chart), view.Range.YMin, view.Range.YMax);
-    return axis.Contains(static_cast<float>(y)) ? std::optional(PixelOf({0, axis.Position(y)}).y())
-                                                : std::nullopt;
+    return yAxis.Contains(static_cast<float>(y)) ? std::optional(PixelOf({0, yAxis.Position(y)}).y())
+                                                 : std::nullopt;
 }
 
 std::optional<int> FittingChart::LineNear(const QPointF& position, double within) const
@@ -146,7 +142,7 @@ void FittingChart::DrawBadges(std::optional<int> thick, QPainter& painter) const
 
 void FittingChart::DrawHairline(const CursorMark& cursor, QPainter& painter) const
 {
-    const double x = *PixelOfX(cursor.X);
+    const double x = PlaceOfX(cursor.X);
     const double pixel = std::max(1.0, std::round(marks.Pixel()));
     QPen pen(QtColor(frameColor), pixel);
     pen.setCapStyle(Qt::FlatCap);
@@ -162,7 +158,7 @@ void FittingChart::DrawHairline(const CursorMark& cursor, QPainter& painter) con
 QRectF FittingChart::TagBox(const CursorMark& cursor) const
 {
     const double width = FontRuler(marks.TextSize).WidthOf(cursor.Tag.toStdString()) + 2 * Sized(tagBlank);
-    const double left = *PixelOfX(cursor.X) - width / 2;
+    const double left = PlaceOfX(cursor.X) - width / 2;
     return {std::clamp(left, 0.0, std::max(0.0, extent.width() - width)), Plot().top() - Sized(tagHeight) - 2,
             width, Sized(tagHeight)};
 }
@@ -178,11 +174,8 @@ std::vector<CursorMark> FittingChart::InView(const std::vector<CursorMark>& curs
 /// The tags of cursors in view; two that would overlap stand side by side.
 std::vector<QRectF> FittingChart::TagBoxes(const std::vector<CursorMark>& cursors) const
 {
-    std::vector<QRectF> boxes;
-    for (const auto& cursor : cursors)
-    {
-        boxes.push_back(TagBox(cursor));
-    }
+    std::vector<QRectF> boxes(cursors.size());
+    std::ranges::transform(cursors, boxes.begin(), [this](const auto& cursor) { return TagBox(cursor); });
     if (boxes.size() == 2)
     {
         const bool inOrder = cursors[0].X <= cursors[1].X;
@@ -210,12 +203,13 @@ void FittingChart::DrawTag(const QString& tag, const QRectF& box, QPainter& pain
 
 void FittingChart::DrawMarkers(const CursorMark& cursor, QPainter& painter) const
 {
-    const double x = *PixelOfX(cursor.X);
+    const double x = PlaceOfX(cursor.X);
     painter.setRenderHint(QPainter::Antialiasing, true);
     painter.setBrush(Qt::white);
     for (std::size_t line = 0; line < cursor.Values.size(); ++line)
     {
-        const auto y = cursor.Values[line] ? PixelOfY(*cursor.Values[line]) : std::nullopt;
+        const auto& value = cursor.Values[line];
+        const auto y = value ? PixelOfY(*value) : std::nullopt;
         if (y)
         {
             painter.setPen(
@@ -256,7 +250,7 @@ QRegion FittingChart::StripsOf(const std::vector<CursorMark>& cursors) const
     }
     for (const auto& cursor : seen)
     {
-        const double x = *PixelOfX(cursor.X);
+        const double x = PlaceOfX(cursor.X);
         strips += QRectF(x - half, Plot().top() - half, 2 * half, Plot().height() + 2 * half).toAlignedRect();
     }
     return strips;

@@ -6,6 +6,7 @@
 #include "chart/drawing/PainterSurface.h"
 #include "chart/layout/Badges.h"
 #include "chart/layout/FittingLayout.h"
+#include "chart/layout/Mapping.h"
 #include "chart/layout/ViewedCurve.h"
 
 #include <QPainter>
@@ -72,6 +73,7 @@ public:
 
 private:
     QPointF PixelOf(const Point& user) const;
+    double PlaceOfX(double x) const { return PixelOf({xAxis.Position(x), 0}).x(); }
     double Sized(double textSizes) const { return textSizes * marks.TextSize; }
     PainterSurface SurfaceOn(QPainter& painter) const;
     void DrawCurve(int line, double width, QPainter& painter) const;
@@ -87,6 +89,8 @@ private:
     QSizeF extent;
     LineMarks marks;
     FittingLayout layout;
+    AxisMapping xAxis;
+    AxisMapping yAxis;
     /// In plot units, one for each line.
     std::vector<std::vector<CurveRun>> curves;
     /// The same in pixels.

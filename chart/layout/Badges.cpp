@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <ranges>
 #include <utility>
 
 namespace
@@ -188,22 +189,28 @@ private:
     {
         std::vector<Point> places;
         double toNext = 0;
-        for (auto run = curves[line].rbegin(); run != curves[line].rend(); ++run)
+        for (const auto& run : curves[line] | std::views::reverse)
         {
-            for (std::size_t i = run->size() - 1; i > 0; --i)
+            for (std::size_t i = run.size() - 1; i > 0; --i)
             {
-                const Point& from = (*run)[i];
-                const Point& to = (*run)[i - 1];
-                const double length = DistanceOf(from, to);
-                for (; toNext <= length; toNext += stride * radius)
-                {
-                    const double share = length > 0 ? toNext / length : 0;
-                    places.push_back({from.X + share * (to.X - from.X), from.Y + share * (to.Y - from.Y)});
-                }
-                toNext -= length;
+                toNext = AddPlaces(run[i], run[i - 1], toNext, places);
             }
         }
         return places;
+    }
+
+    /// Adds places between two points, the first one at a distance. Returns how far behind the second point
+    /// the next one is.
+    double AddPlaces(const Point& from, const Point& to, double toNext, std::vector<Point>& places) const
+    {
+        const double length = DistanceOf(from, to);
+        while (toNext <= length)
+        {
+            const double share = length > 0 ? toNext / length : 0;
+            places.push_back({from.X + share * (to.X - from.X), from.Y + share * (to.Y - from.Y)});
+            toNext += stride * radius;
+        }
+        return toNext - length;
     }
 
     /// The nearest free place on rings around a line's end.
