@@ -13,11 +13,25 @@ static constexpr double yTickDistance = 2.4;
 static constexpr double xLabelGap = 1;
 static constexpr double minorDistance = 1.5;
 
+/// Ticks of a logarithmic axis. Below a decade even steps tell more, unless they crowd at the upper end
+/// alone.
+static FittingTicks LogarithmicTicks(const FittingScale& scale)
+{
+    auto decades = TicksAtDecades(scale);
+    if (scale.Decades() >= 1 - FittingScale::Tolerance)
+    {
+        return decades;
+    }
+    if (auto steps = TicksAtSteps(scale, StepSizes::Fifths); steps.Ticks.size() > decades.Ticks.size())
+    {
+        return steps;
+    }
+    return decades;
+}
+
 static FittingTicks TicksOf(const FittingScale& scale, StepSizes sizes)
 {
-    const bool hasDecade =
-        scale.Kind == AxisKind::Logarithmic && scale.Decades() >= 1 - FittingScale::Tolerance;
-    return hasDecade ? TicksAtDecades(scale) : TicksAtSteps(scale, sizes);
+    return scale.Kind == AxisKind::Logarithmic ? LogarithmicTicks(scale) : TicksAtSteps(scale, sizes);
 }
 
 FittingAxis FitXAxis(const ChartView& view, double width, const TextRuler& ruler)

@@ -16,7 +16,7 @@ struct FittingAxis : FittingTicks
 /// Linear: ticks at multiples of 1, 2 and 5 times a power of ten, of 1, 2.5 and 5 for a temperature, as close
 /// as labels of 4.5 text sizes stand clear. Logarithmic: at powers of ten, with room at 1, 2 and 5 or at 1 to
 /// 9 times these, and lines at all of them; a range below a decade has linear ticks at their logarithmic
-/// places. Nothing but a title for a range without extent.
+/// places where these are more. Nothing but a title for a range without extent.
 FittingAxis FitXAxis(const ChartView& view, double width, const TextRuler& ruler);
 
 /// The Y axis, as above, beside a plot of a height, in the prefixed unit of its larger end; its labels stand
