@@ -4,10 +4,17 @@
 #include "chart/drawing/QtColors.h"
 #include "chart/layout/FittingText.h"
 
+#include <algorithm>
+#include <cmath>
+
 /// In text sizes: the margins, the size of the title, blank below title and chart.
 static constexpr double margin = 1;
 static constexpr double titleSize = 1.25;
 static constexpr double blankBelow = 0.5;
+/// Height of a line of text at most, in text sizes.
+static constexpr double mostLineHeight = 1.25;
+/// What title, table and margins may take of the height.
+static constexpr double mostBesideChart = 0.6;
 
 /// Draws the title; the rest of the room is left.
 static QRectF TakeTitle(const ViewSheet& sheet, QRectF room, double textSize, QPainter& painter)
@@ -32,9 +39,18 @@ static QRectF TakeLegend(const ViewSheet& sheet, QRectF room, const LineMarks& m
     return room;
 }
 
+double ViewSheetTextSize(const ViewSheet& sheet, const QSizeF& extent)
+{
+    const double beside =
+        2 * margin + titleSize * mostLineHeight + 2 * blankBelow + LegendHeight(sheet.Legend.Rows.size(), 1);
+    const double most = std::floor(mostBesideChart * extent.height() / beside);
+    return std::clamp(FittingTextSize(extent.width(), extent.height(), sheet.TextScale), 1.0,
+                      std::max(1.0, most));
+}
+
 void DrawViewSheet(const ViewSheet& sheet, const QSizeF& extent, QPainter& painter, SurfaceKind kind)
 {
-    const double textSize = FittingTextSize(extent.width(), extent.height(), sheet.TextScale);
+    const double textSize = ViewSheetTextSize(sheet, extent);
     const LineMarks marks = {.TextSize = textSize, .Dashed = sheet.Dashed, .Kind = kind};
     painter.save();
     painter.fillRect(QRectF({0, 0}, extent), Qt::white);

@@ -20,6 +20,10 @@ struct ViewSheet
     double TextScale = 1;
 };
 
+/// Size of a sheet's texts: the usual one for its extent times the user's wish, as far as title and table
+/// leave the chart two fifths of the height.
+double ViewSheetTextSize(const ViewSheet& sheet, const QSizeF& extent);
+
 /// Draws the sheet from the painter's origin on, on white with even margins. The chart takes what room title
 /// and table leave it.
 ///

@@ -16,6 +16,8 @@ private Q_SLOTS:
     void ChipsCanBeToldApartOnAnyGround();
     void SheetsHaveEvenWhiteMargins_data();
     void SheetsHaveEvenWhiteMargins();
+    void TablesStayWholeHoweverLargeTheTexts_data();
+    void TablesStayWholeHoweverLargeTheTexts();
     void MonochromeSheetsHaveNoColour();
     void DrawingsHoldTitleAndAllTextsWhole();
     void DrawingsHoldNoControlCharacters();
@@ -148,6 +150,42 @@ void ViewSheetTest::SheetsHaveEvenWhiteMargins()
     QVERIFY(std::abs(size.width() - 1 - ink.right() - margin) <= 2);
     QVERIFY(std::abs(size.height() - 1 - ink.bottom() - margin) <= 3);
     QVERIFY(ink.top() >= margin && ink.top() < margin + margin / 2);
+}
+
+void ViewSheetTest::TablesStayWholeHoweverLargeTheTexts_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<double>("scale");
+    QTest::newRow("usual texts") << QSize(600, 400) << 1.0;
+    QTest::newRow("larger texts") << QSize(600, 400) << 1.5;
+    QTest::newRow("huge texts") << QSize(600, 400) << 4.0;
+    QTest::newRow("a strip") << QSize(2000, 300) << 1.0;
+    QTest::newRow("the least picture") << QSize(300, 300) << 2.0;
+}
+
+void ViewSheetTest::TablesStayWholeHoweverLargeTheTexts()
+{
+    QFETCH(QSize, size);
+    QFETCH(double, scale);
+    const auto lines = FallingLines(6);
+    auto sheet = Sheet(lines);
+    sheet.TextScale = scale;
+    const double textSize = ViewSheetTextSize(sheet, size);
+    auto picture = White(size);
+    auto table = White(size);
+    {
+        QPainter painter(&picture);
+        DrawViewSheet(sheet, size, painter);
+    }
+    const double height = LegendHeight(6, textSize);
+    const QRectF place(textSize, size.height() - textSize - height, size.width() - 2 * textSize, height);
+    {
+        QPainter painter(&table);
+        DrawLegend(sheet.Legend, place, {.TextSize = textSize}, painter);
+    }
+    const auto shown = place.toAlignedRect();
+    QCOMPARE(picture.copy(shown), table.copy(shown));
+    QVERIFY(place.top() > 0.4 * size.height());
 }
 
 void ViewSheetTest::MonochromeSheetsHaveNoColour()
