@@ -20,7 +20,7 @@ class QRubberBand;
 /// What a chart view shows.
 struct ViewScene
 {
-    ChartView View;
+    ChartView View{};
     std::vector<ViewedLine> Lines;
     CodeView Code = CodeView::Eia;
     ChartCursors Cursors;

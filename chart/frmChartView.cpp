@@ -151,11 +151,6 @@ void frmChartView::ConnectCanvas()
 
 // ---- The lines ----
 
-static bool SameRange(const AxisRange& a, const AxisRange& b)
-{
-    return a.XMax == b.XMax && a.YMax == b.YMax && a.XMin == b.XMin && a.YMin == b.YMin;
-}
-
 static AxisRange DefaultOf(const ChartKey& chart, const std::vector<ViewedLine>& lines)
 {
     std::vector<ChartRecord> records;
@@ -169,19 +164,17 @@ static AxisRange DefaultOf(const ChartKey& chart, const std::vector<ViewedLine>&
 void frmChartView::ShowLines()
 {
     const ChartView shown = chart.View();
-    const bool rangeWasSet = shown.Rescaled && !SameRange(shown.Range, chartShown.Range);
-    const AxisRange own = zoom.Range();
+    const bool rangeChanged = shown.Range != chartShown.Range;
+    const bool follows = rangeChanged && (shown.Rescaled || !hasOwnRange);
+    const AxisRange range = follows ? shown.Range : zoom.Range();
+    hasOwnRange = hasOwnRange && !follows;
     chartShown = shown;
     scene.Lines = chart.ViewedLines();
     scene.Code = GetCodeView();
     scene.View = shown;
     defaults = DefaultOf(shown.Chart, scene.Lines);
     zoom = ZoomRange(shown.Chart, defaults);
-    if (rangeWasSet)
-    {
-        hasOwnRange = false;
-    }
-    zoom.Set(hasOwnRange ? own : shown.Range);
+    zoom.Set(range);
     scene.View.Range = zoom.Range();
     if (scene.Chosen && *scene.Chosen >= static_cast<int>(scene.Lines.size()))
     {

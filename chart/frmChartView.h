@@ -127,7 +127,7 @@ private:
     AxisRange defaults{};
     ZoomRange zoom;
     /// The range that the chart window showed last, by which its changes are noticed.
-    ChartView chartShown;
+    ChartView chartShown{};
     /// The range as a drag began.
     ZoomRange zoomAtDrag;
     bool hasOwnRange = false;

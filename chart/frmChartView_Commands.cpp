@@ -52,7 +52,7 @@ void frmChartView::ConnectCommands()
 void frmChartView::ChangeRange()
 {
     scene.View.Range = zoom.Range();
-    hasOwnRange = true;
+    hasOwnRange = !zoom.IsDefault() && zoom.Range() != chartShown.Range;
     NoteUnseenLines();
     ui->picChartView->Redraw();
     ShowCursorTexts();
@@ -92,9 +92,6 @@ void frmChartView::mnuDefaultRange_Click()
 {
     zoom.Reset();
     ChangeRange();
-    hasOwnRange = false;
-    NoteUnseenLines();
-    ShowCursorTexts();
 }
 
 void frmChartView::mnuRange_Click()

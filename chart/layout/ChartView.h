@@ -12,6 +12,8 @@ struct AxisRange
     float YMax;
     float XMin;
     float YMin;
+
+    bool operator==(const AxisRange&) const = default;
 };
 
 /// What is to be drawn: a chart and its ranges.

@@ -1,5 +1,7 @@
 #include "tests/chart/view/ViewDesk.h"
 
+#include "app/PartNumText.h"
+#include "app/mdlPublic.h"
 #include "chart/frmGraph.h"
 
 #include <QApplication>
@@ -40,7 +42,9 @@ void ViewDesk::PlotLine(int part)
     case Kind::AllowablePower:
         desk.ClickChartType(1);
     }
-    desk.TypePart(PartsOfLines.at(static_cast<std::size_t>(part)));
+    const auto* const index =
+        mdlPublic.Parts.PartIndex[0].Find(PartsOfLines.at(static_cast<std::size_t>(part)));
+    desk.TypePart(PartNumText(*index, GetPartNumForm()));
     if (desk.Find<QLineEdit>("txtDCBiasVol")->isEnabled())
     {
         desk.Type("txtDCBiasVol", "12");

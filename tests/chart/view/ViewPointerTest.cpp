@@ -38,7 +38,7 @@ using Kind = ViewDesk::Kind;
 
 static bool Same(const AxisRange& a, const AxisRange& b)
 {
-    return a.XMin == b.XMin && a.XMax == b.XMax && a.YMin == b.YMin && a.YMax == b.YMax;
+    return a == b;
 }
 
 void ViewPointerTest::TheCursorFollowsAndIsRoundWithinThePixel()
