@@ -73,8 +73,8 @@ void frmChartView::Connect()
     connect(ui->txtCursorX, &QLineEdit::returnPressed, this, &frmChartView::EnterX);
     connect(ui->tblLines->horizontalHeader(), &QHeaderView::sectionClicked, table, &LineTable::SortNextWay);
     connect(table, &LineTable::RowsMoved, this, &frmChartView::ShowChosenRow);
-    connect(ui->tblLines->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            &frmChartView::tblLines_CurrentChanged);
+    connect(ui->tblLines->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &frmChartView::tblLines_Select);
     connect(ui->tblLines, &QAbstractItemView::entered, this,
             [this](const QModelIndex& cell) { Hover(table->LineOf(cell.row())); });
     connect(ui->tblLines, &QAbstractItemView::viewportEntered, this, [this] { Hover({}); });

@@ -97,7 +97,7 @@ private:
     void Choose(std::optional<int> line);
     void ChooseNext(int rows);
     void ShowChosenRow();
-    void tblLines_CurrentChanged();
+    void tblLines_Select();
     void Hover(std::optional<int> line);
 
     // The commands.

@@ -169,10 +169,19 @@ void frmChartView::ShowChosenRow()
     }
 }
 
-void frmChartView::tblLines_CurrentChanged()
+/// Of several rows that are selected, the one worked in is chosen. A row that only has the focus is not.
+void frmChartView::tblLines_Select()
 {
-    const int line = table->LineOf(ui->tblLines->currentIndex().row());
-    Choose(line < 0 ? std::nullopt : std::optional(line));
+    const QItemSelectionModel* const rows = ui->tblLines->selectionModel();
+    const int current = ui->tblLines->currentIndex().row();
+    const auto selected = rows->selectedRows();
+    if (selected.isEmpty())
+    {
+        Choose(std::nullopt);
+        return;
+    }
+    const bool isCurrent = rows->isRowSelected(current);
+    Choose(table->LineOf(isCurrent ? current : selected.first().row()));
 }
 
 void frmChartView::Hover(std::optional<int> line)

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void LinesWithoutAValueStandLast();
     void TheChosenRowStaysWithItsLine();
     void AClickOnARowChoosesItsLine();
+    void ComingToTheTableChoosesNothing();
     void RowsAreCopiedAsShown();
     void TheWholeTableIsCopiedWithPlainNumbers();
     void EachNumberTellsItsPlainFormInATip();
@@ -118,6 +119,18 @@ void ViewTableTest::AClickOnARowChoosesItsLine()
     QCOMPARE(desk.Scene().Chosen, std::optional(3));
     desk.Press(Qt::Key_Down);
     QCOMPARE(desk.Scene().Chosen, std::optional(4));
+}
+
+void ViewTableTest::ComingToTheTableChoosesNothing()
+{
+    const ViewDesk desk(Kind::RiseOverFrequency, 3);
+    ClickHeading(desk, 2);
+    desk.Canvas()->setFocus();
+    desk.Table()->setFocus(Qt::TabFocusReason);
+    QVERIFY(desk.Table()->hasFocus());
+    QVERIFY(!desk.Scene().Chosen);
+    desk.Press(Qt::Key_Down);
+    QVERIFY(desk.Scene().Chosen.has_value());
 }
 
 void ViewTableTest::RowsAreCopiedAsShown()
