@@ -5,6 +5,7 @@
 #include "chart/frmGraph.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QMdiArea>
 #include <QTest>
 #include <QWheelEvent>
@@ -127,4 +128,35 @@ void ViewDesk::Turn(const QPoint& place, int notches, Qt::KeyboardModifiers modi
     QWheelEvent wheel(place, Canvas()->mapToGlobal(place), {}, {0, 120 * notches}, Qt::NoButton, modifiers,
                       Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(Canvas(), &wheel);
+}
+
+void SendContextMenu(QWidget* widget, const QPoint& place)
+{
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, widget->mapToGlobal(place));
+    QApplication::sendEvent(widget, &event);
+}
+
+QMenu* OpenMenu()
+{
+    return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+}
+
+QString PlainTextOf(const QAction* entry)
+{
+    return entry->text().section(u'\t', 0, 0).remove(u'&');
+}
+
+void Choose(QMenu* menu, const QString& text)
+{
+    for (QAction* entry : menu->actions())
+    {
+        if (PlainTextOf(entry) == text)
+        {
+            menu->close();
+            entry->trigger();
+            Settle();
+            return;
+        }
+    }
+    QFAIL(qPrintable("no entry " + text));
 }

@@ -6,8 +6,10 @@
 #include "chart/frmChartView.h"
 #include "tests/frame/Desk.h"
 
+#include <QAction>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QTableView>
 
 /// One chart with some lines and its view, which is the active window.
@@ -62,3 +64,15 @@ public:
 private:
     Kind kind;
 };
+
+/// Clicks with the right button.
+void SendContextMenu(QWidget* widget, const QPoint& place);
+
+/// The menu that has popped up, or null.
+QMenu* OpenMenu();
+
+/// The text of an entry without its access key and its keys.
+QString PlainTextOf(const QAction* entry);
+
+/// Chooses an entry by its text.
+void Choose(QMenu* menu, const QString& text);

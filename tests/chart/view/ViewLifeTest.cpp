@@ -3,20 +3,15 @@
 #include "app/mdlPublic.h"
 #include "chart/ChartPicture.h"
 #include "chart/frmGraph.h"
-#include "frame/frmHelp.h"
 #include "tests/chart/view/ViewDesk.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QGroupBox>
-#include <QMenu>
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
-#include <QStatusBar>
 #include <QTest>
-#include <QTextBlock>
 
 class ViewLifeTest : public QObject
 {
@@ -31,55 +26,13 @@ private Q_SLOTS:
     void ItClosesWithItsChart_data();
     void ItClosesWithItsChart();
     void OtherChartsMayClose();
+    void EvenTheSmallestPlotIsNoFault();
+    void PartsWithoutAModelReadADash();
     void NewLinesAndNumbersAreShown();
     void ARangeSetInTheChartIsTakenOver();
     void AnOwnRangeStaysWhenALineComes();
     void ItsRangeGoesToTheChartWindow();
-    void PaneMenuOffersConditionsAndPartNumber();
-    void ChartMenuNamesAllLines();
-    void ItsMenuOffersEveryCommandWithItsKey_data();
-    void ItsMenuOffersEveryCommandWithItsKey();
-    void ConditionsGoToTheForm();
-    void EntriesOfTheFormKeepControlE();
-    void HelpOpensAtItsPage();
 };
-
-static void SendContextMenu(QWidget* widget, const QPoint& place)
-{
-    QContextMenuEvent event(QContextMenuEvent::Mouse, place, widget->mapToGlobal(place));
-    QApplication::sendEvent(widget, &event);
-}
-
-static QMenu* OpenMenu()
-{
-    return qobject_cast<QMenu*>(QApplication::activePopupWidget());
-}
-
-static QStringList Entries(const QMenu* menu)
-{
-    QStringList entries;
-    for (const QAction* entry : menu->actions())
-    {
-        entries << (entry->isSeparator() ? QStringLiteral("-")
-                                         : entry->text().section(u'\t', 0, 0).remove(u'&'));
-    }
-    return entries;
-}
-
-static void Choose(QMenu* menu, const QString& text)
-{
-    for (QAction* entry : menu->actions())
-    {
-        if (entry->text().section(u'\t', 0, 0).remove(u'&') == text)
-        {
-            menu->close();
-            entry->trigger();
-            Settle();
-            return;
-        }
-    }
-    QFAIL(qPrintable("no entry " + text));
-}
 
 void ViewLifeTest::EachWayOpensTheOneView_data()
 {
@@ -299,124 +252,51 @@ void ViewLifeTest::ItsRangeGoesToTheChartWindow()
     QCOMPARE(desk.Scene().View.Range.XMin, own.XMin);
 }
 
-void ViewLifeTest::PaneMenuOffersConditionsAndPartNumber()
+void ViewLifeTest::EvenTheSmallestPlotIsNoFault()
 {
-    ViewDesk desk;
-    auto* const pane = desk.Chart()->findChild<QGroupBox*>("fraStatus_1");
-    SendContextMenu(pane, pane->rect().center());
-    QCOMPARE(Entries(OpenMenu()),
-             (QStringList{"Use These Conditions", "Copy Part Number", "-", "Open in Chart View"}));
-    Choose(OpenMenu(), "Copy Part Number");
-    QCOMPARE(QGuiApplication::clipboard()->text(), "KTS31NB51E106MA01");
-    // A pane without a line belongs to the chart.
-    auto* const empty = desk.Chart()->findChild<QGroupBox*>("fraStatus_4");
-    SendContextMenu(empty, empty->rect().center());
-    QCOMPARE(OpenMenu()->objectName(), "mnuPopupChart");
-    OpenMenu()->close();
-}
-
-void ViewLifeTest::ChartMenuNamesAllLines()
-{
-    ViewDesk desk;
-    QTest::keyClick(desk.Chart(), Qt::Key_Menu);
-    QMenu* const menu = OpenMenu();
-    QCOMPARE(Entries(menu), (QStringList{"Open in Chart View", "Use Conditions of", "-", "Expand/Contract...",
-                                         "Copy to Clipboard", "Print..."}));
-    QCOMPARE(Entries(menu->actions()[1]->menu()),
-             (QStringList{"No.1 KTS21JB51E106MA01", "No.2 KTS31NB51E106MA01"}));
-    menu->close();
-}
-
-void ViewLifeTest::ItsMenuOffersEveryCommandWithItsKey_data()
-{
-    QTest::addColumn<QString>("way");
-    for (const char* way : {"chart", "row", "entry's label", "Menu key", "Shift+F10 in the table"})
+    const ViewDesk desk(ViewDesk::Kind::RiseOverFrequency, 6);
+    desk.View()->resize(600, 400);
+    for (int key = 0; key < 12; ++key)
     {
-        QTest::newRow(way) << way;
+        desk.Press(Qt::Key_F8);
     }
-}
-
-void ViewLifeTest::ItsMenuOffersEveryCommandWithItsKey()
-{
-    QFETCH(QString, way);
-    const ViewDesk desk;
-    if (way == "chart")
-    {
-        SendContextMenu(desk.Canvas(), desk.At(50, 50));
-    }
-    else if (way == "row")
-    {
-        const QRect row = desk.Table()->visualRect(desk.Table()->model()->index(1, 1));
-        SendContextMenu(desk.Table()->viewport(), row.center());
-        QCOMPARE(desk.Scene().Chosen, std::optional(1));
-    }
-    else if (way == "entry's label")
-    {
-        SendContextMenu(desk.Find<QLabel>("lblCursorX"), QPoint(2, 2));
-    }
-    else if (way == "Menu key")
-    {
-        desk.Press(Qt::Key_Menu);
-    }
-    else
-    {
-        desk.Table()->setFocus();
-        desk.Press(Qt::Key_F10, Qt::ShiftModifier);
-    }
-    QMenu* const menu = OpenMenu();
-    QVERIFY(menu != nullptr);
-    int commands = 0;
-    for (const QAction* command : menu->actions())
-    {
-        commands += command->isSeparator() ? 0 : 1;
-        QVERIFY2(command->isSeparator() || !command->shortcut().isEmpty(), qPrintable(command->text()));
-    }
-    QCOMPARE(commands, 17);
-    menu->close();
-}
-
-void ViewLifeTest::ConditionsGoToTheForm()
-{
-    ViewDesk desk;
-    desk.desk.TypePart("KTS32XR71E106KA01");
-    desk.desk.Type("txtDCBiasVol", "3");
-    desk.Press(Qt::Key_Down);
-    desk.Press(Qt::Key_Down);
-    desk.Press(Qt::Key_F4);
-    QCOMPARE(desk.desk.Text("txtDCBiasVol"), "12");
-    QCOMPARE(desk.desk.Find<QStatusBar>("sbrMain")->currentMessage(), "Conditions of No.2 taken: 12 V");
-    QVERIFY(desk.desk.HasFocus("cmdPlot"));
-    desk.desk.TypePart("none");
-    desk.Press(Qt::Key_F4);
-    QCOMPARE(desk.desk.Find<QStatusBar>("sbrMain")->currentMessage(), "Choose a part first.");
-}
-
-void ViewLifeTest::EntriesOfTheFormKeepControlE()
-{
-    ViewDesk desk;
-    desk.View()->close();
     Settle();
-    auto* const box = desk.desk.Find<QLineEdit>("txtDCBiasVol");
-    box->setFocus();
-    box->setCursorPosition(0);
-    QTest::keyClick(box, Qt::Key_E, Qt::ControlModifier);
-    Settle();
-    QCOMPARE(desk.View(), nullptr);
+    const AxisRange before = desk.Scene().View.Range;
+    desk.View()->grab();
+    desk.Turn(desk.Canvas()->rect().center(), 3);
+    desk.Drag(desk.Canvas()->rect().center(), QPoint(1, 1));
+    desk.Click(desk.Canvas()->rect().center());
+    desk.Press(Qt::Key_Right);
+    desk.View()->grab();
+    QVERIFY(std::isfinite(desk.Cursors().Moving()));
+    desk.Press(Qt::Key_0, Qt::ControlModifier);
+    QVERIFY(desk.Scene().View.Range == before);
 }
 
-void ViewLifeTest::HelpOpensAtItsPage()
+void ViewLifeTest::PartsWithoutAModelReadADash()
 {
     const ViewDesk desk;
-    mdlPublic.PathSep = "/";
-    desk.Press(Qt::Key_F1);
-    QTextBrowser* page = nullptr;
-    for (const QWidget* window : QApplication::topLevelWidgets())
+    // A line as the store holds it of a part without a model: limits, but no points.
+    ChartRecord line = mdlPublic.Charts.ChartData()[0];
+    line.DCBiasVoltage = 99;
+    line.XData = {};
+    line.YData = {};
+    mdlPublic.Charts.Write(line);
+    desk.Chart()->Form_Load();
+    Settle();
+    QCOMPARE(desk.Table()->model()->rowCount(), 3);
+    desk.Press(Qt::Key_Down);
+    desk.Press(Qt::Key_Up);
+    for (int key = 0; key < 3; ++key)
     {
-        page = page != nullptr ? page : window->findChild<QTextBrowser*>("txtBook");
+        desk.Press(Qt::Key_Down);
     }
-    QVERIFY(page != nullptr);
-    QCOMPARE(page->cursorForPosition(QPoint(20, 8)).block().text().simplified(), "Chart view");
-    CloseHelp();
+    desk.Press(Qt::Key_Right);
+    desk.View()->grab();
+    QVERIFY(std::isfinite(desk.Cursors().A()));
+    desk.TypeText("50");
+    desk.Press(Qt::Key_Return);
+    QCOMPARE(desk.Model()->Table().Find(2, CursorColumn::Value)->Text, "\u2013");
 }
 
 QTEST_MAIN(ViewLifeTest)
