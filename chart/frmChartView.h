@@ -61,7 +61,7 @@ private:
     void KeepPlace();
     void ShowTextSize();
     void FitTable();
-    int NeededWidth(int column) const;
+    int NeededWidth(int column, bool shortHeadings) const;
     int WidthWith(bool shortHeadings);
     void ForgetWidths();
     void FitTableHeight();

@@ -50,31 +50,34 @@ void frmChartView::ShowTable()
 // ---- Widths and heights ----
 
 /// The room that a column needs: its widest text, and some blank.
-int frmChartView::NeededWidth(int column) const
+int frmChartView::NeededWidth(int column, bool shortHeadings) const
 {
     const QFontMetrics letters(ui->grpValues->font());
+    if (column == 0)
+    {
+        return qCeil(LegendChipSize(scene.Marks.TextSize).width());
+    }
     QFont bold = ui->grpValues->font();
     bold.setBold(true);
-    int width = QFontMetrics(bold).horizontalAdvance(table->headerData(column, Qt::Horizontal).toString() +
-                                                     QStringLiteral("  "));
+    const CursorHeading& heading = table->Table().Headings[static_cast<std::size_t>(column)];
+    const auto text = QString::fromStdString(shortHeadings ? heading.Short : heading.Text);
+    int width = QFontMetrics(bold).horizontalAdvance(text + QStringLiteral("  "));
     for (int row = 0; row < table->rowCount(); ++row)
     {
         width = std::max(width, letters.horizontalAdvance(table->index(row, column).data().toString()));
     }
-    return column == 0 ? qCeil(LegendChipSize(scene.Marks.TextSize).width())
-                       : width + 3 * LineDelegate::Blank(letters.height());
+    return width + 3 * LineDelegate::Blank(letters.height());
 }
 
 /// The widths with short headings or long ones.
 int frmChartView::WidthWith(bool shortHeadings)
 {
-    table->SetShortHeadings(shortHeadings);
     auto& needed = widths[shortHeadings ? 1 : 0];
     needed.resize(static_cast<std::size_t>(table->columnCount()));
     for (int column = 0; column < table->columnCount(); ++column)
     {
         int& width = needed[static_cast<std::size_t>(column)];
-        width = std::max(width, NeededWidth(column));
+        width = std::max(width, NeededWidth(column, shortHeadings));
     }
     return std::accumulate(needed.begin(), needed.end(), 0);
 }
@@ -91,6 +94,7 @@ void frmChartView::FitTable()
     const int room = ui->tblLines->viewport()->width();
     const bool brief = WidthWith(false) > room;
     const int needed = brief ? WidthWith(true) : 0;
+    table->SetShortHeadings(brief);
     const int stretch = needed <= room ? 100 : std::clamp(room * 100 / needed, NarrowestLetters, 100);
     QFont letters = ui->grpValues->font();
     letters.setStretch(stretch);
