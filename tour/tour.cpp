@@ -41,6 +41,8 @@ constexpr int WidestPlace = 620;
 
 /// Room for the selection form and a chart window beside it.
 constexpr QSize TourSize(1010, 700);
+/// A chart view that can be read on a page of the help.
+constexpr QSize ViewSize(900, 600);
 
 /// A user at the main window: finds controls by name and works them with keys and clicks.
 class User
@@ -108,6 +110,30 @@ public:
         window.findChild<QMdiArea*>()->activeSubWindow()->findChild<QAction*>("mnuChartExpand")->trigger();
     }
 
+    /// The view of the chart in front, with its cursor at an X.
+    void SaveView(const char* x, const char* name)
+    {
+        QApplication::setActiveWindow(&window);
+        QTest::keyClick(window.findChild<QMdiArea*>()->activeSubWindow(), Qt::Key_E, Qt::ControlModifier);
+        for (QWidget* view : QApplication::topLevelWidgets())
+        {
+            if (view->objectName() == u"frmChartView")
+            {
+                view->resize(ViewSize);
+                auto* entry = view->findChild<QLineEdit*>(QStringLiteral("txtCursorX"));
+                entry->selectAll();
+                QTest::keyClicks(entry, QString::fromLatin1(x));
+                QTest::keyClick(entry, Qt::Key_Return);
+                // One cursor is enough for a picture.
+                QTest::keyClick(view->focusWidget(), Qt::Key_Escape);
+                Save(PictureForHelp(*view, view->size()), name);
+                view->close();
+                return;
+            }
+        }
+        allSaved = false;
+    }
+
     bool AllSaved() const { return allSaved; }
 
 private:
@@ -170,6 +196,7 @@ void CompareTemperatureRise(User& user)
     user.SaveWindow("main-window");
     user.SaveChart("temperature-rise");
     user.SaveAxisRange("axis-range");
+    user.SaveView("1.5", "chart-view");
 }
 
 void CompareAllowablePower(User& user)
