@@ -117,7 +117,7 @@ void ChartAccessible::Install()
 
 void ChartAccessible::TellChange(ChartCanvas& canvas)
 {
-    QAccessibleValueChangeEvent value(&canvas, static_cast<double>(canvas.Scene().Cursors.Moving()));
+    QAccessibleValueChangeEvent value(&canvas, canvas.Scene().Cursors.Moving());
     QAccessible::updateAccessibility(&value);
     QAccessibleEvent description(&canvas, QAccessible::DescriptionChanged);
     QAccessible::updateAccessibility(&description);

@@ -154,6 +154,7 @@ void frmChartView::ConnectCanvas()
 static AxisRange DefaultOf(const ChartKey& chart, const std::vector<ViewedLine>& lines)
 {
     std::vector<ChartRecord> records;
+    records.reserve(lines.size());
     for (const ViewedLine& line : lines)
     {
         records.push_back(line.Line);

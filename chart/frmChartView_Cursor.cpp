@@ -167,7 +167,7 @@ void frmChartView::EnterX()
                   .arg(AxisText(permitted.Lowest * KindOf(XOf(scene)).StoredPerShown),
                        AxisText(permitted.Highest * KindOf(XOf(scene)).StoredPerShown));
     }
-    if (!why.isEmpty())
+    if (!x || !why.isEmpty())
     {
         ShowTold(why, true);
         ui->txtCursorX->selectAll();

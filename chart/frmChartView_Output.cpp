@@ -128,7 +128,7 @@ static QByteArray PictureBytes(const QString& path, const ViewSheet& sheet, cons
                               painter.scale(scale, scale);
                               DrawViewSheet(sheet, choice.Extent, painter);
                           }};
-    const QByteArray bytes = type->Write(picture);
+    QByteArray bytes = type->Write(picture);
     if (bytes.isEmpty())
     {
         throw RunTimeError(RunTimeErrorNumber::OutOfMemory);
@@ -172,6 +172,7 @@ void frmChartView::mnuSaveData_Click()
     }
     const HourglassScope hourglass;
     std::vector<NamedLine> lines;
+    lines.reserve(scene.Lines.size());
     for (const ViewedLine& line : scene.Lines)
     {
         lines.push_back({.Line = line.Line, .PartNumber = line.PartNumber});

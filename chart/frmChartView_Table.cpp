@@ -95,7 +95,8 @@ void frmChartView::FitTable()
     const bool brief = WidthWith(false) > room;
     const int needed = brief ? WidthWith(true) : 0;
     table->SetShortHeadings(brief);
-    const int stretch = needed <= room ? 100 : std::clamp(room * 100 / needed, NarrowestLetters, 100);
+    const int stretch =
+        needed <= room ? 100 : std::clamp(room * 100 / std::max(needed, 1), NarrowestLetters, 100);
     QFont letters = ui->grpValues->font();
     letters.setStretch(stretch);
     if (ui->tblLines->font() != letters)

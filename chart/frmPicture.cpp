@@ -2,6 +2,8 @@
 
 #include "ui_frmPicture.h"
 
+#include <QPushButton>
+
 #include <array>
 
 namespace

@@ -7,8 +7,6 @@
 
 #include <memory>
 
-class QPushButton;
-
 namespace Ui
 {
 class frmPicture;

@@ -124,9 +124,9 @@ static std::vector<CursorHeading> HeadingsOf(const TableSetting& setting, const 
     }
     else
     {
+        const double b = cursors.Moving();
         const std::string minus = "B " + std::string(MinusSign) + " A";
-        add(CursorColumn::Value, "B: " + xText(*cursors.B()), "B: " + xText(*cursors.B()),
-            WithBrackets("B: " + valueAt(*cursors.B()), unit));
+        add(CursorColumn::Value, "B: " + xText(b), "B: " + xText(b), WithBrackets("B: " + valueAt(b), unit));
         add(CursorColumn::ToFirst, "B to No.1", "B to No.1", WithBrackets("B to No.1", unit));
         add(CursorColumn::ValueAtA, "A: " + xText(cursors.A()), "A: " + xText(cursors.A()),
             WithBrackets("A: " + valueAt(cursors.A()), unit));
@@ -230,6 +230,7 @@ CursorTable CursorTableOf(std::span<const ViewedLine> lines, const ChartCursors&
     for (std::size_t row = 0; row < lines.size(); ++row)
     {
         std::vector<CursorCell> cells;
+        cells.reserve(table.Headings.size());
         for (const CursorHeading& heading : table.Headings)
         {
             cells.push_back(CellOf(heading.Column, setting, lines[row], values[row], row));
