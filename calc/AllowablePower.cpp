@@ -79,6 +79,16 @@ BoundedLoad BoundedLoadAt(const PowerModel& model, double voltageBound, double p
                ? BoundedLoad{.Volts = volts, .Rise = permittedRise}
                : BoundedLoad{.Volts = voltageBound, .Rise = kV * CheckedPower(voltageBound, model.S3)};
 }
+
+double VoltAmperesOf(const BoundedLoad& bounded, double kI)
+{
+    return bounded.Volts * CurrentOfRise(bounded.Rise, kI);
+}
+
+double WattsOf(const BoundedLoad& bounded, const PowerModel& model)
+{
+    return CheckedQuotient(bounded.Rise, model.Rth);
+}
 } // namespace
 
 double AllowableVoltageBound(double ratedVolts, double biasVolts)
@@ -103,6 +113,17 @@ Curve AllowableLoad(const PowerModel& model, double voltageBound, double permitt
     }
 }
 
+AllowableLoads AllowableLoadsAt(const PowerModel& model, double voltageBound, double permittedRise,
+                                double frequencyHz)
+{
+    const double kI = model.kI(frequencyHz);
+    const auto bounded = BoundedLoadAt(model, voltageBound, permittedRise, frequencyHz);
+    return {.Arms = CurrentOfRise(permittedRise, kI),
+            .Vrms = bounded.Volts,
+            .VoltAmperes = VoltAmperesOf(bounded, kI),
+            .Watts = WattsOf(bounded, model)};
+}
+
 double AllowableLoadAt(const PowerModel& model, double voltageBound, double permittedRise, Quantity load,
                        double frequencyHz)
 {
@@ -116,9 +137,9 @@ double AllowableLoadAt(const PowerModel& model, double voltageBound, double perm
     case Quantity::RmsVoltage:
         return bounded.Volts;
     case Quantity::ApparentPower:
-        return bounded.Volts * CurrentOfRise(bounded.Rise, model.kI(frequencyHz));
+        return VoltAmperesOf(bounded, model.kI(frequencyHz));
     case Quantity::EffectivePower:
-        return CheckedQuotient(bounded.Rise, model.Rth);
+        return WattsOf(bounded, model);
     default:
         FailOn(load);
     }

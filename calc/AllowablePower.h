@@ -17,6 +17,19 @@ double AllowableVoltageBound(double ratedVolts, double biasVolts);
 /// Throws RunTimeError 5 for a quantity that is no load, and 5, 6 or 11 at the step that goes wrong.
 Curve AllowableLoad(const PowerModel& model, double voltageBound, double permittedRise, Quantity load);
 
-/// The allowable load at one frequency. Throws as `AllowableLoad`.
+/// The allowable loads of one part at one frequency.
+struct AllowableLoads
+{
+    double Arms;
+    double Vrms;
+    double VoltAmperes;
+    double Watts;
+};
+
+/// All four at one frequency, by the laws of `AllowableLoad`. Throws RunTimeError 5, 6 or 11.
+AllowableLoads AllowableLoadsAt(const PowerModel& model, double voltageBound, double permittedRise,
+                                double frequencyHz);
+
+/// One of them. Throws as `AllowableLoad`.
 double AllowableLoadAt(const PowerModel& model, double voltageBound, double permittedRise, Quantity load,
                        double frequencyHz);

@@ -234,8 +234,8 @@ Curve CalcCapDCVoltage(const PartRecord& part, float ambientC, Quantity y, CodeV
     return curve;
 }
 
-std::optional<double> CapacitanceAt(const PartRecord& part, double biasVolts, double celsius, Quantity y,
-                                    CodeView view)
+std::optional<CapacitancePoint> CapacitancePointAt(const PartRecord& part, double biasVolts, double celsius,
+                                                   CodeView view)
 {
     const auto model = CapacitanceModelOf(part);
     if (model == CapacitanceModel::None)
@@ -250,9 +250,17 @@ std::optional<double> CapacitanceAt(const PartRecord& part, double biasVolts, do
     // A curve that has no reference to change from is none at all, whatever its Y.
     const auto reference = ReferenceOf(data, model, view);
     const double divisor = reference ? CheckedDivisor(*reference) : 1;
-    if (y == Quantity::Capacitance)
+    return CapacitancePoint{.PicoFarads = capacitance,
+                            .Change = reference ? ChangeFrom(capacitance, divisor) : change};
+}
+
+std::optional<double> CapacitanceAt(const PartRecord& part, double biasVolts, double celsius, Quantity y,
+                                    CodeView view)
+{
+    const auto point = CapacitancePointAt(part, biasVolts, celsius, view);
+    if (!point)
     {
-        return capacitance;
+        return std::nullopt;
     }
-    return reference ? ChangeFrom(capacitance, divisor) : change;
+    return y == Quantity::Capacitance ? point->PicoFarads : point->Change;
 }

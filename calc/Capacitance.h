@@ -24,6 +24,19 @@ Curve CalcCapTemperature(const PartRecord& part, float biasVolts, Quantity y, Co
 /// As `CalcCapTemperature`, over the bias from 0 to the rated voltage at a fixed temperature.
 Curve CalcCapDCVoltage(const PartRecord& part, float ambientC, Quantity y, CodeView view);
 
+/// A part at one bias and one temperature.
+struct CapacitancePoint
+{
+    double PicoFarads;
+    /// Change in percent of the view's reference.
+    double Change;
+};
+
+/// Both for a part at one bias and one temperature; nothing for a part without a model. Throws RunTimeError
+/// 5, 6 or 11 at the step that goes wrong.
+std::optional<CapacitancePoint> CapacitancePointAt(const PartRecord& part, double biasVolts, double celsius,
+                                                   CodeView view);
+
 /// Capacitance (pF) or capacitance change (%) of a part at one bias and one temperature; nothing for a part
 /// without a model. Throws RunTimeError 5, 6 or 11 at the step that goes wrong.
 std::optional<double> CapacitanceAt(const PartRecord& part, double biasVolts, double celsius, Quantity y,

@@ -61,58 +61,127 @@ static Refusal Judge(std::string_view entry, EntryLocale locale, Accepts accepts
     return value && accepts(*value) ? std::nullopt : Refusal(message());
 }
 
-/// Nothing when the entry lies from `lowest` to `highest`, both included.
-static Refusal JudgeRange(std::string_view entry, EntryLocale locale, float lowest, float highest,
-                          std::string_view condition, std::string_view unit)
+namespace
+{
+/// From the lowest to the highest, both included.
+struct Range
+{
+    float Lowest;
+    float Highest;
+
+    bool Holds(float value) const { return value >= Lowest && value <= Highest; }
+};
+
+Range BiasRange(const PartRecord& part)
+{
+    return {.Lowest = 0, .Highest = part.Data[Value::RatedVoltage]};
+}
+
+Range HeatingRange(const PartRecord& part)
+{
+    return {.Lowest = LowestHeatingAmbientC, .Highest = part.Data[Value::UpperTemperature]};
+}
+
+/// What can be entered for a characteristic that is not listed, in °C.
+constexpr Range unlistedRange = {.Lowest = -55, .Highest = 125};
+
+Range ClassRange(const PartRecord& part, CodeView view)
+{
+    const auto* const characteristic = FindCharacteristic(part.Tcc[0]);
+    if (characteristic == nullptr)
+    {
+        return unlistedRange;
+    }
+    const auto& range = characteristic->RangeIn(view);
+    return {.Lowest = range.MinC, .Highest = range.MaxC};
+}
+
+/// In kHz.
+Range FrequencyRange()
+{
+    return {.Lowest = ShownValue(Quantity::Frequency, LowestFrequencyHz),
+            .Highest = ShownValue(Quantity::Frequency, HighestFrequencyHz)};
+}
+} // namespace
+
+bool IsDCBiasPermitted(float volts, const PartRecord& part)
+{
+    return BiasRange(part).Holds(volts);
+}
+
+bool IsDCBiasBelowRated(float volts, const PartRecord& part)
+{
+    return volts >= 0 && volts < part.Data[Value::RatedVoltage];
+}
+
+bool IsHeatResistancePermitted(float perWatt)
+{
+    return perWatt > 0 && perWatt <= std::numeric_limits<float>::max();
+}
+
+bool IsHeatingAmbientPermitted(float celsius, const PartRecord& part)
+{
+    return HeatingRange(part).Holds(celsius);
+}
+
+bool IsClassAmbientPermitted(float celsius, const PartRecord& part, CodeView view)
+{
+    return ClassRange(part, view).Holds(celsius);
+}
+
+bool IsFrequencyPermitted(float kilohertz)
+{
+    return FrequencyRange().Holds(kilohertz);
+}
+
+/// Nothing when the entry lies in the range.
+static Refusal JudgeRange(std::string_view entry, EntryLocale locale, Range range, std::string_view condition,
+                          std::string_view unit)
 {
     return Judge(
-        entry, locale, [=](float v) { return v >= lowest && v <= highest; },
-        [&] {
-            return Invalid(condition, NumberText(lowest) + " to " + NumberText(highest) + std::string(unit));
+        entry, locale, [=](float v) { return range.Holds(v); },
+        [&]
+        {
+            return Invalid(condition,
+                           NumberText(range.Lowest) + " to " + NumberText(range.Highest) + std::string(unit));
         });
 }
 
 Refusal RefuseDCBias(std::string_view entry, const PartRecord& part, CodeView, EntryLocale locale)
 {
-    return JudgeRange(entry, locale, 0, part.Data[Value::RatedVoltage], NameOf(Quantity::DCVoltage), "[V]");
+    return JudgeRange(entry, locale, BiasRange(part), NameOf(Quantity::DCVoltage), "[V]");
 }
 
 Refusal RefuseDCBiasAtRated(std::string_view entry, const PartRecord& part, CodeView, EntryLocale locale)
 {
-    const float rated = part.Data[Value::RatedVoltage];
     return Judge(
-        entry, locale, [=](float v) { return v >= 0 && v < rated; },
-        [=] { return Invalid(NameOf(Quantity::DCVoltage), "0 under " + NumberText(rated) + "[V]"); });
+        entry, locale, [&](float v) { return IsDCBiasBelowRated(v, part); },
+        [&]
+        {
+            return Invalid(NameOf(Quantity::DCVoltage),
+                           "0 under " + NumberText(part.Data[Value::RatedVoltage]) + "[V]");
+        });
 }
 
 Refusal RefuseHeatResistance(std::string_view entry, const PartRecord&, CodeView, EntryLocale locale)
 {
-    return Judge(
-        entry, locale, [](float v) { return v > 0 && v <= std::numeric_limits<float>::max(); },
-        [] { return Invalid(NameOf(Quantity::HeatResistance), "0 [C/W]"); });
+    return Judge(entry, locale, IsHeatResistancePermitted,
+                 [] { return Invalid(NameOf(Quantity::HeatResistance), "0 [C/W]"); });
 }
 
 Refusal RefuseHeatingAmbient(std::string_view entry, const PartRecord& part, CodeView, EntryLocale locale)
 {
-    return JudgeRange(entry, locale, LowestHeatingAmbientC, part.Data[Value::UpperTemperature], ambientName,
-                      " [C]");
+    return JudgeRange(entry, locale, HeatingRange(part), ambientName, " [C]");
 }
-
-/// What can be entered for a characteristic that is not listed, in °C.
-static constexpr TemperatureRange unlistedRange = {.MinC = -55, .MaxC = 125};
 
 Refusal RefuseClassAmbient(std::string_view entry, const PartRecord& part, CodeView view, EntryLocale locale)
 {
-    const auto* const characteristic = FindCharacteristic(part.Tcc[0]);
-    const auto range = characteristic == nullptr ? unlistedRange : characteristic->RangeIn(view);
-    return JudgeRange(entry, locale, range.MinC, range.MaxC, ambientName, " [C]");
+    return JudgeRange(entry, locale, ClassRange(part, view), ambientName, " [C]");
 }
 
 Refusal RefuseFrequency(std::string_view entry, const PartRecord&, CodeView, EntryLocale locale)
 {
-    constexpr auto frequency = Quantity::Frequency;
-    return JudgeRange(entry, locale, ShownValue(frequency, LowestFrequencyHz),
-                      ShownValue(frequency, HighestFrequencyHz), NameOf(frequency), " [kHz]");
+    return JudgeRange(entry, locale, FrequencyRange(), NameOf(Quantity::Frequency), " [kHz]");
 }
 
 Refusal RefuseNoNumber(std::string_view entry, const PartRecord&, CodeView, EntryLocale locale)

@@ -74,7 +74,27 @@ const ConditionKind& KindOf(Condition condition);
 /// reference temperature as ambient temperature; empty for the others.
 std::string FirstEntry(Condition condition, const PartRecord& part, CodeView view);
 
-// ---- The rules ----
+// ---- What is permitted ----
+
+/// DC bias in V: from 0 to the part's rated voltage.
+bool IsDCBiasPermitted(float volts, const PartRecord& part);
+
+/// DC bias in V: from 0 to below the part's rated voltage.
+bool IsDCBiasBelowRated(float volts, const PartRecord& part);
+
+/// Heat resistance in °C/W: above 0, and finite.
+bool IsHeatResistancePermitted(float perWatt);
+
+/// Ambient temperature in °C of the heating charts.
+bool IsHeatingAmbientPermitted(float celsius, const PartRecord& part);
+
+/// Ambient temperature in °C of the capacitance charts.
+bool IsClassAmbientPermitted(float celsius, const PartRecord& part, CodeView view);
+
+/// Frequency in kHz: 10 to 1000.
+bool IsFrequencyPermitted(float kilohertz);
+
+// ---- The rules in words ----
 
 /// DC bias in V: from 0 to the part's rated voltage.
 Refusal RefuseDCBias(std::string_view entry, const PartRecord& part, CodeView view, EntryLocale locale);

@@ -46,6 +46,13 @@ PowerModel PowerModelOf(const PartRecord& part, float biasVolts, float ambientC,
         .Rth = heatResistance};
 }
 
+std::optional<double> PowerModel::LossResistance(double frequencyHz) const
+{
+    constexpr double milliohmsPerOhm = 1000;
+    const double sum = CurrentHeating(Q1, Q2, Q3, frequencyHz);
+    return sum > 0 ? std::optional(milliohmsPerOhm * CheckedQuotient(sum, Rref)) : std::nullopt;
+}
+
 double PowerModel::kVConstant() const
 {
     return CheckedQuotient(S1 * Rth, Rref);

@@ -6,6 +6,7 @@
 #include "partdata/PartRecord.h"
 
 #include <cmath>
+#include <optional>
 
 /// °C per A² of the current law before it is scaled to a heat resistance: perF/f + flat + f·byF. Throws
 /// RunTimeError 11 for a frequency of 0 and 6 for a sum that is not finite.
@@ -42,6 +43,10 @@ struct PowerModel
         const double k = CheckedQuotient(sum * Rth, Rref);
         return k > 0 ? k : 1.0;
     }
+
+    /// The resistance in mΩ that the current heats, (Q1/f + Q2 + f·Q3)/Rref; nothing where the bracket is not
+    /// positive. It is the part's own, whatever `Rth` is. Throws RunTimeError 6 or 11.
+    std::optional<double> LossResistance(double frequencyHz) const;
 
     /// The part of kV that does not depend on frequency: S1·Rth/Rref.
     double kVConstant() const;

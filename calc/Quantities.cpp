@@ -6,7 +6,7 @@
 #include <array>
 
 /// In the order of `Quantity`.
-static constexpr std::array<QuantityKind, 11> quantities = {{
+static constexpr std::array<QuantityKind, 12> quantities = {{
     {.Id = Quantity::Current, .Name = "Current", .Unit = "Arms", .PrefixedUnit = "Arms"},
     {.Id = Quantity::RmsVoltage, .Name = "Voltage", .Unit = "Vrms", .PrefixedUnit = "Vrms"},
     {.Id = Quantity::ApparentPower, .Name = "Apparent Power", .Unit = "VA", .PrefixedUnit = "VA"},
@@ -31,6 +31,11 @@ static constexpr std::array<QuantityKind, 11> quantities = {{
      .PrefixedExponent = -12},
     {.Id = Quantity::CapacitanceChange, .Name = "Capacitance Change", .Unit = "%", .CanBeNegative = true},
     {.Id = Quantity::HeatResistance, .Name = "Heat Resistance", .Unit = "C/W", .HasDegrees = true},
+    {.Id = Quantity::LossResistance,
+     .Name = "Loss Resistance",
+     .Unit = "mOhm",
+     .PrefixedUnit = "\u03A9",
+     .PrefixedExponent = -3},
 }};
 
 const QuantityKind& KindOf(Quantity quantity)

@@ -21,6 +21,7 @@ enum class Quantity : std::uint8_t
     Capacitance,
     CapacitanceChange,
     HeatResistance,
+    LossResistance,
 };
 
 /// What is known of one quantity.

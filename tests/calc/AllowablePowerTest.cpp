@@ -153,4 +153,23 @@ TEST(AllowableLoad, NeedsNoVoltageLawForCurrent)
     EXPECT_EQ(ErrorNumberOf([&] { AllowableLoad(model, 10, 20, Quantity::EffectivePower); }), 11);
 }
 
+TEST(AllowableLoads, AreThoseOfEachQuantity)
+{
+    for (const double bound : {0.5, 3.0, 50.0})
+    {
+        const auto model = HeatedModel();
+        const auto loads = AllowableLoadsAt(model, bound, 20, frequencyHz);
+        const auto one = [&](Quantity load) { return AllowableLoadAt(model, bound, 20, load, frequencyHz); };
+        EXPECT_EQ(loads.Arms, one(Quantity::Current));
+        EXPECT_EQ(loads.Vrms, one(Quantity::RmsVoltage));
+        EXPECT_EQ(loads.VoltAmperes, one(Quantity::ApparentPower));
+        EXPECT_EQ(loads.Watts, one(Quantity::EffectivePower));
+    }
+    // kI = 4, kV = 1.25 at 100 kHz: 20 °C are 5^½ A, 16^0.4 V and 20/50 W.
+    const auto free = AllowableLoadsAt(HeatedModel(), 50, 20, frequencyHz);
+    EXPECT_NEAR(free.Arms, std::sqrt(5), 1e-6);
+    EXPECT_NEAR(free.Vrms, std::pow(16, 0.4), 1e-6);
+    EXPECT_NEAR(free.VoltAmperes, std::sqrt(5) * std::pow(16, 0.4), 1e-5);
+    EXPECT_NEAR(free.Watts, 0.4, 1e-9);
+}
 } // namespace

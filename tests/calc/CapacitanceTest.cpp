@@ -336,4 +336,19 @@ TEST(CapacitanceFault, IsNotRaisedByCoefficientsOutOfReach)
     part.Data[Value::PeakAmplitude] = std::numeric_limits<float>::quiet_NaN();
     EXPECT_EQ(ErrorNumberOf([&] { FirstChange(part, 25, CodeView::Jis); }), 0);
 }
+
+TEST(CapacitancePoint, IsWhatIsToldOfEachQuantity)
+{
+    const auto part = LinearPart();
+    for (const CodeView view : {CodeView::Eia, CodeView::Jis})
+    {
+        const auto point = CapacitancePointAt(part, 1, 60, view);
+        ASSERT_TRUE(point);
+        EXPECT_EQ(point->PicoFarads, CapacitanceAt(part, 1, 60, Quantity::Capacitance, view));
+        EXPECT_EQ(point->Change, CapacitanceAt(part, 1, 60, Quantity::CapacitanceChange, view));
+    }
+    auto unlisted = part;
+    unlisted.Tcc = {"C0G", "CG"};
+    EXPECT_FALSE(CapacitancePointAt(unlisted, 1, 60, CodeView::Eia));
+}
 } // namespace

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cmath>
 #include <functional>
 
 namespace
@@ -237,4 +239,45 @@ TEST(FirstEntry, IsThePartsOwnHeatResistanceAndTheViewsReference)
     EXPECT_EQ(FirstEntry(Condition::Parameter, part, CodeView::Jis), "");
 }
 
+// ---- Numbers that need no words ----
+
+/// Numbers around every limit of the rules.
+constexpr std::array<float, 18> JudgedNumbers = {-56, -55, -30, -25,   -0.01F, 0,   0.01F, 10,      15.99F,
+                                                 16,  17,  20,  84.9F, 85,     125, 126,   1000.1F, INFINITY};
+
+TEST(PermittedNumbers, AreThoseWhoseEntriesAreNotRefused)
+{
+    for (const char* tcc : {"X7R", "X5R", "Y5V", "C0G"})
+    {
+        const auto part = Part(16, 85, tcc);
+        for (const float number : JudgedNumbers)
+        {
+            const auto entry = std::isinf(number) ? "1E39" : std::to_string(number);
+            const auto isRefused = [&](ConditionRule rule, CodeView view = CodeView::Eia)
+            { return rule(entry, part, view, Point).has_value(); };
+            EXPECT_NE(IsDCBiasPermitted(number, part), isRefused(RefuseDCBias)) << entry;
+            EXPECT_NE(IsDCBiasBelowRated(number, part), isRefused(RefuseDCBiasAtRated)) << entry;
+            EXPECT_NE(IsHeatResistancePermitted(number), isRefused(RefuseHeatResistance)) << entry;
+            EXPECT_NE(IsHeatingAmbientPermitted(number, part), isRefused(RefuseHeatingAmbient)) << entry;
+            EXPECT_NE(IsFrequencyPermitted(number), isRefused(RefuseFrequency)) << entry;
+            for (const CodeView view : {CodeView::Eia, CodeView::Jis})
+            {
+                EXPECT_NE(IsClassAmbientPermitted(number, part, view), isRefused(RefuseClassAmbient, view))
+                    << tcc << ' ' << entry;
+            }
+        }
+    }
+}
+
+TEST(PermittedNumbers, EndWhereTheRulesSay)
+{
+    const auto part = Part(16, 85, "X5R");
+    EXPECT_TRUE(IsDCBiasPermitted(16, part));
+    EXPECT_FALSE(IsDCBiasBelowRated(16, part));
+    EXPECT_FALSE(IsHeatResistancePermitted(0));
+    EXPECT_FALSE(IsHeatingAmbientPermitted(19.9F, part));
+    EXPECT_TRUE(IsClassAmbientPermitted(-55, part, CodeView::Eia));
+    EXPECT_FALSE(IsClassAmbientPermitted(-55, part, CodeView::Jis));
+    EXPECT_TRUE(IsFrequencyPermitted(1000));
+}
 } // namespace

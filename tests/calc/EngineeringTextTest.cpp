@@ -46,6 +46,7 @@ INSTANTIATE_TEST_SUITE_P(
                     SingleRow{"a hair below zero", Quantity::CapacitanceChange, -0.0004, "0 %"},
                     SingleRow{"noise beside zero", Quantity::CapacitanceChange, 2e-6, "0 %"},
                     SingleRow{"zero", Quantity::EffectivePower, 0, "0 W"},
+                    SingleRow{"loss resistance", Quantity::LossResistance, 5.5253, "5.525 mΩ"},
                     SingleRow{"heat resistance", Quantity::HeatResistance, 105, "105.0 °C/W"}),
     RowName<SingleRow>);
 

@@ -384,4 +384,26 @@ TEST(ParameterRefusalMessage, ShowsThePermittedRange)
     EXPECT_EQ(refusal->Message, "Parameter is invalid!\r\nPlease enter a Number from 0 to 9.931");
 }
 
+TEST(LossResistance, IsWhatTheCurrentHeats)
+{
+    // 4 °C/A² at 50 °C/W are 4/50 W/A², whatever the heat resistance in use.
+    EXPECT_NEAR(*HeatedModel().LossResistance(frequencyHz), 80, 1e-9);
+    EXPECT_NEAR(*PowerModelOf(HeatedPart(), 0, 20, 10).LossResistance(frequencyHz), 80, 1e-9);
+    auto model = UnitModel();
+    model.Q1 = 1e5;
+    model.Q3 = 2e-5;
+    EXPECT_NEAR(*model.LossResistance(frequencyHz), (1 + 1 + 2) / 50.0 * 1000, 1e-9);
+}
+
+TEST(LossResistance, HasNoValueWhereNothingHeats)
+{
+    auto model = UnitModel();
+    model.Q2 = 0;
+    EXPECT_EQ(model.LossResistance(frequencyHz), std::nullopt);
+    model.Q2 = -1;
+    EXPECT_EQ(model.LossResistance(frequencyHz), std::nullopt);
+    model.Q2 = 1;
+    model.Rref = 0;
+    EXPECT_EQ(ErrorNumberOf([&] { model.LossResistance(frequencyHz); }), 11);
+}
 } // namespace

@@ -64,6 +64,12 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"microfarads with the micro sign", "4.7\u00B5F", Quantity::Capacitance, 4700000},
                     Row{"microfarads with the Greek letter", "4.7\u03BCF", Quantity::Capacitance, 4700000},
                     Row{"farads", "1E-6F", Quantity::Capacitance, 1000000},
+                    Row{"bare milliohms", "3", Quantity::LossResistance, 3},
+                    Row{"milliohms", "3mOhm", Quantity::LossResistance, 3},
+                    Row{"milliohms with the Greek letter", "3m\u03A9", Quantity::LossResistance, 3},
+                    Row{"ohms", "0.003Ohm", Quantity::LossResistance, 3},
+                    Row{"ohms with their sign", "0.003\u2126", Quantity::LossResistance, 3},
+                    Row{"ohms with the Greek letter", "0.003\u03A9", Quantity::LossResistance, 3},
                     Row{"percent", "-20%", Quantity::CapacitanceChange, -20}));
 
 class ForeignUnits : public testing::TestWithParam<Row>
@@ -85,6 +91,7 @@ INSTANTIATE_TEST_SUITE_P(Values, ForeignUnits,
                                          Row{"a prefix alone", "2k", Quantity::Frequency, 0},
                                          Row{"a prefix of degrees", "2kC", Quantity::Temperature, 0},
                                          Row{"kelvin of temperature", "300K", Quantity::Temperature, 0},
+                                         Row{"volts of loss resistance", "2V", Quantity::LossResistance, 0},
                                          Row{"two prefixes", "2mkV", Quantity::DCVoltage, 0},
                                          Row{"something behind the unit", "2V3", Quantity::DCVoltage, 0}));
 
