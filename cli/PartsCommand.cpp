@@ -3,14 +3,12 @@
 #include "cli/Command.h"
 #include "cli/Commands.h"
 #include "cli/FileArguments.h"
+#include "cli/FilterOptions.h"
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
-#include "cli/RequestWords.h"
 #include "requests/Names.h"
 #include "requests/PartList.h"
 #include "requests/PartOrder.h"
-#include "requests/RequestError.h"
-#include "requests/UnitEntry.h"
 
 #include <CLI/CLI.hpp>
 
@@ -59,31 +57,6 @@ static void ListParts(const PartsOptions& options)
     }
 }
 
-/// An option that is read as soon as it is met, so that a wrong one is a wrong command line.
-template <class Take>
-static void AddFilter(CLI::App& command, const char* name, const char* type, const std::string& text,
-                      const Take& take)
-{
-    command
-        .add_option_function<std::string>(
-            name,
-            [take, name](const std::string& value)
-            {
-                try
-                {
-                    take(value);
-                }
-                catch (const RequestError& error)
-                {
-                    throw UsageError(FollowsKey(error.Kind()) ? std::string(name) + ' ' + error.Message()
-                                                              : WordsOf(error));
-                }
-            },
-            text)
-        ->type_name(type)
-        ->group("Filter");
-}
-
 /// A whole number.
 static std::size_t CountOf(std::string_view text)
 {
@@ -102,25 +75,15 @@ void AddPartsCommand(CLI::App& app)
     auto& command = *app.add_subcommand("parts", "Lists the parts that fit");
     command.footer(help);
     PartFilter& filter = options->Filter;
-    command.add_option("text", filter.Text, "Part of a part number, in any form and letter case")
-        ->type_name("TEXT");
-    AddFilter(command, "--chart", "CHART", "Parts with data for a chart type, such as temperature-rise",
-              [&filter](const std::string& value) { filter.ChartType = ChartTypeOf(value); });
-    AddFilter(command, "--size", "SIZE", "Size code, such as 1206 or 3216",
-              [&filter](const std::string& value) { filter.SizeCode = value; });
-    AddFilter(command, "--characteristic", "TCC", "Temperature characteristic, such as X7R or R",
-              [&filter](const std::string& value) { filter.Tcc = value; });
-    AddFilter(command, "--capacitance", "pF", "Nominal capacitance, such as 4.7uF or 1uF..10uF",
-              [&filter](const std::string& value)
-              { filter.Capacitance = RangeInUnit(value, Quantity::Capacitance); });
-    AddFilter(command, "--rated-voltage", "V", "Rated voltage, such as 25V or 16V..",
-              [&filter](const std::string& value)
-              { filter.RatedVoltage = RangeInUnit(value, Quantity::DCVoltage); });
-    AddFilter(command, "--sort", "KEY[,KEY...]",
-              "Order by " + ChoiceOf(SortNames()) + "; downwards with a hyphen before the key",
-              [options](const std::string& value) { options->Order = SortKeysOf(value); });
-    AddFilter(command, "--limit", "N", "So many parts at most",
-              [options](const std::string& value) { options->Limit = CountOf(value); });
+    AddReadOption(command, {"--chart", "CHART", "Parts with data for a chart type, such as temperature-rise"},
+                  [&filter](const std::string& value) { filter.ChartType = ChartTypeOf(value); });
+    AddFilterOptions(command, filter);
+    AddReadOption(command,
+                  {"--sort", "KEY[,KEY...]",
+                   "Order by " + ChoiceOf(SortNames()) + "; downwards with a hyphen before the key"},
+                  [options](const std::string& value) { options->Order = SortKeysOf(value); });
+    AddReadOption(command, {"--limit", "N", "So many parts at most"},
+                  [options](const std::string& value) { options->Limit = CountOf(value); });
     AddCodeOption(command, options->Code);
     AddNumberingOption(command, options->Settings);
     AddDataOption(command, options->DataFolder);

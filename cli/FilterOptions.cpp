@@ -1,0 +1,42 @@
+#include "cli/FilterOptions.h"
+
+#include "cli/Command.h"
+#include "cli/RequestWords.h"
+#include "requests/PartList.h"
+
+#include <CLI/CLI.hpp>
+
+void AddReadOption(CLI::App& command, const ReadOption& option,
+                   const std::function<void(const std::string& value)>& take)
+{
+    const auto read = [take, name = option.Name](const std::string& value)
+    {
+        try
+        {
+            take(value);
+        }
+        catch (const RequestError& error)
+        {
+            throw UsageError(FollowsKey(error.Kind()) ? name + ' ' + error.Message() : WordsOf(error));
+        }
+    };
+    command.add_option_function<std::string>(option.Name, read, option.Text)
+        ->type_name(option.Type)
+        ->group(option.Group);
+}
+
+void AddFilterOptions(CLI::App& command, PartFilter& filter)
+{
+    command.add_option("text", filter.Text, "Part of a part number, in any form and letter case")
+        ->type_name("TEXT");
+    AddReadOption(command, {"--size", "SIZE", "Size code, such as 1206 or 3216"},
+                  [&filter](const std::string& value) { filter.SizeCode = value; });
+    AddReadOption(command, {"--characteristic", "TCC", "Temperature characteristic, such as X7R or R"},
+                  [&filter](const std::string& value) { filter.Tcc = value; });
+    AddReadOption(command, {"--capacitance", "pF", "Nominal capacitance, such as 4.7uF or 1uF..10uF"},
+                  [&filter](const std::string& value)
+                  { filter.Capacitance = RangeInUnit(value, Quantity::Capacitance); });
+    AddReadOption(command, {"--rated-voltage", "V", "Rated voltage, such as 25V or 16V.."},
+                  [&filter](const std::string& value)
+                  { filter.RatedVoltage = RangeInUnit(value, Quantity::DCVoltage); });
+}
