@@ -1,0 +1,103 @@
+#include "find/FoundOrder.h"
+
+#include "find/Appearances.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <functional>
+#include <limits>
+#include <ranges>
+
+namespace
+{
+/// What a part is compared by, upwards.
+using Rank = std::function<double(const FoundPart&)>;
+
+/// A found part as one key sees it.
+struct Ranked
+{
+    double Rank;
+    std::uint32_t Index;
+};
+
+using Order = std::vector<Ranked>;
+
+Rank AppearanceRank(const PartTable& parts, Appearances::Names names, CodeView code)
+{
+    return [appearances = Appearances(parts, names, code)](const FoundPart& found)
+    { return static_cast<double>(appearances(found.Part())); };
+}
+
+Rank ValueRank(FoundKey key)
+{
+    return [key](const FoundPart& found)
+    {
+        const auto value = found.ValueOf(key.Column);
+        return value ? (key.Downwards ? -*value : *value) : std::numeric_limits<double>::infinity();
+    };
+}
+
+Rank UpwardRank(const PartTable& parts, FoundColumn column, CodeView code)
+{
+    switch (column)
+    {
+    case FoundColumn::Part:
+        return [&parts](const FoundPart& found)
+        { return static_cast<double>(&found.Part() - parts.PartData.data()); };
+    case FoundColumn::Size:
+        return AppearanceRank(parts, &PartRecord::SizeCode, code);
+    default:
+        return AppearanceRank(parts, &PartRecord::Tcc, code);
+    }
+}
+
+Rank RankOf(const PartTable& parts, FoundKey key, CodeView code)
+{
+    if (key.Column > FoundColumn::Characteristic)
+    {
+        return ValueRank(key);
+    }
+    auto upward = UpwardRank(parts, key.Column, code);
+    return key.Downwards ? [upward](const FoundPart& found) { return -upward(found); } : upward;
+}
+
+void SortBy(Order& order, const std::vector<FoundPart>& found, const Rank& rank)
+{
+    for (Ranked& ranked : order)
+    {
+        ranked.Rank = rank(found[ranked.Index]);
+    }
+    if (!std::ranges::is_sorted(order, {}, &Ranked::Rank))
+    {
+        std::ranges::stable_sort(order, {}, &Ranked::Rank);
+    }
+}
+} // namespace
+
+std::vector<FoundKey> LeastBoard()
+{
+    return {{.Column = FoundColumn::Area}, {.Column = FoundColumn::Count}};
+}
+
+void SortFound(std::vector<FoundPart>& found, const PartTable& parts, const std::vector<FoundKey>& keys,
+               CodeView code)
+{
+    Order order;
+    order.reserve(found.size());
+    for (std::uint32_t i = 0; i < found.size(); ++i)
+    {
+        order.push_back({.Rank = 0, .Index = i});
+    }
+    // The weightiest key last: each pass keeps the order of those before it among equals.
+    for (const FoundKey& key : std::views::reverse(keys))
+    {
+        SortBy(order, found, RankOf(parts, key, code));
+    }
+    std::vector<FoundPart> sorted;
+    sorted.reserve(found.size());
+    for (const Ranked& ranked : order)
+    {
+        sorted.push_back(found[ranked.Index]);
+    }
+    found = std::move(sorted);
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+/// One part that fits, with what the list tells of it.
+
+#include "find/FoundColumns.h"
+#include "partdata/PartRecord.h"
+
+#include <array>
+#include <limits>
+#include <optional>
+
+/// The values of a part in the units of the columns.
+class FoundPart
+{
+public:
+    explicit FoundPart(const PartRecord& found)
+        : part(&found)
+    {
+        values.fill(std::numeric_limits<double>::quiet_NaN());
+    }
+
+    const PartRecord& Part() const { return *part; }
+    /// The value of a column; nothing where it is empty, and for names.
+    std::optional<double> ValueOf(FoundColumn column) const;
+    /// Throws RunTimeError 6 for a value that does not fit a single.
+    void Set(FoundColumn column, double value);
+
+private:
+    static constexpr auto firstComputed = static_cast<std::size_t>(FoundColumn::EffectiveCapacitance);
+
+    const PartRecord* part;
+    /// From the effective capacitance on; not a number where a column is empty.
+    std::array<double, FoundColumnCount - firstComputed> values;
+};

@@ -1,0 +1,41 @@
+#pragma once
+
+/// Why parts are left out of an answer, other than for what is wanted of them.
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+/// In the order in which they count: a part counts under the first that holds.
+enum class LeftOutReason : std::uint8_t
+{
+    NoCapacitanceData,
+    NoHeatingData,
+    BiasTooHigh,
+    TemperatureOutOfRange,
+    NoPermittedRise,
+    SizeWithoutMeasures,
+    CannotBeCalculated,
+};
+
+inline constexpr std::size_t LeftOutReasons = 7;
+
+/// How many parts each reason has left out.
+class LeftOutCounts
+{
+public:
+    void Add(LeftOutReason reason) { ++counts[static_cast<std::size_t>(reason)]; }
+    std::size_t operator[](LeftOutReason reason) const { return counts[static_cast<std::size_t>(reason)]; }
+    std::size_t Total() const;
+
+private:
+    std::array<std::size_t, LeftOutReasons> counts{};
+};
+
+/// "bias too high".
+std::string_view TextOf(LeftOutReason reason);
+
+/// "25 parts fit; left out: 3 no heating data, 21 bias too high", "1 part fits", "no part fits".
+std::string FitText(std::size_t fitting, const LeftOutCounts& leftOut);
