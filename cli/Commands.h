@@ -11,6 +11,9 @@
 /// "parts": lists and filters the parts of the range.
 void AddPartsCommand(CLI::App& app);
 
+/// "find": the parts that do what is needed at an operating point.
+void AddFindCommand(CLI::App& app);
+
 /// "curve": one curve in a file format, or a stream of curves.
 void AddCurveCommand(CLI::App& app);
 
@@ -18,5 +21,5 @@ void AddCurveCommand(CLI::App& app);
 void AddChartCommand(CLI::App& app);
 
 /// All commands, in the order in which the help tells them.
-inline constexpr std::array AllCommands = {AddPartsCommand, AddCurveCommand, AddChartCommand,
+inline constexpr std::array AllCommands = {AddPartsCommand, AddFindCommand, AddCurveCommand, AddChartCommand,
                                            AddDataCommands};

@@ -64,10 +64,11 @@ _tavik_cli()
         --chart) words=$("$program" curve --help 2>/dev/null | _tavik_cli_names --chart) ;;
         --code | --numbering | --format) words=$(_tavik_cli_names "$previous" <<< "$help") ;;
         --sort) words=$(_tavik_cli_names --sort <<< "$help" | sed -e 's/Order by//' -e 's/;.*//' -e '/hyphen/d') ;;
-        --size) words=$(_tavik_cli_parts "$program" "" size) ;;
+        --size | --max-size) words=$(_tavik_cli_parts "$program" "" size) ;;
         --characteristic) words=$(_tavik_cli_parts "$program" "" characteristic) ;;
         --capacitance) words=$(_tavik_cli_parts "$program" "" "capacitance [pF]" | _tavik_cli_with_prefix) ;;
-        --rated-voltage) words=$(_tavik_cli_parts "$program" "" "rated voltage [V]" | sed 's/$/V/') ;;
+        --rated-voltage | --min-rated-voltage) words=$(_tavik_cli_parts "$program" "" "rated voltage [V]" | sed 's/$/V/') ;;
+        --parallel) words=auto ;;
         --parameter) words=$(_tavik_cli_names --parameter <<< "$help" | sed 's/[a-z-]\{1,\}/&=/g') ;;
         *)
             if ! _tavik_cli_takes_value "$previous" <<< "$help"; then

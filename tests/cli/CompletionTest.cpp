@@ -88,7 +88,7 @@ void CompletionTest::OffersAllOf(const QStringList& command)
 
 void CompletionTest::OffersAllThatTheHelpNames()
 {
-    QCOMPARE(CommandsOf({}), (QStringList{"parts", "curve", "chart", "data"}));
+    QCOMPARE(CommandsOf({}), (QStringList{"parts", "find", "curve", "chart", "data"}));
     OffersAllOf({});
 }
 
@@ -124,6 +124,15 @@ void CompletionTest::OffersWhatFits_data()
     row("rated voltages", "parts --rated-voltage 6", "6.3V 630V");
     row("orders", "parts --sort c", "characteristic capacitance");
     row("all orders", "parts --sort ", "part size characteristic capacitance rated-voltage");
+    row("orders of found parts", "find --sort r", "rated-voltage rise ripple");
+    row("all orders of found parts", "find --sort ",
+        "part size characteristic capacitance rated-voltage effective-capacitance left permitted-rise "
+        "loss-resistance current voltage apparent-power effective-power rise body ripple count total area");
+    row("as few in parallel as will do", "find --parallel ", "auto");
+    row("largest sizes", "find --max-size 12", "1206 1210");
+    row("least rated voltages", "find --min-rated-voltage 6", "6.3V 630V");
+    row("formats of found parts", "find --format ", "table csv json");
+    row("loads", "find --parameter v", "voltage=");
     row("no option as a value", "curve --dc-bias ", "");
     row("files as a value", "curve --output ", "");
     row("a text that no command bears", "parts * --code j", "jis");

@@ -50,6 +50,7 @@ void GoldenTextsTest::Help_data()
     QTest::addColumn<QString>("words");
     QTest::newRow("help") << "--help";
     QTest::newRow("help-parts") << "parts --help";
+    QTest::newRow("help-find") << "find --help";
     QTest::newRow("help-curve") << "curve --help";
     QTest::newRow("help-chart") << "chart --help";
     QTest::newRow("help-data") << "data --help";
@@ -90,6 +91,12 @@ void GoldenTextsTest::Answers_data()
     row("parts-table", "parts KTS31N --capacitance 10uF");
     row("parts-csv", "parts KTS31N --capacitance 10uF --format csv --code jis --numbering previous");
     row("parts-json", "parts KTS31N --capacitance 10uF --format json");
+    row("find-table", "find --parallel auto --min-capacitance 10uF --dc-bias 12V --ambient 70C "
+                      "--frequency 500kHz --current 4Arms --limit 12");
+    row("find-csv", "find KTS31N --capacitance 10uF --dc-bias 16V --frequency 300kHz --parallel 2 "
+                    "--parameter voltage=0.2 --format csv --code jis --numbering previous");
+    row("find-json", "find --dc-bias 5V --ambient=-20C --min-left 75 --min-capacitance 0.7uF --max-size 0603 "
+                     "--sort=-effective-capacitance --format json");
     row("curve-tvk", "curve KTS31NB51E106MA01 --chart capacitance-dc-voltage --date 1/2/2026");
     row("curve-csv",
         "curve KTS31NB51E106MA01 --chart temperature-rise --dc-bias 12V --frequency 300kHz --format csv");

@@ -40,6 +40,13 @@ assert len(answers) == len(requests)
 answers.append(json.loads(run(["curve", PART, "--chart", "allowable-power", "--dc-bias", "1", "--format", "json"])))
 answers.append(json.loads(run(["parts", "--format", "json"])))
 assert len(answers[-1]) > 1000
+# A list of every kind: without and with heating, loads and counts, and one of parts that lack some of it.
+found = [json.loads(run(["find", "--format", "json", *words.split()])) for words in (
+    "--dc-bias 12V", "--frequency 300kHz --dc-bias 16V", "--parallel auto --min-capacitance 22uF --frequency 300 --current 3",
+    "--parameter voltage=0.1 --frequency 100 --parallel 3")]
+assert all(len(rows) > 100 for rows in found)
+answers += found + [json.loads(run(["find", "nothing", "--format", "json"]))]
+assert answers[-1] == []
 for answer in answers:
     validator.validate(answer)
 # The sample pair is sound; cut short, it is not.
@@ -51,9 +58,15 @@ with tempfile.TemporaryDirectory() as folder:
 assert report["findings"]
 validator.validate(report)
 
-met = {answer["error"]["code"] for answer in answers[:-1] if "error" in answer}
+met = {answer["error"]["code"] for answer in answers if "error" in answer}
 named = set(schema["definitions"]["failure"]["properties"]["error"]["properties"]["code"]["enum"])
 assert named - met == {"calculation"} and met <= named, named ^ met
+
+# Each member of a found part has a value somewhere, and one lacks a value somewhere.
+for key in schema["definitions"]["found"]["items"]["required"]:
+    assert any(row[key] is not None for rows in found for row in rows), key
+assert not validator.is_valid([found[0][0] | {"colour": 1}])
+assert not validator.is_valid([{key: value for key, value in found[0][0].items() if key != "ripple"}])
 
 # The description is strict: neither a new member nor a lost one passes.
 for change in ({"colour": 1}, {"schemaVersion": 2}, {"x": "no list"}):

@@ -1,0 +1,53 @@
+#include "requests/FourDigits.h"
+
+#include "calc/NumberText.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdlib>
+#include <string_view>
+
+namespace
+{
+/// A number as "1.234" and its power of ten.
+struct Rounded
+{
+    std::string Digits;
+    int Exponent = 0;
+
+    /// The number times ten to a power.
+    float Shifted(int power) const
+    {
+        return std::strtof((Digits + 'e' + std::to_string(Exponent + power)).c_str(), nullptr);
+    }
+};
+
+Rounded RoundedOf(float value)
+{
+    constexpr int decimals = 3;
+    std::array<char, 32> text{};
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::scientific, decimals)
+            .ptr;
+    const std::string_view written(text.data(), end);
+    const auto exponentAt = written.find('e');
+    return {.Digits = std::string(written.substr(0, exponentAt)),
+            .Exponent = std::atoi(std::string(written.substr(exponentAt + 1)).c_str())};
+}
+} // namespace
+
+std::string FourDigits(float value)
+{
+    return NumberText(RoundedOf(value).Shifted(0));
+}
+
+std::string CapacitanceInFourDigits(float picofarads)
+{
+    constexpr std::array<std::string_view, 3> units = {"pF", "nF", "uF"};
+    constexpr int perPrefix = 3;
+    const auto rounded = RoundedOf(picofarads);
+    const int prefix = std::clamp(rounded.Exponent / perPrefix, 0, static_cast<int>(units.size()) - 1);
+    return NumberText(rounded.Shifted(-prefix * perPrefix)) +
+           std::string(units[static_cast<std::size_t>(prefix)]);
+}
