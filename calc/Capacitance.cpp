@@ -14,13 +14,13 @@
 
 namespace
 {
-/// The values of a part, widened once to the precision of the arithmetic.
-using Coefficients = std::array<double, DataValues>;
+/// The values of a part up to those of capacitance, widened once to the precision of the arithmetic.
+using Coefficients = std::array<double, Values::OfCapacitance.Last + 1>;
 
 Coefficients CoefficientsOf(const PartRecord& part)
 {
     Coefficients data;
-    std::ranges::copy(part.Data, data.begin());
+    std::copy_n(part.Data.begin(), data.size(), data.begin());
     return data;
 }
 

@@ -5,10 +5,11 @@
 #include "partdata/ValueNames.h"
 
 #include <array>
+#include <cstddef>
 
 /// a·x^6 + b·x^5 + ... + f·x of a group of coefficients, worked out in double precision.
-template <class Number>
-double ChangePolynomial(const std::array<Number, DataValues>& values, ValueGroup coefficients, double x)
+template <class Number, std::size_t Count>
+double ChangePolynomial(const std::array<Number, Count>& values, ValueGroup coefficients, double x)
 {
     double sum = 0;
     for (auto i = coefficients.First; i <= coefficients.Last; ++i)
@@ -19,7 +20,8 @@ double ChangePolynomial(const std::array<Number, DataValues>& values, ValueGroup
 }
 
 /// Change of capacitance by the bias alone, in percent.
-template <class Number> double BiasChange(const std::array<Number, DataValues>& values, double volts)
+template <class Number, std::size_t Count>
+double BiasChange(const std::array<Number, Count>& values, double volts)
 {
     return ChangePolynomial(values, Values::BiasPolynomial, volts);
 }

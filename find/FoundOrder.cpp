@@ -72,6 +72,26 @@ void SortBy(Order& order, const std::vector<FoundPart>& found, const Rank& rank)
         std::ranges::stable_sort(order, {}, &Ranked::Rank);
     }
 }
+
+/// Brings the parts into an order, in place: room for all of them anew costs more than the sorting. The
+/// indices of the order are used up.
+void Permute(std::vector<FoundPart>& found, Order& order)
+{
+    for (std::uint32_t start = 0; start < order.size(); ++start)
+    {
+        const FoundPart first = found[start];
+        std::uint32_t place = start;
+        while (order[place].Index != start)
+        {
+            const auto from = order[place].Index;
+            found[place] = found[from];
+            order[place].Index = place;
+            place = from;
+        }
+        found[place] = first;
+        order[place].Index = place;
+    }
+}
 } // namespace
 
 std::vector<FoundKey> LeastBoard()
@@ -93,11 +113,5 @@ void SortFound(std::vector<FoundPart>& found, const PartTable& parts, const std:
     {
         SortBy(order, found, RankOf(parts, key, code));
     }
-    std::vector<FoundPart> sorted;
-    sorted.reserve(found.size());
-    for (const Ranked& ranked : order)
-    {
-        sorted.push_back(found[ranked.Index]);
-    }
-    found = std::move(sorted);
+    Permute(found, order);
 }

@@ -1,27 +1,14 @@
 #include "find/FoundPart.h"
 
-#include "calc/CheckedMath.h"
-#include "calc/PowerModel.h"
-
-#include <cmath>
-
-std::optional<double> FoundPart::ValueOf(FoundColumn column) const
+double FoundPart::RatingOf(FoundColumn column) const
 {
-    const auto index = static_cast<std::size_t>(column);
-    if (index >= firstComputed)
+    switch (column)
     {
-        const double value = values[index - firstComputed];
-        return std::isnan(value) ? std::nullopt : std::optional(value);
-    }
-    if (column == FoundColumn::Capacitance)
-    {
+    case FoundColumn::Capacitance:
         return part->Data[Value::Capacitance];
+    case FoundColumn::RatedVoltage:
+        return part->Data[Value::RatedVoltage];
+    default:
+        return std::numeric_limits<double>::quiet_NaN();
     }
-    return column == FoundColumn::RatedVoltage ? std::optional(RatedVoltage(*part)) : std::nullopt;
-}
-
-void FoundPart::Set(FoundColumn column, double value)
-{
-    StoredSingle(value);
-    values[static_cast<std::size_t>(column) - firstComputed] = value;
 }

@@ -2,10 +2,12 @@
 
 /// One part that fits, with what the list tells of it.
 
+#include "calc/CheckedMath.h"
 #include "find/FoundColumns.h"
 #include "partdata/PartRecord.h"
 
 #include <array>
+#include <cmath>
 #include <limits>
 #include <optional>
 
@@ -21,12 +23,25 @@ public:
 
     const PartRecord& Part() const { return *part; }
     /// The value of a column; nothing where it is empty, and for names.
-    std::optional<double> ValueOf(FoundColumn column) const;
+    std::optional<double> ValueOf(FoundColumn column) const
+    {
+        const auto index = static_cast<std::size_t>(column);
+        const double value = index >= firstComputed ? values[index - firstComputed] : RatingOf(column);
+        return std::isnan(value) ? std::nullopt : std::optional(value);
+    }
+
     /// Throws RunTimeError 6 for a value that does not fit a single.
-    void Set(FoundColumn column, double value);
+    void Set(FoundColumn column, double value)
+    {
+        StoredSingle(value);
+        values[static_cast<std::size_t>(column) - firstComputed] = value;
+    }
 
 private:
     static constexpr auto firstComputed = static_cast<std::size_t>(FoundColumn::EffectiveCapacitance);
+
+    /// What the part is listed with; not a number for a name.
+    double RatingOf(FoundColumn column) const;
 
     const PartRecord* part;
     /// From the effective capacitance on; not a number where a column is empty.

@@ -50,14 +50,15 @@ public:
 
     void Take(const PartRecord& part, FoundParts& found) const
     {
-        FoundPart row(part);
-        if (const auto reason = LeftOutBy(row))
+        FoundPart& row = found.Parts.emplace_back(part);
+        const auto reason = LeftOutBy(row);
+        if (reason)
         {
             found.LeftOut.Add(*reason);
         }
-        else if (DoesWhatIsWanted(row))
+        if (reason || !DoesWhatIsWanted(row))
         {
-            found.Parts.push_back(row);
+            found.Parts.pop_back();
         }
     }
 

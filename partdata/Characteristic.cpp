@@ -39,10 +39,10 @@ const Characteristic* FindCharacteristic(std::string_view eiaName)
 
 CapacitanceModel CapacitanceModelOf(const PartRecord& part)
 {
-    if (IsSpecialPart(part.PartNum[0]))
-    {
-        return CapacitanceModel::Polynomial;
-    }
     const auto* const characteristic = FindCharacteristic(part.Tcc[0]);
-    return characteristic == nullptr ? CapacitanceModel::None : characteristic->Model;
+    const auto model = characteristic == nullptr ? CapacitanceModel::None : characteristic->Model;
+    // Most parts need no look at the special ones.
+    return model != CapacitanceModel::Polynomial && IsSpecialPart(part.PartNum[0])
+               ? CapacitanceModel::Polynomial
+               : model;
 }
