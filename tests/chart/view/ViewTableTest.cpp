@@ -50,7 +50,6 @@ static void ClickHeading(const ViewDesk& desk, int column)
 void ViewTableTest::AHeadingSortsUpDownAndBack()
 {
     const ViewDesk desk(Kind::RiseOverFrequency, 6);
-    // As the curves of the mock range lie at 100 kHz, from the lowest to the highest.
     ClickHeading(desk, 2);
     const QList<int> upwards = LinesInOrder(desk);
     const CursorTable& table = desk.Model()->Table();
