@@ -30,7 +30,7 @@ _tavik_cli_names()
 }
 
 # A column of the list of parts, by its heading, each entry once: of the folder, code and numbering that the command
-# line names.
+# line names. What a shell would obey, or take for more than one word, is left out: a part can have any name.
 _tavik_cli_parts()
 {
     local program=$1 text=$2 heading=$3 i options=()
@@ -41,7 +41,7 @@ _tavik_cli_parts()
     done
     "$program" parts --format csv "${options[@]}" -- "$text" 2>/dev/null | awk -F, -v heading="$heading" '
         NR == 1 { for (i = 1; i <= NF; ++i) if ($i == heading && !column) column = i; next }
-        !/"/ && !seen[$column]++ { print $column }'
+        $column !~ /[^A-Za-z0-9._+=@%:\/-]/ && !/"/ && !seen[$column]++ { print $column }'
 }
 
 # Capacitances in pF as engineers write them.
@@ -80,7 +80,10 @@ _tavik_cli()
             fi
             ;;
     esac
-    mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")
+    COMPREPLY=()
+    while read -r word; do
+        [[ -n $word && $word == "$current"* ]] && COMPREPLY+=("$word")
+    done < <(tr -s ' ' '\n' <<< "$words")
     [[ ${COMPREPLY[0]:-} == *= ]] && compopt -o nospace 2>/dev/null
     return 0
 }

@@ -1,6 +1,7 @@
 /// What bash offers behind a command line, against the program's own help.
 
 #include "tests/cli/CommandLine.h"
+#include "tests/partfiles/SmallPair.h"
 
 #include <QProcess>
 #include <QRegularExpression>
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void OffersAllThatTheHelpNames();
     void OffersWhatFits_data();
     void OffersWhatFits();
+    void ObeysNoNameOfAPart();
 
 private:
     static void OffersAllOf(const QStringList& command);
@@ -143,6 +145,31 @@ void CompletionTest::OffersWhatFits()
     QFETCH(const QString, words);
     QFETCH(const QString, offered);
     QCOMPARE(OfferedBehind(words.split(' ')).join(' '), offered);
+}
+
+void CompletionTest::ObeysNoNameOfAPart()
+{
+    const TemporaryFolder folder;
+    const auto trace = folder.Path() + "/obeyed";
+    SmallPair pair;
+    for (std::size_t i = 0; i < pair.Parts[0].Names.size(); ++i)
+    {
+        pair.Parts[0].Names[i] = "$(touch " + trace + std::to_string(i) + ")";
+        pair.Parts[1].Names[i] = "A`>" + trace + std::to_string(i) + "`";
+        pair.Parts[2].Names[i] = "PLAIN" + std::to_string(i);
+    }
+    folder.Write("p.idx", pair.Index());
+    folder.Write("p.dat", pair.Data());
+    const auto data = QString::fromStdString(folder.Path());
+    QCOMPARE(OfferedBehind({"curve", "--data", data, "P"}), QStringList("PLAIN0"));
+    // A name that is put on the command line would be obeyed there.
+    QCOMPARE(OfferedBehind({"curve", "--data", data, "$"}), QStringList());
+    QCOMPARE(OfferedBehind({"curve", "--data", data, "A"}), QStringList());
+    QCOMPARE(OfferedBehind({"parts", "--data", data, "--size", ""}), QStringList("PLAIN4"));
+    for (std::size_t i = 0; i < pair.Parts[0].Names.size(); ++i)
+    {
+        QVERIFY(!std::filesystem::exists(trace + std::to_string(i)));
+    }
 }
 
 QTEST_GUILESS_MAIN(CompletionTest)
