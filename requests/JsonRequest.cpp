@@ -146,7 +146,12 @@ static json ParsedLine(std::string_view text)
     }
     catch (const json::exception&)
     {
-        throw noObject;
+        throw RequestError(RequestErrorKind::Syntax, "", "the line has a number beyond all that can be held");
+    }
+    // To the parser this character is the end of the line.
+    if (const auto end = text.find('\0'); end != std::string_view::npos)
+    {
+        throw noObject.AtByte(end + 1);
     }
     if (!object.is_object())
     {

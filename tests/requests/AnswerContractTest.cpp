@@ -137,6 +137,20 @@ TEST(Answers, TellThePlaceThatCannotBeRead)
     EXPECT_FALSE(Error("[1]").contains("position"));
 }
 
+TEST(Answers, ReadALineBehindACharacterZero)
+{
+    const auto error = Error(Of(biasChart) + std::string("\0 more", 6));
+    EXPECT_EQ(error.at("code"), "syntax");
+    EXPECT_EQ(error.at("position"), Of(biasChart).size() + 1);
+}
+
+TEST(Answers, TellThatANumberIsBeyondAllOthers)
+{
+    const auto error = Error(Of(R"("ambient":1e400,)" + biasChart));
+    EXPECT_EQ(error.at("code"), "syntax");
+    EXPECT_EQ(error.at("message"), "the line has a number beyond all that can be held");
+}
+
 TEST(Answers, RefuseALineThatIsNestedTooDeep)
 {
     const auto nested = [](std::size_t depth)
