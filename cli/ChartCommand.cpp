@@ -70,7 +70,8 @@ static bool IsStandardOutput(const ChartOptions& options)
 /// True where a picture that is no text would be written to a terminal.
 static bool IsForTerminal(const ChartOptions& options, const PictureFormat& format)
 {
-    return IsStandardOutput(options) && format.Name != "svg" && IsTerminal(Stream::Output);
+    return format.Name != "svg" &&
+           (IsStandardOutput(options) ? IsTerminal(Stream::Output) : IsTerminalNamed(options.OutputFile));
 }
 
 /// The format that --format names, or else the one that the file is named for: "rise.PNG".

@@ -20,6 +20,7 @@ Output::Output(const std::string& fileName)
         return;
     }
     special.emplace();
+    isTerminal = IsTerminalNamed(fileName);
     // A reader is to get each piece as it comes, and an error is to be told at the piece that it meets.
     special->rdbuf()->pubsetbuf(nullptr, 0);
     special->open(fileName, std::ios::binary);
@@ -29,16 +30,22 @@ Output::Output(const std::string& fileName)
     }
 }
 
+/// Throws where the stream has failed since `errno` was 0.
+static void Check(const std::ostream& stream, const std::string& name)
+{
+    if (!stream && errno == ENOSPC)
+    {
+        throw RunTimeError(RunTimeErrorNumber::DiskFull).At(name);
+    }
+    if (!stream)
+    {
+        throw Failure(name + ": cannot be written");
+    }
+}
+
 static void CheckStandardOutput()
 {
-    if (!std::cout && errno == ENOSPC)
-    {
-        throw RunTimeError(RunTimeErrorNumber::DiskFull).At("standard output");
-    }
-    if (!std::cout)
-    {
-        throw Failure("standard output: cannot be written");
-    }
+    Check(std::cout, "standard output");
 }
 
 void Output::Write(std::string_view text)
@@ -48,16 +55,13 @@ void Output::Write(std::string_view text)
         file->Write(text);
         return;
     }
+    errno = 0;
     if (special)
     {
-        special->write(text.data(), static_cast<std::streamsize>(text.size()));
-        if (!*special)
-        {
-            throw Failure(name + ": cannot be written");
-        }
+        *special << (isTerminal ? TextForTerminal(text) : std::string(text));
+        Check(*special, name);
         return;
     }
-    errno = 0;
     WriteToStandardOutput(text);
     CheckStandardOutput();
 }

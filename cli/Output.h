@@ -19,8 +19,8 @@ public:
     /// Failure for a device.
     explicit Output(const std::string& fileName);
 
-    /// Throws RunTimeError for a file and for standard output on a full disk, Failure for anything else, when
-    /// it cannot be written.
+    /// Throws RunTimeError for a file and on a full disk, Failure for anything else, when it cannot be
+    /// written.
     void Write(std::string_view text);
     /// Hands over what was written so far to a reader of standard output.
     void Flush();
@@ -31,4 +31,5 @@ private:
     std::string name;
     std::unique_ptr<WholeFile> file;
     std::optional<std::ofstream> special;
+    bool isTerminal = false;
 };

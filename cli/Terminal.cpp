@@ -3,11 +3,13 @@
 #include "partdata/OneLine.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <iostream>
 
 #ifdef _WIN32
 #include <io.h>
 #else
+#include <fcntl.h>
 #include <unistd.h>
 #endif
 
@@ -17,6 +19,27 @@ bool IsTerminal(Stream stream)
     return _isatty(static_cast<int>(stream)) != 0;
 #else
     return isatty(static_cast<int>(stream)) != 0;
+#endif
+}
+
+bool IsTerminalNamed([[maybe_unused]] const std::string& fileName)
+{
+#ifdef _WIN32
+    return false;
+#else
+    std::error_code fault;
+    // A pipe is not even opened: its reader would take the closing for the end.
+    if (!std::filesystem::is_character_file(fileName, fault))
+    {
+        return false;
+    }
+    const int handle = open(fileName.c_str(), O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    const bool isTerminal = handle >= 0 && isatty(handle) != 0;
+    if (handle >= 0)
+    {
+        close(handle);
+    }
+    return isTerminal;
 #endif
 }
 

@@ -14,6 +14,9 @@ enum class Stream
 /// True when the stream is shown on a terminal.
 bool IsTerminal(Stream stream);
 
+/// True when a file is a terminal, such as /dev/tty.
+bool IsTerminalNamed(const std::string& fileName);
+
 /// A text as a terminal shows it without obeying it: whatever is no line end and no character of UTF-8 that
 /// can be seen is written as "\x1B".
 std::string TextForTerminal(std::string_view text);

@@ -86,6 +86,8 @@ void ForeignTextTest::GivesATerminalNoCommands_data()
     row("data check .");
     row("data check . --format json", false);
     row("data export .", false);
+    row("data export . --output /dev/stdout", false);
+    row("curve PART --data . --chart capacitance-dc-voltage --output /dev/stdout");
     row("curve PART --data . --chart no-such-chart", false);
     row("parts --data \"$(printf 'no\\033[2J')\"", false);
 }
@@ -137,6 +139,8 @@ void ForeignTextTest::KeepsPicturesFromATerminal()
         QCOMPARE(terminal.Shown(), std::string());
         QCOMPARE(BytesOf(folder.Path() + "/messages"),
                  std::string("tavik-cli: a picture is not for a terminal; name a file with --output\n"));
+        QCOMPARE(RunInShell(command + " --output " + terminal.Name() + " 2>messages"), 2);
+        QCOMPARE(terminal.Shown(), std::string());
         QCOMPARE(RunInShell(command + " | grep -q ."), 0);
     }
 }

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void TellsABrokenPair_data();
     void TellsABrokenPair();
     void TellsThatStandardOutputIsFull();
+    void TellsThatADeviceIsFull();
     void WritesIntoAPipe();
 
     void HasHelpAndVersion();
@@ -373,6 +374,22 @@ void ProgramTest::TellsThatStandardOutputIsFull()
     QCOMPARE(program.exitCode(), 1);
     QCOMPARE(program.readAllStandardError(),
              QByteArray("tavik-cli: Run-time error '61': Disk full: standard output\n"));
+}
+
+void ProgramTest::TellsThatADeviceIsFull()
+{
+    if (!QFile::exists("/dev/full"))
+    {
+        QSKIP("this system has no full device");
+    }
+    const QStringList curve = {medium, "--chart", "capacitance-dc-voltage", "--output", "/dev/full"};
+    for (const auto& command : {QStringList{"curve"} + curve, QStringList{"chart", "--format", "png"} + curve,
+                                QStringList{"parts", "--output", "/dev/full"}})
+    {
+        const Run run = RunCommandLine(command);
+        QCOMPARE(run.Messages, QByteArray("tavik-cli: Run-time error '61': Disk full: /dev/full\n"));
+        QCOMPARE(run.Status, 1);
+    }
 }
 
 void ProgramTest::WritesIntoAPipe()
