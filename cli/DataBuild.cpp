@@ -2,6 +2,7 @@
 
 #include "cli/Command.h"
 #include "cli/FileArguments.h"
+#include "cli/Terminal.h"
 #include "files/InputFile.h"
 #include "files/PartLoading.h"
 #include "partdata/RunTimeError.h"
@@ -46,7 +47,7 @@ TableContents TableOf(const std::string& file)
     }
     for (const auto& error : table.Errors)
     {
-        std::cerr << LineOf(error, isStream ? "standard input" : file) << '\n';
+        TellLine(LineOf(error, isStream ? "standard input" : file));
     }
     throw Failure("");
 }
@@ -79,8 +80,8 @@ void TellEarlierFile(const fs::path& file)
     const auto own = file.filename().string();
     if (!names.empty() && StandsBefore(names.front(), own))
     {
-        std::cerr << own << ": note: " << names.front() << " comes first in " << folder.string()
-                  << " and is loaded instead\n";
+        TellLine(own + ": note: " + names.front() + " comes first in " + folder.string() +
+                 " and is loaded instead");
     }
 }
 

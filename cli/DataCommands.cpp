@@ -4,6 +4,7 @@
 #include "cli/DataBuild.h"
 #include "cli/FileArguments.h"
 #include "cli/Output.h"
+#include "cli/Terminal.h"
 #include "files/PartLoading.h"
 #include "partdata/DataReader.h"
 #include "partdata/PartTable.h"
@@ -13,7 +14,6 @@
 
 #include <CLI/CLI.hpp>
 
-#include <iostream>
 #include <memory>
 #include <vector>
 
@@ -116,7 +116,7 @@ void Export(const DataOptions& options)
     WriteWhole(options.Output, exported.Table);
     for (const auto& note : exported.Notes)
     {
-        std::cerr << note << '\n';
+        TellLine(note);
     }
 }
 

@@ -59,13 +59,19 @@ void TakeOutputPair(CLI::Option& option)
     Judge(option, FaultOfOutputPair);
 }
 
+/// What a stream is called where it stands for a file.
+static std::string NameOf(const fs::path& file, const char* stream)
+{
+    return file == StandardStream ? stream : file.string();
+}
+
 void RefuseInputAsOutput(const std::string& output, const std::vector<fs::path>& inputs)
 {
     const auto* const input = InputThatIs(output.empty() ? StandardStream : output, inputs);
     if (input != nullptr)
     {
-        throw Failure((output.empty() ? StandardStream : output) + ": is " + input->string() +
-                      ", which this command reads");
+        throw Failure(NameOf(output.empty() ? StandardStream : output, "standard output") + ": is " +
+                      NameOf(*input, "standard input") + ", which this command reads");
     }
 }
 

@@ -3,6 +3,7 @@
 #include "cli/Command.h"
 #include "cli/Commands.h"
 #include "cli/RequestWords.h"
+#include "cli/Terminal.h"
 #include "partdata/OneLine.h"
 #include "requests/Names.h"
 
@@ -25,7 +26,7 @@ static int End(ExitStatus status, std::string message)
     std::ranges::replace(message, '\n', ' ');
     if (!message.empty())
     {
-        std::cerr << "tavik-cli: " << WithoutControls(message) << '\n';
+        TellLine("tavik-cli: " + message);
     }
     return static_cast<int>(status);
 }

@@ -1,10 +1,10 @@
 #include "cli/RequestWords.h"
+#include "cli/Terminal.h"
 
 #include "calc/ChartKinds.h"
 #include "requests/Names.h"
 
 #include <algorithm>
-#include <iostream>
 
 std::string OptionNameOf(std::string_view key)
 {
@@ -54,7 +54,7 @@ void TellUnused(const RequestedCurve& curve, std::string_view partNum)
 {
     if (const auto note = NoteOnUnused(curve, partNum); !note.empty())
     {
-        std::cerr << "tavik-cli: " << note << '\n';
+        TellLine("tavik-cli: " + note);
     }
 }
 

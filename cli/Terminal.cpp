@@ -76,3 +76,8 @@ void WriteToStandardOutput(std::string_view text)
     }
     std::cout.write(text.data(), static_cast<std::streamsize>(text.size()));
 }
+
+void TellLine(std::string_view line)
+{
+    std::cerr << WithoutControls(line) << '\n';
+}

@@ -24,3 +24,6 @@ std::string TextForTerminal(std::string_view text);
 /// Writes to standard output, byte by byte as it is, and to a terminal as `TextForTerminal` has it. The state
 /// of `std::cout` tells whether that went well.
 void WriteToStandardOutput(std::string_view text);
+
+/// Writes one line to standard error, with nothing in it that a terminal would obey or that ends the line.
+void TellLine(std::string_view line);

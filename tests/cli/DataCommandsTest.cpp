@@ -124,6 +124,22 @@ protected:
     const std::string table = folder.Path() + "/t.csv";
 };
 
+TEST_F(BuildTest, TellsFileNamesWithoutTheirCommandsToATerminal)
+{
+    const std::string line = "a\n\x1B[2J";
+    const auto strange = folder.Write(line + ".csv", BytesOf(table) + "more\n");
+    folder.Write(line + ".idx", pair.Index());
+    folder.Write(line + ".dat", pair.Data() + "x");
+    const auto faulty = RunData({"build", strange.string(), "--output", File("q")});
+    const auto behind = RunData({"build", table, "--output", File(line + "b")});
+    const auto exported = RunData({"export", File(line + ".idx"), "--output", File("u.csv")});
+    for (const auto& run : {faulty, behind, exported})
+    {
+        EXPECT_THAT(run.Notes, HasSubstr("a\\x0A\\x1B[2J"));
+        EXPECT_EQ(run.Notes.find('\x1B'), std::string::npos) << run.Notes;
+    }
+}
+
 TEST_F(BuildTest, TellsPartsBeforeAndAfterAndWhatACheckFinds)
 {
     const auto first = RunData({"build", table, "--output", File("q")});
