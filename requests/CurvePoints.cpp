@@ -6,6 +6,8 @@
 #include "requests/RequestError.h"
 #include "requests/UnitEntry.h"
 
+#include <cmath>
+
 static std::string ReachOf(const ChartRecord& line)
 {
     const auto x = QuantityNamed(line.XAxisName);
@@ -39,6 +41,12 @@ std::vector<CurveLevel> LevelsOf(const PartRecord& part, const ChartRecord& line
     for (const std::string& typed : where)
     {
         const float y = StoredValueInUnit(typed, quantity, "where");
+        if (!std::isfinite(y))
+        {
+            // The answer names the value, and has no way to write this one.
+            throw RequestError(RequestErrorKind::Condition, "where", "no curve takes a value so large")
+                .Of(typed);
+        }
         levels.push_back({y, CrossingsOf(part, line, y, code)});
     }
     return levels;

@@ -129,6 +129,8 @@ INSTANTIATE_TEST_SUITE_P(
         BadRequest{"a wrong unit", Of(R"("ambient":"5V",)" + biasChart), "unit", "ambient", ""},
         BadRequest{"out of range", Of(R"("ambient":126,)" + biasChart), "range", "ambient", ""},
         BadRequest{"a point beyond the curve", Of(R"("at":[1,26],)" + biasChart), "range", "at", ""},
+        BadRequest{"a value beyond all curves", Of(R"("where":[1,"-1e39"],)" + biasChart), "range", "where",
+                   ""},
         BadRequest{"a point in a wrong unit", Of(R"("at":"1A",)" + biasChart), "unit", "at", ""}));
 
 TEST(Answers, TellThePlaceThatCannotBeRead)
