@@ -182,6 +182,11 @@ void InstallTest::BringsWhatDesktopAndShellsLookFor_data()
 {
     QTest::addColumn<QByteArray>("begin");
     QTest::newRow("share/doc/tavik/copyright") << QByteArray("MIT License");
+    QTest::newRow("share/doc/tavik/answers.md") << QByteArray("# Answers for scripts");
+    QTest::newRow("share/doc/tavik/answers.schema.json") << QByteArray("{");
+    QTest::newRow("share/doc/tavik/part-files.md") << QByteArray("# ");
+    QTest::newRow("share/doc/tavik/part-table.md") << QByteArray("# The part table");
+    QTest::newRow("share/doc/tavik/tavik.py") << QByteArray("\"\"\"Curves of capacitors");
     QTest::newRow("share/man/man1/tavik.1") << QByteArray(".TH TAVIK 1 ");
     QTest::newRow("share/man/man1/tavik-cli.1") << QByteArray(".TH TAVIK-CLI 1 ");
     QTest::newRow("share/man/man1/tavik-cli-data.1") << QByteArray(".TH TAVIK-CLI-DATA 1 ");
