@@ -31,7 +31,7 @@ std::vector<CurvePoint> PointsOf(const PartRecord& part, const ChartRecord& line
 
 /// Where a computed line takes each Y as typed, in that order.
 ///
-/// Throws RequestError with the key "where" for a text that is no number, for a unit that does not fit, and for
-/// a value that no single can hold.
+/// Throws RequestError with the key "where" for a text that is no number, for a unit that does not fit, and
+/// for a value that no single can hold.
 std::vector<CurveLevel> LevelsOf(const PartRecord& part, const ChartRecord& line, CodeView code,
                                  const std::vector<std::string>& where);
