@@ -56,6 +56,16 @@ static std::vector<std::string> WordsAfter(const CLI::App& command)
     return words;
 }
 
+/// What to type instead of arguments.
+static std::string AdviceOf(const std::string& meant, const std::vector<std::string>& arguments)
+{
+    const bool isMisplaced =
+        std::ranges::any_of(arguments, [&](const auto& argument)
+                            { return argument == meant || argument.starts_with(meant + '='); });
+    return isMisplaced ? "; " + meant + " stands behind the command that takes it"
+                       : "; did you mean \"" + meant + "\"?";
+}
+
 /// Arguments that no command takes, as they were typed, and what the first that is like a known word meant.
 static std::string Unexpected(const CLI::App& app)
 {
@@ -68,7 +78,7 @@ static std::string Unexpected(const CLI::App& app)
     }
     return (arguments.size() == 1 ? "The following argument was not expected: "
                                   : "The following arguments were not expected: ") +
-           ListOf(arguments, " ") + (meant ? "; did you mean \"" + *meant + "\"?" : "");
+           ListOf(arguments, " ") + (meant ? AdviceOf(*meant, arguments) : "");
 }
 
 /// Help and version on standard output, anything else as a usage error.

@@ -223,6 +223,10 @@ void ProgramTest::EndsBadInputWithOneLine_data()
     row("nearly an option", "curve A --dcbias=3", 2,
         "The following argument was not expected: --dcbias=3; did you mean \"--dc-bias\"? (see tavik-cli "
         "--help)");
+    row("an option before its command", "--data=p parts", 2,
+        "The following argument was not expected: --data=p; --data stands behind the command that takes it "
+        "(see "
+        "tavik-cli --help)");
     row("unknown arguments in their order", "curve A --bias B C", 2,
         "The following arguments were not expected: --bias B C (see tavik-cli --help)");
     row("nearly a chart of a list", "parts --chart allowable-powr", 2,
