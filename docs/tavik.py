@@ -6,13 +6,13 @@ import subprocess
 class Tavik:
     def __init__(self, program="tavik-cli", *options):
         self.batch = subprocess.Popen([program, "curve", "--requests", "-", *options], encoding="utf-8",
-                                      stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+                                      stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE)
 
     def __call__(self, **request):
         """The answer to a request such as part="...", chart="...", dcBias="12V"; ValueError with its error."""
-        self.batch.stdin.write(json.dumps(request) + "\n")
-        self.batch.stdin.flush()
-        answer = json.loads(self.batch.stdout.readline())
+        print(json.dumps(request), file=self.batch.stdin, flush=True)
+        # A program that cannot start answers nothing, and says why.
+        answer = json.loads(self.batch.stdout.readline() or json.dumps({"error": self.batch.stderr.read()}))
         if "error" in answer:
             raise ValueError(answer["error"])
         return answer

@@ -19,3 +19,14 @@ with tavik.Tavik(program) as ask:
         raise AssertionError("not refused")
     assert ask(part="KTS31NB51E106MA01", chart="capacitance-temperature", dcBias=0)["xUnit"] == "\u00b0C"
 assert ask.batch.returncode == 1
+
+# A program that cannot start says why.
+try:
+    with tavik.Tavik(program, "--data", "no such folder") as ask:
+        ask(part="KTS31NB51E106MA01", chart="capacitance-dc-voltage")
+except ValueError as error:
+    assert "no such folder" in error.args[0]
+except BrokenPipeError:
+    pass
+else:
+    raise AssertionError("not refused")
