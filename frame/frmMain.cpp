@@ -32,6 +32,7 @@ frmMain::frmMain(QWidget* parent)
     setWindowTitle(ProgramTitle());
     new StartPlace(this, FirstSize);
     mainMenus = ui->mnuBar->actions();
+    AddFindButton();
 
     const std::array<QAction*, 2> mnuViewCode = {ui->mnuViewCode_0, ui->mnuViewCode_1};
     const std::array<QAction*, 2> mnuPartNum = {ui->mnuPartNum_0, ui->mnuPartNum_1};
@@ -317,6 +318,7 @@ void frmMain::mnuViewCode_Click(int index)
     mnuViewCode[0]->setChecked(index == 0);
     mnuViewCode[1]->setChecked(index == 1);
     library->ResetAmbientTemp(index);
+    ShowNamingOfFound();
     if (forms.size() > LastingForms)
     {
         // The conditions of open charts were entered under the other reference temperature.
@@ -339,6 +341,7 @@ void frmMain::mnuPartNum_Click(int index)
     UpdateChartPartLabels(newForm);
     mnuPartNum[0]->setChecked(index == 0);
     mnuPartNum[1]->setChecked(index == 1);
+    ShowNamingOfFound();
 }
 
 void frmMain::UpdateChartPartLabels(int newForm)

@@ -4,11 +4,13 @@
 
 #include "chart/ChartHost.h"
 #include "formkit/PlainTexts.h"
+#include "frame/FindHost.h"
 #include "frame/PrintJob.h"
 #include "frame/PrinterHost.h"
 #include "selection/frmLibrary.h"
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QVariantHash>
 
 #include <memory>
@@ -16,6 +18,7 @@
 #include <vector>
 
 class FormAccessKeys;
+class frmFind;
 class frmGraph;
 class QMdiSubWindow;
 
@@ -26,7 +29,7 @@ class frmMain;
 
 /// The main window. The check marks of its View menu are the only store of the code system and the
 /// part-number generation on display.
-class frmMain : public QMainWindow, public ChartHost, public ChartWindows, public PrinterHost
+class frmMain : public QMainWindow, public ChartHost, public ChartWindows, public FindHost, public PrinterHost
 {
     Q_OBJECT
 
@@ -59,6 +62,14 @@ public:
     void Keep(const QString& name, const QVariant& value) override;
     QVariant Kept(const QString& name) const override;
 
+    // What the window that finds parts asks for.
+    void SelectPart(const SelectedPart& part) override;
+    bool PlotPart(const SelectedPart& part) override;
+    void ViewParts(const std::vector<SelectedPart>& parts) override;
+
+    // The button beside the menus.
+    void cmdFind_Click();
+
     // The commands of the menus.
     void mnuFile_Click();
     void mnuResetSelction_Click() override;
@@ -78,6 +89,9 @@ protected:
 private:
     void Connect();
     void ShowMenusOf(QMdiSubWindow* window);
+    void AddFindButton();
+    void ComeToFront();
+    void ShowNamingOfFound();
     void PlaceSelectionForm();
     void ArrangeIcons();
     void WatchChildArea();
@@ -100,6 +114,8 @@ private:
     /// The loaded forms in the order of loading: this window, the selection form, then chart windows.
     std::vector<QWidget*> forms;
     QList<QAction*> mainMenus;
+    /// The window that finds parts, once it has been opened; it goes with this one.
+    QPointer<frmFind> findWindow;
     std::unique_ptr<QPrinter> printer;
     /// What the user has chosen in this run: the folders of dialogs, places and looks of windows.
     QVariantHash kept;

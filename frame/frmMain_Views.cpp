@@ -72,6 +72,12 @@ void frmMain::TellInStatusBar(const QString& text)
 void frmMain::UseConditions(const ChartRecord& line, int number)
 {
     TellInStatusBar(library->TakeConditions(line, number));
+    ComeToFront();
+}
+
+/// In front of the program's other windows, ready to plot.
+void frmMain::ComeToFront()
+{
     if (isMinimized())
     {
         showNormal();

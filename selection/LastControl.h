@@ -21,6 +21,8 @@ public:
     /// The control to come back to, or null where it is disabled or out of sight, or no control had the
     /// focus.
     QWidget* Control() const;
+    /// A control that the program leads the user to, also from another window.
+    void Remember(QWidget* control) { last = control; }
     /// The form is in front and its focus in its place: where it goes from now on is the user's doing.
     void Settle() { comingToFront = false; }
 

@@ -148,6 +148,11 @@ void frmLibrary::ComeToFront(QWidget* control)
         mdiArea()->setActiveSubWindow(this);
     }
     control->setFocus();
+    if (control->isEnabled())
+    {
+        // A window that is not in front yet tells of no focus.
+        lastControl->Remember(control);
+    }
 }
 
 void frmLibrary::KeepFocus()

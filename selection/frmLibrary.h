@@ -6,12 +6,14 @@
 #include "calc/ChartRecord.h"
 #include "calc/ChartStore.h"
 #include "calc/Conditions.h"
+#include "selection/ConditionsOf.h"
 #include "selection/PartSelection.h"
 
 #include <QMdiSubWindow>
 
 #include <memory>
 #include <optional>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -106,6 +108,14 @@ public:
     /// Fills the condition boxes that are in use from a plotted line, No. 1 to 6 of its chart; what the line
     /// was not computed under stays. Nothing is judged: Plot does that. Returns what the user is told.
     QString TakeConditions(const ChartRecord& line, int number);
+    /// Chooses chart type and part as if they were clicked and typed, and fills the condition boxes that are
+    /// in use; the others stay as the part leaves them. Nothing is judged, nothing plotted. `part` is an
+    /// index into the part table; it needs data for the chart type.
+    void TakePart(std::int16_t part, int chartType, std::span<const TakenCondition> taken);
+    /// Plots what the form shows, as its button does; false when it was refused or went wrong.
+    bool PlotShown();
+    /// The chart that the form describes.
+    ChartKey ShownChart() const;
     /// Comes to the front with the focus on Plot, or where it was while Plot is not offered.
     void FocusPlot();
 
@@ -153,7 +163,7 @@ private:
     void cmbPartNum_Change();
     void cmbXaxis_Click();
     void cmdPlot_Click();
-    void Plot(int lines);
+    bool Plot(int lines);
     std::optional<ParameterRefusal> PlotLine(int lines);
 
     // Coming to a box: its text is selected, so that typing replaces it.
@@ -192,7 +202,7 @@ private:
     /// Puts the focus into a refused box, with its text ready to be replaced.
     void OfferForCorrection(QLineEdit* box);
     void ComeToFront(QWidget* control);
-    ChartKey ShownChart() const;
+    void PutIntoBoxes(std::span<const TakenCondition> taken);
     QString TakeLastConditions();
 
     std::unique_ptr<Ui::frmLibrary> ui;

@@ -153,9 +153,14 @@ void frmLibrary::ReportParameter(const ParameterRefusal& refusal)
 
 void frmLibrary::cmdPlot_Click()
 {
+    PlotShown();
+}
+
+bool frmLibrary::PlotShown()
+{
     if (!CheckChartConditions())
     {
-        return;
+        return false;
     }
     bool isNew = true;
     IsNewChart(isNew);
@@ -163,20 +168,28 @@ void frmLibrary::cmdPlot_Click()
     if (const auto refusal = RefusalOfPlot(isNew, lines))
     {
         ShowExclamation(this, QString::fromStdString(*refusal));
-        return;
+        return false;
     }
-    Plot(lines);
+    return Plot(lines);
 }
 
-/// Computes the line that the form describes and shows it in a window that holds so many lines already.
-void frmLibrary::Plot(int lines)
+/// Computes the line that the form describes and shows it in a window that holds so many lines already;
+/// false when it does not.
+bool frmLibrary::Plot(int lines)
 {
+    bool isPlotted = false;
     std::optional<ParameterRefusal> refusal;
-    RunCommand(this, [&] { refusal = PlotLine(lines); });
+    RunCommand(this,
+               [&]
+               {
+                   refusal = PlotLine(lines);
+                   isPlotted = !refusal;
+               });
     if (refusal)
     {
         ReportParameter(*refusal);
     }
+    return isPlotted;
 }
 
 std::optional<ParameterRefusal> frmLibrary::PlotLine(int lines)

@@ -1,5 +1,6 @@
 #include "selection/frmLibrary.h"
 
+#include "app/PartNumText.h"
 #include "app/mdlPublic.h"
 #include "formkit/Texts.h"
 #include "selection/ConditionsOf.h"
@@ -27,16 +28,34 @@ QString frmLibrary::TakeConditions(const ChartRecord& line, int number)
     auto taken = ConditionsOf(line, part, Utf8FromWindows1252(mdlPublic.DegreeSign));
     std::erase_if(taken, [this](const TakenCondition& condition)
                   { return !ControlsOf(condition.Id).Box->isEnabled(); });
+    PutIntoBoxes(taken);
+    return QString::fromStdString(TakenText(number, taken));
+}
+
+/// Fills the boxes that are in use.
+void frmLibrary::PutIntoBoxes(std::span<const TakenCondition> taken)
+{
     for (const TakenCondition& condition : taken)
     {
-        if (condition.Id == Condition::Parameter)
+        QLineEdit* const box = ControlsOf(condition.Id).Box;
+        if (condition.Id == Condition::Parameter && box->isEnabled())
         {
             optParameter[condition.Parameter]->setChecked(true);
             optParameter_Click(static_cast<int>(condition.Parameter));
         }
-        PutInto(ControlsOf(condition.Id).Box, condition.Entry);
+        if (box->isEnabled())
+        {
+            PutInto(box, condition.Entry);
+        }
     }
-    return QString::fromStdString(TakenText(number, taken));
+}
+
+void frmLibrary::TakePart(std::int16_t part, int chartType, std::span<const TakenCondition> taken)
+{
+    SelectChartType(chartType);
+    ui->cmbPartNum->setEditText(PartNumText(part, GetPartNumForm()));
+    cmbPartNum_Change();
+    PutIntoBoxes(taken);
 }
 
 /// Takes the conditions of the line that was plotted last with the chosen chart type, whatever its axes.

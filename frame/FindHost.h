@@ -1,0 +1,41 @@
+#pragma once
+
+/// What the window that finds parts asks of the main window.
+
+#include "selection/ConditionsOf.h"
+
+#include <QString>
+
+#include <cstdint>
+#include <vector>
+
+class QWidget;
+
+/// A found part as it goes into the selection form.
+struct SelectedPart
+{
+    /// Index into the part table.
+    std::int16_t Part = 0;
+    /// One that the part has data for.
+    std::int16_t ChartType = 0;
+    std::vector<TakenCondition> Conditions;
+};
+
+/// The main window as the window that finds parts knows it.
+class FindHost
+{
+public:
+    virtual ~FindHost() = default;
+
+    /// The window that all others go with.
+    virtual QWidget* MainWindow() = 0;
+    /// Opens the help book at a topic's anchor.
+    virtual void ShowHelpTopic(const QString& anchor) = 0;
+    /// Fills the selection form, and brings the main window to the front with the focus on Plot.
+    virtual void SelectPart(const SelectedPart& part) = 0;
+    /// Selects the part, and plots it as the form does; false when that is refused.
+    virtual bool PlotPart(const SelectedPart& part) = 0;
+    /// Opens the view of the chart that the selection form describes, if it has lines; `parts` that are not
+    /// among them are plotted first, up to the first refusal.
+    virtual void ViewParts(const std::vector<SelectedPart>& parts) = 0;
+};

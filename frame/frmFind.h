@@ -1,0 +1,82 @@
+#pragma once
+
+/// Find Parts: which parts do what a circuit needs, live as it is typed.
+
+#include "frame/FindEntries.h"
+#include "frame/FindHost.h"
+
+#include <QWidget>
+
+#include <memory>
+#include <set>
+
+class FoundTable;
+class QLineEdit;
+
+namespace Ui
+{
+class frmFind;
+}
+
+/// A window of its own beside the main window, with which it goes. Its entries last until then.
+class frmFind : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit frmFind(FindHost& mainWindow);
+    ~frmFind() override;
+
+    /// Shows the window in front of all others.
+    void ComeToFront();
+    /// After the naming on display has changed: relabels, and computes again.
+    void ShowNaming();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    // The window.
+    void SetUpTable();
+    void FitColumns();
+    void Connect();
+    void ConnectCommands();
+    void FillLists();
+    void FillSizes();
+    void FillTccs();
+
+    // The answer.
+    void Answer();
+    FindEntries Entries() const;
+    void ShowAnswer(const FindAsked& asked);
+    void ShowRefusal(const RefusedEntry& refused);
+    void MarkRefused(QLineEdit* box, const QString& message);
+    void OfferCommands(bool offered);
+    void HideColumns();
+    void GoToTable();
+
+    // The chosen parts.
+    std::vector<int> ChosenRows() const;
+    void KeepChosen();
+    void ChooseAgain();
+    /// In the order shown, six at most; the first part found where none is chosen.
+    std::vector<SelectedPart> ChosenParts() const;
+
+    // The commands.
+    void cmdFindSelect_Click();
+    void cmdFindPlot_Click();
+    void ViewChosen();
+    void CopyChosen();
+    void ShowMenu(const QPoint& at);
+
+    std::unique_ptr<Ui::frmFind> ui;
+    FindHost& host;
+    FoundTable* table;
+    /// The naming that the lists show.
+    CodeView view;
+    /// The entry that is refused, or none.
+    QLineEdit* refusedBox = nullptr;
+    /// The parts that were chosen as the answer changed, by their indices in the part table.
+    std::set<std::int16_t> chosenBefore;
+};

@@ -1,0 +1,169 @@
+#include "app/mdlPublic.h"
+#include "calc/ChartKinds.h"
+#include "calc/NumberText.h"
+#include "frame/FoundTable.h"
+#include "frame/frmFind.h"
+#include "ui_frmFind.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QShortcut>
+
+#include <algorithm>
+#include <ranges>
+
+/// The most lines of a chart.
+static constexpr std::size_t MostToPlot = 6;
+
+void frmFind::ConnectCommands()
+{
+    const auto connectKey = [this](const QKeySequence& key, QWidget* where, auto command)
+    {
+        auto* const shortcut = new QShortcut(key, where);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, this, command);
+    };
+    connect(ui->cmdFindSelect, &QPushButton::clicked, this, &frmFind::cmdFindSelect_Click);
+    connect(ui->cmdFindPlot, &QPushButton::clicked, this, &frmFind::cmdFindPlot_Click);
+    connect(ui->tblFound, &QTableView::doubleClicked, ui->cmdFindSelect, &QPushButton::click);
+    connect(ui->tblFound, &QTableView::customContextMenuRequested, this, &frmFind::ShowMenu);
+    connectKey(QKeySequence::Copy, ui->tblFound, [this] { CopyChosen(); });
+    connectKey(Qt::CTRL | Qt::Key_E, this, [this] { ViewChosen(); });
+    connectKey(Qt::Key_F1, this, [this] { host.ShowHelpTopic(QStringLiteral("find")); });
+}
+
+// ---- The chosen parts ----
+
+std::vector<int> frmFind::ChosenRows() const
+{
+    std::vector<int> rows;
+    for (const QModelIndex& chosen : ui->tblFound->selectionModel()->selectedRows())
+    {
+        rows.push_back(chosen.row());
+    }
+    std::ranges::sort(rows);
+    return rows;
+}
+
+void frmFind::KeepChosen()
+{
+    chosenBefore.clear();
+    for (const int row : ChosenRows())
+    {
+        chosenBefore.insert(table->PartIndexAt(row));
+    }
+}
+
+/// Those of the parts chosen before that are still found.
+void frmFind::ChooseAgain()
+{
+    if (chosenBefore.empty())
+    {
+        return;
+    }
+    QItemSelection chosen;
+    for (int row = 0; row < table->rowCount(); ++row)
+    {
+        if (chosenBefore.contains(table->PartIndexAt(row)))
+        {
+            chosen.select(table->index(row, 0), table->index(row, table->columnCount() - 1));
+        }
+    }
+    QItemSelectionModel* const selection = ui->tblFound->selectionModel();
+    selection->select(chosen, QItemSelectionModel::ClearAndSelect);
+    if (!chosen.isEmpty())
+    {
+        selection->setCurrentIndex(chosen.front().topLeft(), QItemSelectionModel::NoUpdate);
+    }
+}
+
+/// The chart type that is asked for, or the first one that the part has data for.
+static std::int16_t ChartTypeOf(const PartRecord& part, int asked)
+{
+    const auto kinds = ChartKinds();
+    const auto available = [&](const ChartKind& kind) { return IsAvailable(part, NumberOf(kind)); };
+    const auto first = std::ranges::find_if(kinds, available);
+    const bool isFirst = !IsAvailable(part, asked) && first != kinds.end();
+    return isFirst ? NumberOf(*first) : static_cast<std::int16_t>(asked);
+}
+
+/// The conditions of the question as numbers; those that were not given stay as the part leaves them.
+static std::vector<TakenCondition> ConditionsOf(const OperatingPoint& at)
+{
+    std::vector<TakenCondition> conditions;
+    const auto add = [&](Condition id, const std::optional<float>& value)
+    {
+        if (value)
+        {
+            conditions.push_back({.Id = id, .Entry = NumberText(*value), .Text = {}});
+        }
+    };
+    add(Condition::DCBias, at.BiasVolts);
+    add(Condition::Frequency, at.Kilohertz);
+    add(Condition::AmbientTemperature, at.AmbientC);
+    add(Condition::HeatResistance, at.HeatResistance);
+    return conditions;
+}
+
+std::vector<SelectedPart> frmFind::ChosenParts() const
+{
+    auto rows = ChosenRows();
+    if (rows.empty() && table->rowCount() > 0)
+    {
+        rows.push_back(0);
+    }
+    std::vector<SelectedPart> parts;
+    for (const int row : rows | std::views::take(MostToPlot))
+    {
+        parts.push_back(
+            {.Part = table->PartIndexAt(row),
+             .ChartType = ChartTypeOf(table->PartAt(row).Part(), ui->cmbFindChartType->currentIndex()),
+             .Conditions = ConditionsOf(table->Question().At)});
+    }
+    return parts;
+}
+
+// ---- The commands ----
+
+void frmFind::cmdFindSelect_Click()
+{
+    host.SelectPart(ChosenParts().front());
+}
+
+void frmFind::cmdFindPlot_Click()
+{
+    const auto parts = ChosenParts();
+    std::ranges::all_of(parts, [this](const SelectedPart& part) { return host.PlotPart(part); });
+}
+
+void frmFind::ViewChosen()
+{
+    if (ui->cmdFindPlot->isEnabled())
+    {
+        host.ViewParts(ChosenParts());
+    }
+}
+
+void frmFind::CopyChosen()
+{
+    QGuiApplication::clipboard()->setText(table->Copied(ChosenRows()));
+}
+
+void frmFind::ShowMenu(const QPoint& at)
+{
+    auto* const menu = new QMenu(this);
+    menu->setObjectName(QStringLiteral("mnuPopupFound"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addAction(QStringLiteral("&Select\tEnter"), ui->cmdFindSelect, &QPushButton::click);
+    menu->addAction(QStringLiteral("Pl&ot\tCtrl+Enter"), ui->cmdFindPlot, &QPushButton::click);
+    menu->addAction(QStringLiteral("Plot in Chart &View\tCtrl+E"), this, &frmFind::ViewChosen);
+    for (QAction* const action : menu->actions())
+    {
+        action->setEnabled(ui->cmdFindPlot->isEnabled());
+    }
+    menu->addSeparator();
+    menu->addAction(QStringLiteral("&Copy\tCtrl+C"), this, &frmFind::CopyChosen)
+        ->setEnabled(!ChosenRows().empty());
+    menu->popup(ui->tblFound->viewport()->mapToGlobal(at));
+}
