@@ -9,6 +9,7 @@
 #include <QGuiApplication>
 #include <QPalette>
 
+#include <algorithm>
 #include <array>
 
 namespace
@@ -103,13 +104,21 @@ void FoundTable::SetStale(bool stale)
     if (isStale != stale)
     {
         isStale = stale;
-        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1), {Qt::ForegroundRole});
+        TellChanged(Qt::ForegroundRole);
+    }
+}
+
+void FoundTable::TellChanged(Qt::ItemDataRole role)
+{
+    if (rowCount() > 0)
+    {
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1), {role});
     }
 }
 
 void FoundTable::NamesChanged()
 {
-    Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1), {Qt::DisplayRole});
+    TellChanged(Qt::DisplayRole);
 }
 
 FoundColumn FoundTable::ColumnAt(int column)

@@ -43,6 +43,7 @@ public:
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
 private:
+    void TellChanged(Qt::ItemDataRole role);
     void SortParts();
     QString NameAt(int row, FoundColumn column) const;
 

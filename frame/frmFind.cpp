@@ -142,6 +142,8 @@ void frmFind::ShowNaming()
         }
     }
     FitColumns();
+    // An answer that stays because an entry is refused is renamed, too.
+    table->NamesChanged();
     Answer();
 }
 

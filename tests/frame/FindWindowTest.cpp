@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QMenuBar>
 #include <QScreen>
+#include <QSignalSpy>
 
 class FindWindowTest : public QObject
 {
@@ -312,7 +313,15 @@ void FindWindowTest::NumberSwitchRelabels()
     QCOMPARE(desk.Rows(), 1);
     desk.main->mnuPartNum_Click(1);
     QCOMPARE(desk.Rows(), 1);
-    QVERIFY(desk.Cell(0, "Part number") != "KTS31NB51C226MA01");
+    const QString previous = desk.Cell(0, "Part number");
+    QVERIFY(previous != "KTS31NB51C226MA01");
+
+    // An answer that stays while an entry is refused is renamed, too.
+    desk.Enter("txtFindFrequency", "1");
+    QSignalSpy renamed(desk.Table()->model(), &QAbstractItemModel::dataChanged);
+    desk.main->mnuPartNum_Click(0);
+    QVERIFY(renamed.count() > 0);
+    QCOMPARE(desk.Cell(0, "Part number"), QString("KTS31NB51C226MA01"));
 }
 
 void FindWindowTest::EntriesScrollBeforeTheTableVanishes()
