@@ -5,7 +5,8 @@
 
 Quantity MeasuredBy(Condition condition, const ChartRecord& line)
 {
-    return KindOf(condition).Measures ? *KindOf(condition).Measures : QuantityNamed(line.ParameterName);
+    const auto measures = KindOf(condition).Measures;
+    return measures ? *measures : QuantityNamed(line.ParameterName);
 }
 
 /// The condition that a line was computed under; the parameter is told by the name of its load.

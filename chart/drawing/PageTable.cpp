@@ -106,6 +106,7 @@ Cells RowTexts(const ChartRecord& line, const QString& partNum, std::size_t posi
 std::vector<Cells> Rows(std::span<const ChartRecord> lines, std::span<const QString> partNums)
 {
     std::vector<Cells> rows;
+    rows.reserve(lines.size());
     for (std::size_t i = 0; i < lines.size(); ++i)
     {
         rows.push_back(RowTexts(lines[i], partNums[i], i));
