@@ -70,8 +70,9 @@ void TakeNamedLoad(FindOptions& options, const std::string& typed)
     TakeParameter(request, typed);
     const auto names = ParameterRequestNames();
     const std::vector<std::string_view> known(names.begin(), names.end());
-    const auto kind = Parameters.at(IndexOfName(*request.Parameter, known, "parameter", "parameter"));
-    const auto& value = *request.Conditions[Condition::Parameter];
+    const auto kind =
+        Parameters.at(IndexOfName(request.Parameter.value_or(""), known, "parameter", "parameter"));
+    const auto value = request.Conditions[Condition::Parameter].value_or("");
     TakeLoad(options, "parameter", {.Kind = kind, .Value = ValueInUnit(value, kind)}, value);
 }
 

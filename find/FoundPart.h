@@ -22,6 +22,8 @@ public:
     }
 
     const PartRecord& Part() const { return *part; }
+    /// The value of a column that is known to have one.
+    double Known(FoundColumn column) const { return ValueOf(column).value_or(0); }
     /// The value of a column; nothing where it is empty, and for names.
     std::optional<double> ValueOf(FoundColumn column) const
     {

@@ -149,7 +149,7 @@ private:
 
     static bool IsWithin(const FoundPart& row, FoundColumn column, float most)
     {
-        return static_cast<float>(*row.ValueOf(column)) <= most;
+        return static_cast<float>(row.Known(column)) <= most;
     }
 
     /// The fewest parts that will do have it by their count, but for a part that has none at all.
@@ -159,13 +159,13 @@ private:
         {
             return true;
         }
-        const double total = *row.ValueOf(FoundColumn::Total);
+        const double total = row.Known(FoundColumn::Total);
         return isFewest ? total > 0 : static_cast<float>(total) >= *wanted.LeastCapacitance;
     }
 
     bool HasLeft(const FoundPart& row) const
     {
-        return !wanted.LeastLeft || static_cast<float>(*row.ValueOf(FoundColumn::Left)) >= *wanted.LeastLeft;
+        return !wanted.LeastLeft || static_cast<float>(row.Known(FoundColumn::Left)) >= *wanted.LeastLeft;
     }
 
     /// The fewest parts that will do bear a shared load by their count.
@@ -175,10 +175,10 @@ private:
         {
             return true;
         }
-        const double each = columns.LoadOfEach(*row.ValueOf(FoundColumn::Count));
-        const double permitted = *row.ValueOf(FoundColumn::PermittedRise) * (1 + RoundingShare);
+        const double each = columns.LoadOfEach(row.Known(FoundColumn::Count));
+        const double permitted = row.Known(FoundColumn::PermittedRise) * (1 + RoundingShare);
         const auto allowed = columns.AllowedOf(row);
-        return *row.ValueOf(FoundColumn::Rise) <= permitted &&
+        return row.Known(FoundColumn::Rise) <= permitted &&
                (!allowed || static_cast<float>(each) <= static_cast<float>(*allowed));
     }
 

@@ -103,9 +103,15 @@ void PointColumns::FillLoads(FoundPart& row, const PowerModel& model) const
     row.Set(FoundColumn::EffectivePower, loads.Watts);
 }
 
+/// The load, where one is given.
+AcLoad PointColumns::GivenLoad() const
+{
+    return at.Load.value_or(AcLoad{});
+}
+
 void PointColumns::FillRise(FoundPart& row, const PowerModel& model, int count) const
 {
-    const double rise = RiseAt(model, at.Load->Kind, LoadOfEach(count), hertz);
+    const double rise = RiseAt(model, GivenLoad().Kind, LoadOfEach(count), hertz);
     row.Set(FoundColumn::Rise, rise);
     row.Set(FoundColumn::Body, double{at.AmbientC} + rise);
 }
@@ -124,7 +130,7 @@ void PointColumns::FillBank(FoundPart& row, int count) const
         row.Set(FoundColumn::Total, count * *each);
     }
     const bool isFilled = each && *each > 0 && row.ValueOf(FoundColumn::Rise);
-    if (isFilled && at.Load->Kind == Quantity::Current)
+    if (isFilled && GivenLoad().Kind == Quantity::Current)
     {
         constexpr double faradsPerPicofarad = 1e-12;
         const double siemens = 2 * std::numbers::pi * hertz * *each * faradsPerPicofarad;
@@ -134,17 +140,17 @@ void PointColumns::FillBank(FoundPart& row, int count) const
 
 bool PointColumns::IsShared() const
 {
-    return at.Load->Kind != Quantity::RmsVoltage;
+    return GivenLoad().Kind != Quantity::RmsVoltage;
 }
 
 double PointColumns::LoadOfEach(double count) const
 {
-    return IsShared() ? at.Load->Value / count : double{at.Load->Value};
+    return IsShared() ? GivenLoad().Value / count : double{GivenLoad().Value};
 }
 
 std::optional<double> PointColumns::AllowedOf(const FoundPart& row) const
 {
-    switch (at.Load->Kind)
+    switch (GivenLoad().Kind)
     {
     case Quantity::Current:
         return row.ValueOf(FoundColumn::Current);
@@ -155,7 +161,7 @@ std::optional<double> PointColumns::AllowedOf(const FoundPart& row) const
     case Quantity::EffectivePower:
         return row.ValueOf(FoundColumn::EffectivePower);
     default:
-        FailOn(at.Load->Kind);
+        FailOn(GivenLoad().Kind);
     }
 }
 

@@ -40,6 +40,7 @@ public:
     bool IsShared() const;
 
 private:
+    AcLoad GivenLoad() const;
     void FillCapacitance(FoundPart& row) const;
     PowerModel ModelOf(const PartRecord& part) const;
     void FillHeating(FoundPart& row, const PowerModel& model) const;

@@ -54,7 +54,10 @@ Result RefuseHertz(const FindQuestion& question)
         return std::nullopt;
     }
     auto refused = Refused(Condition::Frequency, WordsOf(RefuseFrequency));
-    refused->IsMissing = !kilohertz;
+    if (refused)
+    {
+        refused->IsMissing = !kilohertz;
+    }
     return refused;
 }
 

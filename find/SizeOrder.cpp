@@ -59,6 +59,7 @@ std::vector<std::string_view> SizeNames(const PartTable& parts, CodeView code)
         }
     }
     std::vector<std::string_view> names;
+    names.reserve(places.size());
     for (const auto& [place, name] : places)
     {
         names.push_back(name);

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cstdlib>
 #include <string_view>
 
 namespace
@@ -19,7 +18,10 @@ struct Rounded
     /// The number times ten to a power.
     float Shifted(int power) const
     {
-        return std::strtof((Digits + 'e' + std::to_string(Exponent + power)).c_str(), nullptr);
+        const auto text = Digits + 'e' + std::to_string(Exponent + power);
+        float value = 0;
+        std::from_chars(text.data(), text.data() + text.size(), value);
+        return value;
     }
 };
 
@@ -32,8 +34,11 @@ Rounded RoundedOf(float value)
             .ptr;
     const std::string_view written(text.data(), end);
     const auto exponentAt = written.find('e');
-    return {.Digits = std::string(written.substr(0, exponentAt)),
-            .Exponent = std::atoi(std::string(written.substr(exponentAt + 1)).c_str())};
+    auto exponent = written.substr(exponentAt + 1);
+    exponent.remove_prefix(exponent.starts_with('+') ? 1 : 0);
+    Rounded rounded{.Digits = std::string(written.substr(0, exponentAt)), .Exponent = 0};
+    std::from_chars(exponent.data(), exponent.data() + exponent.size(), rounded.Exponent);
+    return rounded;
 }
 } // namespace
 
