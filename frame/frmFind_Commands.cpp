@@ -62,12 +62,18 @@ void frmFind::ChooseAgain()
     {
         return;
     }
+    // Neighbours are chosen in one: each range of a selection costs time.
     QItemSelection chosen;
-    for (int row = 0; row < table->rowCount(); ++row)
+    int first = 0;
+    for (int row = 0; row <= table->rowCount(); ++row)
     {
-        if (chosenBefore.contains(table->PartIndexAt(row)))
+        if (row == table->rowCount() || !chosenBefore.contains(table->PartIndexAt(row)))
         {
-            chosen.select(table->index(row, 0), table->index(row, table->columnCount() - 1));
+            if (first < row)
+            {
+                chosen.select(table->index(first, 0), table->index(row - 1, table->columnCount() - 1));
+            }
+            first = row + 1;
         }
     }
     QItemSelectionModel* const selection = ui->tblFound->selectionModel();
