@@ -8,7 +8,6 @@
 #include <QComboBox>
 #include <QDate>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -49,15 +48,6 @@ private Q_SLOTS:
     void RefusedConditionStopsBeforeTheDialog();
     void SavingTouchesNoPlottedLine();
     void ChartsOwnEntrySavesTheSelection();
-    void FolderIsRememberedAcrossRuns();
-    void FolderThatIsGoneIsForgotten();
-    void FolderIsRememberedWithoutSteps();
-    void StepsAreNotOfferedAgain();
-    void RootFolderIsRemembered();
-    void LockOfAKilledProgramKeepsNobodyWaiting();
-    void LockOfTheFileDialogsSettingsKeepsNobodyWaiting();
-    void UnreadableSettingsAreNoHindrance_data();
-    void UnreadableSettingsAreNoHindrance();
 
 private:
     std::unique_ptr<QTemporaryDir> folder;
@@ -467,122 +457,6 @@ void SaveDataTest::ChartsOwnEntrySavesTheSelection()
                           "DC Bias Voltage[V]  Capacitance Change[%]\r\n"));
     QCOMPARE(mdlPublic.Charts.CurrentChart(), std::int16_t{1});
     QVERIFY(!file.contains(DataLines(mdlPublic.Charts.ChartData()[0]).left(60)));
-}
-
-void SaveDataTest::FolderIsRememberedAcrossRuns()
-{
-    for (const bool firstRun : {true, false})
-    {
-        Desk desk;
-        Choose(desk, 2, "Temperature", "Capacitance");
-        desk.Type("txtDCBiasVol", "0");
-        const auto offered = desk.SaveAs(folder->filePath(firstRun ? "a.tvk" : "b.tvk"));
-        QCOMPARE(offered.first, firstRun ? QDir::currentPath() : folder->path());
-    }
-    const QSettings stored(settings->filePath("tavik/tavik.conf"), QSettings::IniFormat);
-    QCOMPARE(stored.value("Settings/FilePath").toString(), folder->path());
-}
-
-void SaveDataTest::FolderThatIsGoneIsForgotten()
-{
-    RememberFolder(folder->filePath("a.tvk"), "a.tvk");
-    QCOMPARE(LastFolder(), folder->path());
-    folder.reset();
-    QCOMPARE(LastFolder(), QDir::currentPath());
-}
-
-void SaveDataTest::FolderIsRememberedWithoutSteps()
-{
-    QVERIFY(QDir(folder->path()).mkpath("down/below"));
-    const auto remembered = [&](const QString& typed)
-    {
-        RememberFolder(folder->filePath(typed + "/a.tvk"), "a.tvk");
-        const QSettings now(settings->filePath("tavik/tavik.conf"), QSettings::IniFormat);
-        return now.value("Settings/FilePath").toString();
-    };
-    QCOMPARE(remembered("down/.."), folder->path());
-    QCOMPARE(remembered("down/below/.."), folder->filePath("down"));
-    QCOMPARE(remembered("./down/../down/."), folder->filePath("down"));
-    QCOMPARE(remembered("gone/../down"), folder->filePath("down"));
-    // A step up from a link leads to where the linked folder lies.
-    QVERIFY(QFile::link(folder->filePath("down/below"), folder->filePath("link")));
-    QCOMPARE(remembered("link/.."), folder->filePath("down"));
-    QCOMPARE(remembered("link"), folder->filePath("link"));
-}
-
-void SaveDataTest::StepsAreNotOfferedAgain()
-{
-    QVERIFY(QDir(folder->path()).mkpath("down"));
-    Desk desk;
-    Choose(desk, 2, "Temperature", "Capacitance");
-    desk.Type("txtDCBiasVol", "0");
-    desk.SaveAs(folder->filePath("down/../a.tvk"));
-    QVERIFY(QFile::exists(folder->filePath("a.tvk")));
-    QCOMPARE(desk.SaveAs(QString()).first, folder->path());
-    const QSettings stored(settings->filePath("tavik/tavik.conf"), QSettings::IniFormat);
-    QCOMPARE(stored.value("Settings/FilePath").toString(), folder->path());
-}
-
-void SaveDataTest::RootFolderIsRemembered()
-{
-    RememberFolder("/a.tvk", "a.tvk");
-    QCOMPARE(LastFolder(), QString("/"));
-    const QSettings stored(settings->filePath("tavik/tavik.conf"), QSettings::IniFormat);
-    QCOMPARE(stored.value("Settings/FilePath").toString(), QString("/"));
-}
-
-void SaveDataTest::LockOfAKilledProgramKeepsNobodyWaiting()
-{
-    QVERIFY(QDir().mkpath(settings->filePath("tavik")));
-    QFile lock(settings->filePath("tavik/tavik.conf.lock"));
-    QVERIFY(lock.open(QIODevice::WriteOnly));
-    lock.close();
-    QElapsedTimer timer;
-    timer.start();
-    RememberFolder(folder->filePath("a.tvk"), "a.tvk");
-    QVERIFY2(timer.elapsed() < 10000, "the save waited for a lock that nobody holds");
-    QCOMPARE(LastFolder(), folder->path());
-    QVERIFY(!lock.exists());
-}
-
-void SaveDataTest::LockOfTheFileDialogsSettingsKeepsNobodyWaiting()
-{
-    QFile lock(settings->filePath("QtProject.conf.lock"));
-    QVERIFY(lock.open(QIODevice::WriteOnly));
-    lock.close();
-    Desk desk;
-    Choose(desk, 2, "Temperature", "Capacitance");
-    desk.Type("txtDCBiasVol", "0");
-    QElapsedTimer timer;
-    timer.start();
-    desk.SaveAs(folder->filePath("a.tvk"));
-    QVERIFY2(timer.elapsed() < 10000, "the dialog waited for a lock that nobody holds");
-    QVERIFY(QFile::exists(folder->filePath("a.tvk")));
-    QVERIFY(!lock.exists());
-}
-
-void SaveDataTest::UnreadableSettingsAreNoHindrance_data()
-{
-    QTest::addColumn<bool>("isFolder");
-    QTest::newRow("nonsense") << false;
-    QTest::newRow("a folder in the place of the file") << true;
-}
-
-void SaveDataTest::UnreadableSettingsAreNoHindrance()
-{
-    QFETCH(bool, isFolder);
-    const QString path = settings->filePath("tavik/tavik.conf");
-    QVERIFY(QDir().mkpath(isFolder ? path : settings->filePath("tavik")));
-    if (!isFolder)
-    {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(QByteArray("\0[[\xFF=\\x", 8)) == 8);
-    }
-    Desk desk;
-    Choose(desk, 2, "Temperature", "Capacitance");
-    desk.Type("txtDCBiasVol", "0");
-    QCOMPARE(desk.SaveAs(folder->filePath("a.tvk")).first, QDir::currentPath());
-    QCOMPARE(desk.TakeText(), "tavik Data saved to " + folder->filePath("a.tvk"));
 }
 
 QTEST_MAIN(SaveDataTest)
