@@ -1,5 +1,7 @@
 #include "partdata/Windows1252.h"
 
+#include "partdata/Utf8.h"
+
 #include <algorithm>
 #include <array>
 
@@ -22,22 +24,7 @@ std::string Utf8FromWindows1252(std::string_view text)
     utf8.reserve(text.size());
     for (const char c : text)
     {
-        const unsigned code = CodePointOf(static_cast<unsigned char>(c));
-        if (code < 0x80)
-        {
-            utf8 += static_cast<char>(code);
-        }
-        else if (code < 0x800)
-        {
-            utf8 += static_cast<char>(0xC0 | (code >> 6));
-            utf8 += static_cast<char>(0x80 | (code & 0x3F));
-        }
-        else
-        {
-            utf8 += static_cast<char>(0xE0 | (code >> 12));
-            utf8 += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
-            utf8 += static_cast<char>(0x80 | (code & 0x3F));
-        }
+        AppendUtf8(utf8, CodePointOf(static_cast<unsigned char>(c)));
     }
     return utf8;
 }
@@ -47,7 +34,7 @@ static char32_t TakeCodePoint(std::string_view& text)
 {
     constexpr char32_t Malformed = 0xFFFF;
     const auto lead = static_cast<unsigned char>(text.front());
-    const std::size_t length = lead < 0x80 ? 1 : lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+    const std::size_t length = Utf8Length(text.front());
     if (length == 0 || length > text.size())
     {
         text.remove_prefix(1);
@@ -56,7 +43,7 @@ static char32_t TakeCodePoint(std::string_view& text)
     char32_t code = length == 1 ? lead : lead & (0x7FU >> length);
     for (const char c : text.substr(1, length - 1))
     {
-        if ((static_cast<unsigned char>(c) & 0xC0U) != 0x80)
+        if (!ContinuesUtf8(c))
         {
             text.remove_prefix(1);
             return Malformed;

@@ -1,7 +1,8 @@
 #include "partfiles/TableForm.h"
 
+#include "separatedtext/Encoding.h"
+
 #include <algorithm>
-#include <cstdint>
 
 namespace
 {
@@ -10,42 +11,7 @@ constexpr const char* Advice = "; save the table as comma-separated values in UT
 bool IsUtf16(std::string_view firstLine)
 {
     // The zero halves of its letters tell a text without a mark.
-    return firstLine.starts_with("\xFF\xFE") || firstLine.starts_with("\xFE\xFF") ||
-           firstLine.find('\0') != std::string_view::npos;
-}
-
-/// Bytes of the character that begins with this one; 0 for a byte that begins none.
-std::size_t LengthOf(unsigned char lead)
-{
-    if (lead < 0x80)
-    {
-        return 1;
-    }
-    if (lead < 0xC2 || lead > 0xF4)
-    {
-        return 0;
-    }
-    return lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-}
-
-/// Where the text stops being UTF-8; its size where it never does.
-std::size_t EndOfUtf8(std::string_view text)
-{
-    std::size_t at = 0;
-    while (at < text.size())
-    {
-        const auto length = LengthOf(static_cast<unsigned char>(text[at]));
-        const auto rest = text.substr(at, length);
-        const bool isWhole = length != 0 && rest.size() == length &&
-                             std::ranges::all_of(rest.substr(1), [](char c)
-                                                 { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80; });
-        if (!isWhole)
-        {
-            return at;
-        }
-        at += length;
-    }
-    return at;
+    return HasUtf16Mark(firstLine) || firstLine.find('\0') != std::string_view::npos;
 }
 
 std::size_t LineAt(std::string_view text, std::size_t offset)

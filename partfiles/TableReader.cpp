@@ -6,8 +6,8 @@
 #include "partdata/Windows1252.h"
 #include "partfiles/Finding.h"
 #include "partfiles/PairBytes.h"
-#include "partfiles/TableCells.h"
 #include "partfiles/TableForm.h"
+#include "separatedtext/TableCells.h"
 
 #include <algorithm>
 #include <bit>

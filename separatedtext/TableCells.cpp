@@ -1,14 +1,14 @@
-#include "partfiles/TableCells.h"
+#include "separatedtext/TableCells.h"
+
+#include "separatedtext/Encoding.h"
 
 #include <algorithm>
+#include <array>
 
-TableCells::TableCells(std::string_view tableText)
-    : text(tableText)
+TableCells::TableCells(std::string_view tableText, char cellSeparator)
+    : text(WithoutMark(tableText))
+    , separator(cellSeparator)
 {
-    if (text.starts_with("\xEF\xBB\xBF"))
-    {
-        text.remove_prefix(3);
-    }
 }
 
 bool TableCells::Read(TableRow& row)
@@ -26,7 +26,7 @@ bool TableCells::Read(TableRow& row)
     {
         const bool quoted = text.starts_with('"');
         row.Cells.push_back(quoted ? ReadQuoted(row.Fault) : ReadPlain(row.Fault));
-        more = row.Fault.empty() && text.starts_with(',');
+        more = row.Fault.empty() && text.starts_with(separator);
         if (more)
         {
             text.remove_prefix(1);
@@ -51,7 +51,7 @@ std::string TableCells::ReadQuoted(std::string& fault)
         else if (text.front() == '"')
         {
             text.remove_prefix(1);
-            if (!AtRowEnd() && text.front() != ',')
+            if (!AtRowEnd() && text.front() != separator)
             {
                 fault = "text behind the closing quote";
             }
@@ -75,7 +75,8 @@ std::string TableCells::ReadQuoted(std::string& fault)
 
 std::string TableCells::ReadPlain(std::string& fault)
 {
-    const auto size = std::min(text.find_first_of(",\r\n"), text.size());
+    const std::array ends = {separator, '\r', '\n'};
+    const auto size = std::min(text.find_first_of({ends.data(), ends.size()}), text.size());
     const std::string cell(text.substr(0, size));
     text.remove_prefix(size);
     if (cell.find('"') != std::string::npos)

@@ -1,6 +1,6 @@
 #pragma once
 
-/// Takes comma-separated text apart into rows of cells.
+/// Takes separated text with quoted cells apart into rows.
 
 #include <cstddef>
 #include <string>
@@ -17,12 +17,13 @@ struct TableRow
     std::string Fault;
 };
 
-/// A cursor over comma-separated text. CRLF, LF and CR end a row; a cell in double quotes may hold commas,
-/// line breaks, and quotes written twice; empty lines are skipped, and so is a byte-order mark.
+/// A cursor over a text whose cells stand between commas, or another separator. CRLF, LF and CR end a row; a
+/// cell in double quotes may hold separators, line breaks, and quotes written twice; empty lines are skipped,
+/// and so is a byte-order mark.
 class TableCells
 {
 public:
-    explicit TableCells(std::string_view tableText);
+    explicit TableCells(std::string_view tableText, char cellSeparator = ',');
 
     /// Reads the next row; false at the end of the text.
     bool Read(TableRow& row);
@@ -34,5 +35,6 @@ private:
     bool AtRowEnd() const { return text.empty() || text.front() == '\r' || text.front() == '\n'; }
 
     std::string_view text;
+    char separator;
     std::size_t line = 1;
 };
