@@ -47,7 +47,7 @@ QString TestDisplay::Ask(const QStringList& command) const
     environment.insert("DISPLAY", name);
     hands.setProcessEnvironment(environment);
     hands.start("xdotool", command);
-    hands.waitForFinished(5000);
+    hands.waitForFinished(20000);
     return QString::fromUtf8(hands.readAllStandardOutput()).trimmed();
 }
 
@@ -62,7 +62,7 @@ QStringList TestDisplay::WindowsOf(const QProcess& program, int count) const
         windows = Ask({"search", "--all", "--onlyvisible", "--pid", QString::number(program.processId()),
                        "--name", "."})
                       .split('\n', Qt::SkipEmptyParts);
-    } while (windows.size() != count && waited.elapsed() < 15000);
+    } while (windows.size() != count && waited.elapsed() < 60000);
     return windows;
 }
 
