@@ -63,7 +63,7 @@ static frmHelp* Open(const QString& book)
 
 static frmHelp* OpenBook(const char* name)
 {
-    return Open(QStringLiteral(TEST_DATA "/../help/") + name);
+    return Open(QStringLiteral(HELP_BOOKS "/") + name);
 }
 
 static HelpBrowser* Page(const frmHelp* viewer)

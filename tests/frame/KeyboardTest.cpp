@@ -455,7 +455,7 @@ void KeyboardTest::BooksNameEveryAccessKey()
     QCOMPARE(listed.size(), 17);
     for (const char* name : {"tavike.hlp", "tavikj.hlp"})
     {
-        QFile book(QStringLiteral(TEST_DATA "/../help/") + name);
+        QFile book(QStringLiteral(HELP_BOOKS "/") + name);
         QVERIFY(book.open(QIODevice::ReadOnly));
         const QString text = QString::fromUtf8(book.readAll());
         for (const QString& row : listed)

@@ -45,7 +45,7 @@ void SmallScreenTest::StandsInsideTheScreen()
 
 void SmallScreenTest::HelpStandsInsideTheScreen()
 {
-    OpenHelp(TEST_DATA "/../help/tavike.hlp");
+    OpenHelp(HELP_BOOKS "/tavike.hlp");
     Settle();
     int viewers = 0;
     for (const QWidget* window : QApplication::topLevelWidgets())
