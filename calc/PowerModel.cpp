@@ -30,20 +30,30 @@ double Surface(const PartData& data, ValueGroup coefficients, double r, double t
 }
 } // namespace
 
-PowerModel PowerModelOf(const PartRecord& part, float biasVolts, float ambientC, float heatResistance)
+PowerModel CurrentModelOf(const PartRecord& part, double ambientC, double heatResistance)
 {
     const auto& data = part.Data;
-    const double r = CheckedQuotient(biasVolts, RatedVoltage(part));
-    const double t = ambientC - double{HeatingReferenceC};
+    const double t = ambientC - HeatingReferenceC;
     return {
         .Q1 = QuadraticIn(t, data[Value::CurrentPerF], data[Value::CurrentTPerF], data[Value::CurrentT2PerF]),
         .Q2 = QuadraticIn(t, data[Value::Current], data[Value::CurrentT], data[Value::CurrentT2]),
         .Q3 = QuadraticIn(t, data[Value::CurrentF], data[Value::CurrentTF], data[Value::CurrentT2F]),
-        .S1 = CheckedPower(10, Surface(data, Values::AmplitudeSurface, r, t)),
-        .S2 = Surface(data, Values::FrequencyExponentSurface, r, t),
-        .S3 = Surface(data, Values::VoltageExponentSurface, r, t),
+        .S1 = 0,
+        .S2 = 0,
+        .S3 = 0,
         .Rref = data[Value::HeatResistance],
         .Rth = heatResistance};
+}
+
+PowerModel PowerModelOf(const PartRecord& part, double biasVolts, double ambientC, double heatResistance)
+{
+    const double r = CheckedQuotient(biasVolts, RatedVoltage(part));
+    const double t = ambientC - HeatingReferenceC;
+    auto model = CurrentModelOf(part, ambientC, heatResistance);
+    model.S1 = CheckedPower(10, Surface(part.Data, Values::AmplitudeSurface, r, t));
+    model.S2 = Surface(part.Data, Values::FrequencyExponentSurface, r, t);
+    model.S3 = Surface(part.Data, Values::VoltageExponentSurface, r, t);
+    return model;
 }
 
 std::optional<double> PowerModel::LossResistance(double frequencyHz) const
@@ -67,14 +77,14 @@ double PowerModel::kV(double frequencyHz) const
     return CheckedFinite(CheckedPower(Log10(frequencyHz), S2) * kVConstant());
 }
 
-double dTallow(float maxC, float ambientC)
+double dTallow(float maxC, double ambientC)
 {
     const float fullRiseBelow = maxC - RecommendedRise;
     if (ambientC < fullRiseBelow)
     {
         return RecommendedRise;
     }
-    return ambientC <= maxC ? double{maxC} - double{ambientC} : 0;
+    return ambientC <= maxC ? double{maxC} - ambientC : 0;
 }
 
 double VoltageOfRise(double rise, double kV, double S3)
