@@ -164,10 +164,16 @@ double ChartCanvas::MiddleX() const
     return XUnder(plot.left() + at * plot.width() / 100);
 }
 
-/// A place in plot units: 0 to 100 over the plot, from left to right and from bottom to top.
-QPointF ChartCanvas::PlotUnits(const QPointF& pixel) const
+QRectF ChartCanvas::PlotShowing(const AxisRange& range) const
 {
-    const QRectF plot = Chart().Plot();
+    ChartView view = scene->View;
+    view.Range = range;
+    const Box plot = LayOutFitting(view, width(), height(), FontRuler(scene->Marks.TextSize)).Plot;
+    return {plot.Left, plot.Top, plot.Width, plot.Height};
+}
+
+QPointF PlotUnits(const QPointF& pixel, const QRectF& plot)
+{
     return {(pixel.x() - plot.left()) * 100 / plot.width(),
             (plot.bottom() - pixel.y()) * 100 / plot.height()};
 }
@@ -207,10 +213,9 @@ void ChartCanvas::mousePressEvent(QMouseEvent* event)
 /// From a press on, beyond the distance of a click: draws a rectangle with Shift, else pans.
 void ChartCanvas::Drag(const QPointF& pixel)
 {
-    const QPointF way = pixel - pressedAt;
     if (hold == Hold::Pressed)
     {
-        if (way.manhattanLength() < QGuiApplication::styleHints()->startDragDistance())
+        if ((pixel - pressedAt).manhattanLength() < QGuiApplication::styleHints()->startDragDistance())
         {
             return;
         }
@@ -224,8 +229,7 @@ void ChartCanvas::Drag(const QPointF& pixel)
         frame->show();
         return;
     }
-    const QRectF plot = Chart().Plot();
-    Q_EMIT Dragged(-way.x() * 100 / plot.width(), way.y() * 100 / plot.height());
+    Q_EMIT Dragged(pressedAt, pixel);
 }
 
 void ChartCanvas::mouseMoveEvent(QMouseEvent* event)
@@ -254,8 +258,8 @@ void ChartCanvas::mouseReleaseEvent(QMouseEvent* event)
     }
     if (held == Hold::Framing)
     {
-        const QPointF from = PlotUnits(pressedAt);
-        const QPointF to = PlotUnits(event->position());
+        const QPointF from = PlotUnits(pressedAt, Chart().Plot());
+        const QPointF to = PlotUnits(event->position(), Chart().Plot());
         Q_EMIT RectangleDrawn(from.x(), from.y(), to.x(), to.y());
     }
 }
@@ -288,8 +292,7 @@ void ChartCanvas::wheelEvent(QWheelEvent* event)
     // Some desktops turn the wheel's direction with a modifier.
     const QPoint angle = event->angleDelta();
     const double notches = (angle.y() != 0 ? angle.y() : angle.x()) / AnglePerNotch;
-    const QPointF at = PlotUnits(event->position());
-    Q_EMIT WheelTurned(std::pow(ZoomPerNotch, notches), std::clamp(at.x(), 0.0, 100.0),
-                       std::clamp(at.y(), 0.0, 100.0), AxesAt(event->position(), event->modifiers()));
+    const QPointF at = event->position();
+    Q_EMIT WheelTurned(std::pow(ZoomPerNotch, notches), at, AxesAt(at, event->modifiers()));
     event->accept();
 }

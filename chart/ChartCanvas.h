@@ -31,6 +31,9 @@ struct ViewScene
     LineMarks Marks;
 };
 
+/// A place in plot units: 0 to 100 over a plot, from left to right and from bottom to top.
+QPointF PlotUnits(const QPointF& pixel, const QRectF& plot);
+
 /// What lies over the chart of a scene.
 ChartOverlay OverlayOf(const ViewScene& scene);
 
@@ -62,6 +65,8 @@ public:
     double XUnder(double pixel) const;
     /// The tick nearest the middle of the range shown.
     double MiddleX() const;
+    /// The plot area as it is once a range is shown, whose Y labels may take more or less room.
+    QRectF PlotShowing(const AxisRange& range) const;
 
 Q_SIGNALS:
     /// The pointer is over the plot, at this X.
@@ -70,15 +75,15 @@ Q_SIGNALS:
     void LineHovered(std::optional<int> line);
     void Clicked(double x);
     void DoubleClicked();
-    /// A drag begins, and has come so many plot units from where it began.
+    /// A drag begins, and has come from a place to another, in pixels.
     void DragStarted();
-    void Dragged(double byX, double byY);
+    void Dragged(const QPointF& from, const QPointF& to);
     /// A rectangle was drawn, in plot units.
     void RectangleDrawn(double fromX, double fromY, double toX, double toY);
     /// A screen reader asks for this X.
     void XAskedFor(double x);
-    /// The wheel was turned over a place in plot units.
-    void WheelTurned(double factor, double atX, double atY, ZoomAxes axes);
+    /// The wheel was turned over a place in pixels.
+    void WheelTurned(double factor, const QPointF& at, ZoomAxes axes);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -100,7 +105,6 @@ private:
         Framing,
     };
 
-    QPointF PlotUnits(const QPointF& pixel) const;
     ZoomAxes AxesAt(const QPointF& pixel, Qt::KeyboardModifiers modifiers) const;
     void Hover(const QPointF& pixel);
     void Drag(const QPointF& pixel);

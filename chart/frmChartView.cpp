@@ -128,25 +128,15 @@ void frmChartView::ConnectCanvas()
                 scene.Cursors.TakePinBack();
                 mnuDefaultRange_Click();
             });
-    connect(canvas, &ChartCanvas::DragStarted, this, [this] { zoomAtDrag = zoom; });
-    connect(canvas, &ChartCanvas::Dragged, this,
-            [this](double byX, double byY)
-            {
-                zoom = zoomAtDrag;
-                Pan(byX, byY);
-            });
+    connect(canvas, &ChartCanvas::DragStarted, this, &frmChartView::StartDrag);
+    connect(canvas, &ChartCanvas::Dragged, this, &frmChartView::Drag);
     connect(canvas, &ChartCanvas::RectangleDrawn, this,
             [this](double fromX, double fromY, double toX, double toY)
             {
                 zoom.ZoomTo(fromX, fromY, toX, toY);
                 ChangeRange();
             });
-    connect(canvas, &ChartCanvas::WheelTurned, this,
-            [this](double factor, double atX, double atY, ZoomAxes axes)
-            {
-                zoom.Zoom(factor, atX, atY, axes);
-                ChangeRange();
-            });
+    connect(canvas, &ChartCanvas::WheelTurned, this, &frmChartView::ZoomAbout);
 }
 
 // ---- The lines ----

@@ -70,6 +70,9 @@ private:
     void ChangeRange();
     void NoteUnseenLines();
     void Zoom(double factor);
+    void ZoomAbout(double factor, const QPointF& place, ZoomAxes axes);
+    void StartDrag();
+    void Drag(const QPointF& from, const QPointF& to);
     void Pan(double byX, double byY);
     void mnuDefaultRange_Click();
     void mnuRange_Click();
@@ -130,6 +133,7 @@ private:
     ChartView chartShown{};
     /// The range as a drag began.
     ZoomRange zoomAtDrag;
+    QRectF plotAtDrag;
     bool hasOwnRange = false;
     /// Numbers of lines that have nothing in the range shown.
     QStringList unseen;

@@ -10,6 +10,8 @@
 #include <QGuiApplication>
 #include <QMenu>
 
+#include <algorithm>
+
 static constexpr double ZoomStep = 1.25;
 static constexpr double TextStep = 1.15;
 
@@ -77,15 +79,44 @@ void frmChartView::Pan(double byX, double byY)
     ChangeRange();
 }
 
+void frmChartView::StartDrag()
+{
+    zoomAtDrag = zoom;
+    plotAtDrag = ui->picChartView->Chart().Plot();
+}
+
+/// Y goes first: its labels decide where the plot stands in which X goes with the pointer.
+void frmChartView::Drag(const QPointF& from, const QPointF& to)
+{
+    const QPointF start = PlotUnits(from, plotAtDrag);
+    zoom = zoomAtDrag;
+    zoom.Pan(0, start.y() - PlotUnits(to, plotAtDrag).y());
+    const QRectF plot = ui->picChartView->PlotShowing(zoom.Range());
+    Pan(start.x() - PlotUnits(to, plot).x(), 0);
+}
+
+/// What stands at a place, or at the nearest of the plot, stays there. New Y labels may move the plot: a
+/// first trial tells where to.
+void frmChartView::ZoomAbout(double factor, const QPointF& place, ZoomAxes axes)
+{
+    const QRectF plot = ui->picChartView->Chart().Plot();
+    const QPointF held(std::clamp(place.x(), plot.left(), plot.right()),
+                       std::clamp(place.y(), plot.top(), plot.bottom()));
+    const QPointF at = PlotUnits(held, plot);
+    ZoomRange trial = zoom;
+    trial.Zoom(factor, at.x(), at.y(), axes);
+    const QPointF after = PlotUnits(held, ui->picChartView->PlotShowing(trial.Range()));
+    zoom.Zoom(factor, at.x(), at.y(), axes, after.x());
+    ChangeRange();
+}
+
 /// Zooms about the cursor, or about the middle while it is out of view.
 void frmChartView::Zoom(double factor)
 {
     const FittingChart& shown = ui->picChartView->Chart();
-    const QRectF plot = shown.Plot();
-    const auto pixel = shown.PixelOfX(scene.Cursors.Moving());
-    const double at = pixel ? (*pixel - plot.left()) * 100 / plot.width() : 50;
-    zoom.Zoom(factor, at, 50);
-    ChangeRange();
+    const QPointF middle = shown.Plot().center();
+    ZoomAbout(factor, {shown.PixelOfX(scene.Cursors.Moving()).value_or(middle.x()), middle.y()},
+              ZoomAxes::Both);
 }
 
 void frmChartView::mnuDefaultRange_Click()

@@ -94,7 +94,7 @@ void ZoomAxis::Set(float from, float to)
     shownTo = std::abs(exact.To - Scaled(to)) < tolerance ? to : shownTo;
 }
 
-void ZoomAxis::Zoom(double factor, double position)
+void ZoomAxis::Zoom(double factor, double position, double place)
 {
     if (defaults.Span() == 0)
     {
@@ -103,7 +103,7 @@ void ZoomAxis::Zoom(double factor, double position)
     const double at = exact.From + exact.Span() * position / 100;
     const double span =
         std::clamp(exact.Span() / factor, std::min(LeastSpan(), exact.Span()), permitted.Span());
-    const double from = at - span * position / 100;
+    const double from = at - span * place / 100;
     Take(from, from + span);
 }
 

@@ -23,10 +23,11 @@ public:
     void Reset() { Take(defaults.From, defaults.To); }
     /// Takes ends of a user's own, shown as they are given as far as they are permitted.
     void Set(float from, float to);
-    /// The span becomes `factor` times smaller; the value at a position, in plot units, stays there. At a
-    /// limit the ends shift, and keep their span while that fits. The least span is a thousandth of the
-    /// default one, a tenth of a decade on a logarithmic axis.
-    void Zoom(double factor, double position);
+    /// The span becomes `factor` times smaller; the value at a position, in plot units, comes to stand at a
+    /// place, which is the same position unless the plot itself moves. At a limit the ends shift, and keep
+    /// their span while that fits. The least span is a thousandth of the default one, a tenth of a decade on
+    /// a logarithmic axis.
+    void Zoom(double factor, double position, double place);
     /// Shows what lies between two positions, in plot units.
     void ShowBetween(double fromPosition, double toPosition);
 

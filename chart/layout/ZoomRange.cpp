@@ -30,15 +30,15 @@ void ZoomRange::Set(const AxisRange& range)
     y.Set(range.YMin, range.YMax);
 }
 
-void ZoomRange::Zoom(double factor, double atX, double atY, ZoomAxes axes)
+void ZoomRange::Zoom(double factor, double atX, double atY, ZoomAxes axes, std::optional<double> placeX)
 {
     if (axes != ZoomAxes::Y)
     {
-        x.Zoom(factor, atX);
+        x.Zoom(factor, atX, placeX.value_or(atX));
     }
     if (axes != ZoomAxes::X)
     {
-        y.Zoom(factor, atY);
+        y.Zoom(factor, atY, atY);
     }
 }
 

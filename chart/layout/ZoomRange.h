@@ -5,6 +5,8 @@
 #include "chart/layout/ChartView.h"
 #include "chart/layout/ZoomAxis.h"
 
+#include <optional>
+
 /// Which axes a step concerns.
 enum class ZoomAxes
 {
@@ -31,7 +33,10 @@ public:
     void Set(const AxisRange& range);
     /// Spans become `factor` times smaller, larger for a factor below 1; the values at the position stay
     /// there.
-    void Zoom(double factor, double atX, double atY, ZoomAxes axes = ZoomAxes::Both);
+    /// @param placeX where the value at `atX` shall stand, if that is another position: new Y labels may move
+    ///     the plot under a pointer that stays
+    void Zoom(double factor, double atX, double atY, ZoomAxes axes = ZoomAxes::Both,
+              std::optional<double> placeX = {});
     /// Shifts the range by some plot units, as far as is permitted; positive to higher values.
     void Pan(double byX, double byY);
     /// Shows what lies between two corners.

@@ -51,6 +51,16 @@ TEST(ZoomRange, ZoomsAboutAPosition)
     EXPECT_TRUE(zoom.IsDefault());
 }
 
+TEST(ZoomRange, BringsTheValueUnderAPointerToWhereThePlotHasMoved)
+{
+    ZoomRange zoom(change, changeRange);
+    // 25 °C stood in the middle, and stands four tenths from the left afterwards.
+    zoom.Zoom(2, 50, 0, ZoomAxes::Both, 40);
+    EXPECT_EQ(TextOf(zoom.Range()), "-15..85 -80..-30");
+    zoom.Zoom(0.5, 40, 0, ZoomAxes::Both, 50);
+    EXPECT_TRUE(zoom.IsDefault());
+}
+
 TEST(ZoomRange, RoundsEndsToAThousandthOfTheSpan)
 {
     ZoomRange zoom(change, changeRange);

@@ -22,10 +22,12 @@ private Q_SLOTS:
     void ADoubleClickShowsTheDefaultRangeAndPinsNothing();
     void ALineUnderThePointerStandsOut();
     void ARowUnderThePointerStandsOut();
+    void KeysZoomAboutTheCursor();
     void TheWheelZoomsThereAndBack_data();
     void TheWheelZoomsThereAndBack();
     void TheWheelOverLabelsZoomsOneAxis_data();
     void TheWheelOverLabelsZoomsOneAxis();
+    void DraggingPansAndComesBack_data();
     void DraggingPansAndComesBack();
     void ASmallDragIsAClick();
     void ShiftAndDragZoomsToARectangle();
@@ -141,7 +143,8 @@ void ViewPointerTest::ARowUnderThePointerStandsOut()
     QVERIFY(!desk.Scene().Hovered);
 }
 
-void ViewPointerTest::TheWheelZoomsThereAndBack_data()
+/// Each chart has Y labels of its own that grow and shrink with the range.
+static void AddCharts()
 {
     QTest::addColumn<int>("kind");
     for (const Kind kind : {Kind::CapacitanceOverTemperature, Kind::CapacitanceOverBias,
@@ -149,6 +152,11 @@ void ViewPointerTest::TheWheelZoomsThereAndBack_data()
     {
         QTest::addRow("chart %d", static_cast<int>(kind)) << static_cast<int>(kind);
     }
+}
+
+void ViewPointerTest::TheWheelZoomsThereAndBack_data()
+{
+    AddCharts();
 }
 
 void ViewPointerTest::TheWheelZoomsThereAndBack()
@@ -198,9 +206,28 @@ void ViewPointerTest::TheWheelOverLabelsZoomsOneAxis()
     QTEST(now.YMax - now.YMin < whole.YMax - whole.YMin, "y");
 }
 
+void ViewPointerTest::KeysZoomAboutTheCursor()
+{
+    const ViewDesk desk(Kind::CapacitanceOverBias);
+    desk.Click(desk.At(80, 50));
+    desk.MoveTo(desk.At(90, 50));
+    const double pixel = *desk.Canvas()->Chart().PixelOfX(*desk.Cursors().B());
+    for (int step = 0; step < 5; ++step)
+    {
+        desk.Press(Qt::Key_Plus, Qt::ControlModifier);
+        QVERIFY(std::abs(*desk.Canvas()->Chart().PixelOfX(*desk.Cursors().B()) - pixel) < 3);
+    }
+}
+
+void ViewPointerTest::DraggingPansAndComesBack_data()
+{
+    AddCharts();
+}
+
 void ViewPointerTest::DraggingPansAndComesBack()
 {
-    const ViewDesk desk;
+    QFETCH(int, kind);
+    const ViewDesk desk(static_cast<Kind>(kind));
     desk.Turn(desk.At(50, 50), 4);
     const AxisRange before = desk.Scene().View.Range;
     const QPoint from = desk.At(50, 50);
