@@ -190,17 +190,6 @@ void AccessibilityTest::EmptyListShowsItsFocus()
 
 // ---- Edges ----
 
-static QPalette PaletteOf(const QColor& ground, const QColor& text)
-{
-    QPalette palette(ground);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-    {
-        palette.setColor(role, text);
-    }
-    palette.setColor(QPalette::Base, ground);
-    return palette;
-}
-
 void AccessibilityTest::EdgesAreSeen_data()
 {
     QTest::addColumn<QPalette>("palette");

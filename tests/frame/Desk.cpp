@@ -1,5 +1,6 @@
 #include "tests/frame/Desk.h"
 
+#include "app/PartNumText.h"
 #include "app/mdlPublic.h"
 #include "chart/frmGraph.h"
 #include "files/PartLoading.h"
@@ -18,13 +19,49 @@
 #include <QStyleOptionTitleBar>
 #include <QTest>
 
+// ---- What the environment says of the desk ----
+
+bool IsJapaneseDesk()
+{
+    return qEnvironmentVariable("DESK_CODE") == QStringLiteral("jis");
+}
+
+QPalette PaletteOf(const QColor& ground, const QColor& text)
+{
+    QPalette palette(ground);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    {
+        palette.setColor(role, text);
+    }
+    palette.setColor(QPalette::Base, ground);
+    return palette;
+}
+
+/// The colours that `DESK_PALETTE` names, for the whole of the test program; the desktop's where it is not
+/// set.
+static void SetDeskPalette()
+{
+    const QString name = qEnvironmentVariable("DESK_PALETTE");
+    if (name == QStringLiteral("dark"))
+    {
+        QApplication::setPalette(PaletteOf(QColor(53, 53, 53), Qt::white));
+    }
+    else if (name == QStringLiteral("contrast"))
+    {
+        QApplication::setPalette(PaletteOf(Qt::black, Qt::yellow));
+    }
+}
+
+// ---- The desk ----
+
 Desk::Desk(const std::string& partFolder, int helpLanguage)
 {
     mdlPublic.Parts = LoadPartData(partFolder);
     mdlPublic.Charts = ChartStore{};
     mdlPublic.Updating = false;
-    mdlPublic.HelpLanguage = static_cast<std::int16_t>(helpLanguage);
+    mdlPublic.HelpLanguage = static_cast<std::int16_t>(IsJapaneseDesk() ? 1 : helpLanguage);
     mdlPublic.DegreeSign = "\xB0";
+    SetDeskPalette();
     // As the program does: a window without an icon is given a new one with every painting of its title.
     QApplication::setWindowIcon(ProgramIcon());
     answering.setInterval(1);
@@ -138,11 +175,17 @@ QString Desk::Text(const QString& box) const
     return Find<QLineEdit>(box)->text();
 }
 
+QString NumberOnDisplay(const QString& partNum)
+{
+    const auto* const part = mdlPublic.Parts.PartIndex[0].Find(partNum.toStdString());
+    return part == nullptr ? partNum : PartNumText(*part, GetPartNumForm());
+}
+
 void Desk::PlotCapacitance(const QString& partNum, const QString& biasVolts, const QString& yAxis)
 {
     ClickChartType(2);
     PickYAxis(yAxis);
-    TypePart(partNum);
+    TypePart(NumberOnDisplay(partNum));
     Type("txtDCBiasVol", biasVolts);
     ClickPlot();
 }

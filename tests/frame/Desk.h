@@ -95,6 +95,18 @@ private:
     QMessageBox::StandardButton answer = QMessageBox::NoButton;
 };
 
+/// A part's number in the number form and code on display, given its present number in the EIA code; a number
+/// that no part has is left as it is.
+QString NumberOnDisplay(const QString& partNum);
+
+/// True where `DESK_CODE` is "jis": the desk then starts as with the Japanese help book, in the JIS code
+/// view, whatever language it is asked for.
+bool IsJapaneseDesk();
+
+/// A palette of a text on a ground, as dark and high-contrast desktops have. All desks of a test program take
+/// the one that `DESK_PALETTE` names, "dark" or "contrast".
+QPalette PaletteOf(const QColor& ground, const QColor& text);
+
 /// Lets every pending event happen, destruction of closed windows included.
 void Settle();
 

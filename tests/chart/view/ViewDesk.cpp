@@ -1,7 +1,5 @@
 #include "tests/chart/view/ViewDesk.h"
 
-#include "app/PartNumText.h"
-#include "app/mdlPublic.h"
 #include "chart/frmGraph.h"
 
 #include <QApplication>
@@ -43,9 +41,7 @@ void ViewDesk::PlotLine(int part)
     case Kind::AllowablePower:
         desk.ClickChartType(1);
     }
-    const auto* const index =
-        mdlPublic.Parts.PartIndex[0].Find(PartsOfLines.at(static_cast<std::size_t>(part)));
-    desk.TypePart(PartNumText(*index, GetPartNumForm()));
+    desk.TypePart(NumberOnDisplay(PartsOfLines.at(static_cast<std::size_t>(part))));
     if (desk.Find<QLineEdit>("txtDCBiasVol")->isEnabled())
     {
         desk.Type("txtDCBiasVol", "12");
@@ -63,6 +59,10 @@ void ViewDesk::Open()
     desk.Area()->setActiveSubWindow(Chart());
     QTest::keyClick(Chart(), Qt::Key_E, Qt::ControlModifier);
     Settle();
+    if (qEnvironmentVariableIsSet("DESK_SMALL"))
+    {
+        View()->resize(View()->minimumSize());
+    }
     QApplication::setActiveWindow(View());
     Settle();
 }

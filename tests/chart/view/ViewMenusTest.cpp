@@ -45,7 +45,7 @@ void ViewMenusTest::PaneMenuOffersConditionsAndPartNumber()
     QCOMPARE(Entries(OpenMenu()),
              (QStringList{"Use These Conditions", "Copy Part Number", "-", "Open in Chart View"}));
     Choose(OpenMenu(), "Copy Part Number");
-    QCOMPARE(QGuiApplication::clipboard()->text(), "KTS31NB51E106MA01");
+    QCOMPARE(QGuiApplication::clipboard()->text(), NumberOnDisplay("KTS31NB51E106MA01"));
     // A pane without a line belongs to the chart.
     auto* const empty = desk.Chart()->findChild<QGroupBox*>("fraStatus_4");
     SendContextMenu(empty, empty->rect().center());
@@ -61,7 +61,8 @@ void ViewMenusTest::ChartMenuNamesAllLines()
     QCOMPARE(Entries(menu), (QStringList{"Open in Chart View", "Use Conditions of", "-", "Expand/Contract...",
                                          "Copy to Clipboard", "Print..."}));
     QCOMPARE(Entries(menu->actions()[1]->menu()),
-             (QStringList{"No.1 KTS21JB51E106MA01", "No.2 KTS31NB51E106MA01"}));
+             (QStringList{"No.1 " + NumberOnDisplay("KTS21JB51E106MA01"),
+                          "No.2 " + NumberOnDisplay("KTS31NB51E106MA01")}));
     menu->close();
 }
 
@@ -116,7 +117,7 @@ void ViewMenusTest::ItsMenuOffersEveryCommandWithItsKey()
 void ViewMenusTest::ConditionsGoToTheForm()
 {
     ViewDesk desk;
-    desk.desk.TypePart("KTS32XR71E106KA01");
+    desk.desk.TypePart(NumberOnDisplay("KTS32XR71E106KA01"));
     desk.desk.Type("txtDCBiasVol", "3");
     desk.Press(Qt::Key_Down);
     desk.Press(Qt::Key_Down);

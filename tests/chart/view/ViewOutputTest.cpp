@@ -210,7 +210,8 @@ void ViewOutputTest::DataAreTheCurvesOfAllLines()
         }
     }
     QCOMPARE(numbers, 600);
-    QCOMPARE(parts, (QStringList{"KTS21JB51E106MA01", "KTS31NB51E106MA01", "KTS32XR71E106KA01"}));
+    QCOMPARE(parts, (QStringList{NumberOnDisplay("KTS21JB51E106MA01"), NumberOnDisplay("KTS31NB51E106MA01"),
+                                 NumberOnDisplay("KTS32XR71E106KA01")}));
 }
 
 void ViewOutputTest::EachDialogStartsInItsOwnLastFolder()
