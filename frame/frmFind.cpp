@@ -281,6 +281,8 @@ void frmFind::ShowAnswer(const FindAsked& asked)
     ui->tblFound->setAccessibleDescription(ui->lblFound->text());
     table->SetAnswer(std::move(found), asked.Question);
     HideColumns();
+    // At once: put off until after painting, the new number of rows has the table painted a second time.
+    ui->tblFound->doItemsLayout();
     OfferCommands(table->rowCount() > 0);
 }
 

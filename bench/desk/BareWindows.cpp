@@ -156,9 +156,9 @@ QMdiSubWindow* AddBareChart(QMdiArea& area, const PaintSurface& paint)
     return window;
 }
 
-static QTableWidget* BareTable()
+static QTableWidget* BareTable(int rows, int columns)
 {
-    auto* table = new QTableWidget(6, 8);
+    auto* table = new QTableWidget(rows, columns);
     for (int row = 0; row < table->rowCount(); ++row)
     {
         for (int column = 0; column < table->columnCount(); ++column)
@@ -167,6 +167,23 @@ static QTableWidget* BareTable()
         }
     }
     return table;
+}
+
+BareFind::BareFind()
+    : box(nullptr)
+    , table(BareTable(40, 14))
+{
+    std::vector<QLineEdit*> boxes;
+    auto* groups = new QHBoxLayout;
+    for (const char* title : {"Parts", "Operating point", "Wanted"})
+    {
+        groups->addWidget(MakeGroup(title, 5, &boxes));
+    }
+    box = boxes.front();
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(groups);
+    layout->addWidget(table);
+    connect(box, &QLineEdit::textChanged, table->viewport(), qOverload<>(&QWidget::update));
 }
 
 BareView::BareView()
@@ -180,7 +197,7 @@ BareView::BareView()
     auto* values = new QWidget;
     auto* layout = new QVBoxLayout(values);
     layout->addWidget(new QLineEdit(QStringLiteral("300")));
-    layout->addWidget(BareTable());
+    layout->addWidget(BareTable(6, 8));
     auto* splitter = new QSplitter(Qt::Vertical);
     splitter->addWidget(new Surface([](QPainter&) {}, splitter));
     splitter->addWidget(values);

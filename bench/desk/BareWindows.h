@@ -12,7 +12,9 @@
 class QComboBox;
 class QMdiArea;
 class QMdiSubWindow;
+class QLineEdit;
 class QRadioButton;
+class QTableWidget;
 
 /// An MDI window with a selection form's controls at its left edge.
 struct BareDesk
@@ -31,6 +33,16 @@ using PaintSurface = std::function<void(QPainter& painter)>;
 
 /// Opens a window with a chart window's controls and menus, not shown yet.
 QMdiSubWindow* AddBareChart(QMdiArea& area, const PaintSurface& paint = {});
+
+/// A window with the search's controls: entries, and below them a table of as many cells as are seen there.
+class BareFind : public QWidget
+{
+public:
+    BareFind();
+
+    QLineEdit* box;
+    QTableWidget* table;
+};
 
 /// A window with a chart view's controls: tool bar, surface, entry, and a table of six lines.
 class BareView : public QMainWindow

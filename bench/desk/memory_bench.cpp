@@ -7,8 +7,8 @@
 
 #include "app/mdlPublic.h"
 #include "bench/desk/BareWindows.h"
+#include "bench/desk/LargestRange.h"
 #include "chart/frmGraph.h"
-#include "files/PartLoading.h"
 #include "tests/frame/Desk.h"
 
 #include <QApplication>
@@ -17,45 +17,12 @@
 #include <QMdiSubWindow>
 
 #include <cstdio>
-#include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <string>
-#include <unistd.h>
-
-namespace fs = std::filesystem;
 
 static constexpr int Charts = 13;
 static constexpr int LinesPerChart = 6;
-static constexpr std::size_t LargestParts = 32767;
-
-static std::string BytesOf(const fs::path& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-/// Writes a range of 32,767 parts: the sample range over and over, with a running number in each name.
-static void WriteLargestRange(const fs::path& folder)
-{
-    const auto parts = LoadPartData(SAMPLE_RANGE);
-    const std::string values = BytesOf(fs::path(SAMPLE_RANGE) / "halvex.dat");
-    std::ofstream index(folder / "largest.idx", std::ios::binary);
-    std::ofstream data(folder / "largest.dat", std::ios::binary);
-    for (std::size_t i = 0; i < LargestParts; ++i)
-    {
-        const std::size_t of = i % parts.PartData.size();
-        const PartRecord& part = parts.PartData[of];
-        for (const auto& partNum : part.PartNum)
-        {
-            index << partNum << '-' << i << ',';
-        }
-        index << part.SizeCode[0] << ',' << part.SizeCode[1] << ',' << part.Tcc[0] << ',' << part.Tcc[1]
-              << "\r\n";
-        data.write(values.data() + of * DataRecordBytes, DataRecordBytes);
-    }
-}
 
 static long DirtyKilobytes()
 {
@@ -112,11 +79,7 @@ static void OpenAllCharts(Desk& desk)
 
 static int MeasureProgram()
 {
-    const auto folder = fs::temp_directory_path() / ("memory_bench_" + std::to_string(getpid()));
-    fs::create_directory(folder);
-    WriteLargestRange(folder);
-    Desk desk(folder.string());
-    fs::remove_all(folder);
+    Desk desk(LargestRange().Folder());
     OpenAllCharts(desk);
     for (const auto& said : desk.TakeBoxes())
     {

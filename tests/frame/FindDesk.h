@@ -18,7 +18,8 @@
 /// The window at a desk.
 struct FindDesk : Desk
 {
-    FindDesk()
+    explicit FindDesk(const std::string& partFolder = SAMPLE_RANGE)
+        : Desk(partFolder)
     {
         Find<QToolButton>("cmdFind")->click();
         window = WindowOf();

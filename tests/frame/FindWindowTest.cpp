@@ -20,6 +20,7 @@ private Q_SLOTS:
     void CornerButtonTakesNoFocus();
     void StartsAsItIsAskedNothing();
     void AnswersWhileTyping();
+    void ANewAnswerIsPaintedOnce();
     void RefusedEntryIsMarkedAndKeepsTheAnswer_data();
     void RefusedEntryIsMarkedAndKeepsTheAnswer();
     void BareCapacitancesAreMicrofarads();
@@ -108,6 +109,36 @@ void FindWindowTest::AnswersWhileTyping()
 
     desk.Enter("txtFindPartNum", "nb51c226");
     QCOMPARE(desk.Line(), QString("1 part fits"));
+}
+
+/// Counts how often a widget is painted.
+class PaintCounter : public QObject
+{
+public:
+    int Count = 0;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        Count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
+void FindWindowTest::ANewAnswerIsPaintedOnce()
+{
+    const FindDesk desk;
+    desk.AskForABank();
+    Settle();
+    PaintCounter painted;
+    desk.Table()->viewport()->installEventFilter(&painted);
+    const int before = desk.Rows();
+    // Another number of rows, below the same headings.
+    desk.Enter("txtFindMinCap", "1");
+    QVERIFY(desk.Rows() > before);
+    Settle();
+    Settle();
+    QCOMPARE(painted.Count, 1);
 }
 
 void FindWindowTest::RefusedEntryIsMarkedAndKeepsTheAnswer_data()
