@@ -1,49 +1,19 @@
 /// The two help books: the same chapters, links that lead somewhere, and every message explained.
 
+#include "tests/help/BookText.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <regex>
 #include <set>
-#include <sstream>
 #include <string>
 #include <vector>
 
 namespace
 {
-
-std::string BookText(const std::string& name)
-{
-    std::ifstream file(std::string(BOOKS) + "/" + name, std::ios::binary);
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
-}
-
-/// First groups of all matches, in order.
-std::vector<std::string> All(const std::string& text, const char* pattern)
-{
-    const std::regex expression(pattern);
-    std::vector<std::string> found;
-    for (std::sregex_iterator match(text.begin(), text.end(), expression), end; match != end; ++match)
-    {
-        found.push_back((*match)[1]);
-    }
-    return found;
-}
-
-/// The text with its lines joined and its entities and tags taken away.
-std::string PlainText(std::string text)
-{
-    text = std::regex_replace(text, std::regex("<br/>"), " ");
-    text = std::regex_replace(text, std::regex("<[^>]*>"), "");
-    text = std::regex_replace(text, std::regex("&quot;"), "\"");
-    text = std::regex_replace(text, std::regex("&amp;"), "&");
-    return std::regex_replace(text, std::regex("\\s+"), " ");
-}
 
 /// Number of characters of at least three UTF-8 bytes: Japanese letters, in these books.
 std::size_t WideCharacters(const std::string& text)
