@@ -1,31 +1,13 @@
 #include "calc/AllowablePower.h"
 
-#include "calc/Bounds.h"
 #include "calc/CheckedMath.h"
+#include "calc/DefaultAxes.h"
 #include "calc/FrequencyLaws.h"
-#include "calc/Log10.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace
 {
-/// Default limits of a logarithmic Y axis around the loads.
-void SetLogarithmicAxes(Curve& curve)
-{
-    const auto [smallest, largest] = std::ranges::minmax_element(curve.YData);
-    curve.ExtraValue = *largest;
-    curve.Limits = {.XMax = static_cast<float>(HighestFrequencyHz),
-                    .YMax = 1,
-                    .XMin = static_cast<float>(LowestFrequencyHz),
-                    .YMin = 0.1F};
-    if (*smallest > 0)
-    {
-        curve.Limits.YMax = StoredSingle(std::pow(10.0, std::floor(Log10(*largest)) + 1));
-        curve.Limits.YMin = StoredSingle(std::pow(10.0, std::floor(Log10(*smallest))));
-    }
-}
-
 /// The curve whose load at frequency index i is `loadAt(i)`.
 template <class LoadAt> Curve CurveOverFrequency(LoadAt loadAt)
 {
@@ -34,7 +16,9 @@ template <class LoadAt> Curve CurveOverFrequency(LoadAt loadAt)
     {
         curve.YData[i] = StoredSingle(loadAt(i));
     }
-    SetLogarithmicAxes(curve);
+    const auto [smallest, largest] = std::ranges::minmax_element(curve.YData);
+    curve.ExtraValue = *largest;
+    curve.Limits = LogarithmicAxes(*largest, *smallest);
     return curve;
 }
 

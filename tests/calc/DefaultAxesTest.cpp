@@ -42,6 +42,20 @@ TEST(RiseAxesMinima, StayAsGiven)
     EXPECT_EQ(limits.YMin, -7);
 }
 
+TEST(LogarithmicAxes, AreWholeDecadesAroundAllValues)
+{
+    const AxisLimits expected{.XMax = 1e6F, .YMax = 1000, .XMin = 1e4F, .YMin = 10};
+    EXPECT_EQ(LogarithmicAxes(800, 45), expected);
+    EXPECT_EQ(LogarithmicAxes(800, 10), expected);
+}
+
+TEST(LogarithmicAxes, AreADecadeWhereNothingCanBeDrawn)
+{
+    const AxisLimits expected{.XMax = 1e6F, .YMax = 1, .XMin = 1e4F, .YMin = 0.1F};
+    EXPECT_EQ(LogarithmicAxes(0, 0), expected);
+    EXPECT_EQ(LogarithmicAxes(5, -1), expected);
+}
+
 struct XRow
 {
     const char* Name;
