@@ -5,10 +5,14 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <string>
 
 inline constexpr std::size_t CurvePoints = 200;
 using CurveValues = std::array<float, CurvePoints>;
+
+/// Stands in `YData` for a point at which the law has no value; not a number.
+inline constexpr float NoValue = std::numeric_limits<float>::quiet_NaN();
 
 /// One line of a chart. Voltages in V, frequency in kHz, temperatures in °C, heat resistance in °C/W;
 /// X and Y in the unit of their axis, except that an X of frequency is in Hz.

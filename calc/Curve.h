@@ -15,7 +15,7 @@ struct AxisLimits
     bool operator==(const AxisLimits&) const = default;
 };
 
-/// One curve. All values are finite.
+/// One curve. All values are finite, but for `NoValue` at points without one.
 struct Curve
 {
     /// False when the calculation stores no point; `XData` and `YData` are then zero.

@@ -5,6 +5,8 @@
 #include "calc/NumberText.h"
 #include "partdata/OneLine.h"
 
+#include <cmath>
+
 static std::string Heading(std::string_view axisName)
 {
     return std::string(axisName) + " [" + StoredUnitOf(axisName) + ']';
@@ -23,7 +25,7 @@ std::string CsvHead(const ChartRecord& line, std::string_view partNumber)
 
 std::string CsvRow(float x, float y)
 {
-    return NumberText(x) + ',' + NumberText(y) + '\n';
+    return NumberText(x) + ',' + (std::isnan(y) ? std::string() : NumberText(y)) + '\n';
 }
 
 std::string CsvRows(const ChartRecord& line)

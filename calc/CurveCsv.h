@@ -14,7 +14,7 @@
 /// Throws RunTimeError 5 for a chart type or an axis that does not exist.
 std::string CsvHead(const ChartRecord& line, std::string_view partNumber);
 
-/// X and Y as number text, "10000,1.5" and a line feed.
+/// X and Y as number text, "10000,1.5" and a line feed; nothing behind the comma for `NoValue`.
 std::string CsvRow(float x, float y);
 
 /// The rows of all 200 points.

@@ -60,7 +60,8 @@ std::optional<double> PowerModel::LossResistance(double frequencyHz) const
 {
     constexpr double milliohmsPerOhm = 1000;
     const double sum = CurrentHeating(Q1, Q2, Q3, frequencyHz);
-    return sum > 0 ? std::optional(milliohmsPerOhm * CheckedQuotient(sum, Rref)) : std::nullopt;
+    const double milliohms = sum > 0 ? milliohmsPerOhm * CheckedQuotient(sum, Rref) : 0;
+    return milliohms > 0 ? std::optional(milliohms) : std::nullopt;
 }
 
 double PowerModel::kVConstant() const

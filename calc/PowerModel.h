@@ -44,8 +44,8 @@ struct PowerModel
         return k > 0 ? k : 1.0;
     }
 
-    /// The resistance in mΩ that the current heats, (Q1/f + Q2 + f·Q3)/Rref; nothing where the bracket is not
-    /// positive. It is the part's own, whatever `Rth` is. Throws RunTimeError 6 or 11.
+    /// The resistance in mΩ that the current heats, (Q1/f + Q2 + f·Q3)/Rref; nothing where that, or the
+    /// bracket, is not positive. It is the part's own, whatever `Rth` is. Throws RunTimeError 6 or 11.
     std::optional<double> LossResistance(double frequencyHz) const;
 
     /// The part of kV that does not depend on frequency: S1·Rth/Rref.

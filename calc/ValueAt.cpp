@@ -43,7 +43,7 @@ public:
     {
         const auto& stored = input.Line.XData;
         const auto single = static_cast<float>(x);
-        const auto value = single >= stored.front() && single <= stored.back() ? At(x) : std::nullopt;
+        const auto value = Reaches(input.Line, x) ? At(x) : std::nullopt;
         const auto found = std::ranges::lower_bound(stored, single);
         const bool isStored = value && found != stored.end() && *found == single;
         return isStored ? input.Line.YData[static_cast<std::size_t>(found - stored.begin())] : value;
@@ -54,11 +54,13 @@ private:
     CurveInput input;
 };
 
-/// How far a line lies above the level that is looked for.
+/// How far a line lies above the level that is looked for; endlessly far below where it has no value.
 struct Sample
 {
     double X;
     double Above;
+
+    bool IsGap() const { return std::isinf(Above); }
 };
 
 bool AreOpposite(const Sample& a, const Sample& b)
@@ -88,7 +90,7 @@ public:
             }
             if (i + 1 < samples.size() && AreOpposite(samples[i], samples[i + 1]))
             {
-                crossings.push_back(Root(samples[i], samples[i + 1]));
+                AddRoot(crossings, samples[i], samples[i + 1]);
             }
         }
         return crossings;
@@ -99,10 +101,10 @@ private:
     static constexpr int samplesAnInterval = 8;
 
     /// As singles, which is what levels and stored values are: not every last digit is a crossing.
-    std::optional<Sample> SampleAt(double x) const
+    Sample SampleAt(double x) const
     {
         const auto value = law.OnLine(x);
-        return value ? std::optional(Sample{x, double{static_cast<float>(*value)} - y}) : std::nullopt;
+        return {x, value ? double{static_cast<float>(*value)} - y : -INFINITY};
     }
 
     double DistanceAt(double x) const { return std::abs(law.At(x).value_or(INFINITY) - y); }
@@ -111,13 +113,7 @@ private:
     std::vector<Sample> Scan(const CurveValues& storedX) const
     {
         std::vector<Sample> even;
-        const auto add = [&](double x)
-        {
-            if (const auto sample = SampleAt(x))
-            {
-                even.push_back(*sample);
-            }
-        };
+        const auto add = [&](double x) { even.push_back(SampleAt(x)); };
         for (std::size_t i = 0; i + 1 < storedX.size(); ++i)
         {
             for (int k = 0; k < samplesAnInterval; ++k)
@@ -156,7 +152,7 @@ private:
         const bool turns = distance > 0 && distance < std::abs(before.Above) &&
                            distance < std::abs(after.Above) && !AreOpposite(before, nearest) &&
                            !AreOpposite(nearest, after);
-        const auto found = turns ? SampleAt(NearestWithin(before.X, after.X)) : std::nullopt;
+        const auto found = turns ? std::optional(SampleAt(NearestWithin(before.X, after.X))) : std::nullopt;
         return found && (found->Above == 0 || AreOpposite(*found, nearest)) ? found : std::nullopt;
     }
 
@@ -199,8 +195,9 @@ private:
         return last;
     }
 
-    /// Bisection on the law down to neighbouring doubles.
-    float Root(const Sample& from, const Sample& to) const
+    /// Bisection on the law down to neighbouring doubles. Where the line breaks off between the samples, it
+    /// need not reach the level before.
+    void AddRoot(std::vector<float>& crossings, const Sample& from, const Sample& to) const
     {
         double low = from.X;
         double high = to.X;
@@ -211,13 +208,26 @@ private:
             (asAtFrom ? low : high) = middle;
             middle = std::midpoint(low, high);
         }
-        return static_cast<float>(high);
+        const bool mayBreakOff = from.IsGap() || to.IsGap();
+        if (!mayBreakOff || std::min(DistanceAt(low), DistanceAt(high)) <= RoundingShare * std::abs(y))
+        {
+            crossings.push_back(static_cast<float>(high));
+        }
     }
+
+    /// What rounding may leave between neighbouring values of a law.
+    static constexpr double RoundingShare = 1e-6;
 
     const LineLaw& law;
     double y;
 };
 } // namespace
+
+bool Reaches(const ChartRecord& line, double x)
+{
+    const auto single = static_cast<float>(x);
+    return single >= line.XData.front() && single <= line.XData.back();
+}
 
 std::optional<double> ValueAt(const PartRecord& part, const ChartRecord& line, double x, CodeView view)
 {

@@ -1,7 +1,9 @@
 #include "requests/AxisTexts.h"
 
+#include <algorithm>
 #include <bit>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
 #include <cstring>
 
@@ -18,7 +20,8 @@ void AppendValues(std::string& text, const CurveValues& values)
     for (const float value : values)
     {
         *at++ = separator;
-        at = std::to_chars(at, at + LongestSingle, value).ptr;
+        at = std::isnan(value) ? std::ranges::copy(NoNumber, at).out
+                               : std::to_chars(at, at + LongestSingle, value).ptr;
         separator = ',';
     }
     *at++ = ']';

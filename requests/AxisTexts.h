@@ -6,8 +6,13 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 
-/// Appends the values as a JSON array, each as the shortest text of its single. They must be finite.
+/// What JSON has for a point without a value.
+inline constexpr std::string_view NoNumber = "null";
+
+/// Appends the values as a JSON array, each as the shortest text of its single, null for `NoValue`. All
+/// others must be finite.
 void AppendValues(std::string& text, const CurveValues& values);
 
 /// Texts of the X axes met last. The parts of a range share most of theirs, and writing a curve's numbers is

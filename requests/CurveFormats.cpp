@@ -17,7 +17,7 @@ static std::string RowsOf(const RequestedCurve& curve)
     std::string rows = curve.HasOwnPoints() ? std::string() : CsvRows(curve.Line);
     for (const CurvePoint& point : curve.Points.value_or(std::vector<CurvePoint>()))
     {
-        rows += CsvRow(point.X, point.Y);
+        rows += CsvRow(point.X, point.Y.value_or(NoValue));
     }
     for (const CurveLevel& level : curve.Levels.value_or(std::vector<CurveLevel>()))
     {

@@ -11,7 +11,7 @@
 #include <algorithm>
 #include <charconv>
 
-/// Any number as JSON takes it. Curves hold finite values only.
+/// Any number as JSON takes it: finite.
 template <class Number> static void AppendNumber(std::string& text, Number value)
 {
     char digits[32];
@@ -44,6 +44,13 @@ static void AddNumber(std::string& text, std::string_view key, float value)
 {
     AppendKey(text, key);
     AppendNumber(text, value);
+}
+
+/// The value of a point, which may have none.
+static void AddValue(std::string& text, std::string_view key, std::optional<float> value)
+{
+    AppendKey(text, key);
+    value ? AppendNumber(text, *value) : static_cast<void>(text += NoNumber);
 }
 
 static void AddText(std::string& text, std::string_view key, std::string_view value)
@@ -111,7 +118,7 @@ static void AddPoints(std::string& text, const std::vector<CurvePoint>& points)
         AppendSeparated(text, i);
         text += '{';
         AddNumber(text, "x", points[i].X);
-        AddNumber(text, "y", points[i].Y);
+        AddValue(text, "y", points[i].Y);
         text += '}';
     }
     text += ']';

@@ -24,11 +24,11 @@ std::vector<CurvePoint> PointsOf(const PartRecord& part, const ChartRecord& line
     {
         const float x = StoredValueInUnit(typed, quantity, "at");
         const auto y = ValueAt(part, line, x, code);
-        if (!y)
+        if (!Reaches(line, x))
         {
             throw RequestError(RequestErrorKind::Condition, "at", ReachOf(line)).Of(typed);
         }
-        points.push_back({x, static_cast<float>(*y)});
+        points.push_back({x, y ? std::optional(static_cast<float>(*y)) : std::nullopt});
     }
     return points;
 }

@@ -5,14 +5,15 @@
 #include "calc/ChartRecord.h"
 #include "partdata/PartRecord.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
-/// One point in the units of the record.
+/// One point in the units of the record; without a Y where the law has no value.
 struct CurvePoint
 {
     float X;
-    float Y;
+    std::optional<float> Y;
 };
 
 /// Every X, upwards, at which a curve takes a value.

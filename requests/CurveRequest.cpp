@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <iterator>
 #include <span>
 
@@ -181,6 +182,13 @@ static void TakeConditions(ChartRecord& line, const Entries& entries)
     }
 }
 
+/// Throws RequestError: the part cannot be drawn on the chart.
+[[noreturn]] static void FailWithoutData(const ChartRecord& line)
+{
+    throw RequestError(RequestErrorKind::NoData, "chart",
+                       "has no data for chart " + std::string(ChartKindOf(line.ChartType).CommandName));
+}
+
 static void CalculateOrRefuse(const PartRecord& part, ChartRecord& line, const CurveRequest& request,
                               const Entries& entries)
 {
@@ -191,6 +199,10 @@ static void CalculateOrRefuse(const PartRecord& part, ChartRecord& line, const C
                            OnOneLine(refusal->Message))
             .Of(Echo(request, parameter.Id, entries))
             .Within(refusal->Limit);
+    }
+    if (std::ranges::all_of(line.YData, [](float y) { return std::isnan(y); }))
+    {
+        FailWithoutData(line);
     }
 }
 
@@ -254,8 +266,7 @@ static RequestedCurve CurveOfPart(const CurveRequest& request, const PartTable& 
     }
     else if (!IsAvailable(*curve.Part, line.ChartType))
     {
-        throw RequestError(RequestErrorKind::NoData, "chart",
-                           "has no data for chart " + std::string(chart.CommandName));
+        FailWithoutData(line);
     }
     else
     {

@@ -52,6 +52,12 @@ TEST(CurveCsv, TellsPartChartConditionsAndUnits)
               "Temperature [°C],Capacitance [pF]\n");
 }
 
+TEST(CurveCsv, LeavesTheFieldOfAPointWithoutValueEmpty)
+{
+    EXPECT_EQ(CsvRow(10000, NoValue), "10000,\n");
+    EXPECT_EQ(CsvRow(10000, 0), "10000,0\n");
+}
+
 TEST(CurveCsv, HasARowForEachPoint)
 {
     const auto rows = CsvRows(RiseOverFrequency());

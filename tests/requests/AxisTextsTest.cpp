@@ -41,6 +41,17 @@ TEST(AxisTexts, WriteAnAxisAsAnArrayOfShortestNumbers)
     EXPECT_TRUE(axes.Of(values).ends_with(",0]"));
 }
 
+TEST(AxisTexts, HaveNullForAPointWithoutValue)
+{
+    CurveValues values{};
+    values[1] = NoValue;
+    values.back() = NoValue;
+    std::string text;
+    AppendValues(text, values);
+    EXPECT_TRUE(text.starts_with("[0,null,0,")) << text;
+    EXPECT_TRUE(text.ends_with(",0,null]")) << text;
+}
+
 TEST(AxisTexts, TellAxesOfTheSameEndsApart)
 {
     const CurveValues even = EvenAxis(10, 1000);

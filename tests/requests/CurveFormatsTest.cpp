@@ -67,4 +67,10 @@ TEST(CurveFormats, KeepAPartNumberInItsCommentOfCsv)
     EXPECT_EQ(nlohmann::json::parse(FormatNamed(CurveFormats(), "json").Write(curve, {})).at("part"),
               "A\n1,2\x1B");
 }
+TEST(CurveFormats, LeaveTheFieldOfAPointWithoutValueEmpty)
+{
+    auto curve = BiasCurve();
+    curve.Points = {{{1e4F, 2.5F}, {1e5F, std::nullopt}}};
+    EXPECT_TRUE(FormatNamed(CurveFormats(), "csv").Write(curve, {}).ends_with("\n10000,2.5\n100000,\n"));
+}
 } // namespace
