@@ -2,6 +2,7 @@
 
 #include "calc/AllowablePower.h"
 #include "calc/Capacitance.h"
+#include "calc/LossResistance.h"
 #include "calc/PowerModel.h"
 #include "calc/TemperatureRise.h"
 #include "partdata/Availability.h"
@@ -110,6 +111,16 @@ std::optional<double> LargestLoadAt(const CurveInput& input, double hertz)
     return AllowableLoadAt(ModelOf(input), VoltageBoundOf(input), PermittedRiseOf(input), input.Y, hertz);
 }
 
+CurveResult LossOfFrequency(const CurveInput& input)
+{
+    return LossResistanceOverFrequency(ModelOf(input));
+}
+
+std::optional<double> LossAtFrequency(const CurveInput& input, double hertz)
+{
+    return ModelOf(input).LossResistance(hertz);
+}
+
 CurveResult CapacitanceOfTemperature(const CurveInput& input)
 {
     return CalcCapTemperature(input.Part, input.Line.DCBiasVoltage, input.Y, input.View);
@@ -146,12 +157,14 @@ constexpr std::array frequencyAxis = {Quantity::Frequency};
 constexpr std::array riseAxis = {Quantity::TemperatureRise};
 constexpr std::array temperatureAxis = {Quantity::Temperature};
 constexpr std::array biasAxis = {Quantity::DCVoltage};
+constexpr std::array lossAxis = {Quantity::LossResistance};
 constexpr std::array capacitanceAxes = {Quantity::Capacitance, Quantity::CapacitanceChange};
 
 constexpr std::array riseOverLoad = {bias, heatResistance, frequency, heatingAmbient};
 constexpr std::array riseOverFrequency = {bias, heatResistance, heatingAmbient, parameter};
 constexpr std::array largestLoad = {biasBelowRated, heatResistance, heatingAmbient};
 constexpr std::array capacitanceOverTemperature = {bias};
+constexpr std::array lossOverFrequency = {heatingAmbient};
 constexpr std::array capacitanceOverBias = {classAmbient};
 
 constexpr std::array<ChartSweep, 2> riseSweeps = {{
@@ -195,9 +208,19 @@ constexpr std::array<ChartSweep, 1> biasSweeps = {{
      .CurveOf = CapacitanceOfVoltage,
      .LawAt = CapacitanceAtVoltage},
 }};
+constexpr std::array<ChartSweep, 1> lossSweeps = {{
+    {.XAxes = frequencyAxis,
+     .Conditions = lossOverFrequency,
+     .XKind = AxisKind::Logarithmic,
+     .YKind = AxisKind::Logarithmic,
+     .XDivisions = NoDivisions,
+     .YDivisions = NoYDivisions,
+     .CurveOf = LossOfFrequency,
+     .LawAt = LossAtFrequency},
+}};
 
 /// In the order of their numbers.
-constexpr std::array<ChartKind, 4> chartKinds = {{
+constexpr std::array<ChartKind, 5> chartKinds = {{
     {.Caption = "Temperature Rise Characteristics",
      .CommandName = "temperature-rise",
      .Needs = Values::OfPower,
@@ -220,6 +243,12 @@ constexpr std::array<ChartKind, 4> chartKinds = {{
      .Needs = Values::OfCapacitance,
      .YAxes = capacitanceAxes,
      .Sweeps = biasSweeps},
+    {.Caption = "Loss Resistance",
+     .CommandName = "loss-resistance",
+     .Needs = Values::OfPower,
+     .YAxes = lossAxis,
+     .Sweeps = lossSweeps,
+     .IsOnForm = false},
 }};
 
 [[noreturn]] void FailAt(const std::string& what)
@@ -237,6 +266,12 @@ bool ChartSweep::Uses(Condition condition) const
 std::span<const ChartKind> ChartKinds()
 {
     return chartKinds;
+}
+
+std::span<const ChartKind> FormChartKinds()
+{
+    const auto end = std::ranges::find(chartKinds, false, &ChartKind::IsOnForm);
+    return {chartKinds.begin(), end};
 }
 
 const ChartKind* FindChartKind(int number)

@@ -94,9 +94,11 @@ struct ChartKind
     bool TellsLargestValue = false;
     /// The chart bears a note on the temperature rise that is recommended.
     bool RecommendsRise = false;
+    /// The form has a button for it, and the data file a name.
+    bool IsOnForm = true;
 };
 
-/// All chart types by their numbers.
+/// All chart types by their numbers, those of the form's buttons first.
 std::span<const ChartKind> ChartKinds();
 
 /// The chart type of a number, or null.
@@ -104,6 +106,9 @@ const ChartKind* FindChartKind(int number);
 
 /// The chart type of a number. Throws RunTimeError 5 that tells the number when there is none.
 const ChartKind& ChartKindOf(int number);
+
+/// The chart types that the form has buttons for.
+std::span<const ChartKind> FormChartKinds();
 
 /// The number of a chart type, which records and buttons bear: its place in `ChartKinds`.
 std::int16_t NumberOf(const ChartKind& kind);

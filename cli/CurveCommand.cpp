@@ -1,5 +1,6 @@
 /// `tavik-cli curve`: one curve, or a stream of them.
 
+#include "calc/ChartKinds.h"
 #include "cli/Command.h"
 #include "cli/Commands.h"
 #include "cli/FileArguments.h"
@@ -35,6 +36,7 @@ static constexpr const char* examples = R"(Examples:
   tavik-cli curve KTS31NB51E106MA01 --chart temperature-rise --dc-bias 12V --frequency 300kHz
   tavik-cli curve KTS31NB51E106MA01 --chart temperature-rise --x Frequency --dc-bias 12V \
       --parameter current=1.5Arms --format csv --output rise.csv
+  tavik-cli curve KTS31NR71A226KA01 --chart loss-resistance --at 100kHz,300kHz
   echo '{"part":"KTS31NB51E106MA01","chart":"capacitance-dc-voltage"}' | tavik-cli curve --requests -
 
 )";
@@ -45,9 +47,9 @@ static std::string Help()
            Wrapped(
                "Axes that are left out are those that the form shows first. A request line has the keys " +
                ChoiceOf(RequestKeys(), "and") +
-               "; an answer echoes the id. --at and --where are answered as CSV, if no format is given, or "
-               "JSON: "
-               "bare numbers are in the unit in which the axis is entered.");
+               "; an answer echoes the id. --at and --where, and the chart loss-resistance, are answered as "
+               "CSV, if no format is given, or JSON. Bare numbers of --at and --where are in the unit in "
+               "which the axis is entered.");
 }
 
 /// Standard error tells people that some requests have no curve; scripts read it from the answers.
@@ -71,6 +73,21 @@ static void AnswerAll(const CurveOptions& options)
     }
 }
 
+/// The format that is asked for, else the first that can hold the answer. Throws UsageError for a data file
+/// of what it has no room for.
+static const CurveFormat& FormatOf(const CurveOptions& options)
+{
+    const bool wantsPoints = options.Request.At || options.Request.Where;
+    const bool hasDataFile = ChartKindOf(ChartTypeOf(options.Request.Chart)).IsOnForm;
+    if (options.Format == "tvk" && (wantsPoints || !hasDataFile))
+    {
+        const auto what = wantsPoints ? "--at and --where are" : "--chart " + options.Request.Chart + " is";
+        throw UsageError(what + " answered in csv or json: leave out --format tvk");
+    }
+    const bool isCsv = options.Format.empty() && (wantsPoints || !hasDataFile);
+    return FormatNamed(CurveFormats(), isCsv ? "csv" : options.Format);
+}
+
 static void WriteOne(const CurveOptions& options)
 {
     if (options.Request.Part.empty() || options.Request.Chart.empty())
@@ -78,17 +95,11 @@ static void WriteOne(const CurveOptions& options)
         throw UsageError(options.Request.Part.empty() ? "curve wants a part number, or --requests"
                                                       : "curve wants --chart");
     }
-    if ((options.Request.At || options.Request.Where) && options.Format == "tvk")
-    {
-        throw UsageError("--at and --where are answered in csv or json: leave out --format tvk");
-    }
+    const auto& format = FormatOf(options);
     RefuseInputAsOutput(options.OutputFile, PartFilesOf(PartFolder(options.DataFolder)));
     const auto parts = LoadParts(options.DataFolder);
     auto settings = options.Settings;
     settings.Date = options.Date ? Windows1252FromUtf8(*options.Date) : TodayInFile();
-    const bool wantsPoints = options.Request.At || options.Request.Where;
-    const auto& format =
-        FormatNamed(CurveFormats(), wantsPoints && options.Format.empty() ? "csv" : options.Format);
     const auto curve = CurveOf(options.Request, parts, settings);
     const auto text = format.Write(curve, settings);
     Output output(options.OutputFile);

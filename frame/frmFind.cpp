@@ -81,7 +81,7 @@ void frmFind::FillLists()
     // A rating that begins like another is typed as it is.
     ui->cmbFindRatedVol->setCompleter(nullptr);
     ui->cmbFindRatedVol->setCurrentIndex(-1);
-    for (const ChartKind& kind : ChartKinds())
+    for (const ChartKind& kind : FormChartKinds())
     {
         ui->cmbFindChartType->addItem(FromAnsi(kind.Caption));
     }

@@ -38,7 +38,7 @@ frmLibrary::frmLibrary(ChartWindows& chartWindows, QWidget* parent)
     setWindowTitle(ProgramTitle());
     auto* contents = new QWidget;
     ui->setupUi(contents);
-    optChartType = ButtonsOf(*contents, "optChartType_%1", ChartKinds().size());
+    optChartType = ButtonsOf(*contents, "optChartType_%1", FormChartKinds().size());
     optParameter = ButtonsOf(*contents, "optParameter_%1", Parameters.size());
     for (const ConditionKind& kind : ConditionKinds())
     {

@@ -17,17 +17,18 @@ PartRecord PartWith(std::size_t index, float value)
     return part;
 }
 
-TEST(Availability, NeedsPowerDataForTheFirstTwoChartTypes)
+TEST(Availability, NeedsPowerDataForTheFirstTwoChartTypesAndTheLoss)
 {
     for (std::size_t i = 3; i < DataValues; ++i)
     {
         const auto part = PartWith(i, -0.5F);
         EXPECT_EQ(IsAvailable(part, 0), i >= 28) << i;
         EXPECT_EQ(IsAvailable(part, 1), i >= 28) << i;
+        EXPECT_EQ(IsAvailable(part, 4), i >= 28) << i;
     }
 }
 
-TEST(Availability, NeedsCapacitanceDataForTheLastTwoChartTypes)
+TEST(Availability, NeedsCapacitanceDataForTheTwoOfCapacitance)
 {
     for (std::size_t i = 3; i < DataValues; ++i)
     {
@@ -39,20 +40,20 @@ TEST(Availability, NeedsCapacitanceDataForTheLastTwoChartTypes)
 
 TEST(Availability, IsMissingForAPartWithoutData)
 {
-    for (int chartType = 0; chartType < 4; ++chartType)
+    for (int chartType = 0; chartType < 5; ++chartType)
     {
         EXPECT_FALSE(IsAvailable(PartRecord{}, chartType));
         EXPECT_FALSE(IsAvailable(PartWith(28, -0.0F), chartType));
     }
 }
 
-TEST(Availability, IsMissingOutsideTheFourChartTypes)
+TEST(Availability, IsMissingOutsideTheChartTypes)
 {
     PartRecord part;
     part.Data.fill(1);
     EXPECT_TRUE(IsAvailable(part, 0));
     EXPECT_FALSE(IsAvailable(part, -1));
-    EXPECT_FALSE(IsAvailable(part, 4));
+    EXPECT_FALSE(IsAvailable(part, 5));
 }
 
 TEST(Availability, IsMissingWhereAListTextWouldNotBeANumber)

@@ -165,6 +165,6 @@ TEST(Calculate, RefusesNamesThatNoChartBears)
     EXPECT_EQ(ErrorOfNames(ChartId::TemperatureRise, "Frequency", "Temperature Rise", "current"), 5);
     EXPECT_EQ(ErrorOfNames(ChartId::AllowablePower, "Frequency", "Capacitance"), 5);
     EXPECT_EQ(ErrorOfNames(ChartId::CapacitanceTemperature, "Temperature", "Capacity"), 5);
-    EXPECT_EQ(ErrorOfNames(static_cast<ChartId>(4), "Frequency", "Current"), 5);
+    EXPECT_EQ(ErrorOfNames(static_cast<ChartId>(5), "Frequency", "Current"), 5);
 }
 } // namespace

@@ -68,16 +68,29 @@ INSTANTIATE_TEST_SUITE_P(All, AxesOfChartType,
                                              "Capacitance-DC Voltage Characteristics",
                                              "capacitance-dc-voltage",
                                              {"DC Bias Voltage"},
-                                             {"Capacitance", "Capacitance Change"}}),
+                                             {"Capacitance", "Capacitance Change"}},
+                                         Row{"loss resistance over frequency",
+                                             4,
+                                             "Loss Resistance",
+                                             "loss-resistance",
+                                             {"Frequency"},
+                                             {"Loss Resistance"}}),
                          RowName<Row>);
 
-TEST(ChartKinds, AreFourByTheirNumbers)
+TEST(ChartKinds, AreFiveByTheirNumbers)
 {
-    EXPECT_EQ(ChartKinds().size(), 4U);
+    EXPECT_EQ(ChartKinds().size(), 5U);
     EXPECT_EQ(FindChartKind(-1), nullptr);
-    EXPECT_EQ(FindChartKind(4), nullptr);
-    EXPECT_THROW(ChartKindOf(4), RunTimeError);
+    EXPECT_EQ(FindChartKind(5), nullptr);
+    EXPECT_THROW(ChartKindOf(5), RunTimeError);
     EXPECT_EQ(&KindOf(ChartId::CapacitanceDCVoltage), FindChartKind(3));
+}
+
+TEST(ChartKinds, HaveButtonsOnTheFormForTheFirstFour)
+{
+    EXPECT_EQ(FormChartKinds().size(), 4U);
+    EXPECT_EQ(FormChartKinds().data(), ChartKinds().data());
+    EXPECT_FALSE(KindOf(ChartId::LossResistance).IsOnForm);
 }
 
 TEST(Sweep, BelongsToTheAxisOfItsChartType)
@@ -93,6 +106,11 @@ TEST(Sweep, BelongsToTheAxisOfItsChartType)
     EXPECT_FALSE(overLoad.Uses(Condition::Parameter));
     EXPECT_TRUE(overFrequency.Uses(Condition::Parameter));
     EXPECT_FALSE(overFrequency.Uses(Condition::Frequency));
+    const auto& loss = SweepOf(4, "Frequency");
+    EXPECT_EQ(loss.XKind, AxisKind::Logarithmic);
+    EXPECT_EQ(loss.YKind, AxisKind::Logarithmic);
+    EXPECT_TRUE(loss.Uses(Condition::AmbientTemperature));
+    EXPECT_EQ(loss.Conditions.size(), 1U);
 }
 
 TEST(Sweep, DoesNotExistForAnAxisOfAnotherChartType)

@@ -27,7 +27,7 @@ TEST(ChartCaption, NamesTypeAndAxesWithoutBlanks)
 
 TEST(ChartCaption, NamesItsChartAgain)
 {
-    for (std::int16_t type = 0; type < 4; ++type)
+    for (std::int16_t type = 0; type < 5; ++type)
     {
         const ChartKey chart{type, "DC Bias Voltage", "Capacitance Change"};
         EXPECT_EQ(ChartOfCaption(ChartCaption(chart)), chart);
@@ -49,6 +49,6 @@ TEST(ChartCaption, WithoutMarksIsSplitAtItsEnd)
 
 TEST(ChartCaption, OfANumberWithoutChartTypeIsRefused)
 {
-    EXPECT_THROW(ChartCaption({4, "Frequency", "Current"}), RunTimeError);
+    EXPECT_THROW(ChartCaption({5, "Frequency", "Current"}), RunTimeError);
 }
 } // namespace

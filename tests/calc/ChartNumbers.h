@@ -10,6 +10,7 @@ enum class ChartId : std::int16_t
     AllowablePower = 1,
     CapacitanceTemperature = 2,
     CapacitanceDCVoltage = 3,
+    LossResistance = 4,
 };
 
 constexpr std::int16_t NumberOf(ChartId chart)

@@ -83,7 +83,8 @@ INSTANTIATE_TEST_SUITE_P(
             {bias, resistance, ambient, {Condition::Parameter, "Apparent Power", "0.1", "[VA]"}}},
         Row{"allowable power", 1, "Frequency", "Current", {bias, resistance, ambient}},
         Row{"capacitance over temperature", 2, "Temperature", "", {bias}},
-        Row{"capacitance over DC voltage", 3, "DC Bias Voltage", "", {ambient}}),
+        Row{"capacitance over DC voltage", 3, "DC Bias Voltage", "", {ambient}},
+        Row{"loss resistance", 4, "Frequency", "", {ambient}}),
     RowName<Row>);
 
 TEST(ConditionLines, RefusesWhatNoChartHas)
@@ -100,7 +101,7 @@ TEST(ConditionLines, RefusesWhatNoChartHas)
         }
         return 0;
     };
-    EXPECT_EQ(numberFor(LineOf(4, "Frequency", "Current")), 5);
+    EXPECT_EQ(numberFor(LineOf(5, "Frequency", "Current")), 5);
     EXPECT_EQ(numberFor(LineOf(-1, "Frequency", "Current")), 5);
     EXPECT_EQ(numberFor(LineOf(0, "Frequency", "current")), 5);
     EXPECT_EQ(numberFor(LineOf(0, "Frequency", "")), 5);

@@ -100,7 +100,8 @@ void CompletionTest::OffersWhatFits_data()
     QTest::addColumn<QString>("offered");
     const auto row = [](const char* name, const char* words, const char* offered)
     { QTest::newRow(name) << QString::fromLatin1(words) << QString::fromLatin1(offered); };
-    const char* charts = "temperature-rise allowable-power capacitance-temperature capacitance-dc-voltage";
+    const char* charts = "temperature-rise allowable-power capacitance-temperature capacitance-dc-voltage "
+                         "loss-resistance";
     row("a command", "pa", "parts");
     row("nothing", "parts --no", "");
     row("chart types of a curve", "curve ABC --chart ", charts);

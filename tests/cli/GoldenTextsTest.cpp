@@ -103,6 +103,7 @@ void GoldenTextsTest::Answers_data()
     row("curve-csv-frequency", "curve KTS31NB51E106MA01 --chart temperature-rise --dc-bias 12V --x Frequency "
                                "--parameter current=2A --format csv");
     row("curve-json", "curve KTS31NB51E106MA01 --chart allowable-power --dc-bias 12V --format json");
+    row("curve-loss-resistance", "curve KTS31NR71A226KA01 --chart loss-resistance --ambient 45C");
     row("curve-requests", "curve --requests -", someRequests);
 }
 

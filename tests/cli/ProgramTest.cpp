@@ -225,12 +225,12 @@ void ProgramTest::EndsBadInputWithOneLine_data()
         "The following arguments were not expected: --bias B C (see tavik-cli --help)");
     row("nearly a chart of a list", "parts --chart allowable-powr", 2,
         "chart \"allowable-powr\" is none of: temperature-rise, allowable-power, capacitance-temperature, "
-        "capacitance-dc-voltage; did you mean \"allowable-power\"?");
+        "capacitance-dc-voltage, loss-resistance; did you mean \"allowable-power\"?");
     row("no part", "curve --chart allowable-power", 2, "curve wants a part number, or --requests");
     row("no chart", "curve KTS31NB51E106MA01", 2, "curve wants --chart");
     row("unknown chart", "curve KTS31NB51E106MA01 --chart power", 2,
         "chart \"power\" is none of: temperature-rise, allowable-power, capacitance-temperature, "
-        "capacitance-dc-voltage");
+        "capacitance-dc-voltage, loss-resistance");
     row("unknown format", "curve KTS31NB51E106MA01 --chart allowable-power --format xml", 2,
         "--format: xml not in {tvk,csv,json} (see tavik-cli --help)");
     row("foreign unit", "curve KTS31NB51E106MA01 --chart allowable-power --dc-bias 5kHz", 2,
@@ -242,9 +242,22 @@ void ProgramTest::EndsBadInputWithOneLine_data()
         "under 25[V]");
     row("a name that is nearly one", "curve KTS31NB51E106MA01 --chart allowable-powr", 2,
         "chart \"allowable-powr\" is none of: temperature-rise, allowable-power, capacitance-temperature, "
-        "capacitance-dc-voltage; did you mean \"allowable-power\"?");
+        "capacitance-dc-voltage, loss-resistance; did you mean \"allowable-power\"?");
     row("points in a data file", "curve KTS31NB51E106MA01 --chart capacitance-dc-voltage --at 5 --format tvk",
         2, "--at and --where are answered in csv or json: leave out --format tvk");
+    row("a loss resistance in a data file", "curve KTS31NB51E106MA01 --chart loss-resistance --format tvk", 2,
+        "--chart loss-resistance is answered in csv or json: leave out --format tvk");
+    row("a loss resistance over another axis", "curve KTS31NB51E106MA01 --chart loss-resistance --x current",
+        2, "X axis \"current\" is none of: Frequency");
+    row("another quantity of a loss resistance",
+        "curve KTS31NB51E106MA01 --chart loss-resistance --y current", 2,
+        "Y axis \"current\" is none of: Loss Resistance");
+    row("a loss resistance without heating data", "curve KTU033R71E101KA01 --chart loss-resistance", 1,
+        "KTU033R71E101KA01: has no data for chart loss-resistance");
+    row("a loss resistance where nothing was measured",
+        "chart KTS31NB51E106MA01 --chart loss-resistance --ambient 19 --format svg", 1,
+        "KTS31NB51E106MA01: --ambient 19: Ambient Temperature is invalid! Please enter a Number from 20 to "
+        "85 [C]");
     row("a point beyond the curve", "curve KTS31NB51E106MA01 --chart capacitance-dc-voltage --at 5,26", 1,
         "KTS31NB51E106MA01: --at 26: the curve reaches from 0 to 25 [V] of DC Bias Voltage");
     row("a level that is no number", "curve KTS31NB51E106MA01 --chart capacitance-dc-voltage --where ,", 2,

@@ -213,4 +213,49 @@ TEST(Answers, TellWhereACurveTakesAValue)
         Of(R"("y":"capacitance change","at":)" + crossings.at(0).at("x").at(0).dump() + ',' + biasChart));
     EXPECT_NEAR(back.at("points").at(0).at("y"), -50, 1e-5);
 }
+/// The range with a part whose loss resistance has no value from 21 to 479 kHz, and one that has none at all.
+PartTable PartsWithGaps()
+{
+    PartTable parts = LoadPartData(SAMPLE_RANGE);
+    for (const char* name : {"KTS31NB51E106MA01", "KTS21JB51E106MA01"})
+    {
+        const bool hasGap = std::string_view(name) == "KTS31NB51E106MA01";
+        PartRecord& part = parts.PartData[FindPart(parts, name, 0)];
+        part.Data[Value::CurrentPerF] = hasGap ? 2e5F : 0;
+        part.Data[Value::Current] = -10;
+        part.Data[Value::CurrentF] = hasGap ? 2e-5F : 0;
+    }
+    return parts;
+}
+
+json AnswerOfGaps(const std::string& line)
+{
+    static const PartTable parts = PartsWithGaps();
+    std::string text;
+    AxisTexts axes;
+    AppendAnswer(text, {line, 1}, {}, parts, {}, axes);
+    return json::parse(text);
+}
+
+TEST(Answers, HaveNullWhereALossResistanceHasNoValue)
+{
+    const auto curve = AnswerOfGaps(Of(R"("chart":"loss-resistance","ambient":20)"));
+    const auto& y = curve.at("y");
+    ASSERT_EQ(y.size(), 200U);
+    EXPECT_TRUE(y.front().is_number());
+    EXPECT_TRUE(y[100].is_null());
+    EXPECT_TRUE(y.back().is_number());
+    const auto points = AnswerOfGaps(Of(R"("chart":"loss-resistance","ambient":20,"at":[10,100,"1MHz"])"));
+    EXPECT_TRUE(points.at("points")[0].at("y").is_number());
+    EXPECT_EQ(points.at("points")[1], (json{{"x", 100000}, {"y", nullptr}}));
+    EXPECT_TRUE(points.at("points")[2].at("y").is_number());
+}
+
+TEST(Answers, TellThatALossResistanceHasNoValueAtAll)
+{
+    const auto error =
+        AnswerOfGaps(R"({"part":"KTS21JB51E106MA01","chart":"loss-resistance","ambient":20})").at("error");
+    EXPECT_EQ(error.at("code"), "no-data");
+    EXPECT_EQ(error.at("message"), "has no data for chart loss-resistance");
+}
 } // namespace

@@ -174,7 +174,7 @@ INSTANTIATE_TEST_SUITE_P(
         BadLine{"unknown part", R"({"part":"A","chart":"allowable-power"})", "there is no part \"A\""},
         BadLine{"unknown chart", R"({"part":"A","chart":"power"})",
                 "chart \"power\" is none of: temperature-rise, allowable-power, capacitance-temperature, "
-                "capacitance-dc-voltage"},
+                "capacitance-dc-voltage, loss-resistance"},
         BadLine{"foreign axis", R"({"part":"A","chart":"allowable-power","y":"Capacitance"})",
                 "Y axis \"Capacitance\" is none of: Current, Voltage, Apparent Power, Effective Power"},
         BadLine{"unknown code", R"({"part":"A","code":"din"})", "code \"din\" is none of: eia, jis"},

@@ -48,7 +48,7 @@ TEST_F(Cascade, OffersNothingBeforeAChartTypeIsChosen)
 
 TEST_F(Cascade, OffersNothingForAnUnknownChartType)
 {
-    for (const std::int16_t type : std::initializer_list<std::int16_t>{-1, 4, 100})
+    for (const std::int16_t type : std::initializer_list<std::int16_t>{-1, 5, 100})
     {
         selection.AddPartNum(type, CodeView::Eia);
         EXPECT_THAT(selection.SizeCodes(), IsEmpty()) << type;

@@ -29,6 +29,7 @@ requests = [
     curve(chart="temperature-rise", dcBias=1, frequency=100),
     curve(chart="temperature-rise", x="Frequency", dcBias=1, parameter="apparent-power", parameterValue=0),
     curve(chart="allowable-power", dcBias=0, y="Effective Power"),
+    curve(chart="loss-resistance", ambient=45, dcBias=5), curve(chart="loss-resistance", at=[10, "1MHz"], where=20),
     curve(chart="capacitance-temperature", dcBias=0, y="Capacitance Change"),
     "", "{", "[1]", curve(**{"dc-bias": 1}), curve(part="KTS31NB51E106MA02"), curve(chart="rise"), curve(x="Time"),
     curve(part="KTU033R71E101KA01", chart="temperature-rise"), json.dumps({"part": PART}), curve(code="din"),

@@ -174,6 +174,10 @@ static bool IsListed(const QJsonObject& row, const PlainPart& part)
             charts.append(names[static_cast<std::size_t>(type)]);
         }
     }
+    if (IsOffered(part, 0))
+    {
+        charts.append("loss-resistance");
+    }
     return row["part"].toString() == ShownText(part.Names[0]) &&
            row["size"].toString() == ShownText(part.Names[4]) &&
            row["characteristic"].toString() == ShownText(part.Names[6]) &&
