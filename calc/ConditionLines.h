@@ -21,17 +21,11 @@ struct ConditionLine
     bool operator==(const ConditionLine&) const = default;
 };
 
-/// The conditions that the line's chart type uses, in the order in which they are told; the others do not
-/// bear on the curve and are left out:
+/// The conditions that the line's chart type uses (`ChartSweep::Conditions`), in the order in which they are
+/// told; the others do not bear on the curve and are left out.
 ///
-///     temperature rise over "Frequency"   bias, heat resistance, ambient temperature, parameter
-///     temperature rise over a load        bias, heat resistance, frequency, ambient temperature
-///     allowable power                     bias, heat resistance, ambient temperature
-///     capacitance over temperature        bias
-///     capacitance over DC voltage         ambient temperature
-///
-/// Throws RunTimeError 5 for a chart type outside 0 to 3 and, where the parameter counts, for a parameter
-/// name that no parameter bears.
+/// Throws RunTimeError 5 for a chart type that does not exist and, where the parameter counts, for a
+/// parameter name that no parameter bears.
 std::vector<ConditionLine> ConditionLines(const ChartRecord& line);
 
 /// A condition of the line as it is read, "12 V", "75 °C/W" where the degree sign is given. Throws as
