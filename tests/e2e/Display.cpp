@@ -1,5 +1,6 @@
 #include "tests/e2e/Display.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QTest>
 
@@ -34,7 +35,7 @@ QProcessEnvironment TestDisplay::Environment(const QString& session) const
     environment.insert("LC_ALL", "C.UTF-8");
     environment.insert("DISPLAY", name);
     environment.insert("QT_QPA_PLATFORM", "xcb");
-    environment.insert("XDG_SESSION_ID", session);
+    environment.insert("XDG_SESSION_ID", session + '-' + QString::number(QCoreApplication::applicationPid()));
     // The sanitizers of a checked build judge the program, not the libraries it rests on.
     environment.insert("ASAN_OPTIONS", "detect_leaks=0");
     return environment;
@@ -62,7 +63,7 @@ QStringList TestDisplay::WindowsOf(const QProcess& program, int count) const
         windows = Ask({"search", "--all", "--onlyvisible", "--pid", QString::number(program.processId()),
                        "--name", "."})
                       .split('\n', Qt::SkipEmptyParts);
-    } while (windows.size() != count && waited.elapsed() < 60000);
+    } while (windows.size() != count && waited.elapsed() < 30000);
     return windows;
 }
 

@@ -22,6 +22,7 @@ public:
     bool IsUp() const { return !name.isEmpty(); }
 
     /// What a program on this display sees: nothing of the tester's own settings or login.
+    /// The login is this test's own: a program of another run of the tests is in nobody's way.
     QProcessEnvironment Environment(const QString& session) const;
 
     /// The windows of a process that are to be seen, waiting until there are as many.

@@ -45,7 +45,7 @@ void ClipboardOwnerTest::init()
     display = std::make_unique<TestDisplay>();
     QVERIFY2(display->IsUp(), "Xvfb does not start");
     folder = std::make_unique<ProgramFolder>();
-    environment = display->Environment(QStringLiteral("owner-%1").arg(QCoreApplication::applicationPid()));
+    environment = display->Environment(QStringLiteral("owner"));
     program = folder->Start(environment);
     const QStringList windows = display->WindowsOf(*program, 1);
     QCOMPARE(windows.size(), 1);
