@@ -246,7 +246,7 @@ void InstallTest::EveryShellCompletes()
     names.removeAll(QByteArray());
     std::ranges::sort(names);
     QCOMPARE(names.join(' '), QByteArray("allowable-power capacitance-dc-voltage capacitance-temperature "
-                                         "temperature-rise"));
+                                         "loss-resistance temperature-rise"));
 }
 
 void InstallTest::JapaneseBookIsAComponentOfItsOwn()

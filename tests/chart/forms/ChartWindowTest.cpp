@@ -96,7 +96,7 @@ void ChartWindowTest::UnknownChartTypeLeavesTheCaption()
     PlotFirst(desk);
     frmGraph* chart = OnlyChart(desk);
     const QString caption = chart->windowTitle();
-    for (const std::int16_t type : {std::int16_t{4}, std::int16_t{-1}})
+    for (const std::int16_t type : {std::int16_t{5}, std::int16_t{-1}})
     {
         ChartRecord line = mdlPublic.Charts.ChartData()[0];
         line.ChartType = type;
