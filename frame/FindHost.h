@@ -33,9 +33,11 @@ public:
     virtual void ShowHelpTopic(const QString& anchor) = 0;
     /// Fills the selection form, and brings the main window to the front with the focus on Plot.
     virtual void SelectPart(const SelectedPart& part) = 0;
+    /// Tells the user something for a while.
+    virtual void TellInStatusBar(const QString& text) = 0;
     /// Selects the part, and plots it as the form does; false when that is refused.
     virtual bool PlotPart(const SelectedPart& part) = 0;
     /// Opens the view of the chart that the selection form describes, if it has lines; `parts` that are not
-    /// among them are plotted first, up to the first refusal.
-    virtual void ViewParts(const std::vector<SelectedPart>& parts) = 0;
+    /// among them are plotted first, up to the first refusal; false when there is one.
+    virtual bool ViewParts(const std::vector<SelectedPart>& parts) = 0;
 };

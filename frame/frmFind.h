@@ -67,6 +67,7 @@ private:
     void cmdFindSelect_Click();
     void cmdFindPlot_Click();
     void ViewChosen();
+    void TellOfRowsLeftOut();
     void CopyChosen();
     void ShowMenu(const QPoint& at);
 

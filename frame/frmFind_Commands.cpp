@@ -140,14 +140,32 @@ void frmFind::cmdFindSelect_Click()
 void frmFind::cmdFindPlot_Click()
 {
     const auto parts = ChosenParts();
-    std::ranges::all_of(parts, [this](const SelectedPart& part) { return host.PlotPart(part); });
+    if (std::ranges::all_of(parts, [this](const SelectedPart& part) { return host.PlotPart(part); }))
+    {
+        TellOfRowsLeftOut();
+    }
+}
+
+/// A chart has no room for more lines: those of the further rows are missed, so it is said.
+void frmFind::TellOfRowsLeftOut()
+{
+    const auto chosen = ChosenRows().size();
+    if (chosen > MostToPlot)
+    {
+        const QString told =
+            QStringLiteral("The first %1 of %2 chosen parts are plotted: a chart has room for %1 lines.")
+                .arg(MostToPlot)
+                .arg(chosen);
+        ui->lblFound->setText(told);
+        host.TellInStatusBar(told);
+    }
 }
 
 void frmFind::ViewChosen()
 {
-    if (ui->cmdFindPlot->isEnabled())
+    if (ui->cmdFindPlot->isEnabled() && host.ViewParts(ChosenParts()))
     {
-        host.ViewParts(ChosenParts());
+        TellOfRowsLeftOut();
     }
 }
 

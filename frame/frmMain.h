@@ -64,8 +64,9 @@ public:
 
     // What the window that finds parts asks for.
     void SelectPart(const SelectedPart& part) override;
+    void TellInStatusBar(const QString& text) override;
     bool PlotPart(const SelectedPart& part) override;
-    void ViewParts(const std::vector<SelectedPart>& parts) override;
+    bool ViewParts(const std::vector<SelectedPart>& parts) override;
 
     // The button beside the menus.
     void cmdFind_Click();
@@ -101,7 +102,6 @@ private:
     std::optional<ChartRecord> CurrentCurve();
     void SaveData(const ChartRecord& line);
     void NoteFolder(const QString& dialog, const QString& file);
-    void TellInStatusBar(const QString& text);
     void PrintData(const ChartRecord& line);
     bool MayReplaceFile();
     void PrintWithNotice(const DrawPage& drawPage, const QString& title, PageTurn turn = PageTurn::Portrait);

@@ -54,7 +54,7 @@ bool frmMain::PlotPart(const SelectedPart& part)
     return library->PlotShown();
 }
 
-void frmMain::ViewParts(const std::vector<SelectedPart>& parts)
+bool frmMain::ViewParts(const std::vector<SelectedPart>& parts)
 {
     const auto isShown = [this](const SelectedPart& part)
     {
@@ -70,4 +70,5 @@ void frmMain::ViewParts(const std::vector<SelectedPart>& parts)
     {
         (*chart)->OpenView();
     }
+    return areShown;
 }

@@ -6,6 +6,7 @@
 #include "partdata/Windows1252.h"
 #include "requests/ListJson.h"
 #include "requests/ListText.h"
+#include "requests/RequestError.h"
 #include "requests/UnitEntry.h"
 
 #include <nlohmann/json.hpp>
@@ -13,6 +14,11 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+
+static RequestError NoRange(std::string_view typed, const char* reason)
+{
+    return {RequestErrorKind::NotANumber, "", '"' + std::string(typed) + "\" " + reason};
+}
 
 ValueRange RangeInUnit(std::string_view typed, Quantity quantity)
 {
@@ -24,14 +30,22 @@ ValueRange RangeInUnit(std::string_view typed, Quantity quantity)
     }
     const auto lowest = typed.substr(0, dots);
     const auto highest = typed.substr(dots + 2);
+    if (lowest.empty() && highest.empty())
+    {
+        throw NoRange(typed, "is neither a number nor a range");
+    }
     ValueRange range;
-    if (!lowest.empty() || highest.empty())
+    if (!lowest.empty())
     {
         range.Lowest = ValueInUnit(lowest, quantity);
     }
     if (!highest.empty())
     {
         range.Highest = ValueInUnit(highest, quantity);
+    }
+    if (range.Highest < range.Lowest)
+    {
+        throw NoRange(typed, "ends below where it begins");
     }
     return range;
 }

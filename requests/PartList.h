@@ -11,7 +11,7 @@
 #include <vector>
 
 /// "10uF", "1uF..10uF", "1uF.." or "..10uF" in the unit of the form. Throws RequestError for a text that is
-/// no number and for a unit that does not fit.
+/// no number, for a unit that does not fit, for ".." alone and for a range that ends below where it begins.
 ValueRange RangeInUnit(std::string_view typed, Quantity quantity);
 
 /// A format of a list: part number, size code, characteristic, capacitance in pF, rated voltage in V, and the

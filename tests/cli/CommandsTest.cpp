@@ -245,6 +245,10 @@ void CommandsTest::RefusesWithOneLine_data()
     row("parts of an unknown chart", "parts --chart power", 2, "tavik-cli: chart \"power\" is none of: ");
     row("parts rated for no number", "parts --rated-voltage high", 2,
         "--rated-voltage \"high\" is not a number");
+    row("range upside down", "parts --capacitance 5uF..1uF", 2,
+        "--capacitance \"5uF..1uF\" ends below where it begins");
+    row("range without ends", "parts --rated-voltage ..", 2,
+        "--rated-voltage \"..\" is neither a number nor a range");
     row("unknown code", "parts --code din", 2, "code \"din\" is none of: eia, jis");
     row("unknown numbering", "parts --numbering next", 2, "numbering \"next\" is none of: global, previous");
     row("chart of no type", "chart KTS31NB51E106MA01 --output a.png", 2, "chart wants --chart");

@@ -297,6 +297,8 @@ void FindTest::RefusesWithOneLine_data()
     row("unit", "--dc-bias 5A", 2, "--dc-bias \"5A\": \"A\" is not the unit of a voltage");
     row("unit of a load", "--parameter voltage=5A", 2,
         "--parameter \"5A\": \"A\" is not the unit of an r.m.s. voltage");
+    row("range upside down", "--rated-voltage 25V..10V", 2,
+        "--rated-voltage \"25V..10V\" ends below where it begins");
     row("no number", "--min-left much", 2, "--min-left \"much\" is not a number");
     row("no number of parts", "--parallel some", 2, "--parallel \"some\" is not a whole number");
     row("two loads", "--frequency 100 --current 1 --parameter voltage=1", 2,

@@ -7,6 +7,7 @@
 
 #include <QClipboard>
 #include <QRadioButton>
+#include <QStatusBar>
 
 class FindCommandsTest : public QObject
 {
@@ -119,6 +120,22 @@ void FindCommandsTest::PlotsSixRows()
     QCOMPARE(desk.Charts().size(), std::size_t{1});
     QCOMPARE(mdlPublic.Charts.Lines().size(), std::size_t{6});
     QVERIFY(StoreIsWhole());
+    const QString told = "The first 6 of 9 chosen parts are plotted: a chart has room for 6 lines.";
+    QCOMPARE(desk.Line(), told);
+    QCOMPARE(desk.Find<QStatusBar>("sbrMain")->currentMessage(), told);
+    // As many as there is room for need no word.
+    desk.main->mnuCloseAllChartWindows_Click();
+    desk.Enter("txtFindMinCap", "9");
+    desk.ChooseRows(0, 5);
+    desk.Find<QStatusBar>("sbrMain")->clearMessage();
+    QTest::keyClick(desk.Table(), Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(mdlPublic.Charts.Lines().size(), std::size_t{6});
+    QVERIFY(desk.Line().contains("parts fit"));
+    QCOMPARE(desk.Find<QStatusBar>("sbrMain")->currentMessage(), QString());
+    // Ctrl+E shows the first six as well.
+    desk.ChooseRows(0, 6);
+    QTest::keyClick(desk.Table(), Qt::Key_E, Qt::ControlModifier);
+    QVERIFY(desk.Line().startsWith("The first 6 of 7 chosen parts"));
 }
 
 void FindCommandsTest::FirstRefusalEndsThePlotting()

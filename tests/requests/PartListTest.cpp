@@ -95,8 +95,28 @@ TEST(PartList, TakesRangesOfValues)
     EXPECT_EQ(found("101.."), "AB ");
     EXPECT_EQ(found("..100"), "CD EF ");
     EXPECT_EQ(found("4.7UF"), "AB ");
-    EXPECT_THROW(found(".."), RequestError);
+    EXPECT_EQ(found("100pF..100"), "CD EF ");
     EXPECT_THROW(found("1..x"), RequestError);
+}
+
+TEST(PartList, NamesWhatIsNoRange)
+{
+    const auto refusal = [](const char* typed) -> std::string
+    {
+        try
+        {
+            RangeInUnit(typed, Quantity::Capacitance);
+            return "taken";
+        }
+        catch (const RequestError& error)
+        {
+            return error.Message();
+        }
+    };
+    EXPECT_EQ(refusal(".."), "\"..\" is neither a number nor a range");
+    EXPECT_EQ(refusal("5uF..1uF"), "\"5uF..1uF\" ends below where it begins");
+    EXPECT_EQ(refusal("1uF..999nF"), "\"1uF..999nF\" ends below where it begins");
+    EXPECT_EQ(refusal("1uF..1000nF"), "taken");
 }
 
 std::string Sorted(const Range& range, const char* keys, CodeView code = CodeView::Eia)
