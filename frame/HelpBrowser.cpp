@@ -15,6 +15,8 @@ static constexpr int SmallestZoom = -4;
 static constexpr int LargestZoom = 16;
 /// More places than a reader looks through; marking them all would only cost time.
 static constexpr int MostMarks = 1000;
+/// The columns of a table are rounded to whole pixels each, and together wider than the page by that.
+static constexpr int RoomForRounding = 3;
 static constexpr QColor MarkColor(255, 230, 128);
 
 HelpBrowser::HelpBrowser(QWidget* parent)
@@ -22,6 +24,7 @@ HelpBrowser::HelpBrowser(QWidget* parent)
     , firstPointSize(font().pointSizeF())
 {
     setOpenLinks(false);
+    setLineWrapMode(QTextEdit::FixedPixelWidth);
     document()->documentLayout()->registerHandler(QTextFormat::ImageObject, new HelpPictures(this));
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this,
             [this]
@@ -186,7 +189,12 @@ void HelpBrowser::KeepPlace(const std::function<void()>& change)
 
 void HelpBrowser::resizeEvent(QResizeEvent* event)
 {
-    KeepPlace([&] { QTextBrowser::resizeEvent(event); });
+    KeepPlace(
+        [&]
+        {
+            QTextBrowser::resizeEvent(event);
+            setLineWrapColumnOrWidth(viewport()->width() - RoomForRounding);
+        });
 }
 
 void HelpBrowser::ZoomBy(int steps)

@@ -30,6 +30,8 @@ private Q_SLOTS:
     void PicturesTakeTheirPlace();
     void NothingIsToBeScrolledSideways_data();
     void NothingIsToBeScrolledSideways();
+    void TopicsThatWindowsAskForFitTheirPage_data();
+    void TopicsThatWindowsAskForFitTheirPage();
     void PlaceIsKept_data();
     void PlaceIsKept();
     void PlaceAtTheStartIsKept();
@@ -174,6 +176,35 @@ void HelpPagesTest::NothingIsToBeScrolledSideways()
     QCOMPARE(Page(viewer)->horizontalScrollBar()->maximum(), 0);
     QVERIFY(!Page(viewer)->horizontalScrollBar()->isVisible());
     QVERIFY(Page(viewer)->verticalScrollBar()->maximum() > 0);
+}
+
+void HelpPagesTest::TopicsThatWindowsAskForFitTheirPage_data()
+{
+    QTest::addColumn<QByteArray>("book");
+    QTest::addColumn<QString>("anchor");
+    for (const QByteArray book : {"tavike.hlp", "tavikj.hlp"})
+    {
+        for (const QString anchor : {"find", "windows-view", "glossary"})
+        {
+            QTest::newRow(book + ' ' + anchor.toLatin1()) << book << anchor;
+        }
+    }
+}
+
+void HelpPagesTest::TopicsThatWindowsAskForFitTheirPage()
+{
+    QFETCH(QByteArray, book);
+    QFETCH(QString, anchor);
+    // As F1 does: the page is asked for before the window has been painted.
+    const QString file = QStringLiteral(HELP_BOOKS "/") + book;
+    OpenHelp(file);
+    ShowHelpTopic(anchor);
+    frmHelp* viewer = Viewer();
+    QVERIFY(QTest::qWaitForWindowExposed(viewer));
+    QCoreApplication::processEvents();
+    QCOMPARE(viewer->width(), 920);
+    QVERIFY(Page(viewer)->verticalScrollBar()->value() > 0);
+    QCOMPARE(Page(viewer)->horizontalScrollBar()->maximum(), 0);
 }
 
 /// The text of the first line on the page.
