@@ -13,6 +13,7 @@
 #include <QImageReader>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QProcess>
 #include <QSettings>
 #include <QSpinBox>
 #include <QTemporaryDir>
@@ -31,6 +32,8 @@ private Q_SLOTS:
     void TooManyPixelsAreRefused();
     void TheSizeOfPicturesIsKept();
     void DataAreTheCurvesOfAllLines();
+    void DataAreWhatTheCommandLineWrites_data();
+    void DataAreWhatTheCommandLineWrites();
     void EachDialogStartsInItsOwnLastFolder();
     void WhatCannotBeWrittenIsTold();
     void WithoutAPrinterPrintSaysSo();
@@ -212,6 +215,45 @@ void ViewOutputTest::DataAreTheCurvesOfAllLines()
     QCOMPARE(numbers, 600);
     QCOMPARE(parts, (QStringList{NumberOnDisplay("KTS21JB51E106MA01"), NumberOnDisplay("KTS31NB51E106MA01"),
                                  NumberOnDisplay("KTS32XR71E106KA01")}));
+}
+
+void ViewOutputTest::DataAreWhatTheCommandLineWrites_data()
+{
+    using Kind = ViewDesk::Kind;
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QStringList>("options");
+    const auto row = [](const char* name, Kind kind, const char* options)
+    { QTest::newRow(name) << static_cast<int>(kind) << QString(options).split(u' '); };
+    row("capacitance over temperature", Kind::CapacitanceOverTemperature,
+        "--chart capacitance-temperature --dc-bias 12");
+    row("capacitance over bias", Kind::CapacitanceOverBias, "--chart capacitance-dc-voltage");
+    row("rise over frequency", Kind::RiseOverFrequency,
+        "--chart temperature-rise --x Frequency --dc-bias 12 --parameter current=1.5");
+    row("allowable power", Kind::AllowablePower, "--chart allowable-power --dc-bias 12");
+}
+
+void ViewOutputTest::DataAreWhatTheCommandLineWrites()
+{
+    QFETCH(int, kind);
+    QFETCH(QStringList, options);
+    const ViewDesk desk(static_cast<ViewDesk::Kind>(kind), 3);
+    QByteArrayList written;
+    for (const ViewedLine& line : desk.Scene().Lines)
+    {
+        QProcess command;
+        command.start(TAVIK_CLI,
+                      QStringList{"curve", QString::fromStdString(line.PartNumber), "--format", "csv",
+                                  "--data", SAMPLE_RANGE, "--code", IsJapaneseDesk() ? "jis" : "eia"} +
+                          options);
+        QVERIFY(command.waitForFinished());
+        QCOMPARE(command.readAllStandardError(), QByteArray());
+        written << command.readAllStandardOutput();
+    }
+    const WhenShown user({TypePath(InFolder("curves.csv"))});
+    desk.Press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    QFile file(InFolder("curves.csv"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), written.join('\n'));
 }
 
 void ViewOutputTest::EachDialogStartsInItsOwnLastFolder()
