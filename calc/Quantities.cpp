@@ -6,7 +6,7 @@
 #include <array>
 
 /// In the order of `Quantity`.
-static constexpr std::array<QuantityKind, 12> quantities = {{
+static constexpr std::array<QuantityKind, 14> quantities = {{
     {.Id = Quantity::Current, .Name = "Current", .Unit = "Arms", .PrefixedUnit = "Arms"},
     {.Id = Quantity::RmsVoltage, .Name = "Voltage", .Unit = "Vrms", .PrefixedUnit = "Vrms"},
     {.Id = Quantity::ApparentPower, .Name = "Apparent Power", .Unit = "VA", .PrefixedUnit = "VA"},
@@ -36,6 +36,8 @@ static constexpr std::array<QuantityKind, 12> quantities = {{
      .Unit = "mOhm",
      .PrefixedUnit = "\u03A9",
      .PrefixedExponent = -3},
+    {.Id = Quantity::Time, .Name = "Time", .Unit = "s", .CanBeNegative = true, .PrefixedUnit = "s"},
+    {.Id = Quantity::Inductance, .Name = "Inductance", .Unit = "H", .PrefixedUnit = "H"},
 }};
 
 const QuantityKind& KindOf(Quantity quantity)

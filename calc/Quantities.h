@@ -22,6 +22,8 @@ enum class Quantity : std::uint8_t
     CapacitanceChange,
     HeatResistance,
     LossResistance,
+    Time,
+    Inductance,
 };
 
 /// What is known of one quantity.

@@ -45,7 +45,7 @@ static constexpr std::array<Prefix, 12> prefixes = {{{"", 0},
 /// In the order of `Quantity`.
 static const UnitFamily& FamilyOf(Quantity quantity)
 {
-    static const std::array<UnitFamily, 12> families = {{
+    static const std::array<UnitFamily, 14> families = {{
         {"a current", {"A", "Arms"}, 0, true},
         {"an r.m.s. voltage", {"V", "Vrms"}, 0, true},
         {"an apparent power", {"VA"}, 0, true},
@@ -58,6 +58,8 @@ static const UnitFamily& FamilyOf(Quantity quantity)
         {"a change", {"%"}, 0, false},
         {"a heat resistance", {"C/W", "\u00B0C/W", "K/W"}, 0, false},
         {"a loss resistance", {"Ohm", "\u03A9", "\u2126"}, -3, true},
+        {"a time", {"s"}, 0, true},
+        {"an inductance", {"H"}, 0, true},
     }};
     return families.at(static_cast<std::size_t>(quantity));
 }

@@ -68,6 +68,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"milliohms", "3mOhm", Quantity::LossResistance, 3},
                     Row{"milliohms with the Greek letter", "3m\u03A9", Quantity::LossResistance, 3},
                     Row{"ohms", "0.003Ohm", Quantity::LossResistance, 3},
+                    Row{"microseconds", "2us", Quantity::Time, 2e-6F},
+                    Row{"microhenries", "2.2uH", Quantity::Inductance, 2.2e-6F},
                     Row{"ohms with their sign", "0.003\u2126", Quantity::LossResistance, 3},
                     Row{"ohms with the Greek letter", "0.003\u03A9", Quantity::LossResistance, 3},
                     Row{"percent", "-20%", Quantity::CapacitanceChange, -20}));
