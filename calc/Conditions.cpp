@@ -83,16 +83,11 @@ Range HeatingRange(const PartRecord& part)
 }
 
 /// What can be entered for a characteristic that is not listed, in °C.
-constexpr Range unlistedRange = {.Lowest = -55, .Highest = 125};
+constexpr TemperatureRange unlistedRange = {.MinC = -55, .MaxC = 125};
 
 Range ClassRange(const PartRecord& part, CodeView view)
 {
-    const auto* const characteristic = FindCharacteristic(part.Tcc[0]);
-    if (characteristic == nullptr)
-    {
-        return unlistedRange;
-    }
-    const auto& range = characteristic->RangeIn(view);
+    const auto range = ClassAmbientRange(part, view);
     return {.Lowest = range.MinC, .Highest = range.MaxC};
 }
 
@@ -122,6 +117,12 @@ bool IsHeatResistancePermitted(float perWatt)
 bool IsHeatingAmbientPermitted(float celsius, const PartRecord& part)
 {
     return HeatingRange(part).Holds(celsius);
+}
+
+TemperatureRange ClassAmbientRange(const PartRecord& part, CodeView view)
+{
+    const auto* const characteristic = FindCharacteristic(part.Tcc[0]);
+    return characteristic == nullptr ? unlistedRange : characteristic->RangeIn(view);
 }
 
 bool IsClassAmbientPermitted(float celsius, const PartRecord& part, CodeView view)

@@ -5,6 +5,7 @@
 
 #include "calc/ChartRecord.h"
 #include "calc/Quantities.h"
+#include "partdata/Characteristic.h"
 #include "partdata/PartRecord.h"
 
 #include <array>
@@ -87,6 +88,10 @@ bool IsHeatResistancePermitted(float perWatt);
 
 /// Ambient temperature in °C of the heating charts.
 bool IsHeatingAmbientPermitted(float celsius, const PartRecord& part);
+
+/// The ambient temperatures that the capacitance charts permit: the range of the part's characteristic, which
+/// depends on the code on display; -55 to 125 °C for a characteristic that is not listed.
+TemperatureRange ClassAmbientRange(const PartRecord& part, CodeView view);
 
 /// Ambient temperature in °C of the capacitance charts.
 bool IsClassAmbientPermitted(float celsius, const PartRecord& part, CodeView view);

@@ -1,0 +1,93 @@
+#include "simulation/ChargeLaw.h"
+
+#include "calc/Capacitance.h"
+#include "tests/simulation/ModelParts.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+/// The integral of the charts' capacitance over the bias, over the nominal one, by Simpson's rule in steps
+/// that leave the places where it is rough to either side.
+double ChargeOfCharts(const PartRecord& part, double volts, double celsius)
+{
+    constexpr int steps = 20000;
+    double sum = 0;
+    for (int i = 0; i <= steps; ++i)
+    {
+        const int weight = i == 0 || i == steps ? 1 : i % 2 == 0 ? 2 : 4;
+        sum += weight * CapacitancePointAt(part, volts * i / steps, celsius, CodeView::Eia)->PicoFarads;
+    }
+    return sum * volts / (3 * steps) / double{part.Data[Value::NominalCapacitance]};
+}
+
+TEST(ChargeLaw, OfAStraightLossOfCapacitanceIsAParabola)
+{
+    const auto charge = ChargeLawAt(ProductPart(), 25);
+    EXPECT_DOUBLE_EQ(charge(0), 0);
+    EXPECT_DOUBLE_EQ(charge(4), 4 - 16.0 / 200);
+    EXPECT_DOUBLE_EQ(charge(10), 9.5);
+}
+
+TEST(ChargeLaw, IsOdd)
+{
+    for (const auto& part : {ProductPart(), PeakedPart()})
+    {
+        const auto charge = ChargeLawAt(part, 25);
+        EXPECT_DOUBLE_EQ(charge(-4), -charge(4));
+        EXPECT_DOUBLE_EQ(charge(-14), -charge(14));
+    }
+}
+
+TEST(ChargeLaw, GoesOnStraightBeyondTheRatedVoltage)
+{
+    // The capacitance at 10 V is 0.9 of the nominal one.
+    EXPECT_DOUBLE_EQ(ChargeLawAt(ProductPart(), 25)(15), 9.5 + 5 * 0.9);
+    const auto peaked = ChargeLawAt(PeakedPart(), 25);
+    const double atRated = CapacitancePointAt(PeakedPart(), 10, 25, CodeView::Eia)->PicoFarads / 1000;
+    EXPECT_NEAR(peaked(15) - peaked(10), 5 * atRated, 1e-12);
+}
+
+TEST(ChargeLaw, IsTheIntegralOfTheChartsCapacitance)
+{
+    for (const auto* const name :
+         {"KTS31NR71A226KA01", "KTS31NB51A476MA01", "KTS216F51E224ZA01", "KTU155F51H222ZA01"})
+    {
+        const auto& part = SamplePart(name);
+        for (const double celsius : {-30.0, 16.0, 25.0, 85.0})
+        {
+            const auto charge = ChargeLawAt(part, celsius);
+            const double rated = part.Data[Value::RatedVoltage];
+            for (const double volts : {rated / 7, rated / 2, rated})
+            {
+                const double expected = ChargeOfCharts(part, volts, celsius);
+                EXPECT_NEAR(charge(volts) / expected, 1, 2e-9) << name << ' ' << celsius << ' ' << volts;
+            }
+        }
+    }
+}
+
+TEST(ChargeLaw, FollowsAPeakThatTheBiasMoves)
+{
+    // The peak crosses 20 °C at 5 V, and a bias lowers or raises it.
+    for (const float slope : {-2.0F, 2.0F})
+    {
+        const auto part =
+            With(With(PeakedPart(), Value::PeakTemperatureV, slope), Value::PeakTemperature, 20 - 5 * slope);
+        for (const double celsius : {-20.0, 20.0, 60.0})
+        {
+            const auto charge = ChargeLawAt(part, celsius);
+            EXPECT_NEAR(charge(10) / ChargeOfCharts(part, 10, celsius), 1, 1e-6) << slope << ' ' << celsius;
+            EXPECT_NEAR(charge(3) / ChargeOfCharts(part, 3, celsius), 1, 1e-6) << slope << ' ' << celsius;
+        }
+    }
+}
+
+TEST(ModelTemperatures, AreThoseOfTheChartsInEiaCode)
+{
+    EXPECT_EQ(ModelTemperatures(SamplePart("KTS31NR71A226KA01")), (TemperatureRange{-55, 125}));
+    EXPECT_EQ(ModelTemperatures(SamplePart("KTS31NB51A476MA01")), (TemperatureRange{-55, 85}));
+    EXPECT_EQ(ModelTemperatures(SamplePart("KTS216F51E224ZA01")), (TemperatureRange{-30, 85}));
+    EXPECT_EQ(ModelTemperatures(SamplePart("KTU155F51H222ZA01")), (TemperatureRange{-30, 85}));
+}
+} // namespace
