@@ -20,6 +20,9 @@ void AddCurveCommand(CLI::App& app);
 /// "chart": up to six lines on one picture.
 void AddChartCommand(CLI::App& app);
 
+/// "model": parts as models for circuit simulators.
+void AddModelCommand(CLI::App& app);
+
 /// All commands, in the order in which the help tells them.
-inline constexpr std::array AllCommands = {AddPartsCommand, AddFindCommand, AddCurveCommand, AddChartCommand,
-                                           AddDataCommands};
+inline constexpr std::array AllCommands = {AddPartsCommand, AddFindCommand,  AddCurveCommand,
+                                           AddChartCommand, AddModelCommand, AddDataCommands};

@@ -90,7 +90,7 @@ void CompletionTest::OffersAllOf(const QStringList& command)
 
 void CompletionTest::OffersAllThatTheHelpNames()
 {
-    QCOMPARE(CommandsOf({}), (QStringList{"parts", "find", "curve", "chart", "data"}));
+    QCOMPARE(CommandsOf({}), (QStringList{"parts", "find", "curve", "chart", "model", "data"}));
     OffersAllOf({});
 }
 
@@ -119,6 +119,7 @@ void CompletionTest::OffersWhatFits_data()
     row("an option behind a value", "curve --dc-bias 5V --dat", "--data --date");
     row("a part number", "curve KTS31NB51E106", "KTS31NB51E106MA01");
     row("part numbers of a chart", "chart KTS31NB51E106MA01 --code jis KTU155F01H102", "KTU155F01H102ZA01");
+    row("part numbers of a model", "model KTS31NB51E106", "KTS31NB51E106MA01");
     row("no part number as text of a list", "parts KTS31NB51E106", "");
     row("sizes", "parts --size 0", "0201 0402 0603 0805");
     row("sizes in the other code", "parts --code jis --size 0", "0603");

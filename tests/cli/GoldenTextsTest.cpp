@@ -53,6 +53,7 @@ void GoldenTextsTest::Help_data()
     QTest::newRow("help-find") << "find --help";
     QTest::newRow("help-curve") << "curve --help";
     QTest::newRow("help-chart") << "chart --help";
+    QTest::newRow("help-model") << "model --help";
     QTest::newRow("help-data") << "data --help";
     QTest::newRow("help-data-check") << "data check --help";
     QTest::newRow("help-data-export") << "data export --help";
