@@ -4,6 +4,8 @@
 
 static const HelpWords English = {.Start = "Start",
                                   .StartTip = "Start of the help (F1)",
+                                  .Index = "Index",
+                                  .IndexTip = "Index (Ctrl+I)",
                                   .Back = "Back",
                                   .BackTip = "Back (Alt+Left)",
                                   .Forward = "Forward",
@@ -27,6 +29,8 @@ static const HelpWords English = {.Start = "Start",
 
 static const HelpWords Japanese = {.Start = "先頭",
                                    .StartTip = "ヘルプの先頭へ (F1)",
+                                   .Index = "索引",
+                                   .IndexTip = "索引 (Ctrl+I)",
                                    .Back = "戻る",
                                    .BackTip = "戻る (Alt+Left)",
                                    .Forward = "進む",

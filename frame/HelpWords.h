@@ -9,6 +9,8 @@ struct HelpWords
 {
     QString Start;
     QString StartTip;
+    QString Index;
+    QString IndexTip;
     QString Back;
     QString BackTip;
     QString Forward;

@@ -55,6 +55,8 @@ void CloseHelp()
 static constexpr int ContentsWidth = 240;
 static constexpr int PageWidth = 660;
 static constexpr int TopicRole = Qt::UserRole;
+/// The chapter of a book that lists its words.
+static const QString IndexTopic = QStringLiteral("index");
 
 frmHelp::frmHelp()
     : ui(std::make_unique<Ui::frmHelp>())
@@ -83,6 +85,7 @@ void frmHelp::Connect()
     connect(page, &QTextBrowser::backwardAvailable, ui->mnuBack, &QAction::setEnabled);
     connect(page, &QTextBrowser::forwardAvailable, ui->mnuForward, &QAction::setEnabled);
     connect(ui->mnuHome, &QAction::triggered, this, &frmHelp::GoHome);
+    connect(ui->mnuIndex, &QAction::triggered, this, [this] { ShowTopic(IndexTopic); });
     connect(ui->mnuZoomIn, &QAction::triggered, page, [page] { page->ZoomBy(1); });
     connect(ui->mnuZoomOut, &QAction::triggered, page, [page] { page->ZoomBy(-1); });
     connect(ui->mnuZoomReset, &QAction::triggered, page, &HelpBrowser::ResetZoom);
@@ -141,6 +144,7 @@ void frmHelp::ShowWords()
         action->setToolTip(tip);
     };
     show(ui->mnuHome, words.Start, words.StartTip);
+    show(ui->mnuIndex, words.Index, words.IndexTip);
     show(ui->mnuBack, words.Back, words.BackTip);
     show(ui->mnuForward, words.Forward, words.ForwardTip);
     show(ui->mnuPrint, words.Print, words.PrintTip);
@@ -192,6 +196,7 @@ void frmHelp::FillContents()
         }
     }
     ui->treContents->expandAll();
+    ui->mnuIndex->setEnabled(std::ranges::find(topics, IndexTopic, &HelpTopic::anchor) != topics.end());
 }
 
 void frmHelp::ShowTopicOf(const QTreeWidgetItem* item)

@@ -164,10 +164,7 @@ std::string Cell(const char* attributes, const std::string& text)
 
 std::string FormulaHtml(const std::string& formula)
 {
-    std::string text = formula;
-    ReplaceEach(text, "√[", "]",
-                [](const std::string& root)
-                { return "√<span style=\"text-decoration: overline\">" + root + "</span>"; });
+    const std::string& text = formula;
     std::string upper;
     std::string lower;
     std::size_t at = 0;

@@ -45,7 +45,7 @@ std::string MakeBook(const std::string& frame, const ChapterReader& chapter,
 /// Throws std::runtime_error, with the line, for any other line.
 std::vector<IndexWord> ReadIndexWords(const std::string& text);
 
-/// A formula as rich text: `{a|b}` is a fraction, `√[a]` a root; anything else stays as it is.
+/// A formula as rich text: `{a|b}` is a fraction, anything else stays as it is.
 ///
-///     FormulaHtml("I = {ΔI|2·√[3]}")
+///     FormulaHtml("I = {ΔI|2·√3}")
 std::string FormulaHtml(const std::string& formula);

@@ -41,6 +41,8 @@ private Q_SLOTS:
     void ToolsSpeakTheLanguageOfTheBook();
     void TabReachesEveryToolAndTheAnswer();
     void SpacePressesATool();
+    void TheIndexIsReachedAndLeadsOn_data();
+    void TheIndexIsReachedAndLeadsOn();
 };
 
 static frmHelp* Viewer()
@@ -282,12 +284,12 @@ void HelpPagesTest::ToolsSpeakTheLanguageOfTheBook_data()
     QTest::addColumn<QString>("search");
     QTest::addColumn<QStringList>("answers");
     QTest::newRow("English") << QByteArray("tavike.hlp")
-                             << QStringList{"Start", "Back",     "Forward",  "A−",  "A",
-                                            "A+",    "Print...", "Previous", "Next"}
+                             << QStringList{"Start", "Index", "Back",     "Forward",  "A−",
+                                            "A",     "A+",    "Print...", "Previous", "Next"}
                              << "Search the help" << QStringList{"Not found", "Found once", "Found %1 times"};
     QTest::newRow("Japanese") << QByteArray("tavikj.hlp")
-                              << QStringList{"先頭", "戻る",    "進む", "A−",  "A",
-                                             "A+",   "印刷...", "前へ", "次へ"}
+                              << QStringList{"先頭", "索引", "戻る",    "進む", "A−",
+                                             "A",    "A+",   "印刷...", "前へ", "次へ"}
                               << "ヘルプを検索"
                               << QStringList{"見つかりません", "1か所見つかりました", "%1か所見つかりました"};
 }
@@ -350,7 +352,7 @@ void HelpPagesTest::TabReachesEveryToolAndTheAnswer()
             wanted << button;
         }
     }
-    QCOMPARE(wanted.size(), 4 + 9);
+    QCOMPARE(wanted.size(), 4 + 10);
     // The page has links of its own on the way.
     for (int i = 0; i < 200 && !wanted.isEmpty(); ++i)
     {
@@ -373,6 +375,38 @@ void HelpPagesTest::SpacePressesATool()
     larger->setFocus(Qt::TabFocusReason);
     QTest::keyClick(larger, Qt::Key_Space);
     QCOMPARE(Page(viewer)->font().pointSizeF(), before + 1);
+}
+
+// ---- Index ----
+
+void HelpPagesTest::TheIndexIsReachedAndLeadsOn_data()
+{
+    QTest::addColumn<QByteArray>("book");
+    QTest::addColumn<QString>("index");
+    QTest::addColumn<QString>("word");
+    QTest::newRow("English") << QByteArray("tavike.hlp") << "Index"
+                             << "snubber";
+    QTest::newRow("Japanese") << QByteArray("tavikj.hlp") << QStringLiteral("索引")
+                              << QStringLiteral("スナバ");
+}
+
+void HelpPagesTest::TheIndexIsReachedAndLeadsOn()
+{
+    QFETCH(QByteArray, book);
+    QFETCH(QString, index);
+    QFETCH(QString, word);
+    frmHelp* viewer = OpenBook(book);
+    QTest::keyClick(viewer, Qt::Key_I, Qt::ControlModifier);
+    auto* page = Page(viewer);
+    QVERIFY2(FirstLine(viewer).endsWith(". " + index), qPrintable(FirstLine(viewer)));
+    // From the index on, the word is an entry; the link behind it leads to its section.
+    QVERIFY(page->find(word + ": "));
+    QTextCursor link = page->textCursor();
+    link.movePosition(QTextCursor::EndOfBlock);
+    const QString address = link.charFormat().anchorHref();
+    QCOMPARE(address, "#loads-snubber");
+    Q_EMIT page->anchorClicked(QUrl(address));
+    QTRY_VERIFY2(FirstLine(viewer).contains(word, Qt::CaseInsensitive), qPrintable(FirstLine(viewer)));
 }
 
 QTEST_MAIN(HelpPagesTest)

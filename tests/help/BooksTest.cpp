@@ -145,34 +145,4 @@ TEST(Books, AreWrittenInTheirLanguages)
     EXPECT_GT(WideCharacters(PlainText(BookText("tavikj.hlp"))), 8000U);
 }
 
-TEST(Books, ExplainEveryMessage)
-{
-    const auto english = PlainText(BookText("tavike.hlp"));
-    const auto japanese = PlainText(BookText("tavikj.hlp"));
-    for (const char* message : {
-             "It is already started.",
-             "DC Bias Voltage is invalid!",
-             "Frequency is invalid!",
-             "Heat Resistance is invalid!",
-             "Ambient Temperature is invalid!",
-             "Parameter is invalid!",
-             "A Non-numerical value exists where numerical value should be in.",
-             "A Non-numerical value exits where numerical value should be in.",
-             "This Chart is already opened!",
-             "Maximum Numbers of this Chart Type open!",
-             "Close all chart windows",
-             "There is no Help File.",
-             "tavik Data saved to",
-             "Unexpected Error",
-             "There is no printer in this system.",
-             "Would you print",
-             "Path does not exist. Please verify the correct path was given.",
-             "File name is not valid. Please enter another name.",
-         })
-    {
-        EXPECT_THAT(english, testing::HasSubstr(message));
-        EXPECT_THAT(japanese, testing::HasSubstr(message));
-    }
-}
-
 } // namespace

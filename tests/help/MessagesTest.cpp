@@ -1,0 +1,156 @@
+/// Every message that the windows show is found in both books: the messages are collected from the sources.
+
+#include "tests/help/BookText.h"
+#include "tests/help/SourceTexts.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <regex>
+#include <set>
+#include <span>
+#include <sstream>
+
+namespace
+{
+
+constexpr std::array Folders = {"app", "calc", "chart", "files", "formkit", "frame", "partdata", "selection"};
+/// What shows a message, whatever it says.
+constexpr std::array Doors = {"ShowExclamation(", "ShowInformation(", "ShowPlain(",
+                              "ShowCritical(",    "AskOkCancel(",     "ShowTold("};
+
+/// The fixed pieces of a message, between its values and line breaks.
+std::vector<std::string> PiecesOf(const std::string& text)
+{
+    const std::string plain = std::regex_replace(text, std::regex("%[0-9]|\\\\r\\\\n|\\\\n"), "\n");
+    std::vector<std::string> pieces;
+    std::istringstream lines(std::regex_replace(plain, std::regex("\\\\\""), "\""));
+    for (std::string line; std::getline(lines, line);)
+    {
+        line = std::regex_replace(line, std::regex("^ +| +$"), "");
+        if (std::regex_search(line, std::regex("[A-Za-z]{2}")))
+        {
+            pieces.push_back(line);
+        }
+    }
+    return pieces;
+}
+
+/// The end of a sentence, but no caption of a menu, which ends with dots.
+bool EndsSentence(const std::string& text)
+{
+    static const std::regex sentence("(.*[^.])?[.!?] *");
+    return std::regex_match(text, sentence);
+}
+
+bool HasWords(const std::string& text)
+{
+    static const std::regex words(" *[^ ]+ +[^ ]+.*");
+    return std::regex_match(PiecesOf(text).empty() ? "" : text, words);
+}
+
+/// A message is what is shown as one, what describes an error, and a statement that makes a sentence.
+bool IsMessage(std::span<const SourceText> statement, const std::filesystem::path& source)
+{
+    const auto& before = statement.back().Before;
+    const bool isShown =
+        std::ranges::any_of(Doors, [&](const char* door) { return before.find(door) != std::string::npos; });
+    const bool isDescription =
+        source.filename() == "RunTimeError.cpp" && before.find("return ") != std::string::npos;
+    return isShown || isDescription ||
+           std::ranges::any_of(statement, [](const SourceText& text) { return EndsSentence(text.Text); });
+}
+
+std::string TextOf(const std::filesystem::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
+}
+
+/// What no user reads: the stand-in for numbers that no error of the program has.
+bool IsNeverShown(const std::string& text)
+{
+    return text == "Application-defined or object-defined error";
+}
+
+void AddMessages(const std::filesystem::path& source, std::set<std::string>& pieces)
+{
+    const auto texts = TextsOfSource(TextOf(source));
+    for (auto first = texts.begin(); first != texts.end();)
+    {
+        const auto last = std::find_if(
+            first, texts.end(), [&](const SourceText& text) { return text.Statement != first->Statement; });
+        if (IsMessage(std::span(first, last), source))
+        {
+            std::for_each(first, last,
+                          [&](const SourceText& text)
+                          {
+                              if (HasWords(text.Text) && !IsNeverShown(text.Text))
+                              {
+                                  std::ranges::copy(PiecesOf(text.Text), std::inserter(pieces, pieces.end()));
+                              }
+                          });
+        }
+        first = last;
+    }
+}
+
+std::set<std::string> PiecesOfAllMessages()
+{
+    std::set<std::string> pieces;
+    for (const char* folder : Folders)
+    {
+        for (const auto& source : SourcesIn(std::filesystem::path(SOURCES) / folder))
+        {
+            AddMessages(source, pieces);
+        }
+    }
+    return pieces;
+}
+
+TEST(SourceTexts, AreReadAsTheCompilerReadsThem)
+{
+    const auto texts =
+        TextsOfSource("// \"no\"\n#include \"no.h\"\nf(\"one \"\n  \"and \\\" more\", 'x', '\"');"
+                      " return \"two\"; /// \"no\"\n");
+    ASSERT_EQ(texts.size(), 4U);
+    EXPECT_EQ(texts[1].Text, "x");
+    EXPECT_EQ(texts[2].Statement, texts[0].Statement);
+    EXPECT_EQ(texts[0].Text, "one and \\\" more");
+    EXPECT_EQ(texts[0].Before, "f(");
+    EXPECT_EQ(texts[3].Text, "two");
+    EXPECT_EQ(texts[3].Before, "return ");
+}
+
+TEST(Messages, AreCollected)
+{
+    const auto pieces = PiecesOfAllMessages();
+    EXPECT_GE(pieces.size(), 60U);
+    for (const char* known :
+         {"It is already started.", "Unexpected Error", "There is no Help File.", "tavik Data saved to",
+          "Would you print", "already exists.", "Do you want to replace it?",
+          "There is no printer in this system.", "Plot needs a part: choose a", "is invalid!",
+          "Maximum Numbers of this Chart Type open!"})
+    {
+        EXPECT_TRUE(pieces.contains(known)) << known;
+    }
+}
+
+TEST(Messages, AreFoundInBothBooks)
+{
+    for (const char* book : {"tavike.hlp", "tavikj.hlp"})
+    {
+        const auto text = PlainText(BookText(book));
+        for (const auto& piece : PiecesOfAllMessages())
+        {
+            EXPECT_TRUE(text.find(piece) != std::string::npos) << book << ": " << piece;
+        }
+    }
+}
+
+} // namespace
