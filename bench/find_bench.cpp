@@ -81,9 +81,9 @@ using BareRow = std::array<double, 12>;
 void BareHeating(BareRow& row, const PartRecord& part, const OperatingPoint& at)
 {
     const Data& data = part.Data;
-    const double hertz = *at.Kilohertz * 1000.0;
-    const double t = at.AmbientC - 20.0;
-    const double r = at.BiasVolts / double{data[Value::RatedVoltage]};
+    const double hertz = at.Kilohertz->Low * 1000.0;
+    const double t = at.AmbientC.Low - 20.0;
+    const double r = at.BiasVolts.Low / double{data[Value::RatedVoltage]};
     const auto term = [&](Value::Index constant, Value::Index linear, Value::Index square)
     { return data[constant] + t * data[linear] + t * t * data[square]; };
     const double kI = term(Value::CurrentPerF, Value::CurrentTPerF, Value::CurrentT2PerF) / hertz +
@@ -92,7 +92,7 @@ void BareHeating(BareRow& row, const PartRecord& part, const OperatingPoint& at)
     const double s3 = Surface(data, Values::VoltageExponentSurface, r, t);
     const double kV = std::pow(10, Surface(data, Values::AmplitudeSurface, r, t)) *
                       std::pow(std::log10(hertz), Surface(data, Values::FrequencyExponentSurface, r, t));
-    const double bound = AllowableVoltageBound(data[Value::RatedVoltage], at.BiasVolts);
+    const double bound = AllowableVoltageBound(data[Value::RatedVoltage], at.BiasVolts.Low);
     const double free = std::pow(20 / kV, 1 / s3);
     const double rise = free < bound ? 20 : kV * std::pow(bound, s3);
     row[2] = std::sqrt(20 / kI);
@@ -111,7 +111,7 @@ void Bare(const PartTable& parts, const FindQuestion& question)
     for (const PartRecord& part : parts.PartData)
     {
         BareRow& row = rows.emplace_back();
-        const double change = BareChange(part, at.BiasVolts, at.AmbientC);
+        const double change = BareChange(part, at.BiasVolts.Low, at.AmbientC.Low);
         row[0] = part.Data[Value::NominalCapacitance] * (1 + change / 100);
         row[1] = 100 + change;
         if (at.Load)
@@ -146,6 +146,22 @@ void Compare(const std::string& name, const PartTable& parts, const FindQuestion
     std::printf("%s: %zu of %zu parts, quickest answer %.1f ms\n", name.c_str(), fitting,
                 parts.PartData.size(), std::ranges::min(times) / 1000);
 }
+/// The answer over ranges beside that at a point.
+void CompareWithPoint(const std::string& name, const PartTable& parts, const FindQuestion& ranges,
+                      const FindQuestion& point)
+{
+    std::vector<double> times;
+    CompareInTurns(
+        name, 40,
+        [&](int)
+        {
+            times.push_back(MicrosecondsOf([&] { Ours(parts, ranges); }));
+            return times.back();
+        },
+        [&](int) { return MicrosecondsOf([&] { Ours(parts, point); }); });
+    std::printf("%s: %zu of %zu parts, quickest answer %.1f ms\n", name.c_str(), fitting,
+                parts.PartData.size(), std::ranges::min(times) / 1000);
+}
 } // namespace
 
 int main()
@@ -158,6 +174,15 @@ int main()
                                    .Kilohertz = 300.0F,
                                    .Load = AcLoad{.Kind = Quantity::Current, .Value = 0.5F}};
     Compare("find-load", parts, {.At = loaded});
+    const OperatingPoint ranges = {.BiasVolts = {4.5F, 5.5F},
+                                   .AmbientC = {-20, 60},
+                                   .Kilohertz = ConditionRange(270, 330),
+                                   .Load = loaded.Load,
+                                   .Tolerance = {10, 10}};
+    CompareWithPoint("find-ranges", parts, {.At = ranges}, {.At = loaded});
+    CompareWithPoint("find-ranges-capacitance", parts,
+                     {.At = {.BiasVolts = {0, 6.3F}, .AmbientC = {-20, 85}}},
+                     {.At = {.BiasVolts = 5, .AmbientC = 60}});
     Compare("find-bank", parts,
             {.At = loaded, .Wanted = {.LeastCapacitance = 1e6F, .Parallel = Bank{.IsFewest = true}}});
     return 0;

@@ -3,7 +3,7 @@
 /// Conditions that may stand anywhere between two ends: a rail with its tolerance, an ambient from winter to
 /// summer.
 
-#include <compare>
+#include <tuple>
 
 /// From the lower to the higher end, both included; both alike for a single value.
 struct ConditionRange
@@ -28,7 +28,7 @@ struct ConditionRange
 };
 
 /// Every bias and temperature in their ranges.
-struct Box
+struct ConditionBox
 {
     ConditionRange BiasVolts;
     ConditionRange AmbientC;
@@ -52,8 +52,12 @@ struct Place
     /// Of heating alone.
     double Hertz = 0;
 
+    bool operator==(const Place&) const = default;
     /// By the bias, then by the temperature, then by the frequency.
-    auto operator<=>(const Place&) const = default;
+    bool operator<(const Place& other) const
+    {
+        return std::tie(BiasVolts, AmbientC, Hertz) < std::tie(other.BiasVolts, other.AmbientC, other.Hertz);
+    }
 };
 
 /// A value and where it occurs.

@@ -74,20 +74,28 @@ FactorExtremes ExtremesOf(const Polynomial<7>& change, const ConditionRange& ran
     return at;
 }
 
-void TryProducts(Tried& tried, const PartRecord& part, const Box& box)
+void TryProducts(Tried& tried, const PartRecord& part, const ConditionBox& box)
 {
     const auto bias = ExtremesOf(PolynomialOf<7>(part, Values::BiasPolynomial), box.BiasVolts, 0);
     const auto ambient =
         ExtremesOf(PolynomialOf<7>(part, Values::TemperaturePolynomial), box.AmbientC, EiaReferenceC);
-    for (const double volts : {bias.Least, bias.Most})
+    const auto tryAt = [&](double volts)
     {
         tried.Try({.BiasVolts = volts, .AmbientC = ambient.Least});
-        tried.Try({.BiasVolts = volts, .AmbientC = ambient.Most});
+        if (ambient.Most != ambient.Least)
+        {
+            tried.Try({.BiasVolts = volts, .AmbientC = ambient.Most});
+        }
+    };
+    tryAt(bias.Least);
+    if (bias.Most != bias.Least)
+    {
+        tryAt(bias.Most);
     }
 }
 
 /// Over the bias at the temperature of the peak, wherever the ambient range holds it.
-void TryRidge(Tried& tried, const PartRecord& part, const Box& box)
+void TryRidge(Tried& tried, const PartRecord& part, const ConditionBox& box)
 {
     const auto peak = PolynomialOf<3>(part, Values::PeakTemperature);
     const auto tryAt = [&](double volts)
@@ -104,7 +112,7 @@ void TryRidge(Tried& tried, const PartRecord& part, const Box& box)
     tryAt(box.BiasVolts.High);
 }
 
-void TryPeaks(Tried& tried, const PartRecord& part, const Box& box)
+void TryPeaks(Tried& tried, const PartRecord& part, const ConditionBox& box)
 {
     const PeakedEdge edge(part);
     const auto tryEdge = [&](double celsius)
@@ -121,7 +129,7 @@ void TryPeaks(Tried& tried, const PartRecord& part, const Box& box)
 }
 } // namespace
 
-std::optional<CapacitanceExtremes> CapacitanceExtremesIn(const PartRecord& part, const Box& box,
+std::optional<CapacitanceExtremes> CapacitanceExtremesIn(const PartRecord& part, const ConditionBox& box,
                                                          CodeView view)
 {
     const auto model = CapacitanceModelOf(part);
@@ -130,6 +138,11 @@ std::optional<CapacitanceExtremes> CapacitanceExtremesIn(const PartRecord& part,
         return std::nullopt;
     }
     Tried tried(part, view);
+    if (box.BiasVolts.IsPoint() && box.AmbientC.IsPoint())
+    {
+        tried.Try({.BiasVolts = box.BiasVolts.Low, .AmbientC = box.AmbientC.Low});
+        return tried.Extremes();
+    }
     model == CapacitanceModel::Peaked ? TryPeaks(tried, part, box) : TryProducts(tried, part, box);
     return tried.Extremes();
 }

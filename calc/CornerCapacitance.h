@@ -27,5 +27,5 @@ struct CapacitanceExtremes
 /// Both over every bias and temperature of the box, as `CapacitancePointAt` gives them there; of several
 /// places with the same value the one of the lowest bias, then of the lowest temperature. Nothing for a part
 /// without a model. Throws RunTimeError 5, 6 or 11 at the step that goes wrong.
-std::optional<CapacitanceExtremes> CapacitanceExtremesIn(const PartRecord& part, const Box& box,
+std::optional<CapacitanceExtremes> CapacitanceExtremesIn(const PartRecord& part, const ConditionBox& box,
                                                          CodeView view);

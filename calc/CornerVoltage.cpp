@@ -42,6 +42,7 @@ VoltageCorners::VoltageCorners(const PartRecord& heated, const HeatingBox& asked
     , permitted(rise)
     , heatResistance(resistance)
     , lnHeatResistance(std::log(resistance / part.Data[Value::HeatResistance]))
+    , biases(EvenNodes(box.BiasVolts.Low, box.BiasVolts.High, nodesASide))
     , temperatures(EvenNodes(box.AmbientC.Low, box.AmbientC.High, nodesASide))
 {
     if (const float seam = permitted.FallsFrom(); seam > box.AmbientC.Low && seam < box.AmbientC.High)
@@ -53,8 +54,10 @@ VoltageCorners::VoltageCorners(const PartRecord& heated, const HeatingBox& asked
 VoltageCorners::Row VoltageCorners::RowAt(double ambientC) const
 {
     const double t = ambientC - HeatingReferenceC;
+    const double rise = permitted.At(ambientC);
     return {.AmbientC = ambientC,
-            .Permitted = permitted.At(ambientC),
+            .Permitted = rise,
+            .LnPermitted = std::log(rise),
             .Amplitude = RowOf(part, Values::AmplitudeSurface, t),
             .FrequencyExponent = RowOf(part, Values::FrequencyExponentSurface, t),
             .VoltageExponent = RowOf(part, Values::VoltageExponentSurface, t)};
@@ -77,18 +80,16 @@ template <class Wish> Extreme VoltageCorners::LeastNode(const Wish& wish) const
 {
     Extreme best{.Value = std::numeric_limits<double>::infinity(),
                  .At = {box.BiasVolts.Low, box.AmbientC.Low, box.LowestHertz}};
-    const auto biases = EvenNodes(box.BiasVolts.Low, box.BiasVolts.High, nodesASide);
-    for (const double hertz : {box.LowestHertz, box.HighestHertz})
+    const std::array<double, 2> lnLog10Hz = {LnLog10(box.LowestHertz), LnLog10(box.HighestHertz)};
+    for (const double celsius : temperatures)
     {
-        const double lnLog10Hz = LnLog10(hertz);
-        for (const double celsius : temperatures)
+        const Row row = RowAt(celsius);
+        for (const double volts : biases)
         {
-            const Row row = RowAt(celsius);
-            for (const double volts : biases)
-            {
-                const Extreme tried{WishAt(row, volts, lnLog10Hz, wish), {volts, celsius, hertz}};
-                best = tried.IsBeyond(best, -1) ? tried : best;
-            }
+            const Extreme low{WishAt(row, volts, lnLog10Hz[0], wish), {volts, celsius, box.LowestHertz}};
+            const Extreme high{WishAt(row, volts, lnLog10Hz[1], wish), {volts, celsius, box.HighestHertz}};
+            const Extreme& worse = high.IsBeyond(low, -1) ? high : low;
+            best = worse.IsBeyond(best, -1) ? worse : best;
         }
     }
     return best;
@@ -124,7 +125,7 @@ PowerModel VoltageCorners::ModelAt(const Place& place) const
 double VoltageCorners::LeastVoltage() const
 {
     const auto place =
-        LeastOf([](double lnkV, double s3, const Row& row) { return (std::log(row.Permitted) - lnkV) / s3; });
+        LeastOf([](double lnkV, double s3, const Row& row) { return (row.LnPermitted - lnkV) / s3; });
     const auto model = ModelAt(place);
     const double bound = AllowableVoltageBound(RatedVoltage(part), box.BiasVolts.High);
     return std::min(VoltageOfRise(permitted.At(place.AmbientC), model.kV(place.Hertz), model.S3), bound);

@@ -34,6 +34,7 @@ private:
     {
         double AmbientC;
         double Permitted;
+        double LnPermitted;
         std::array<double, 3> Amplitude;
         std::array<double, 3> FrequencyExponent;
         std::array<double, 3> VoltageExponent;
@@ -52,5 +53,6 @@ private:
     PermittedRise permitted;
     double heatResistance;
     double lnHeatResistance;
+    std::vector<double> biases;
     std::vector<double> temperatures;
 };

@@ -17,6 +17,10 @@ void AddReadOption(CLI::App& command, const ReadOption& option,
         }
         catch (const RequestError& error)
         {
+            if (!IsMistaken(error.Kind()))
+            {
+                throw;
+            }
             throw UsageError(FollowsKey(error.Kind()) ? name + ' ' + error.Message() : WordsOf(error));
         }
     };

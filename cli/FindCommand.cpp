@@ -23,6 +23,8 @@ static constexpr const char* examples = R"(Examples:
   tavik-cli find --parallel auto --min-capacitance 22uF --dc-bias 12V --ambient 85C --max-size 1206
   tavik-cli find --parallel auto --min-capacitance 10uF --dc-bias 12V --ambient 70C --frequency 500kHz \
       --current 4Arms
+  tavik-cli find --dc-bias 10.8..13.2V --ambient -20..85C --tolerance 10 --min-capacitance 4uF \
+      --max-size 1206
   tavik-cli find --dc-bias 5V --ambient -20C --min-left 75 --min-capacitance 0.7uF --max-size 0603 \
       --sort -effective-capacitance
 
@@ -33,7 +35,9 @@ static std::string Help()
     return examples +
            Wrapped(
                "All values are those of the charts at the operating point, judged as the form judges "
-               "conditions. Heating and the loads that are allowed are told with --frequency, rise, body "
+               "conditions. Over ranges of conditions they are the worst of every combination, told with the "
+               "place where each occurs, so that what is wanted holds everywhere. Heating and the loads that "
+               "are allowed are told with --frequency, rise, body "
                "temperature and ripple with a load. The heating by a current does not depend on the bias, "
                "which only decides whether a part may be used. A part is left out where a wanted limit or "
                "the load needs a value that it does not have; standard error tells how many, and why. The "
@@ -90,6 +94,17 @@ static FoundParts Find(const FindOptions& options, const PartTable& parts)
     return found;
 }
 
+/// What people read beside the list: how many parts fit, and which could not be judged.
+static void TellFitting(const FindOptions& options, const FoundParts& found)
+{
+    const auto note = NoteOnHeating(options.Question.At);
+    if (found.Parts.empty() || found.LeftOut.Total() > 0 || !note.empty())
+    {
+        std::cerr << "tavik-cli: " << FitText(found.Parts.size(), found.LeftOut) << (note.empty() ? "" : "; ")
+                  << note << '\n';
+    }
+}
+
 static void ListFound(const FindOptions& options)
 {
     if (options.Sort)
@@ -105,10 +120,7 @@ static void ListFound(const FindOptions& options)
     output.Write(
         FormatNamed(FoundListFormats(), options.Format).Write(told, options.Question, options.Settings));
     output.Finish();
-    if (found.Parts.empty() || found.LeftOut.Total() > 0)
-    {
-        std::cerr << "tavik-cli: " << FitText(found.Parts.size(), found.LeftOut) << '\n';
-    }
+    TellFitting(options, found);
 }
 
 void AddFindCommand(CLI::App& app)

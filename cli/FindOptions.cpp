@@ -9,6 +9,8 @@
 #include "cli/RequestWords.h"
 #include "requests/FoundList.h"
 #include "requests/Names.h"
+#include "requests/RangeEntry.h"
+#include "requests/ToleranceEntry.h"
 #include "requests/UnitEntry.h"
 
 #include <CLI/CLI.hpp>
@@ -38,19 +40,37 @@ struct ValueOption
     const char* Group;
 };
 
-/// Hands the value to `take`, and keeps what was typed for messages.
-template <class Take>
-void AddValue(CLI::App& command, FindOptions& options, const ValueOption& option, const Take& take)
+/// Hands what is read to `take`, and keeps what was typed for messages.
+template <class Read, class Take>
+void AddRead(CLI::App& command, FindOptions& options, const ValueOption& option, const Read& read,
+             const Take& take)
 {
     const std::string key = option.Key;
     AddReadOption(
         command,
         {"--" + OptionNameOf(key), std::string(KindOf(option.Measures).Unit), option.Text, option.Group},
-        [take, key, measures = option.Measures, &options](const std::string& typed)
+        [read, take, key, measures = option.Measures, &options](const std::string& typed)
         {
-            take(ValueInUnit(typed, measures));
+            take(read(typed, measures, key));
             options.TypedValues[key] = {key, typed};
         });
+}
+
+template <class Take>
+void AddValue(CLI::App& command, FindOptions& options, const ValueOption& option, const Take& take)
+{
+    AddRead(
+        command, options, option,
+        [](const std::string& typed, Quantity measures, const std::string&)
+        { return ValueInUnit(typed, measures); },
+        take);
+}
+
+/// A value or a range of it.
+template <class Take>
+void AddRange(CLI::App& command, FindOptions& options, const ValueOption& option, const Take& take)
+{
+    AddRead(command, options, option, ConditionRangeOf, take);
 }
 
 /// Throws UsageError for a second load.
@@ -111,16 +131,19 @@ void AddFilters(CLI::App& command, FindOptions& options)
 void AddPoint(CLI::App& command, FindOptions& options)
 {
     OperatingPoint& at = options.Question.At;
-    AddValue(command, options, {"dcBias", Quantity::DCVoltage, "DC bias voltage (left out: 0)", pointGroup},
-             [&at](float volts) { at.BiasVolts = volts; });
-    AddValue(command, options,
+    AddRange(command, options,
+             {"dcBias", Quantity::DCVoltage,
+              "DC bias voltage, or its range, 10.8..13.2V or 12V±10% (left out: 0)", pointGroup},
+             [&at](ConditionRange volts) { at.BiasVolts = volts; });
+    AddRange(command, options,
              {"ambient", Quantity::Temperature,
-              "Ambient temperature (left out: " + NumberText(ReferenceC(CodeView::Eia)) + " in EIA, " +
-                  NumberText(ReferenceC(CodeView::Jis)) + " in JIS code)",
+              "Ambient temperature, or its range (left out: " + NumberText(ReferenceC(CodeView::Eia)) +
+                  " in EIA, " + NumberText(ReferenceC(CodeView::Jis)) + " in JIS code)",
               pointGroup},
-             [&options](float celsius) { options.Ambient = celsius; });
-    AddValue(command, options, {"frequency", Quantity::Frequency, "Frequency, 10 to 1000 kHz", pointGroup},
-             [&at](float kilohertz) { at.Kilohertz = kilohertz; });
+             [&options](ConditionRange celsius) { options.Ambient = celsius; });
+    AddRange(command, options,
+             {"frequency", Quantity::Frequency, "Frequency, 10 to 1000 kHz, or its range", pointGroup},
+             [&at](ConditionRange kilohertz) { at.Kilohertz = kilohertz; });
     AddValue(command, options,
              {"heatResistance", Quantity::HeatResistance, "Heat resistance (left out: each part's own)",
               pointGroup},
@@ -135,6 +158,16 @@ void AddPoint(CLI::App& command, FindOptions& options)
                   {"--parameter", "NAME=VALUE",
                    "Load that the parts bear: " + ChoiceOf(ParameterRequestNames()), pointGroup},
                   [&options](const std::string& typed) { TakeNamedLoad(options, typed); });
+    AddReadOption(
+        command,
+        {"--tolerance", "%",
+         "Tolerance of the capacitance, 10 or -20/+80, by which the least and the most of it are told",
+         pointGroup},
+        [&options](const std::string& typed)
+        {
+            options.Question.At.Tolerance = ToleranceOf(typed);
+            options.TypedValues["tolerance"] = {"tolerance", typed};
+        });
 }
 
 void AddWants(CLI::App& command, FindOptions& options)
@@ -198,6 +231,13 @@ void FinishQuestion(FindOptions& options)
 {
     OperatingPoint& at = options.Question.At;
     at.AmbientC = options.Ambient.value_or(ReferenceC(at.View));
+    const bool isPower =
+        at.Load && at.Load->Kind != Quantity::Current && at.Load->Kind != Quantity::RmsVoltage;
+    if (isPower && !at.IsPoint())
+    {
+        throw UsageError("--parameter " + RequestNameOf(NameOf(at.Load->Kind)) +
+                         " takes no ranges of conditions: leave one out");
+    }
     options.Question.Wanted.NeedsMeasures = options.MaxSize.has_value();
     if (options.MinRatedVoltage)
     {

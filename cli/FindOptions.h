@@ -27,7 +27,7 @@ struct FindOptions
     std::optional<std::string> MaxSize;
     std::optional<float> MinRatedVoltage;
     FindQuestion Question;
-    std::optional<float> Ambient;
+    std::optional<ConditionRange> Ambient;
     CurveSettings Settings;
     std::optional<std::string> Sort;
     std::size_t Limit = MostParts;

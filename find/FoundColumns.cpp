@@ -23,7 +23,30 @@ static constexpr std::array<FoundColumnKind, FoundColumnCount> columns = {{
     {FoundColumn::Count, "count", "", ColumnNeed::Bank},
     {FoundColumn::Total, "total", "pF", ColumnNeed::Bank},
     {FoundColumn::Area, "area", "mm\u00B2", ColumnNeed::Nothing},
+    {FoundColumn::MostCapacitance, "most-capacitance", "pF", ColumnNeed::Nothing},
+    {FoundColumn::Margin, "margin", "\u00B0C", ColumnNeed::Load},
 }};
+
+/// In the order of `FoundPlace`.
+static constexpr std::array<FoundPlaceKind, FoundPlaceCount> places = {{
+    {FoundPlace::Least,
+     FoundColumn::EffectiveCapacitance,
+     "least",
+     {Quantity::DCVoltage, Quantity::Temperature}},
+    {FoundPlace::Most, FoundColumn::MostCapacitance, "most", {Quantity::DCVoltage, Quantity::Temperature}},
+    {FoundPlace::Rise, FoundColumn::Rise, "rise", {Quantity::Temperature, Quantity::Frequency}},
+    {FoundPlace::Margin, FoundColumn::Margin, "margin", {Quantity::Temperature, Quantity::Frequency}},
+}};
+
+std::span<const FoundPlaceKind, FoundPlaceCount> FoundPlaces()
+{
+    return places;
+}
+
+const FoundPlaceKind& KindOf(FoundPlace place)
+{
+    return places.at(static_cast<std::size_t>(place));
+}
 
 std::span<const FoundColumnKind, FoundColumnCount> FoundColumns()
 {

@@ -4,6 +4,7 @@
 
 #include "find/Wants.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -31,9 +32,40 @@ enum class FoundColumn : std::uint8_t
     Count,
     Total,
     Area,
+    MostCapacitance,
+    Margin,
 };
 
-inline constexpr std::size_t FoundColumnCount = 19;
+inline constexpr std::size_t FoundColumnCount = 21;
+
+/// Where in the ranges of conditions a value occurs.
+enum class FoundPlace : std::uint8_t
+{
+    Least,
+    Most,
+    Rise,
+    Margin,
+};
+
+inline constexpr std::size_t FoundPlaceCount = 4;
+
+/// What is known of one place.
+struct FoundPlaceKind
+{
+    FoundPlace Id;
+    /// The column whose value occurs there.
+    FoundColumn Of;
+    /// "least".
+    std::string_view Key;
+    /// The conditions that tell the place.
+    std::array<Quantity, 2> Conditions;
+};
+
+/// All places in the order of the list.
+std::span<const FoundPlaceKind, FoundPlaceCount> FoundPlaces();
+
+/// All that is known of a place.
+const FoundPlaceKind& KindOf(FoundPlace place);
 
 /// What a question must hold for a column to apply to it.
 enum class ColumnNeed : std::uint8_t

@@ -2,6 +2,7 @@
 
 /// One part that fits, with what the list tells of it.
 
+#include "calc/Box.h"
 #include "calc/CheckedMath.h"
 #include "find/FoundColumns.h"
 #include "partdata/PartRecord.h"
@@ -19,6 +20,10 @@ public:
         : part(&found)
     {
         values.fill(std::numeric_limits<double>::quiet_NaN());
+        for (auto& place : places)
+        {
+            place.fill(std::numeric_limits<float>::quiet_NaN());
+        }
     }
 
     const PartRecord& Part() const { return *part; }
@@ -39,6 +44,15 @@ public:
         values[static_cast<std::size_t>(column) - firstComputed] = value;
     }
 
+    /// The conditions that tell a place, in the units that they are entered in; nothing where it is empty.
+    std::optional<std::array<float, 2>> ConditionsAt(FoundPlace place) const
+    {
+        const auto& conditions = places[static_cast<std::size_t>(place)];
+        return std::isnan(conditions[0]) ? std::nullopt : std::optional(conditions);
+    }
+
+    void SetPlace(FoundPlace place, const Place& at);
+
 private:
     static constexpr auto firstComputed = static_cast<std::size_t>(FoundColumn::EffectiveCapacitance);
 
@@ -48,4 +62,5 @@ private:
     const PartRecord* part;
     /// From the effective capacitance on; not a number where a column is empty.
     std::array<double, FoundColumnCount - firstComputed> values;
+    std::array<std::array<float, 2>, FoundPlaceCount> places;
 };

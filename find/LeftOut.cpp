@@ -45,3 +45,9 @@ std::string FitText(std::size_t fitting, const LeftOutCounts& leftOut)
     }
     return text;
 }
+
+std::string_view NoteOnHeating(const OperatingPoint& at)
+{
+    const bool isCut = at.Kilohertz && at.HeatingAmbientC() != at.AmbientC;
+    return isCut ? "rise and loads judged from 20 C up, where the heating data begins" : "";
+}

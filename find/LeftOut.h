@@ -2,6 +2,8 @@
 
 /// Why parts are left out of an answer, other than for what is wanted of them.
 
+#include "find/OperatingPoint.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -39,3 +41,6 @@ std::string_view TextOf(LeftOutReason reason);
 
 /// "25 parts fit; left out: 3 no heating data, 21 bias too high", "1 part fits", "no part fits".
 std::string FitText(std::size_t fitting, const LeftOutCounts& leftOut);
+
+/// What is told of an ambient range that reaches below the heating data; empty for any other.
+std::string_view NoteOnHeating(const OperatingPoint& at);

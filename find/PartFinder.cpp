@@ -81,7 +81,7 @@ private:
     Empty EmptyColumnsOf(const PartRecord& part) const
     {
         const auto heating = HeatingEmptiness(part);
-        const bool isBelowRated = IsDCBiasBelowRated(at.BiasVolts, part);
+        const bool isBelowRated = IsDCBiasBelowRated(at.BiasVolts.High, part);
         return {.Capacitance = CapacitanceEmptiness(part),
                 .Heating = heating,
                 .Loads = heating ? heating : ReasonUnless(isBelowRated, LeftOutReason::BiasTooHigh)};
@@ -92,18 +92,26 @@ private:
         const bool hasData = CanBeListed(part) && HasData(part, Values::OfCapacitance) &&
                              CapacitanceModelOf(part) != CapacitanceModel::None;
         return First(ReasonUnless(hasData, LeftOutReason::NoCapacitanceData),
-                     First(ReasonUnless(IsDCBiasPermitted(at.BiasVolts, part), LeftOutReason::BiasTooHigh),
-                           ReasonUnless(IsClassAmbientPermitted(at.AmbientC, part, at.View),
+                     First(ReasonUnless(IsBiasPermitted(part), LeftOutReason::BiasTooHigh),
+                           ReasonUnless(IsClassAmbientPermitted(at.AmbientC.Low, part, at.View) &&
+                                            IsClassAmbientPermitted(at.AmbientC.High, part, at.View),
                                         LeftOutReason::TemperatureOutOfRange)));
+    }
+
+    bool IsBiasPermitted(const PartRecord& part) const
+    {
+        return IsDCBiasPermitted(at.BiasVolts.Low, part) && IsDCBiasPermitted(at.BiasVolts.High, part);
     }
 
     /// As without data where no frequency is given; nothing then needs the group.
     Emptiness HeatingEmptiness(const PartRecord& part) const
     {
+        const auto heatingC = at.HeatingAmbientC();
         const bool hasData = at.Kilohertz && CanBeListed(part) && HasData(part, Values::OfPower);
         return First(ReasonUnless(hasData, LeftOutReason::NoHeatingData),
-                     First(ReasonUnless(IsDCBiasPermitted(at.BiasVolts, part), LeftOutReason::BiasTooHigh),
-                           ReasonUnless(IsHeatingAmbientPermitted(at.AmbientC, part),
+                     First(ReasonUnless(IsBiasPermitted(part), LeftOutReason::BiasTooHigh),
+                           ReasonUnless(IsHeatingAmbientPermitted(heatingC.Low, part) &&
+                                            IsHeatingAmbientPermitted(heatingC.High, part),
                                         LeftOutReason::TemperatureOutOfRange)));
     }
 
@@ -176,9 +184,10 @@ private:
             return true;
         }
         const double each = columns.LoadOfEach(row.Known(FoundColumn::Count));
-        const double permitted = row.Known(FoundColumn::PermittedRise) * (1 + RoundingShare);
+        const double rounding = row.Known(FoundColumn::PermittedRise) * RoundingShare;
         const auto allowed = columns.AllowedOf(row);
-        return row.Known(FoundColumn::Rise) <= permitted &&
+        // The largest rise need not meet the least permitted one.
+        return row.Known(FoundColumn::Margin) >= -rounding &&
                (!allowed || static_cast<float>(each) <= static_cast<float>(*allowed));
     }
 

@@ -1,9 +1,10 @@
 #include "find/PointColumns.h"
 
 #include "calc/AllowablePower.h"
-#include "calc/Capacitance.h"
 #include "calc/Conditions.h"
+#include "calc/CornerCapacitance.h"
 #include "calc/TemperatureRise.h"
+#include "find/CornerColumns.h"
 #include "find/SizeOrder.h"
 #include "partdata/RunTimeError.h"
 
@@ -27,7 +28,8 @@ static int SharesOf(double whole, double share)
 PointColumns::PointColumns(const FindQuestion& question)
     : at(question.At)
     , wanted(question.Wanted)
-    , hertz(double{at.Kilohertz.value_or(0)} * KindOf(Quantity::Frequency).StoredPerShown)
+    , isPoint(at.IsPoint())
+    , hertz(double{at.Kilohertz.value_or(ConditionRange()).Low} * KindOf(Quantity::Frequency).StoredPerShown)
 {
 }
 
@@ -37,6 +39,11 @@ void PointColumns::Fill(FoundPart& row, FilledColumns groups) const
     {
         FillCapacitance(row);
     }
+    isPoint ? FillAtPoint(row, groups) : FillInRanges(row, groups);
+}
+
+void PointColumns::FillAtPoint(FoundPart& row, FilledColumns groups) const
+{
     const auto model = groups.Heating ? std::optional(ModelOf(row.Part())) : std::nullopt;
     if (model)
     {
@@ -54,34 +61,68 @@ void PointColumns::Fill(FoundPart& row, FilledColumns groups) const
     FillBank(row, count);
 }
 
+void PointColumns::FillInRanges(FoundPart& row, FilledColumns groups) const
+{
+    std::optional<CornerColumns> corners;
+    if (groups.Heating)
+    {
+        corners.emplace(row.Part(), at, PermittedOf(row.Part()), HeatResistanceOf(row.Part()));
+        corners->FillHeating(row);
+    }
+    if (corners && groups.Loads)
+    {
+        corners->FillLoads(row);
+    }
+    const int count = CountOf(row);
+    if (corners && at.Load)
+    {
+        corners->FillRise(row, *at.Load, LoadOfEach(count));
+    }
+    FillBank(row, count);
+}
+
 void PointColumns::FillCapacitance(FoundPart& row) const
 {
-    if (const auto point = CapacitancePointAt(row.Part(), at.BiasVolts, at.AmbientC, at.View))
+    const auto extremes =
+        CapacitanceExtremesIn(row.Part(), {.BiasVolts = at.BiasVolts, .AmbientC = at.AmbientC}, at.View);
+    if (!extremes)
     {
-        row.Set(FoundColumn::EffectiveCapacitance, point->PicoFarads);
-        row.Set(FoundColumn::Left, 100 + point->Change);
+        return;
     }
+    const auto& [least, most] = *extremes;
+    const double down = 1 - at.Tolerance.Down / 100.0;
+    const double up = 1 + at.Tolerance.Up / 100.0;
+    row.Set(FoundColumn::EffectiveCapacitance, least.Point.PicoFarads * down);
+    row.Set(FoundColumn::Left, (100 + std::min(least.Point.Change, most.Point.Change)) * down);
+    row.SetPlace(FoundPlace::Least, least.At);
+    row.Set(FoundColumn::MostCapacitance, most.Point.PicoFarads * up);
+    row.SetPlace(FoundPlace::Most, most.At);
 }
 
 /// A heat resistance of the part's own is judged like one that is entered.
-PowerModel PointColumns::ModelOf(const PartRecord& part) const
+float PointColumns::HeatResistanceOf(const PartRecord& part) const
 {
     const float resistance = at.HeatResistance.value_or(part.Data[Value::HeatResistance]);
     if (!IsHeatResistancePermitted(resistance))
     {
         throw RunTimeError(RunTimeErrorNumber::InvalidProcedureCall);
     }
-    return PowerModelOf(part, at.BiasVolts, at.AmbientC, resistance);
+    return resistance;
+}
+
+PowerModel PointColumns::ModelOf(const PartRecord& part) const
+{
+    return PowerModelOf(part, at.BiasVolts.Low, at.AmbientC.Low, HeatResistanceOf(part));
+}
+
+PermittedRise PointColumns::PermittedOf(const PartRecord& part) const
+{
+    return {.MaxC = part.Data[Value::UpperTemperature], .Wanted = wanted.MostRise};
 }
 
 double PointColumns::PermittedRiseOf(const PartRecord& part) const
 {
-    const float maxC = part.Data[Value::UpperTemperature];
-    if (!wanted.MostRise)
-    {
-        return dTallow(maxC, at.AmbientC);
-    }
-    return std::min<double>(*wanted.MostRise, std::max(0.0, double{maxC} - double{at.AmbientC}));
+    return PermittedOf(part).At(at.AmbientC.High);
 }
 
 void PointColumns::FillHeating(FoundPart& row, const PowerModel& model) const
@@ -95,7 +136,7 @@ void PointColumns::FillHeating(FoundPart& row, const PowerModel& model) const
 
 void PointColumns::FillLoads(FoundPart& row, const PowerModel& model) const
 {
-    const double bound = AllowableVoltageBound(RatedVoltage(row.Part()), at.BiasVolts);
+    const double bound = AllowableVoltageBound(RatedVoltage(row.Part()), at.BiasVolts.Low);
     const auto loads = AllowableLoadsAt(model, bound, PermittedRiseOf(row.Part()), hertz);
     row.Set(FoundColumn::Current, loads.Arms);
     row.Set(FoundColumn::Voltage, loads.Vrms);
@@ -112,8 +153,12 @@ AcLoad PointColumns::GivenLoad() const
 void PointColumns::FillRise(FoundPart& row, const PowerModel& model, int count) const
 {
     const double rise = RiseAt(model, GivenLoad().Kind, LoadOfEach(count), hertz);
+    const Place place{.BiasVolts = at.BiasVolts.Low, .AmbientC = at.AmbientC.Low, .Hertz = hertz};
     row.Set(FoundColumn::Rise, rise);
-    row.Set(FoundColumn::Body, double{at.AmbientC} + rise);
+    row.SetPlace(FoundPlace::Rise, place);
+    row.Set(FoundColumn::Body, place.AmbientC + rise);
+    row.Set(FoundColumn::Margin, PermittedRiseOf(row.Part()) - rise);
+    row.SetPlace(FoundPlace::Margin, place);
 }
 
 /// The count itself, and what the bank takes and does.

@@ -1,8 +1,8 @@
 #pragma once
 
-/// What a part, or a bank of it, does at an operating point.
+/// What a part, or a bank of it, does at an operating point, or at the worst in ranges of conditions.
 
-#include "calc/PowerModel.h"
+#include "calc/PermittedRise.h"
 #include "find/FoundPart.h"
 #include "find/Wants.h"
 
@@ -20,7 +20,8 @@ struct FilledColumns
     bool Loads = false;
 };
 
-/// Fills the columns of parts for one question, by the laws of the charts. The question must outlive it.
+/// Fills the columns of parts for one question, by the laws of the charts; in ranges each with its worst
+/// value, wherever that occurs. The question must outlive it.
 class PointColumns
 {
 public:
@@ -30,7 +31,7 @@ public:
     /// for a calculation that faults.
     void Fill(FoundPart& row, FilledColumns groups) const;
 
-    /// The rise that is permitted for a part, in °C.
+    /// The rise that is permitted for a part, in °C: the least anywhere in the ranges.
     double PermittedRiseOf(const PartRecord& part) const;
     /// How much of the load each of so many parts bears; equal parts share all loads but a voltage.
     double LoadOfEach(double count) const;
@@ -42,6 +43,10 @@ public:
 private:
     AcLoad GivenLoad() const;
     void FillCapacitance(FoundPart& row) const;
+    void FillInRanges(FoundPart& row, FilledColumns groups) const;
+    void FillAtPoint(FoundPart& row, FilledColumns groups) const;
+    PermittedRise PermittedOf(const PartRecord& part) const;
+    float HeatResistanceOf(const PartRecord& part) const;
     PowerModel ModelOf(const PartRecord& part) const;
     void FillHeating(FoundPart& row, const PowerModel& model) const;
     void FillLoads(FoundPart& row, const PowerModel& model) const;
@@ -52,5 +57,7 @@ private:
 
     const OperatingPoint& at;
     const Wants& wanted;
+    bool isPoint;
+    /// The lowest frequency, which is the only one of a point.
     double hertz;
 };

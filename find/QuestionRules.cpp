@@ -30,7 +30,7 @@ Result Refused(Condition condition, std::string message)
 /// Above every rating a bias is the parts' affair, each of which is left out.
 Result RefuseBias(const OperatingPoint& at, float largestRating)
 {
-    if (at.BiasVolts >= 0)
+    if (at.BiasVolts.Low >= 0)
     {
         return std::nullopt;
     }
@@ -49,7 +49,9 @@ Result RefuseHertz(const FindQuestion& question)
 {
     const auto& kilohertz = question.At.Kilohertz;
     const bool isNeeded = question.At.Load || question.Wanted.MostLossResistance;
-    if (kilohertz ? IsFrequencyPermitted(*kilohertz) : !isNeeded)
+    const bool isPermitted =
+        kilohertz && IsFrequencyPermitted(kilohertz->Low) && IsFrequencyPermitted(kilohertz->High);
+    if (isPermitted || (!kilohertz && !isNeeded))
     {
         return std::nullopt;
     }
@@ -74,6 +76,18 @@ Result RefuseLoad(const OperatingPoint& at)
     }
     return Refused(Condition::Parameter,
                    InvalidWords(KindOf(Condition::Parameter).Name, "from 0 " + UnitOf(at.Load->Kind)));
+}
+
+Result RefuseTolerance(const CapacitanceTolerance& tolerance)
+{
+    const auto& [down, up] = tolerance;
+    if (down >= 0 && down <= MostToleranceDown && up >= 0 && up <= MostToleranceUp)
+    {
+        return std::nullopt;
+    }
+    return QuestionRefusal{.Key = "tolerance",
+                           .Message =
+                               InvalidWords("Tolerance", "from 0 to 99 [%] down and from 0 to 999 [%] up")};
 }
 
 Result RefuseRise(const Wants& wanted)
@@ -122,7 +136,8 @@ std::optional<QuestionRefusal> RefuseQuestion(const FindQuestion& question, floa
 {
     for (const Result& refused :
          {RefuseBias(question.At, largestRating), RefuseResistance(question.At), RefuseHertz(question),
-          RefuseLoad(question.At), RefuseLimits(question.Wanted), RefuseRise(question.Wanted)})
+          RefuseLoad(question.At), RefuseTolerance(question.At.Tolerance), RefuseLimits(question.Wanted),
+          RefuseRise(question.Wanted)})
     {
         if (refused)
         {

@@ -12,7 +12,7 @@
 struct QuestionRefusal
 {
     /// What the entry is called: the key of a condition, "dcBias", or "minCapacitance", "minLeft", "maxRise",
-    /// "maxLossResistance".
+    /// "maxLossResistance", "tolerance".
     std::string_view Key;
     /// In the words of the form, two lines separated by carriage return and line feed.
     std::string Message;

@@ -4,7 +4,9 @@
 #include "calc/NumberText.h"
 #include "find/QuestionRules.h"
 #include "requests/PartList.h"
+#include "requests/RangeEntry.h"
 #include "requests/RequestError.h"
+#include "requests/ToleranceEntry.h"
 #include "requests/UnitEntry.h"
 
 #include <algorithm>
@@ -62,11 +64,12 @@ private:
     void ReadPoint(OperatingPoint& at)
     {
         at.View = entries.View;
-        at.BiasVolts = NumberOf("FindDCBiasVol", entries.DCBiasVol, Quantity::DCVoltage).value_or(0);
-        at.AmbientC = NumberOf("FindAmbientTemp", entries.AmbientTemp, Quantity::Temperature)
+        at.BiasVolts = ConditionOf("FindDCBiasVol", entries.DCBiasVol, Quantity::DCVoltage).value_or(0.0F);
+        at.Tolerance = Tolerance();
+        at.AmbientC = ConditionOf("FindAmbientTemp", entries.AmbientTemp, Quantity::Temperature)
                           .value_or(ReferenceC(entries.View));
-        RefuseAmbientWithoutNumber(at.AmbientC);
-        at.Kilohertz = NumberOf("FindFrequency", entries.Frequency, Quantity::Frequency);
+        RefuseAmbientWithoutNumber(at.AmbientC.Low);
+        at.Kilohertz = ConditionOf("FindFrequency", entries.Frequency, Quantity::Frequency);
         if (const auto amperes = NumberOf("FindCurrent", entries.Current, Quantity::Current))
         {
             at.Load = AcLoad{.Kind = Quantity::Current, .Value = *amperes};
@@ -105,6 +108,26 @@ private:
         }
         const auto number = ReadEntry(EntryInUnit(InOwnUnit(typed, quantity), quantity));
         return number.value_or(noNumber);
+    }
+
+    /// A value, or a range of it.
+    std::optional<ConditionRange> ConditionOf(std::string_view name, const std::string& typed,
+                                              Quantity quantity)
+    {
+        control = name;
+        const auto text = InOwnUnit(typed, quantity);
+        if (!IsBlank(text) && RangeTypedAs(text, quantity))
+        {
+            return ConditionRangeOf(text, quantity);
+        }
+        return NumberOf(name, typed, quantity);
+    }
+
+    CapacitanceTolerance Tolerance()
+    {
+        control = "FindTolerance";
+        const auto text = InOwnUnit(entries.Tolerance, Quantity::CapacitanceChange);
+        return IsBlank(text) ? CapacitanceTolerance() : ToleranceOf(text);
     }
 
     std::optional<ValueRange> RangeOf(std::string_view name, const std::string& typed, Quantity quantity)
@@ -148,8 +171,9 @@ private:
 /// The control of an entry that a rule names by its key.
 std::string_view ControlOf(std::string_view key)
 {
-    static constexpr std::array<std::pair<std::string_view, std::string_view>, 7> controls = {{
+    static constexpr std::array<std::pair<std::string_view, std::string_view>, 8> controls = {{
         {"dcBias", "FindDCBiasVol"},
+        {"tolerance", "FindTolerance"},
         {"heatResistance", "FindHeatResistance"},
         {"frequency", "FindFrequency"},
         {"parameter", "FindCurrent"},

@@ -11,7 +11,7 @@
 #include <variant>
 
 /// The entries as they are typed, in UTF-8; an empty one asks for nothing. Numbers may bear a unit
-/// ("300kHz"); a bare capacitance is in µF.
+/// ("300kHz"), and bias, ambient and frequency may be ranges; a bare capacitance is in µF.
 struct FindEntries
 {
     std::string PartNum = {};
@@ -23,6 +23,7 @@ struct FindEntries
     std::string DCBiasVol = {};
     std::string AmbientTemp = {};
     std::string Frequency = {};
+    std::string Tolerance = {};
     std::string Current = {};
     std::string HeatResistance = {};
     std::string MinCap = {};

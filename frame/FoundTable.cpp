@@ -30,11 +30,13 @@ constexpr std::array<Heading, FoundColumnCount> headings = {{
     {FoundColumn::Capacitance, "Nominal", "Nominal [pF]"},
     {FoundColumn::RatedVoltage, "Rated [V]", nullptr},
     {FoundColumn::EffectiveCapacitance, "Effective", "Effective [pF]"},
+    {FoundColumn::MostCapacitance, "Most", "Most [pF]"},
     {FoundColumn::Left, "Left [%]", nullptr},
     {FoundColumn::Count, "No.", nullptr},
     {FoundColumn::Total, "Total", "Total [pF]"},
     {FoundColumn::Area, "Area [mm²]", nullptr},
     {FoundColumn::Rise, "Rise [%1C]", nullptr},
+    {FoundColumn::Margin, "Margin [%1C]", nullptr},
     {FoundColumn::Body, "Body [%1C]", nullptr},
     {FoundColumn::Ripple, "Ripple [Vrms]", nullptr},
     {FoundColumn::Current, "Allowed [Arms]", nullptr},
@@ -128,7 +130,9 @@ FoundColumn FoundTable::ColumnAt(int column)
 
 bool FoundTable::Applies(int column) const
 {
-    return ::Applies(KindOf(ColumnAt(column)).Needs, question);
+    const FoundColumn id = ColumnAt(column);
+    const bool isWorst = id == FoundColumn::MostCapacitance || id == FoundColumn::Margin;
+    return ::Applies(KindOf(id).Needs, question) && (!isWorst || question.At.HasWorst());
 }
 
 std::int16_t FoundTable::PartIndexAt(int row) const

@@ -94,7 +94,24 @@ static std::int16_t ChartTypeOf(const PartRecord& part, int asked)
     return isFirst ? NumberOf(*first) : static_cast<std::int16_t>(asked);
 }
 
-/// The conditions of the question as numbers; those that were not given stay as the part leaves them.
+/// Where in the ranges of the question a chart of the part starts from: where the rise is largest for the
+/// charts of heating, else where the capacitance is least; at the upper ends where neither is told.
+static OperatingPoint StartOf(const FoundPart& part, OperatingPoint at, std::int16_t chartType)
+{
+    const auto least = part.ConditionsAt(FoundPlace::Least);
+    const auto hottest = part.ConditionsAt(FoundPlace::Rise);
+    const bool isHeating = ChartKindOf(chartType).Needs == Values::OfPower;
+    const float ambient = least ? (*least)[1] : at.AmbientC.High;
+    at.BiasVolts = least ? (*least)[0] : at.BiasVolts.High;
+    at.AmbientC = isHeating && hottest ? (*hottest)[0] : ambient;
+    if (at.Kilohertz)
+    {
+        at.Kilohertz = hottest ? (*hottest)[1] : at.Kilohertz->High;
+    }
+    return at;
+}
+
+/// The conditions of a point as numbers; those that were not given stay as the part leaves them.
 static std::vector<TakenCondition> ConditionsOf(const OperatingPoint& at)
 {
     std::vector<TakenCondition> conditions;
@@ -105,9 +122,9 @@ static std::vector<TakenCondition> ConditionsOf(const OperatingPoint& at)
             conditions.push_back({.Id = id, .Entry = NumberText(*value), .Text = {}});
         }
     };
-    add(Condition::DCBias, at.BiasVolts);
-    add(Condition::Frequency, at.Kilohertz);
-    add(Condition::AmbientTemperature, at.AmbientC);
+    add(Condition::DCBias, at.BiasVolts.Low);
+    add(Condition::Frequency, at.Kilohertz ? std::optional(at.Kilohertz->Low) : std::nullopt);
+    add(Condition::AmbientTemperature, at.AmbientC.Low);
     add(Condition::HeatResistance, at.HeatResistance);
     return conditions;
 }
@@ -122,10 +139,12 @@ std::vector<SelectedPart> frmFind::ChosenParts() const
     std::vector<SelectedPart> parts;
     for (const int row : rows | std::views::take(MostToPlot))
     {
-        parts.push_back(
-            {.Part = table->PartIndexAt(row),
-             .ChartType = ChartTypeOf(table->PartAt(row).Part(), ui->cmbFindChartType->currentIndex()),
-             .Conditions = ConditionsOf(table->Question().At)});
+        const FoundPart& part = table->PartAt(row);
+        const auto chartType = ChartTypeOf(part.Part(), ui->cmbFindChartType->currentIndex());
+        const auto& at = table->Question().At;
+        parts.push_back({.Part = table->PartIndexAt(row),
+                         .ChartType = chartType,
+                         .Conditions = ConditionsOf(at.IsPoint() ? at : StartOf(part, at, chartType))});
     }
     return parts;
 }

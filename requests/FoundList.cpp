@@ -18,10 +18,23 @@ namespace
 {
 /// In the order of the columns.
 constexpr std::array<std::string_view, FoundColumnCount> tableHeadings = {
-    "PART",         "SIZE",         "TCC",           "CAPACITANCE",   "RATED[V]",     "EFFECTIVE", "LEFT[%]",
-    "PERMITTED[C]", "LOSS[mOhm]",   "CURRENT[Arms]", "VOLTAGE[Vrms]", "APPARENT[VA]", "POWER[W]",  "RISE[C]",
-    "BODY[C]",      "RIPPLE[Vrms]", "COUNT",         "TOTAL",         "AREA[mm2]",
+    "PART",      "SIZE",         "TCC",        "CAPACITANCE",   "RATED[V]",      "EFFECTIVE",
+    "LEFT[%]",   "PERMITTED[C]", "LOSS[mOhm]", "CURRENT[Arms]", "VOLTAGE[Vrms]", "APPARENT[VA]",
+    "POWER[W]",  "RISE[C]",      "BODY[C]",    "RIPPLE[Vrms]",  "COUNT",         "TOTAL",
+    "AREA[mm2]", "MOST",         "MARGIN[C]",
 };
+
+/// What requests call the condition of a place.
+std::string_view ConditionKeyOf(Quantity quantity)
+{
+    return std::ranges::find(ConditionKinds(), std::optional(quantity), &ConditionKind::Measures)->Key;
+}
+
+/// "bias", "ambient", "frequency": what a heading calls it.
+std::string_view ShortNameOf(Quantity condition)
+{
+    return condition == Quantity::DCVoltage ? "bias" : ConditionKeyOf(condition);
+}
 
 /// Stands in the table where a column is empty.
 constexpr std::string_view noValue = "-";
@@ -59,17 +72,83 @@ std::string TableText(float value, const FoundColumnKind& column)
     return column.Unit == "pF" ? CapacitanceInFourDigits(value) : FourDigits(value);
 }
 
-std::vector<const FoundColumnKind*> ColumnsOf(const FindQuestion& question)
+/// One column of the table: a value, or where it occurs.
+struct TableColumn
 {
-    std::vector<const FoundColumnKind*> columns;
-    for (const FoundColumnKind& column : FoundColumns())
+    const FoundColumnKind* Kind;
+    std::optional<FoundPlace> Place = {};
+
+    bool IsNumber() const { return !Place && !IsName(Kind->Id); }
+};
+
+/// "13.2V 85C".
+std::string PlaceText(const FoundPart& part, FoundPlace place)
+{
+    const auto conditions = part.ConditionsAt(place);
+    if (!conditions)
     {
-        if (Applies(column.Needs, question))
+        return std::string(noValue);
+    }
+    const auto& quantities = KindOf(place).Conditions;
+    const auto text = [&](std::size_t i)
+    { return FourDigits((*conditions)[i]).append(KindOf(quantities[i]).Unit); };
+    return text(0) + ' ' + text(1);
+}
+
+std::string_view HeadingOf(const TableColumn& column, bool hasWorst)
+{
+    const bool isLeast = hasWorst && column.Kind->Id == FoundColumn::EffectiveCapacitance;
+    return column.Place ? "AT"
+                        : (isLeast ? "LEAST" : tableHeadings[static_cast<std::size_t>(column.Kind->Id)]);
+}
+
+/// A value of ranges with its place, and behind it the other end that the list tells of it.
+void AddWithWorst(std::vector<TableColumn>& columns, const FoundColumnKind& column)
+{
+    columns.push_back({&column});
+    for (const FoundPlaceKind& place : FoundPlaces())
+    {
+        if (place.Of == column.Id)
         {
-            columns.push_back(&column);
+            columns.push_back({&column, place.Id});
         }
     }
+    if (column.Id == FoundColumn::EffectiveCapacitance || column.Id == FoundColumn::Rise)
+    {
+        const bool isRise = column.Id == FoundColumn::Rise;
+        AddWithWorst(columns, KindOf(isRise ? FoundColumn::Margin : FoundColumn::MostCapacitance));
+    }
+}
+
+/// The columns that the question asks for; at a point there is no worst to tell.
+std::vector<TableColumn> ColumnsOf(const FindQuestion& question)
+{
+    std::vector<TableColumn> columns;
+    for (const FoundColumnKind& column : FoundColumns())
+    {
+        const bool isOther = column.Id == FoundColumn::MostCapacitance || column.Id == FoundColumn::Margin;
+        if (isOther || !Applies(column.Needs, question))
+        {
+            continue;
+        }
+        question.At.HasWorst() ? AddWithWorst(columns, column) : columns.push_back({&column});
+    }
     return columns;
+}
+
+std::string TableCell(const FoundPart& part, const TableColumn& column, const FindQuestion& question,
+                      const CurveSettings& settings)
+{
+    if (column.Place)
+    {
+        return PlaceText(part, *column.Place);
+    }
+    if (IsName(column.Kind->Id))
+    {
+        return NameOf(part.Part(), column.Kind->Id, question.At.View, settings);
+    }
+    const auto value = ToldValue(part, *column.Kind, question);
+    return value ? TableText(*value, *column.Kind) : std::string(noValue);
 }
 
 std::string Table(std::span<const FoundPart> found, const FindQuestion& question,
@@ -78,22 +157,42 @@ std::string Table(std::span<const FoundPart> found, const FindQuestion& question
     const auto columns = ColumnsOf(question);
     std::vector<ListRow> rows(1);
     std::vector<bool> areNumbers;
-    for (const auto* column : columns)
+    for (const auto& column : columns)
     {
-        rows[0].emplace_back(tableHeadings[static_cast<std::size_t>(column->Id)]);
-        areNumbers.push_back(!IsName(column->Id));
+        rows[0].emplace_back(HeadingOf(column, question.At.HasWorst()));
+        areNumbers.push_back(column.IsNumber());
     }
     for (const FoundPart& part : found)
     {
         ListRow& row = rows.emplace_back();
-        for (const auto* column : columns)
+        for (const auto& column : columns)
         {
-            const auto value = ToldValue(part, *column, question);
-            row.push_back(IsName(column->Id) ? NameOf(part.Part(), column->Id, question.At.View, settings)
-                                             : (value ? TableText(*value, *column) : std::string(noValue)));
+            row.push_back(TableCell(part, column, question, settings));
         }
     }
     return AlignedTable(std::move(rows), areNumbers);
+}
+
+/// The places that the list tells behind a column, so that all of ranges stands at its end.
+std::vector<const FoundPlaceKind*> PlacesBehind(FoundColumn column)
+{
+    std::vector<const FoundPlaceKind*> places;
+    for (const FoundPlaceKind& place : FoundPlaces())
+    {
+        const bool isOfMargin = place.Id == FoundPlace::Margin;
+        if (column == (isOfMargin ? FoundColumn::Margin : FoundColumn::MostCapacitance))
+        {
+            places.push_back(&place);
+        }
+    }
+    return places;
+}
+
+/// The conditions that tell a place, where the question asks for what occurs there.
+std::optional<std::array<float, 2>> ToldPlace(const FoundPart& part, const FoundPlaceKind& place,
+                                              const FindQuestion& question)
+{
+    return Applies(KindOf(place.Of).Needs, question) ? part.ConditionsAt(place.Id) : std::nullopt;
 }
 
 /// "effective capacitance [pF]".
@@ -104,20 +203,51 @@ std::string CsvHeading(const FoundColumnKind& column)
     return column.Unit.empty() ? heading : heading + " [" + std::string(column.Unit) + ']';
 }
 
-std::string Csv(std::span<const FoundPart> found, const FindQuestion& question, const CurveSettings& settings)
+/// "least at ambient [\u00B0C]".
+std::string CsvHeading(const FoundPlaceKind& place, Quantity condition)
 {
-    std::vector<ListRow> rows(1);
-    std::ranges::transform(FoundColumns(), std::back_inserter(rows[0]), CsvHeading);
-    for (const FoundPart& part : found)
+    return std::string(place.Key) + " at " + std::string(ShortNameOf(condition)) + " [" +
+           ShownUnitOf(condition) + ']';
+}
+
+ListRow CsvHeadings()
+{
+    ListRow headings;
+    for (const FoundColumnKind& column : FoundColumns())
     {
-        ListRow& row = rows.emplace_back();
-        for (const FoundColumnKind& column : FoundColumns())
+        headings.push_back(CsvHeading(column));
+        for (const auto* place : PlacesBehind(column.Id))
         {
-            const auto value = ToldValue(part, column, question);
-            row.push_back(IsName(column.Id) ? NameOf(part.Part(), column.Id, question.At.View, settings)
-                                            : (value ? NumberText(*value) : ""));
+            headings.push_back(CsvHeading(*place, place->Conditions[0]));
+            headings.push_back(CsvHeading(*place, place->Conditions[1]));
         }
     }
+    return headings;
+}
+
+ListRow CsvRow(const FoundPart& part, const FindQuestion& question, const CurveSettings& settings)
+{
+    ListRow row;
+    for (const FoundColumnKind& column : FoundColumns())
+    {
+        const auto value = ToldValue(part, column, question);
+        row.push_back(IsName(column.Id) ? NameOf(part.Part(), column.Id, question.At.View, settings)
+                                        : (value ? NumberText(*value) : ""));
+        for (const auto* place : PlacesBehind(column.Id))
+        {
+            const auto conditions = ToldPlace(part, *place, question);
+            row.push_back(conditions ? NumberText((*conditions)[0]) : "");
+            row.push_back(conditions ? NumberText((*conditions)[1]) : "");
+        }
+    }
+    return row;
+}
+
+std::string Csv(std::span<const FoundPart> found, const FindQuestion& question, const CurveSettings& settings)
+{
+    std::vector<ListRow> rows = {CsvHeadings()};
+    std::ranges::transform(found, std::back_inserter(rows),
+                           [&](const FoundPart& part) { return CsvRow(part, question, settings); });
     return CsvOf(rows);
 }
 
@@ -137,6 +267,27 @@ std::string JsonKey(const FoundColumnKind& column)
     return key;
 }
 
+nlohmann::ordered_json JsonNumber(float value)
+{
+    return nlohmann::json::parse(NumberText(value));
+}
+
+void AddPlaces(nlohmann::ordered_json& object, const FoundPart& part, FoundColumn column,
+               const FindQuestion& question)
+{
+    for (const auto* place : PlacesBehind(column))
+    {
+        auto& member = object[std::string(place->Key) + "At"];
+        if (const auto conditions = ToldPlace(part, *place, question))
+        {
+            for (std::size_t i = 0; i < conditions->size(); ++i)
+            {
+                member[std::string(ConditionKeyOf(place->Conditions[i]))] = JsonNumber((*conditions)[i]);
+            }
+        }
+    }
+}
+
 std::string Json(std::span<const FoundPart> found, const FindQuestion& question,
                  const CurveSettings& settings)
 {
@@ -153,8 +304,9 @@ std::string Json(std::span<const FoundPart> found, const FindQuestion& question,
             }
             else if (const auto value = ToldValue(part, column, question))
             {
-                member = nlohmann::json::parse(NumberText(*value));
+                member = JsonNumber(*value);
             }
+            AddPlaces(object, part, column.Id, question);
         }
         list.Add(object);
     }

@@ -145,18 +145,27 @@ static std::optional<int> ShiftOf(std::string_view unit, const UnitFamily& famil
     return std::nullopt;
 }
 
-std::string EntryInUnit(std::string_view typed, Quantity quantity, std::string_view key)
+std::string_view UnitTypedIn(std::string_view typed)
 {
     const auto text = WithoutBlanks(typed);
     const auto mantissa = MantissaLength(text);
     const auto exponent = ExponentLength(text.substr(mantissa));
     const auto unit = WithoutBlanks(text.substr(mantissa + exponent));
-    const bool hasUnit =
+    const bool isUnit =
         !unit.empty() && std::string_view(",.+-0123456789").find(unit[0]) == std::string::npos;
-    if (mantissa == 0 || !hasUnit)
+    return mantissa > 0 && isUnit ? unit : std::string_view();
+}
+
+std::string EntryInUnit(std::string_view typed, Quantity quantity, std::string_view key)
+{
+    const auto unit = UnitTypedIn(typed);
+    if (unit.empty())
     {
         return std::string(typed);
     }
+    const auto text = WithoutBlanks(typed);
+    const auto mantissa = MantissaLength(text);
+    const auto exponent = ExponentLength(text.substr(mantissa));
     const auto& family = FamilyOf(quantity);
     const auto shift = ShiftOf(unit, family);
     if (!shift)

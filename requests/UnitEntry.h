@@ -18,6 +18,10 @@
 /// Throws RequestError that bears the key for a unit that does not fit: "12V" has no unit of frequency.
 std::string EntryInUnit(std::string_view typed, Quantity quantity, std::string_view key = {});
 
+/// What stands behind the number: "kHz" of "300 kHz"; empty where nothing does, and for a text that does not
+/// begin with a number.
+std::string_view UnitTypedIn(std::string_view typed);
+
 /// The value as a number. Throws RequestError that bears the key for a unit that does not fit and for a text
 /// that is no number.
 float ValueInUnit(std::string_view typed, Quantity quantity, std::string_view key = {});

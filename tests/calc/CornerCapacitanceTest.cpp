@@ -14,7 +14,7 @@ namespace
 {
 constexpr auto view = CodeView::Eia;
 
-CapacitanceExtremes ExtremesIn(const PartRecord& part, const Box& box)
+CapacitanceExtremes ExtremesIn(const PartRecord& part, const ConditionBox& box)
 {
     return CapacitanceExtremesIn(part, box, view).value();
 }
@@ -25,7 +25,7 @@ double PicoFaradsAt(const PartRecord& part, double volts, double celsius)
 }
 
 /// By how much, of the nominal capacitance, any place of a grid lies outside the extremes.
-double BeatenBy(const PartRecord& part, const Box& box, int count)
+double BeatenBy(const PartRecord& part, const ConditionBox& box, int count)
 {
     const auto extremes = ExtremesIn(part, box);
     double beyond = 0;
@@ -43,7 +43,7 @@ double BeatenBy(const PartRecord& part, const Box& box, int count)
     return beyond / std::abs(part.Data[Value::NominalCapacitance]);
 }
 
-Box WholeBox(const PartRecord& part)
+ConditionBox WholeBox(const PartRecord& part)
 {
     const auto range = FindCharacteristic(part.Tcc[0])->RangeIn(view);
     return {{0, part.Data[Value::RatedVoltage]}, {range.MinC, range.MaxC}};
@@ -67,7 +67,7 @@ TEST(CornerCapacitance, IsBeatenNowhereInTheBoxesOfTheRange)
         {
             continue;
         }
-        const Box whole = WholeBox(part);
+        const ConditionBox whole = WholeBox(part);
         worst = std::max(worst, BeatenBy(part, whole, TriesAllParts() ? 401 : 101));
         for (int k = 0; k < 7; ++k)
         {
@@ -155,7 +155,7 @@ TEST_P(CornerCapacitanceOf, IsBeatenNowhereByPartsThatWiggle)
     for (int i = 0; i < (TriesAllParts() ? 300 : 60); ++i)
     {
         const PartRecord part = GetParam().Make(random);
-        const Box box{{0, 25}, {-30, 85}};
+        const ConditionBox box{{0, 25}, {-30, 85}};
         worst = std::max(worst, BeatenBy(part, box, TriesAllParts() ? 501 : 101));
         const auto least = ExtremesIn(part, box).Least.At;
         inside += least.BiasVolts > 0 && least.BiasVolts < 25 ? 1 : 0;
@@ -177,7 +177,7 @@ TEST(CornerCapacitance, OfAPointIsTheLawToTheBit)
         {
             continue;
         }
-        const Box whole = WholeBox(part);
+        const ConditionBox whole = WholeBox(part);
         const auto volts = static_cast<float>(Uniform(random, 0, whole.BiasVolts.High));
         const auto celsius = static_cast<float>(Uniform(random, whole.AmbientC.Low, whole.AmbientC.High));
         const auto extremes = ExtremesIn(part, {volts, celsius});

@@ -18,6 +18,9 @@ private Q_SLOTS:
     void TakesTheLeastBoard();
     void SharesTheRipple();
     void KeepsCapacitanceInTheCold();
+    void HoldsEverywhereInRanges_data();
+    void HoldsEverywhereInRanges();
+    void JudgesHeatingFromWhereItsDataBegin();
 
     void ListsNoPartThatFits();
     void FindsTheRowsOfSizesInEitherCode();
@@ -187,6 +190,66 @@ void FindTest::KeepsCapacitanceInTheCold()
 
 // ---- Lists ----
 
+// ---- The questions over ranges ----
+
+void FindTest::HoldsEverywhereInRanges_data()
+{
+    QTest::addColumn<QByteArray>("words");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<QString>("part");
+    QTest::addColumn<double>("leastMicrofarads");
+    QTest::addColumn<QString>("bias");
+    QTest::addColumn<QString>("ambient");
+    const auto row = [](const char* name, const QByteArray& words, int count, const char* part = "",
+                        double least = 0, const char* bias = "", const char* ambient = "")
+    { QTest::newRow(name) << words << count << part << least << bias << ambient; };
+    const QByteArray rail = "--dc-bias 10.8..13.2V --ambient -20..85C --max-size 1206 ";
+    row("what the point has, no part has everywhere", rail + "--tolerance 10 --min-capacitance 6uF", 0);
+    row("three have less", rail + "--tolerance 10 --min-capacitance 4uF", 3, "KTS31NB51C156MA01", 4.34,
+        "13.2", "85");
+    row("some bear a ripple at 85 degrees",
+        "--capacitance 10uF --dc-bias 10.8..13.2V --ambient 20..85C --frequency 270..330kHz --current "
+        "1.5Arms "
+        "--max-rise 20C",
+        8, "KTS31NR71C106KA01", 4.33, "13.2", "85");
+    row("one more in parallel", rail + "--tolerance 20 --parallel auto --min-capacitance 22uF", 134,
+        "KTS31NB51C226MA01", 4.598, "13.2", "85");
+    row("the ripple at the worst",
+        "--parallel auto --min-capacitance 10uF --dc-bias 10.8..13.2V --ambient 20..70C "
+        "--frequency 450..550kHz --current 4Arms --tolerance 10",
+        375, "KTS32XB51C336MA01", 10.48, "13.2", "70");
+    row("in the cold too",
+        "--dc-bias 4.75..5.25V --ambient -20..60C --tolerance 10 --min-left 70 --min-capacitance 0.7uF "
+        "--max-size 0603 --sort -effective-capacitance",
+        3, "KTS188B51E105MA01", 0.7188, "5.25", "60");
+}
+
+void FindTest::HoldsEverywhereInRanges()
+{
+    QFETCH(QByteArray, words);
+    QFETCH(int, count);
+    QFETCH(QString, part);
+    QFETCH(double, leastMicrofarads);
+    const Answer answer(words.constData());
+    QCOMPARE(answer.Count(), count);
+    if (count > 0)
+    {
+        QCOMPARE(answer.Part(0), part);
+        QVERIFY(IsAbout(answer.Value(0, "effective capacitance [pF]"), leastMicrofarads * 1e6, 0.005e6));
+        QTEST(answer.Text(0, "least at bias [V]"), "bias");
+        QTEST(answer.Text(0, "least at ambient [°C]"), "ambient");
+    }
+}
+
+void FindTest::JudgesHeatingFromWhereItsDataBegin()
+{
+    const Answer answer(
+        "KTS31NB51C226MA01 --dc-bias 12V±10% --ambient -20..65C --frequency 300kHz --current 1A");
+    QCOMPARE(answer.Count(), 1);
+    QCOMPARE(answer.Messages,
+             "tavik-cli: 1 part fits; rise and loads judged from 20 C up, where the heating data begins\n");
+}
+
 void FindTest::ListsNoPartThatFits()
 {
     const Run json = Find("KTS31NB51E106MA01 --dc-bias 26V --format json");
@@ -306,6 +369,19 @@ void FindTest::RefusesWithOneLine_data()
     row("unknown load", "--parameter force=1", 2,
         "parameter \"force\" is none of: current, voltage, effective-power, apparent-power");
     row("no load", "--parameter 5", 2, "--parameter \"5\": wants NAME=VALUE, for example current=1.5");
+    row("range from above", "--dc-bias 13.2..10.8", 1,
+        "--dc-bias 13.2..10.8: DC Bias Voltage 13.2..10.8: the first must not be above the second");
+    row("range below zero", "KTS31NB51E106MA01 --dc-bias -1..5V", 1,
+        "--dc-bias -1..5V: DC Bias Voltage is invalid! Please enter a Number from 0 to 25[V]");
+    row("range with an open end", "--ambient 20..", 2,
+        "--ambient \"20..\" is not a range: an end is left open");
+    row("range of a load", "--frequency 100 --current 1..2A", 2, "--current \"1..2A\" is not a number");
+    row("power in a range", "--frequency 100..200 --parameter effective-power=1", 2,
+        "--parameter effective-power takes no ranges of conditions: leave one out");
+    row("tolerance", "--tolerance 100", 1,
+        "--tolerance 100: Tolerance is invalid! Please enter a Number from 0 to 99 [%] down and from 0 to "
+        "999 "
+        "[%] up");
     row("order of what is not asked for", "--sort rise", 2, "key \"rise\" wants a load");
     row("order of ripple", "--frequency 100 --parameter voltage=1 --sort -ripple", 2,
         "key \"ripple\" wants a current");

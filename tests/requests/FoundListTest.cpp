@@ -94,15 +94,18 @@ TEST(FoundList, HasRippleForACurrentAlone)
 const std::string Headings =
     "part,size,characteristic,capacitance [pF],rated voltage [V],effective capacitance [pF],left [%],"
     "permitted rise [°C],loss resistance [mOhm],current [Arms],voltage [Vrms],apparent power [VA],"
-    "effective power [W],rise [°C],body [°C],ripple [Vrms],count,total [pF],area [mm²]\n";
+    "effective power [W],rise [°C],body [°C],ripple [Vrms],count,total [pF],area [mm²],most capacitance [pF],"
+    "least at bias [V],least at ambient [°C],most at bias [V],most at ambient [°C],rise at ambient [°C],"
+    "rise at frequency [kHz],margin [°C],margin at ambient [°C],margin at frequency [kHz]\n";
 
 TEST(FoundList, HasAllHeadingsInCsv)
 {
     EXPECT_EQ(Range().Text("csv", Plain),
-              Headings + "AB-1,1206,X7R,4700000,6.3,1234567.4,33.333332,,,,,,,,,,,,10.24\n");
-    EXPECT_EQ(Range().Text("csv", All, 2),
-              Headings +
-                  "\"OLD,2\",3216,R,4700000,6.3,1234567.4,33.333332,,2.5,,,,,,,0.1,2,2469134.8,10.24\n");
+              Headings + "AB-1,1206,X7R,4700000,6.3,1234567.4,33.333332,,,,,,,,,,,,10.24,,,,,,,,,,\n");
+    EXPECT_EQ(
+        Range().Text("csv", All, 2),
+        Headings +
+            "\"OLD,2\",3216,R,4700000,6.3,1234567.4,33.333332,,2.5,,,,,,,0.1,2,2469134.8,10.24,,,,,,,,,,\n");
 }
 
 TEST(FoundList, HasAllKeysInJson)
@@ -112,7 +115,39 @@ TEST(FoundList, HasAllKeysInJson)
               "\"ratedVoltage\":6.3,\"effectiveCapacitance\":1234567.4,\"left\":33.333332,"
               "\"permittedRise\":null,\"lossResistance\":null,\"current\":null,\"voltage\":null,"
               "\"apparentPower\":null,\"effectivePower\":null,\"rise\":null,\"body\":null,\"ripple\":null,"
-              "\"count\":null,\"total\":null,\"area\":10.24}\n]\n");
+              "\"count\":null,\"total\":null,\"area\":10.24,\"mostCapacitance\":null,\"leastAt\":null,"
+              "\"mostAt\":null,\"riseAt\":null,\"margin\":null,\"marginAt\":null}\n]\n");
+}
+
+TEST(FoundList, TellsTheWorstOfRangesWithItsPlaces)
+{
+    Range range;
+    FoundPart& found = range.Found[0];
+    found.Set(FoundColumn::MostCapacitance, 2000000);
+    found.SetPlace(FoundPlace::Least, {.BiasVolts = 13.2, .AmbientC = 85});
+    found.SetPlace(FoundPlace::Most, {.BiasVolts = 10.8, .AmbientC = 10.25});
+    found.Set(FoundColumn::Rise, 1.5);
+    found.SetPlace(FoundPlace::Rise, {.AmbientC = 85, .Hertz = 270e3});
+    FindQuestion question;
+    question.At.AmbientC = {-20, 85};
+    EXPECT_EQ(
+        range.Text("table", question),
+        "PART  SIZE  TCC  CAPACITANCE  RATED[V]    LEAST  AT         MOST  AT            LEFT[%]  AREA[mm2]\n"
+        "AB-1  1206  X7R        4.7uF       6.3  1.235uF  13.2V 85C   2uF  10.8V 10.25C    33.33      "
+        "10.24\n");
+    question.At.Kilohertz = {270, 330};
+    question.At.Load = AcLoad{.Kind = Quantity::Current, .Value = 1};
+    const auto table = range.Text("table", question);
+    EXPECT_NE(table.find("RISE[C]  AT          MARGIN[C]  AT  BODY[C]"), std::string::npos) << table;
+    EXPECT_NE(table.find("1.5  85C 270kHz          -  -"), std::string::npos) << table;
+    const auto json = range.Text("json", question);
+    EXPECT_NE(json.find("\"mostCapacitance\":2000000,\"leastAt\":{\"dcBias\":13.2,\"ambient\":85},"
+                        "\"mostAt\":{\"dcBias\":10.8,\"ambient\":10.25},"
+                        "\"riseAt\":{\"ambient\":85,\"frequency\":270},\"margin\":null,\"marginAt\":null}"),
+              std::string::npos)
+        << json;
+    EXPECT_NE(range.Text("csv", question).find("10.24,2000000,13.2,85,10.8,10.25,85,270,,,\n"),
+              std::string::npos);
 }
 
 TEST(FoundList, OfNothingIsHeadingsAndAnEmptyList)
