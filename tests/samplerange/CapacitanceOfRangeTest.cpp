@@ -34,8 +34,8 @@ TEST_P(TemperatureClassOfRange, HoldsWithoutBias)
             continue;
         }
         const auto chart = OverTemperature(*part, Change, 0);
-        EXPECT_EQ(chart.XData.front(), OperatingRange(*part).LowC);
-        EXPECT_FLOAT_EQ(chart.XData.back(), OperatingRange(*part).HighC);
+        EXPECT_EQ(chart.XData.front(), OperatingRange(*part).MinC);
+        EXPECT_FLOAT_EQ(chart.XData.back(), OperatingRange(*part).MaxC);
         EXPECT_GE(*std::ranges::min_element(chart.YData), GetParam().Lowest) << part->PartNum[0];
         EXPECT_LE(*std::ranges::max_element(chart.YData), GetParam().Highest) << part->PartNum[0];
     }

@@ -3,6 +3,7 @@
 /// The range as the program reads it, and its curves as the program plots them.
 
 #include "calc/ChartRecord.h"
+#include "partdata/Characteristic.h"
 #include "partdata/PartTable.h"
 
 #include <string>
@@ -28,12 +29,7 @@ bool IsPeaked(const PartRecord& part);
 /// A share of the rated voltage that the program accepts as bias.
 float BiasOf(const PartRecord& part, float share);
 
-/// Temperatures between which a characteristic is judged.
-struct TemperatureRange
-{
-    float LowC;
-    float HighC;
-};
+/// The temperatures between which a part's characteristic is judged.
 TemperatureRange OperatingRange(const PartRecord& part);
 
 /// Capacitance over temperature or over bias; `yAxis` is "Capacitance" or "Capacitance Change".
