@@ -17,7 +17,7 @@ using testing::ElementsAre;
 using testing::ElementsAreArray;
 using testing::Not;
 
-static constexpr std::array<std::string_view, 3> Characteristics = {"X7R", "X5R", "Y5V"};
+static constexpr std::array<std::string_view, 3> RangeCharacteristics = {"X7R", "X5R", "Y5V"};
 static constexpr std::array<std::string_view, 8> Sizes = {"0201", "0402", "0603", "0805",
                                                           "1206", "1210", "1812", "2220"};
 
@@ -91,7 +91,7 @@ TEST(PartList, IsInTheOrderOfItsLists)
 {
     const auto place = [](const PartRecord& part)
     {
-        return std::tuple(PlaceIn(Sizes, part.SizeCode[0]), PlaceIn(Characteristics, part.Tcc[0]),
+        return std::tuple(PlaceIn(Sizes, part.SizeCode[0]), PlaceIn(RangeCharacteristics, part.Tcc[0]),
                           part.Data[Value::Capacitance], part.Data[Value::RatedVoltage]);
     };
     const auto& parts = Range().PartData;
