@@ -13,6 +13,7 @@
 #include <QScreen>
 
 #include <cmath>
+#include <utility>
 
 /// Share of the screen that a view takes at first, and how small it may be then.
 static constexpr double ScreenShare = 0.7;
@@ -254,10 +255,30 @@ static QFont AtLeast(const QFont& desktop, double size)
     return font;
 }
 
-/// Sets all texts in the size that the window has room for.
+/// Sets all texts in the size that the window has room for: texts that the user has enlarged leave the plot
+/// half of the chart's width and height at least.
 void frmChartView::ShowTextSize()
 {
-    scene.Marks.TextSize = FittingTextSize(width(), height(), textScale);
+    const double usual = FittingTextSize(width(), height(), 1);
+    double size = FittingTextSize(width(), height(), textScale);
+    SetTextSize(size);
+    while (size > usual && !HasRoomyPlot())
+    {
+        size = std::max(usual, size - 1);
+        SetTextSize(size);
+    }
+}
+
+bool frmChartView::HasRoomyPlot() const
+{
+    const QSizeF whole = ui->picChartView->size();
+    const QSizeF plot = ui->picChartView->PlotShowing(scene.View.Range).size();
+    return 2 * plot.width() >= whole.width() && 2 * plot.height() >= whole.height();
+}
+
+void frmChartView::SetTextSize(double size)
+{
+    scene.Marks.TextSize = size;
     const QFont texts = ChartFont(scene.Marks.TextSize / chartFontSize);
     if (ui->grpValues->font().pixelSize() != texts.pixelSize())
     {
@@ -275,9 +296,15 @@ void frmChartView::ScaleText(double factor)
 {
     static constexpr double Smallest = 0.5;
     static constexpr double Largest = 3;
-    textScale = std::clamp(textScale * factor, Smallest, Largest);
-    chart.Host().Keep(Kept::TextScale, textScale);
+    const double former = std::exchange(textScale, std::clamp(textScale * factor, Smallest, Largest));
+    const double formerSize = scene.Marks.TextSize;
     ShowTextSize();
+    if (factor > 1 && scene.Marks.TextSize <= formerSize)
+    {
+        // Growing on unseen, it would take as many steps back before a text is smaller again.
+        textScale = former;
+    }
+    chart.Host().Keep(Kept::TextScale, textScale);
 }
 
 void frmChartView::mnuDashes_Click(bool dashed)

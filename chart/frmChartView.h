@@ -60,6 +60,8 @@ private:
     void Place();
     void KeepPlace();
     void ShowTextSize();
+    void SetTextSize(double size);
+    bool HasRoomyPlot() const;
     void FitTable();
     int NeededWidth(int column, bool shortHeadings) const;
     int WidthWith(bool shortHeadings);

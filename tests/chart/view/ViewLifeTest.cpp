@@ -27,6 +27,7 @@ private Q_SLOTS:
     void ItClosesWithItsChart();
     void OtherChartsMayClose();
     void EvenTheSmallestPlotIsNoFault();
+    void EnlargedTextsLeaveThePlotHalfOfTheChart();
     void PartsWithoutAModelReadADash();
     void NewLinesAndNumbersAreShown();
     void ARangeSetInTheChartIsTakenOver();
@@ -271,6 +272,30 @@ void ViewLifeTest::EvenTheSmallestPlotIsNoFault()
     QVERIFY(std::isfinite(desk.Cursors().Moving()));
     desk.Press(Qt::Key_0, Qt::ControlModifier);
     QVERIFY(desk.Scene().View.Range == before);
+}
+
+void ViewLifeTest::EnlargedTextsLeaveThePlotHalfOfTheChart()
+{
+    const ViewDesk desk(ViewDesk::Kind::RiseOverFrequency, 6);
+    desk.View()->resize(600, 400);
+    Settle();
+    const double usual = desk.Scene().Marks.TextSize;
+    for (int key = 0; key < 12; ++key)
+    {
+        desk.Press(Qt::Key_F8);
+    }
+    const double largest = desk.Scene().Marks.TextSize;
+    QVERIFY(largest > usual);
+    const QSizeF plot = desk.Canvas()->Chart().Plot().size();
+    QVERIFY2(2 * plot.width() >= desk.Canvas()->width(), qPrintable(QString::number(plot.width())));
+    QVERIFY2(2 * plot.height() >= desk.Canvas()->height(), qPrintable(QString::number(plot.height())));
+    // One step back is seen at once, and a larger window has room for more.
+    desk.Press(Qt::Key_F7);
+    QVERIFY(desk.Scene().Marks.TextSize < largest);
+    desk.Press(Qt::Key_F8);
+    desk.View()->resize(1600, 1000);
+    Settle();
+    QVERIFY(desk.Scene().Marks.TextSize > largest);
 }
 
 void ViewLifeTest::PartsWithoutAModelReadADash()
