@@ -1,0 +1,65 @@
+#pragma once
+
+/// How parts in parallel share a ripple current, how hot each runs, and what all together are.
+///
+/// Each piece is its capacitance and its loss resistance in series, Y = 1/(R + 1/(jωC)), by the laws of the
+/// charts at the bias and the ambient temperature; a piece bears I·|Y / sum of all Y|. There is no inductance
+/// in the data of parts. Several frequencies heat as the sum of squares.
+
+#include "simulation/BankQuestion.h"
+
+#include <vector>
+
+/// A piece at one frequency.
+struct PieceAtFrequency
+{
+    double Kilohertz = 0;
+    /// In mΩ.
+    double LossResistance = 0;
+    double Arms = 0;
+};
+
+/// One of the equal pieces. Currents of several frequencies are roots of the sum of squares.
+struct PieceOfBank
+{
+    double PicoFarads = 0;
+    double Arms = 0;
+    /// In °C, as what is permitted for the part and what is left of it.
+    double Rise = 0;
+    double PermittedRise = 0;
+    double Margin = 0;
+    /// The largest r.m.s. voltage on top of the bias, in V.
+    double VoltageBound = 0;
+    /// With this piece at the upper end of its tolerance and all others at the lower end of theirs.
+    double WorstArms = 0;
+    double WorstRise = 0;
+    /// In the order of the ripple currents.
+    std::vector<PieceAtFrequency> Frequencies;
+};
+
+/// The whole bank at one frequency.
+struct BankAtFrequency
+{
+    double Kilohertz = 0;
+    double PicoFarads = 0;
+    /// In mΩ.
+    double LossResistance = 0;
+    double Vrms = 0;
+};
+
+struct BankAnswer
+{
+    /// At the lowest frequency.
+    double PicoFarads = 0;
+    /// The sum of all capacitances at the lower ends of their tolerances.
+    double LeastPicoFarads = 0;
+    /// Root of the sum of squares.
+    double Vrms = 0;
+    /// In the order of the question.
+    std::vector<PieceOfBank> Pieces;
+    std::vector<BankAtFrequency> Frequencies;
+};
+
+/// The bank of a question that the rules let pass. Throws RunTimeError 5, 6 or 11 for a calculation that
+/// faults.
+BankAnswer BankOf(const BankQuestion& question);

@@ -1,0 +1,34 @@
+#pragma once
+
+/// What a bank should not be built for, though it can be worked out.
+
+#include "simulation/Bank.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+enum class BankWarningKind : std::uint8_t
+{
+    /// Hotter than permitted.
+    Rise,
+    /// Hotter than permitted within the tolerances only.
+    WorstRise,
+    /// More ripple voltage than the part may have on top of the bias.
+    Ripple,
+    /// An inductance of 1 nH, which no part is without, has a tenth of the piece's reactance or more.
+    Inductance,
+};
+
+struct BankWarning
+{
+    BankWarningKind Kind;
+    std::size_t Piece;
+    /// What is too large: °C, Vrms, or the lowest such frequency in kHz.
+    double Value;
+    /// What is permitted, in the same unit; 0 for a frequency.
+    double Permitted;
+};
+
+/// All warnings, piece by piece.
+std::vector<BankWarning> WarningsOf(const BankAnswer& answer);
