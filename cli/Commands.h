@@ -23,6 +23,9 @@ void AddChartCommand(CLI::App& app);
 /// "model": parts as models for circuit simulators.
 void AddModelCommand(CLI::App& app);
 
+/// "bank": how parts in parallel share a ripple current.
+void AddBankCommand(CLI::App& app);
+
 /// All commands, in the order in which the help tells them.
-inline constexpr std::array AllCommands = {AddPartsCommand, AddFindCommand,  AddCurveCommand,
-                                           AddChartCommand, AddModelCommand, AddDataCommands};
+inline constexpr std::array AllCommands = {AddPartsCommand, AddFindCommand, AddCurveCommand, AddChartCommand,
+                                           AddModelCommand, AddBankCommand, AddDataCommands};

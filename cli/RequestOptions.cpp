@@ -11,13 +11,13 @@
 
 /// An option whose text goes into a request as it stands.
 static void AddText(CLI::App& command, const std::string& name, std::optional<std::string>& target,
-                    const std::string& type, const std::string& help)
+                    const std::string& type, const std::string& help, const std::string& group = "Curve")
 {
     command
         .add_option_function<std::string>(
             name, [&target](const std::string& text) { target = text; }, help)
         ->type_name(type)
-        ->group("Curve");
+        ->group(group);
 }
 
 /// "DC bias voltage" of "DC Bias Voltage": small letters but for the first and for words of capitals.
@@ -62,6 +62,18 @@ void TakeParameter(CurveRequest& request, const std::string& text)
     request.Conditions[Condition::Parameter] = text.substr(equals + 1);
 }
 
+void AddConditionOptions(CLI::App& command, ConditionTexts& conditions, const std::string& group)
+{
+    for (const ConditionKind& kind : ConditionKinds())
+    {
+        if (kind.Measures)
+        {
+            AddText(command, "--" + OptionNameOf(kind.Key), conditions[kind.Id],
+                    std::string(KindOf(*kind.Measures).Unit), SentenceOf(kind.Name) + NoteOn(kind.Id), group);
+        }
+    }
+}
+
 void AddRequestOptions(CLI::App& command, CurveRequest& request)
 {
     command.add_option("--chart", request.Chart, ChoiceOf(ChartRequestNames()))
@@ -69,14 +81,7 @@ void AddRequestOptions(CLI::App& command, CurveRequest& request)
         ->group("Curve");
     AddText(command, "--x", request.X, "NAME", "X axis, for example \"Apparent Power\"");
     AddText(command, "--y", request.Y, "NAME", "Y axis, for example \"Capacitance Change\"");
-    for (const ConditionKind& kind : ConditionKinds())
-    {
-        if (kind.Measures)
-        {
-            AddText(command, "--" + OptionNameOf(kind.Key), request.Conditions[kind.Id],
-                    std::string(KindOf(*kind.Measures).Unit), SentenceOf(kind.Name) + NoteOn(kind.Id));
-        }
-    }
+    AddConditionOptions(command, request.Conditions, "Curve");
     command
         .add_option_function<std::string>(
             "--parameter", [&request](const std::string& text) { TakeParameter(request, text); },

@@ -16,6 +16,9 @@ class App;
 /// parsed.
 void AddRequestOptions(CLI::App& command, CurveRequest& request);
 
+/// Adds the conditions but for the parameter.
+void AddConditionOptions(CLI::App& command, ConditionTexts& conditions, const std::string& group);
+
 /// Adds --code.
 void AddCodeOption(CLI::App& command, CodeView& code);
 /// Adds --numbering.

@@ -74,7 +74,7 @@ _tavik_cli()
             if ! _tavik_cli_takes_value "$previous" <<< "$help"; then
                 words="$(_tavik_cli_commands <<< "$help") $(_tavik_cli_options <<< "$help")"
                 # All part numbers are too many to choose from.
-                if [[ $current == [!-]* ]] && grep -q '^  parts\{0,1\} PART' <<< "$help"; then
+                if [[ $current == [!-]* ]] && grep -q '^  \(parts\{0,1\} PART\|pieces PIECE\)' <<< "$help"; then
                     words+=" $(_tavik_cli_parts "$program" "$current" part)"
                 fi
             fi

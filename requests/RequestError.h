@@ -22,7 +22,7 @@ enum class RequestErrorKind
     NoData,       ///< the part has no data for the chart type
     Condition,    ///< a condition is refused by its rule
     AxisRange,    ///< an axis may not be set so
-    Line,         ///< the chart takes no such line
+    Line,         ///< the chart takes no such line, the bank no such piece
 };
 
 /// True when the request itself makes no sense, whatever the parts of the range are.

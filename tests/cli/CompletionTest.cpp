@@ -90,7 +90,7 @@ void CompletionTest::OffersAllOf(const QStringList& command)
 
 void CompletionTest::OffersAllThatTheHelpNames()
 {
-    QCOMPARE(CommandsOf({}), (QStringList{"parts", "find", "curve", "chart", "model", "data"}));
+    QCOMPARE(CommandsOf({}), (QStringList{"parts", "find", "curve", "chart", "model", "bank", "data"}));
     OffersAllOf({});
 }
 
@@ -120,6 +120,8 @@ void CompletionTest::OffersWhatFits_data()
     row("a part number", "curve KTS31NB51E106", "KTS31NB51E106MA01");
     row("part numbers of a chart", "chart KTS31NB51E106MA01 --code jis KTU155F01H102", "KTU155F01H102ZA01");
     row("part numbers of a model", "model KTS31NB51E106", "KTS31NB51E106MA01");
+    row("part numbers of a bank", "bank KTS31NB51E106MA01 --code jis KTU155F01H102", "KTU155F01H102ZA01");
+    row("formats of banks", "bank --format ", "table json");
     row("no part number as text of a list", "parts KTS31NB51E106", "");
     row("sizes", "parts --size 0", "0201 0402 0603 0805");
     row("sizes in the other code", "parts --code jis --size 0", "0603");

@@ -54,6 +54,7 @@ void GoldenTextsTest::Help_data()
     QTest::newRow("help-curve") << "curve --help";
     QTest::newRow("help-chart") << "chart --help";
     QTest::newRow("help-model") << "model --help";
+    QTest::newRow("help-bank") << "bank --help";
     QTest::newRow("help-data") << "data --help";
     QTest::newRow("help-data-check") << "data check --help";
     QTest::newRow("help-data-export") << "data export --help";
@@ -105,6 +106,11 @@ void GoldenTextsTest::Answers_data()
                                "--parameter current=2A --format csv");
     row("curve-json", "curve KTS31NB51E106MA01 --chart allowable-power --dc-bias 12V --format json");
     row("curve-loss-resistance", "curve KTS31NR71A226KA01 --chart loss-resistance --ambient 45C");
+    row("bank-table",
+        "bank KTS31NR71A226KA01 KTS188R71H104KA01 --dc-bias 5V --ambient 45C --frequency 300kHz "
+        "--current 6Arms");
+    row("bank-json", "bank KTS31NR71A226KA01 KTS31NB51A476MA01 --dc-bias 5V --format json --code jis "
+                     "--numbering previous --current 300kHz=4");
     row("curve-requests", "curve --requests -", someRequests);
 }
 

@@ -270,6 +270,20 @@ void ProgramTest::EndsBadInputWithOneLine_data()
     row("out of range", "curve KTS31NB51E106MA01 --chart allowable-power --dc-bias 25V", 1,
         "KTS31NB51E106MA01: --dc-bias 25V: DC Bias Voltage is invalid! Please enter a Number from 0 under "
         "25[V]");
+    row("a bank of nothing", "bank --current 1", 2, "bank wants a part number");
+    row("a bank without a current", "bank KTS31NB51E106MA01", 2, "bank wants --current");
+    row("a current without a frequency", "bank KTS31NB51E106MA01 --current 1", 1,
+        "--frequency is not given: Frequency is invalid! Please enter a Number from 10 to 1000 [kHz]");
+    row("a frequency beside those of currents", "bank KTS31NB51E106MA01 --frequency 100 --current 100=1", 2,
+        "--frequency stands beside the frequencies of currents: leave it out");
+    row("a current in a wrong unit", "bank KTS31NB51E106MA01 --current 100kHz=1V", 2,
+        "--current \"1V\": \"V\" is not the unit of a current");
+    row("a piece above its bias", "bank KTS32XR71E106KA01 KTS31NR71A226KA01 --dc-bias 11V --current 100=1", 1,
+        "KTS31NR71A226KA01: --dc-bias 11V: DC Bias Voltage is invalid! Please enter a Number from 0 to "
+        "10[V]");
+    row("a piece without heating data", "bank KTU033R71E101KA01 --current 100=1", 1,
+        "KTU033R71E101KA01: no heating data");
+    row("a bank of an unknown part", "bank KTS --current 100=1", 1, "KTS: there is no part \"KTS\"");
     row("no request file", "curve --requests /nowhere/requests", 1, "/nowhere/requests: cannot be read");
     row("a folder of requests", "curve --requests /", 1, "/: cannot be read");
     row("no data folder", "curve A --chart allowable-power --data /nowhere", 1,

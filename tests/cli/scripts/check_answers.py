@@ -48,6 +48,12 @@ found = [json.loads(run(["find", "--format", "json", *words.split()])) for words
 assert all(len(rows) > 100 for rows in found)
 answers += found + [json.loads(run(["find", "nothing", "--format", "json"]))]
 assert answers[-1] == []
+for words in (["KTS31NR71A226KA01 x2 tolerance=10", "KTS188R71H104KA01", "--frequency", "300", "--current", "6"],
+              [PART, "--current", "300kHz=4 1MHz=1.2", "--heat-resistance", "50", "--code", "jis"],
+              [PART, "--current", "1MHz=4"]):
+    answers.append(json.loads(run(["bank", *words, "--format", "json"])))
+    assert answers[-1]["bank"]["capacitance"] > 0
+assert answers[-1]["warnings"] and not answers[-3]["warnings"]
 for answer in answers:
     validator.validate(answer)
 # The sample pair is sound; cut short, it is not.
