@@ -107,7 +107,8 @@ Json Number(double value)
 
 Json ConditionsJson(const BankQuestion& question)
 {
-    Json conditions = {{"dcBias", Number(question.At.BiasVolts)}, {"ambient", Number(question.At.AmbientC)}};
+    Json conditions = {{"dcBias", Number(question.At.BiasVolts.High)},
+                       {"ambient", Number(question.At.AmbientC.High)}};
     if (question.At.HeatResistance)
     {
         conditions["heatResistance"] = Number(*question.At.HeatResistance);

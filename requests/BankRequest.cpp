@@ -225,13 +225,13 @@ static RequestError RefusalOf(const PieceRefusal& refusal, const BankRequest& re
     std::optional<RequestError> error;
     if (refusal.Reason == LeftOutReason::BiasTooHigh)
     {
-        error = judged(Condition::DCBias, question.At.BiasVolts, RefuseDCBias);
+        error = judged(Condition::DCBias, question.At.BiasVolts.High, RefuseDCBias);
     }
     if (refusal.Reason == LeftOutReason::TemperatureOutOfRange)
     {
         for (const ConditionRule rule : {RefuseHeatingAmbient, RefuseClassAmbient})
         {
-            error = error ? error : judged(Condition::AmbientTemperature, question.At.AmbientC, rule);
+            error = error ? error : judged(Condition::AmbientTemperature, question.At.AmbientC.High, rule);
         }
     }
     return error

@@ -115,11 +115,11 @@ PieceState StateOf(const BankPiece& piece, const OperatingPoint& at)
     constexpr double perPercent = 0.01;
     const PartRecord& part = *piece.Part;
     const float resistance = at.HeatResistance.value_or(part.Data[Value::HeatResistance]);
-    const auto point = CapacitancePointAt(part, at.BiasVolts, at.AmbientC, at.View);
+    const auto point = CapacitancePointAt(part, at.BiasVolts.High, at.AmbientC.High, at.View);
     return {.Count = piece.Count,
             .Farads = CheckedDivisor(point.value_or(CapacitancePoint{}).PicoFarads) * FaradsPerPicoFarad,
             .Tolerance = piece.TolerancePercent * perPercent,
-            .Model = PowerModelOf(part, at.BiasVolts, at.AmbientC, resistance)};
+            .Model = PowerModelOf(part, at.BiasVolts.High, at.AmbientC.High, resistance)};
 }
 
 /// Works out one bank.
@@ -163,10 +163,11 @@ private:
     PieceOfBank PieceAnswer(std::size_t piece) const
     {
         const PartRecord& part = *question.Pieces[piece].Part;
-        PieceOfBank answer{.PicoFarads = pieces[piece].Farads / FaradsPerPicoFarad,
-                           .PermittedRise = dTallow(part.Data[Value::UpperTemperature], question.At.AmbientC),
-                           .VoltageBound = AllowableVoltageBound(RatedVoltage(part), question.At.BiasVolts),
-                           .Frequencies = {}};
+        PieceOfBank answer{
+            .PicoFarads = pieces[piece].Farads / FaradsPerPicoFarad,
+            .PermittedRise = dTallow(part.Data[Value::UpperTemperature], question.At.AmbientC.High),
+            .VoltageBound = AllowableVoltageBound(RatedVoltage(part), question.At.BiasVolts.High),
+            .Frequencies = {}};
         for (std::size_t i = 0; i < sharings.size(); ++i)
         {
             AddFrequency(answer, piece, i);
