@@ -42,12 +42,15 @@ HelpBrowser::HelpBrowser(QWidget* parent)
 
 void HelpBrowser::ShowBook(const QString& file, const QString& html)
 {
+    const QUrl shown = source().adjusted(QUrl::RemoveFragment);
     book = QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath());
     bookHtml = html;
-    // Without this an unchanged name would not be read again.
-    clear();
-    setSource(QUrl());
     setSource(book, QTextDocument::HtmlResource);
+    if (shown == book)
+    {
+        // An unchanged name is not read again by itself.
+        reload();
+    }
     clearHistory();
 }
 

@@ -10,9 +10,12 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include <functional>
+
 static constexpr int ContentsCommand = 3;
 
-void ShowHelpContents(QWidget* owner, const QString& anchor)
+/// Opens the book and turns it to its page; `turn` is not called where there is no book.
+static void OpenBook(QWidget* owner, const std::function<void()>& turn)
 {
     const std::string_view book = HelpLanguageOf(mdlPublic.HelpLanguage).Book;
     clsComdlg help;
@@ -28,10 +31,20 @@ void ShowHelpContents(QWidget* owner, const QString& anchor)
     try
     {
         help.ShowHelp();
-        ShowHelpTopic(anchor);
+        turn();
     }
     catch (const RunTimeError& error)
     {
         ShowPlain(owner, QString::fromStdString(error.Description()));
     }
+}
+
+void ShowHelpContents(QWidget* owner, const QString& anchor)
+{
+    OpenBook(owner, [&] { ShowHelpTopic(anchor); });
+}
+
+void ShowHelpOnMessage(QWidget* owner, const QString& message)
+{
+    OpenBook(owner, [&] { ShowMessageInHelp(message); });
 }

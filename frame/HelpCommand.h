@@ -1,6 +1,6 @@
 #pragma once
 
-/// The help command of the main window.
+/// The help commands of the main window.
 
 #include <QString>
 
@@ -11,3 +11,6 @@ class QWidget;
 ///
 /// @param anchor the heading that is turned to; the book's start without one
 void ShowHelpContents(QWidget* owner, const QString& anchor = {});
+
+/// The same, at the line that explains a message; at the chapter of messages where none does.
+void ShowHelpOnMessage(QWidget* owner, const QString& message);

@@ -6,6 +6,7 @@
 #include "formkit/RunCommand.h"
 #include "frame/AskForPrinter.h"
 #include "frame/HelpBook.h"
+#include "frame/HelpTopics.h"
 #include "frame/PrintJob.h"
 #include "frame/PrinterHost.h"
 #include "frame/StartPlace.h"
@@ -16,6 +17,7 @@
 #include <QPrinter>
 #include <QShortcut>
 #include <QToolButton>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -47,6 +49,14 @@ void ShowHelpTopic(const QString& anchor)
     }
 }
 
+void ShowMessageInHelp(const QString& message)
+{
+    if (!viewer.isNull())
+    {
+        viewer->ShowMessage(message);
+    }
+}
+
 void CloseHelp()
 {
     delete viewer.data();
@@ -57,6 +67,8 @@ static constexpr int PageWidth = 660;
 static constexpr int TopicRole = Qt::UserRole;
 /// The chapter of a book that lists its words.
 static const QString IndexTopic = QStringLiteral("index");
+/// The chapter that explains messages.
+static const QString MessagesTopic = QStringLiteral("messages");
 
 frmHelp::frmHelp()
     : ui(std::make_unique<Ui::frmHelp>())
@@ -214,6 +226,16 @@ void frmHelp::ShowTopic(const QString& anchor)
     }
 }
 
+void frmHelp::ShowMessage(const QString& message)
+{
+    if (const auto place = PlaceOfMessage(*ui->txtBook->document(), message))
+    {
+        ui->txtBook->ShowTopic({.title = message, .level = 3, .anchor = {}, .position = *place});
+        return;
+    }
+    ShowTopic(MessagesTopic);
+}
+
 void frmHelp::GoHome()
 {
     ui->txtBook->moveCursor(QTextCursor::Start);
@@ -288,6 +310,37 @@ void frmHelp::CloseWith(QWidget* window)
         closing = new ClosesWith(*this, *window);
         printers = dynamic_cast<PrinterHost*>(window);
     }
+}
+
+/// A window in front of everything else lets those alone be used that belong to it. The viewer belongs to it
+/// for that time, without being its child: it is there when the other one goes.
+void frmHelp::StayUsable()
+{
+    QWindow* const front = QGuiApplication::modalWindow();
+    if (front == nullptr || front == windowHandle())
+    {
+        return;
+    }
+    windowHandle()->setTransientParent(front);
+    // Later, when the other one blocks nothing any more; another one may stand behind it.
+    connect(
+        front, &QWindow::visibleChanged, this,
+        [this]
+        {
+            windowHandle()->setTransientParent(nullptr);
+            StayUsable();
+        },
+        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+}
+
+bool frmHelp::event(QEvent* event)
+{
+    const bool done = QMainWindow::event(event);
+    if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::Show)
+    {
+        StayUsable();
+    }
+    return done;
 }
 
 bool frmHelp::eventFilter(QObject* watched, QEvent* event)

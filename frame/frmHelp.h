@@ -30,10 +30,14 @@ void OpenHelp(const QString& bookFile, QWidget* owner = nullptr, const QString& 
 /// Turns the book in the viewer to the heading of an anchor; nothing happens where there is none.
 void ShowHelpTopic(const QString& anchor);
 
+/// Turns the book in the viewer to the line that explains a message; to the chapter of messages where none
+/// does.
+void ShowMessageInHelp(const QString& message);
+
 /// Closes the viewer where it is open.
 void CloseHelp();
 
-/// The viewer's window; use `OpenHelp`.
+/// The viewer's window; use `OpenHelp`. It can be used while a message or a dialog waits for the user.
 class frmHelp : public QMainWindow
 {
     Q_OBJECT
@@ -45,10 +49,12 @@ public:
     void ShowBook(const QString& file, const QString& html);
     void SearchFor(const QString& text);
     void ShowTopic(const QString& anchor);
+    void ShowMessage(const QString& message);
     /// Closes this window together with `window`, and prints on its printer where it is a `PrinterHost`.
     void CloseWith(QWidget* window);
 
 protected:
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -63,6 +69,7 @@ private:
     void TellPlaces(int count);
     void Escape();
     void Print();
+    void StayUsable();
 
     std::unique_ptr<Ui::frmHelp> ui;
     std::vector<HelpTopic> topics;

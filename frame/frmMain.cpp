@@ -6,6 +6,7 @@
 #include "formkit/HourglassScope.h"
 #include "formkit/Messages.h"
 #include "frame/HelpCommand.h"
+#include "frame/HelpKey.h"
 #include "frame/StartPlace.h"
 #include "frame/frmAbout.h"
 #include "partdata/OneLine.h"
@@ -44,6 +45,7 @@ frmMain::frmMain(QWidget* parent)
     ui->mdiArea->addSubWindow(library);
     forms = {this, library};
     formKeys = new FormAccessKeys(*library, this);
+    new HelpKey(*this);
     Connect();
     WatchChildArea();
     PlaceSelectionForm();

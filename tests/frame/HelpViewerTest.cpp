@@ -261,6 +261,17 @@ void HelpViewerTest::ThereIsOneViewer()
     QCOMPARE(Page(Viewers().constFirst())->toPlainText(), "b");
 }
 
+void HelpViewerTest::ABookIsReadAgain()
+{
+    Open(TwoChapters());
+    ShowHelpTopic("two");
+    const auto* const viewer = Open(TwoChapters());
+    QCOMPARE(FirstLine(viewer), "Capacitors");
+    QVERIFY(Page(viewer)->toPlainText().contains("Bias once more"));
+    Open("<html><body>afresh</body></html>");
+    QCOMPARE(Page(viewer)->toPlainText(), "afresh");
+}
+
 void HelpViewerTest::TheViewerClosesWithItsOwner()
 {
     const auto book = MakeBook("book.hlp", TwoChapters());

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void PicturesComeFromTheFolderOfTheBook();
     void PrintWithoutPrinterIsTold();
     void ThereIsOneViewer();
+    void ABookIsReadAgain();
     void TheViewerClosesWithItsOwner();
 
     void BadBooksAreErrors_data();
