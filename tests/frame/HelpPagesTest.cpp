@@ -43,6 +43,8 @@ private Q_SLOTS:
     void SpacePressesATool();
     void TheIndexIsReachedAndLeadsOn_data();
     void TheIndexIsReachedAndLeadsOn();
+    void EveryLinkLeadsSomewhere_data();
+    void EveryLinkLeadsSomewhere();
 };
 
 static frmHelp* Viewer()
@@ -354,7 +356,7 @@ void HelpPagesTest::TabReachesEveryToolAndTheAnswer()
     }
     QCOMPARE(wanted.size(), 4 + 10);
     // The page has links of its own on the way.
-    for (int i = 0; i < 200 && !wanted.isEmpty(); ++i)
+    for (int i = 0; i < 1000 && !wanted.isEmpty(); ++i)
     {
         wanted.removeAll(QApplication::focusWidget());
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
@@ -407,6 +409,35 @@ void HelpPagesTest::TheIndexIsReachedAndLeadsOn()
     QCOMPARE(address, "#loads-snubber");
     Q_EMIT page->anchorClicked(QUrl(address));
     QTRY_VERIFY2(FirstLine(viewer).contains(word, Qt::CaseInsensitive), qPrintable(FirstLine(viewer)));
+}
+
+void HelpPagesTest::EveryLinkLeadsSomewhere_data()
+{
+    AddBooks();
+}
+
+/// As the page knows its links and places, not as the book spells them.
+void HelpPagesTest::EveryLinkLeadsSomewhere()
+{
+    QFETCH(QByteArray, book);
+    QSet<QString> places;
+    QSet<QString> links;
+    const auto* const document = Page(OpenBook(book))->document();
+    for (auto block = document->begin(); block.isValid(); block = block.next())
+    {
+        for (auto part = block.begin(); part != block.end(); ++part)
+        {
+            const auto format = part.fragment().charFormat();
+            for (const QString& name : format.anchorNames())
+            {
+                places << '#' + name;
+            }
+            links << format.anchorHref();
+        }
+    }
+    links.remove(QString());
+    QVERIFY(links.size() > 80);
+    QVERIFY2(places.contains(links), qPrintable(QStringList((links - places).values()).join(' ')));
 }
 
 QTEST_MAIN(HelpPagesTest)
