@@ -1,8 +1,8 @@
 #include "samplerange/CapacitanceLaws.h"
 
 #include "calc/ChangePolynomial.h"
-#include "samplerange/Fitting.h"
-#include "samplerange/PlainMath.h"
+#include "fit/LeastSquares.h"
+#include "fit/PlainMath.h"
 
 #include <vector>
 

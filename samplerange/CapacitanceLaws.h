@@ -2,13 +2,8 @@
 
 /// Capacitance coefficients of a part, fitted to how its ceramic behaves.
 
-#include "partdata/PartRecord.h"
+#include "fit/PartValues.h"
 #include "samplerange/PartDesign.h"
-
-#include <array>
-
-/// The values of a part while they are worked out, in data-file order.
-using PartValues = std::array<double, DataValues>;
 
 /// Writes the bias polynomial.
 void WriteBiasLaw(const PartDesign& part, PartValues& data);

@@ -1,6 +1,6 @@
 #include "samplerange/PartDesign.h"
 
-#include "samplerange/PlainMath.h"
+#include "fit/PlainMath.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "samplerange/Fitting.h"
+#include "fit/LeastSquares.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -7,9 +7,6 @@
 
 namespace
 {
-
-using Row = std::vector<double>;
-
 /// Solves a square system by elimination with row exchange; the last column is the right-hand side.
 Row Solve(std::vector<Row> rows)
 {
@@ -43,8 +40,8 @@ Row Solve(std::vector<Row> rows)
     return solution;
 }
 
-/// Weighted least squares: `basis[i]` holds the basis functions at sample i, `target[i]` the value there.
-Row LeastSquares(const std::vector<Row>& basis, const Row& target, const Row& weights)
+/// The sums that weighted least squares solves for, a row for each basis function.
+std::vector<Row> NormalRows(const std::vector<Row>& basis, const Row& target, const Row& weights)
 {
     const std::size_t n = basis.front().size();
     std::vector<Row> normal(n, Row(n + 1, 0.0));
@@ -59,7 +56,36 @@ Row LeastSquares(const std::vector<Row>& basis, const Row& target, const Row& we
             normal[j][n] += weights[i] * basis[i][j] * target[i];
         }
     }
-    return Solve(std::move(normal));
+    return normal;
+}
+
+/// The rows and columns of a choice of basis functions, and the right-hand side.
+std::vector<Row> ChosenRows(const std::vector<Row>& normal, const std::vector<std::size_t>& chosen)
+{
+    std::vector<Row> rows;
+    for (const auto j : chosen)
+    {
+        Row& row = rows.emplace_back();
+        for (const auto k : chosen)
+        {
+            row.push_back(normal[j][k]);
+        }
+        row.push_back(normal[j].back());
+    }
+    return rows;
+}
+
+std::vector<std::size_t> BitsOf(std::size_t choice)
+{
+    std::vector<std::size_t> bits;
+    for (std::size_t k = 0; (choice >> k) != 0; ++k)
+    {
+        if ((choice >> k) & 1U)
+        {
+            bits.push_back(k);
+        }
+    }
+    return bits;
 }
 
 double Dot(const Row& a, const Row& b)
@@ -72,11 +98,34 @@ double Dot(const Row& a, const Row& b)
     return sum;
 }
 
-constexpr std::size_t Slopes = 6;
+/// Sum of the squared misses of some basis functions; stops beyond `most`, which says enough.
+double ErrorOf(const std::vector<Row>& basis, const Row& target, const std::vector<std::size_t>& chosen,
+               const Row& weights, double most)
+{
+    double error = 0;
+    for (std::size_t i = 0; i < basis.size() && error < most; ++i)
+    {
+        double value = 0;
+        for (std::size_t k = 0; k < chosen.size(); ++k)
+        {
+            value += basis[i][chosen[k]] * weights[k];
+        }
+        const double miss = value - target[i];
+        error += miss * miss;
+    }
+    return error;
+}
+
+constexpr std::size_t Slopes = RisingPieces;
 constexpr std::array<double, Slopes> Binomial5 = {1, 5, 10, 10, 5, 1};
 
-/// Bernstein polynomial k of degree 5, integrated from 0, as a polynomial through the origin. Its slope is
-/// nowhere negative on 0 to 1, so any sum with weights that are not negative never falls.
+} // namespace
+
+Row LeastSquares(const std::vector<Row>& basis, const Row& target, const Row& weights)
+{
+    return Solve(NormalRows(basis, target, weights));
+}
+
 OriginPolynomial RisingPiece(std::size_t k)
 {
     OriginPolynomial piece{};
@@ -90,7 +139,7 @@ OriginPolynomial RisingPiece(std::size_t k)
     return piece;
 }
 
-double Value(const OriginPolynomial& polynomial, double x)
+double ValueOf(const OriginPolynomial& polynomial, double x)
 {
     double value = 0;
     for (std::size_t j = polynomial.size(); j-- > 0;)
@@ -100,52 +149,33 @@ double Value(const OriginPolynomial& polynomial, double x)
     return value;
 }
 
-/// The weights, none negative, that bring the basis closest to the target: the best of all choices of
-/// weights that are allowed to differ from 0.
 Row NonNegativeLeastSquares(const std::vector<Row>& basis, const Row& target)
 {
     const std::size_t n = basis.front().size();
-    const Row even(basis.size(), 1.0);
+    const auto normal = NormalRows(basis, target, Row(basis.size(), 1.0));
     Row best(n, 0.0);
     double bestError = Dot(target, target);
     for (std::size_t choice = 1; choice < (std::size_t{1} << n); ++choice)
     {
-        std::vector<Row> chosen(basis.size());
-        for (std::size_t i = 0; i < basis.size(); ++i)
-        {
-            for (std::size_t k = 0; k < n; ++k)
-            {
-                if ((choice >> k) & 1U)
-                {
-                    chosen[i].push_back(basis[i][k]);
-                }
-            }
-        }
-        const Row weights = LeastSquares(chosen, target, even);
+        const auto chosen = BitsOf(choice);
+        const Row weights = Solve(ChosenRows(normal, chosen));
         if (std::ranges::any_of(weights, [](double w) { return w < 0; }))
         {
             continue;
         }
-        double error = 0;
-        for (std::size_t i = 0; i < basis.size(); ++i)
-        {
-            const double miss = Dot(chosen[i], weights) - target[i];
-            error += miss * miss;
-        }
+        const double error = ErrorOf(basis, target, chosen, weights, bestError);
         if (error < bestError)
         {
             bestError = error;
-            auto next = weights.begin();
-            for (std::size_t k = 0; k < n; ++k)
+            std::ranges::fill(best, 0.0);
+            for (std::size_t k = 0; k < chosen.size(); ++k)
             {
-                best[k] = ((choice >> k) & 1U) ? *next++ : 0.0;
+                best[chosen[k]] = weights[k];
             }
         }
     }
     return best;
 }
-
-} // namespace
 
 OriginPolynomial FitThroughOrigin(std::span<const Sample> samples)
 {
@@ -185,7 +215,7 @@ OriginPolynomial FitRising(std::span<const Sample> samples, double leastSlope)
         double least = 0;
         for (std::size_t k = 0; k < Slopes; ++k)
         {
-            values.push_back(Value(pieces[k], sample.X));
+            values.push_back(ValueOf(pieces[k], sample.X));
             least += k > 0 ? leastSlope * values.back() : 0;
         }
         basis.push_back(std::move(values));

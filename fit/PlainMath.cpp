@@ -1,4 +1,4 @@
-#include "samplerange/PlainMath.h"
+#include "fit/PlainMath.h"
 
 namespace
 {

@@ -1,6 +1,6 @@
 /// The machine-independent powers and logarithms, against the mathematics library.
 
-#include "samplerange/PlainMath.h"
+#include "fit/PlainMath.h"
 
 #include <gtest/gtest.h>
 

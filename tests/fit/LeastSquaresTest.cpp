@@ -1,6 +1,6 @@
 /// The fits, on curves whose best fit is known.
 
-#include "samplerange/Fitting.h"
+#include "fit/LeastSquares.h"
 
 #include <gtest/gtest.h>
 
@@ -15,16 +15,6 @@ template <class Law> static std::vector<Sample> SamplesOf(Law law, double from, 
         samples.push_back({x, law(x)});
     }
     return samples;
-}
-
-static double Value(const OriginPolynomial& curve, double x)
-{
-    double value = 0;
-    for (std::size_t j = 0; j < curve.size(); ++j)
-    {
-        value += curve[j] * std::pow(x, static_cast<double>(j + 1));
-    }
-    return value;
 }
 
 TEST(FitThroughOrigin, FindsThePolynomialItWasGiven)
@@ -46,7 +36,7 @@ TEST(FitRising, FindsARisingPolynomialItWasGiven)
     const auto fitted = FitRising(SamplesOf(law, 0, 1), 0);
     for (double x = 0; x <= 1; x += 0.05)
     {
-        EXPECT_NEAR(Value(fitted, x), law(x), 1e-9) << x;
+        EXPECT_NEAR(ValueOf(fitted, x), law(x), 1e-9) << x;
     }
 }
 
@@ -55,9 +45,9 @@ TEST(FitRising, NeverFallsEvenWhereTheSamplesDo)
     const auto fitted = FitRising(SamplesOf([](double x) { return std::sin(4 * x); }, 0, 1), 0);
     for (double x = 0; x < 0.995; x += 0.005)
     {
-        EXPECT_GE(Value(fitted, x + 0.005), Value(fitted, x) - 1e-12) << x;
+        EXPECT_GE(ValueOf(fitted, x + 0.005), ValueOf(fitted, x) - 1e-12) << x;
     }
-    EXPECT_GT(Value(fitted, 1), 0.3);
+    EXPECT_GT(ValueOf(fitted, 1), 0.3);
 }
 
 TEST(FitRising, KeepsTheLeastSlopeOnAPlateau)
@@ -66,7 +56,7 @@ TEST(FitRising, KeepsTheLeastSlopeOnAPlateau)
     const auto fitted = FitRising(SamplesOf(plateau, 0, 1), 0.1);
     for (double x = 0.3; x < 0.995; x += 0.01)
     {
-        EXPECT_GT((Value(fitted, x + 0.01) - Value(fitted, x)) / 0.01, 0.08) << x;
+        EXPECT_GT((ValueOf(fitted, x + 0.01) - ValueOf(fitted, x)) / 0.01, 0.08) << x;
     }
 }
 
