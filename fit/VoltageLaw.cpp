@@ -9,8 +9,6 @@
 namespace
 {
 constexpr double Pi = 3.14159265358979323846;
-/// The rise at which current and voltage law agree.
-constexpr double AgreedRise = 20;
 constexpr double ReferenceC = 20;
 constexpr double RoomC = 25;
 /// The voltage law keeps this common logarithm below the current law, to the safe side.
@@ -31,7 +29,7 @@ VoltageOverFrequency FitVoltage(const VoltageLawSource& source)
     {
         const double decade = 4 + 2.0 * i / steps;
         const double hz = PlainPower(10, decade);
-        const double amperes = std::sqrt(AgreedRise / (source.SeriesOhms(hz, 0) * source.HeatResistance));
+        const double amperes = std::sqrt(AgreedRiseC / (source.SeriesOhms(hz, 0) * source.HeatResistance));
         samples.push_back({PlainLog10(decade), PlainLog10(amperes / (2 * Pi * hz * source.Farads))});
     }
     const auto line = FitSmallestDeviation(samples, 2);
@@ -75,28 +73,40 @@ Warmth WarmthOf(const VoltageLawSource& source)
 }
 } // namespace
 
-void WriteVoltageLaw(const VoltageLawSource& source, PartValues& data)
+VoltageTerms VoltageTermsOf(const VoltageLawSource& source)
 {
-    // Rise = 10^E·(log10 f)^S2·V^S3 is 20 °C at log10 V = Constant - Slope·log10 log10 f - bias + warmth:
-    // S2 = S3·Slope and E = log10 20 - S3·(Constant - bias + warmth), up to squares of r and t.
     const auto voltage = FitVoltage(source);
     const auto bias = FitBias(source);
     const auto warmth = WarmthOf(source);
-    const auto& exponent = source.Exponent;
+    return {.Constant = voltage.Constant - bias[0] - SafeSide,
+            .Slope = voltage.Slope,
+            .BiasLinear = bias[1],
+            .BiasSquare = bias[2],
+            .WarmthLinear = warmth.Linear,
+            .WarmthSquare = warmth.Square,
+            .Exponent = source.Exponent};
+}
 
-    const double constant = voltage.Constant - bias[0] - SafeSide;
-    data[Value::Amplitude] = PlainLog10(AgreedRise) - exponent.AtRest * constant;
-    data[Value::AmplitudeR] = exponent.AtRest * bias[1] - exponent.WithBias * constant;
-    data[Value::AmplitudeR2] = exponent.AtRest * bias[2] + exponent.WithBias * bias[1];
-    data[Value::AmplitudeT] = -exponent.AtRest * warmth.Linear - exponent.WithTemperature * constant;
-    data[Value::AmplitudeTR] = -exponent.WithBias * warmth.Linear + exponent.WithTemperature * bias[1];
-    data[Value::AmplitudeTR2] = exponent.WithTemperature * bias[2];
-    data[Value::AmplitudeT2] = -exponent.AtRest * warmth.Square - exponent.WithTemperature * warmth.Linear;
-    data[Value::AmplitudeT2R] = -exponent.WithBias * warmth.Square;
+void WriteVoltageTerms(const VoltageTerms& terms, PartValues& data)
+{
+    // Rise = 10^E·(log10 f)^S2·V^S3 is 20 °C at log10 V = Constant - Slope·log10 log10 f - bias + warmth:
+    // S2 = S3·Slope and E = log10 20 - S3·(Constant - bias + warmth), up to squares of r and t.
+    const auto& exponent = terms.Exponent;
+    data[Value::Amplitude] = PlainLog10(AgreedRiseC) - exponent.AtRest * terms.Constant;
+    data[Value::AmplitudeR] = exponent.AtRest * terms.BiasLinear - exponent.WithBias * terms.Constant;
+    data[Value::AmplitudeR2] = exponent.AtRest * terms.BiasSquare + exponent.WithBias * terms.BiasLinear;
+    data[Value::AmplitudeT] =
+        -exponent.AtRest * terms.WarmthLinear - exponent.WithTemperature * terms.Constant;
+    data[Value::AmplitudeTR] =
+        -exponent.WithBias * terms.WarmthLinear + exponent.WithTemperature * terms.BiasLinear;
+    data[Value::AmplitudeTR2] = exponent.WithTemperature * terms.BiasSquare;
+    data[Value::AmplitudeT2] =
+        -exponent.AtRest * terms.WarmthSquare - exponent.WithTemperature * terms.WarmthLinear;
+    data[Value::AmplitudeT2R] = -exponent.WithBias * terms.WarmthSquare;
 
-    data[Value::FrequencyExponent] = exponent.AtRest * voltage.Slope;
-    data[Value::FrequencyExponentR] = exponent.WithBias * voltage.Slope;
-    data[Value::FrequencyExponentT] = exponent.WithTemperature * voltage.Slope;
+    data[Value::FrequencyExponent] = exponent.AtRest * terms.Slope;
+    data[Value::FrequencyExponentR] = exponent.WithBias * terms.Slope;
+    data[Value::FrequencyExponentT] = exponent.WithTemperature * terms.Slope;
 
     data[Value::VoltageExponent] = exponent.AtRest;
     data[Value::VoltageExponentR] = exponent.WithBias;

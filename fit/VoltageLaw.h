@@ -6,6 +6,9 @@
 
 #include <functional>
 
+/// The rise in °C at which current and voltage law agree.
+inline constexpr double AgreedRiseC = 20;
+
 /// The exponent of the voltage: AtRest + r·WithBias + t·WithTemperature, r the bias over the rated voltage,
 /// t = T - 20.
 struct VoltageExponent
@@ -33,7 +36,22 @@ struct VoltageLawSource
     double HighestC;
 };
 
-/// Writes the three surfaces of the voltage law. At every frequency and bias it gives the voltage that
-/// belongs to the current of 20 °C rise, current/(2πfC) with C at that bias; its power of log10 f comes as
-/// close to that as it can over 10 kHz to 1 MHz.
-void WriteVoltageLaw(const VoltageLawSource& source, PartValues& data);
+/// The voltage law: the common logarithm of the voltage of 20 °C rise is Constant - Slope·log10(log10 f) less
+/// the bias terms in r and r², plus the warmth terms in t and t².
+struct VoltageTerms
+{
+    double Constant;
+    double Slope;
+    double BiasLinear;
+    double BiasSquare;
+    double WarmthLinear;
+    double WarmthSquare;
+    VoltageExponent Exponent;
+};
+
+/// At every frequency and bias the voltage that belongs to the current of 20 °C rise, current/(2πfC) with C
+/// at that bias; its power of log10 f comes as close to that as it can over 10 kHz to 1 MHz.
+VoltageTerms VoltageTermsOf(const VoltageLawSource& source);
+
+/// Writes the three surfaces of the voltage law.
+void WriteVoltageTerms(const VoltageTerms& terms, PartValues& data);

@@ -68,13 +68,14 @@ void WriteHeatingLaws(const PartDesign& part, PartValues& data)
     const auto resistance = SeriesResistanceOf(part);
     WriteCurrentLaw(resistance, part.Size->HeatResistance, data);
 
-    WriteVoltageLaw({.SeriesOhms = [&](double hz, double t) { return resistance.At(hz, t); },
-                     .HeatResistance = part.Size->HeatResistance,
-                     .Farads = static_cast<double>(part.Picofarads) * 1e-12,
-                     .OverBias = [&](double r) { return BiasedCapacitance(data, r * part.Volts); },
-                     .OverTemperature = [&](double celsius) { return RelativeCapacitance(part, celsius); },
-                     .Exponent = ExponentOf(part),
-                     .HighestC = HighestOperatingC(part)},
-                    data);
+    WriteVoltageTerms(
+        VoltageTermsOf({.SeriesOhms = [&](double hz, double t) { return resistance.At(hz, t); },
+                        .HeatResistance = part.Size->HeatResistance,
+                        .Farads = static_cast<double>(part.Picofarads) * 1e-12,
+                        .OverBias = [&](double r) { return BiasedCapacitance(data, r * part.Volts); },
+                        .OverTemperature = [&](double celsius) { return RelativeCapacitance(part, celsius); },
+                        .Exponent = ExponentOf(part),
+                        .HighestC = HighestOperatingC(part)}),
+        data);
     data[Value::UpperTemperature] = HighestOperatingC(part);
 }
