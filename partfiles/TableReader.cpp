@@ -4,7 +4,7 @@
 #include "partdata/OneLine.h"
 #include "partdata/PartTable.h"
 #include "partdata/Windows1252.h"
-#include "partfiles/Finding.h"
+#include "partfiles/NameCell.h"
 #include "partfiles/PairBytes.h"
 #include "partfiles/TableForm.h"
 #include "separatedtext/TableCells.h"
@@ -189,6 +189,7 @@ void TableReader::ReadPart(const TableRow& row)
         return;
     }
     TablePart part;
+    part.Line = row.Line;
     for (std::size_t i = 0; i < row.Cells.size(); ++i)
     {
         if (columns[i] < NameFields)
@@ -211,16 +212,10 @@ void TableReader::ReadPart(const TableRow& row)
 
 void TableReader::ReadName(const TableRow& row, std::size_t cell, std::string& name)
 {
-    const auto& shown = row.Cells[cell];
-    name = Windows1252FromUtf8(shown);
-    if (Utf8FromWindows1252(name) != shown)
+    const auto fault = ReadNameCell(row.Cells[cell], name);
+    if (!fault.empty())
     {
-        Add(row.Line, ColumnHeading(columns[cell]), shown, "a character that the index file cannot hold");
-    }
-    else if (!CanStandInIndex(name))
-    {
-        Add(row.Line, ColumnHeading(columns[cell]), shown,
-            "a quote beside a comma, a line break, or at the start or blanks at an end cannot be written");
+        Add(row.Line, ColumnHeading(columns[cell]), row.Cells[cell], fault);
     }
 }
 
@@ -237,6 +232,16 @@ void TableReader::CheckUnique(const TableRow& row, const TablePart& part)
     }
 }
 } // namespace
+
+PartRecord RecordOf(const TablePart& part)
+{
+    PartRecord record;
+    std::copy_n(part.Names.begin(), PartNumForms, record.PartNum.begin());
+    std::copy_n(part.Names.begin() + FirstSizeCodeField, CodeForms, record.SizeCode.begin());
+    std::copy_n(part.Names.begin() + FirstTccField, CodeForms, record.Tcc.begin());
+    record.Data = part.Data;
+    return record;
+}
 
 TableContents ReadTable(std::string_view text)
 {

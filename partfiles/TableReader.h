@@ -18,9 +18,14 @@ inline constexpr std::uintmax_t MostTableBytes = std::uintmax_t{256} << 20;
 /// One part of a table; the names are in the code page of the index file.
 struct TablePart
 {
+    /// Where it stands in its table, counted from 1.
+    std::size_t Line = 0;
     std::array<std::string, NameFields> Names;
     std::array<float, DataValues> Data{};
 };
+
+/// The part as the charts take it; its texts are views into the row.
+PartRecord RecordOf(const TablePart& part);
 
 /// One thing that is wrong with a table.
 struct TableError
@@ -39,7 +44,7 @@ struct TableContents
 {
     std::vector<TablePart> Parts;
     /// What ends the line of headings: CRLF or LF.
-    std::string LineEnd;
+    std::string LineEnd = "\n";
     std::vector<TableError> Errors;
 };
 
