@@ -1,15 +1,14 @@
 #include "cli/DataBuild.h"
 
 #include "cli/Command.h"
+#include "cli/DataTables.h"
 #include "cli/FileArguments.h"
 #include "cli/Terminal.h"
-#include "files/InputFile.h"
 #include "files/PartLoading.h"
 #include "partdata/RunTimeError.h"
 #include "partfiles/PairCheck.h"
 #include "partfiles/PairReplacement.h"
 #include "partfiles/TablePair.h"
-#include "partfiles/TableReader.h"
 
 #include <iostream>
 
@@ -17,41 +16,6 @@ namespace fs = std::filesystem;
 
 namespace
 {
-std::string ReadStandardInput(std::uintmax_t most)
-{
-    std::string text;
-    std::string piece(std::size_t{64} * 1024, '\0');
-    while (std::cin.read(piece.data(), static_cast<std::streamsize>(piece.size())) || std::cin.gcount() > 0)
-    {
-        text.append(piece, 0, static_cast<std::size_t>(std::cin.gcount()));
-        if (text.size() > most)
-        {
-            throw RunTimeError(RunTimeErrorNumber::Overflow).At("standard input");
-        }
-    }
-    if (std::cin.bad())
-    {
-        throw Failure("standard input: cannot be read");
-    }
-    return text;
-}
-
-/// The table without faults.
-TableContents TableOf(const std::string& file)
-{
-    const bool isStream = file == StandardStream;
-    auto table = ReadTable(isStream ? ReadStandardInput(MostTableBytes) : ReadBytes(file, MostTableBytes));
-    if (table.Errors.empty())
-    {
-        return table;
-    }
-    for (const auto& error : table.Errors)
-    {
-        TellLine(LineOf(error, isStream ? "standard input" : file));
-    }
-    throw Failure("");
-}
-
 /// FOLDER/NAME without the extension that may have been typed.
 fs::path NameOfPair(fs::path output)
 {

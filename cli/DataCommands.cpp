@@ -2,6 +2,7 @@
 
 #include "cli/Command.h"
 #include "cli/DataBuild.h"
+#include "cli/DataFit.h"
 #include "cli/FileArguments.h"
 #include "cli/Output.h"
 #include "cli/Terminal.h"
@@ -180,4 +181,6 @@ void AddDataCommands(CLI::App& app)
     AddCheck(data);
     AddExport(data);
     AddBuild(data);
+    AddFitCommand(data);
+    AddMergeCommand(data);
 }

@@ -45,7 +45,7 @@ enum Index : Eigen::Index
     ExponentBelow,
     ExponentAbove,
     FirstLossRoot,
-    PeakByBias = FirstLossRoot + static_cast<Eigen::Index>(RisingPieces),
+    ShiftByBias = FirstLossRoot + static_cast<Eigen::Index>(RisingPieces),
     DecayBelowByBias,
     DecayAboveByBias,
     Count,
@@ -56,9 +56,10 @@ constexpr Eigen::Index Pulls = 3;
 
 double BellAt(const PeakFit& fit, double r, double celsius)
 {
-    const double distance = celsius - fit.PeakC - fit.PeakByBias * r * r;
+    const double distance = celsius - fit.PeakC - fit.ByBias.Shift * r * r;
     const auto& flank = distance >= 0 ? fit.Above : fit.Below;
-    const double decay = flank.Decay * (1 + flank.DecayByBias * r * r);
+    const double byBias = distance >= 0 ? fit.ByBias.DecayAbove : fit.ByBias.DecayBelow;
+    const double decay = flank.Decay * (1 + byBias * r * r);
     return std::exp(-decay * std::pow(std::abs(distance) / FlankC, flank.Exponent));
 }
 
@@ -67,17 +68,18 @@ double AmplitudeOf(const PeakFit& fit)
     return -fit.Offset / BellAt(fit, 0, ReferenceC);
 }
 
-PeakFit FitOf(const Vector& unknown)
+/// The bell of the unknowns, of which there are fewer where it is known what bias does to it.
+PeakFit FitOf(const Vector& unknown, const std::optional<PeakByBias>& known)
 {
-    const bool overBias = unknown.size() == Unknown::Count;
     PeakFit fit{.Picofarads = std::exp(unknown[Unknown::LogPicofarads]),
                 .Offset = std::exp(unknown[Unknown::LogRest]) - Percent,
                 .PeakC = unknown[Unknown::PeakC],
-                .PeakByBias = overBias ? unknown[Unknown::PeakByBias] : 0,
-                .Below = {std::exp(unknown[Unknown::LogDecayBelow]), unknown[Unknown::ExponentBelow],
-                          overBias ? unknown[Unknown::DecayBelowByBias] : 0},
-                .Above = {std::exp(unknown[Unknown::LogDecayAbove]), unknown[Unknown::ExponentAbove],
-                          overBias ? unknown[Unknown::DecayAboveByBias] : 0}};
+                .Below = {std::exp(unknown[Unknown::LogDecayBelow]), unknown[Unknown::ExponentBelow]},
+                .Above = {std::exp(unknown[Unknown::LogDecayAbove]), unknown[Unknown::ExponentAbove]},
+                .ByBias = known
+                              ? *known
+                              : PeakByBias{unknown[Unknown::ShiftByBias], unknown[Unknown::DecayBelowByBias],
+                                           unknown[Unknown::DecayAboveByBias]}};
     for (std::size_t k = 0; k < RisingPieces; ++k)
     {
         const double root = unknown[Unknown::FirstLossRoot + static_cast<Eigen::Index>(k)];
@@ -91,12 +93,13 @@ struct Misses
 {
     std::span<const MeasuredCapacitance> Points;
     double RatedVolts;
+    const std::optional<PeakByBias>& Known;
 
     Eigen::Index values() const { return static_cast<Eigen::Index>(Points.size()) + Pulls; }
 
     int operator()(const Vector& unknown, Vector& misses) const
     {
-        const auto fit = FitOf(unknown);
+        const auto fit = FitOf(unknown, Known);
         const double amplitude = AmplitudeOf(fit);
         Eigen::Index i = 0;
         for (const auto& point : Points)
@@ -138,9 +141,9 @@ double FirstPicofarads(std::span<const MeasuredCapacitance> points)
     return nearest->Picofarads;
 }
 
-Vector FirstGuess(std::span<const MeasuredCapacitance> points, bool overBias, double peakC)
+Vector FirstGuess(std::span<const MeasuredCapacitance> points, bool isKnown, double peakC)
 {
-    Vector guess = Vector::Zero(overBias ? Eigen::Index{Unknown::Count} : Eigen::Index{Unknown::PeakByBias});
+    Vector guess = Vector::Zero(isKnown ? Eigen::Index{Unknown::ShiftByBias} : Eigen::Index{Unknown::Count});
     guess[Unknown::LogPicofarads] = std::log(FirstPicofarads(points));
     guess[Unknown::LogRest] = UsualRest.Value;
     guess[Unknown::PeakC] = peakC;
@@ -151,10 +154,9 @@ Vector FirstGuess(std::span<const MeasuredCapacitance> points, bool overBias, do
 }
 
 /// Brings the unknowns to the least misses; returns the sum of their squares, infinite where there are none.
-double Improve(std::span<const MeasuredCapacitance> points, double ratedVolts, Vector& unknown)
+double Improve(const Misses& misses, Vector& unknown)
 {
-    Misses misses{points, ratedVolts};
-    Eigen::LevenbergMarquardt<Misses> optimiser(misses);
+    Eigen::LevenbergMarquardt<const Misses> optimiser(misses);
     optimiser.parameters.ftol = optimiser.parameters.xtol = 1e-10;
     optimiser.minimize(unknown);
     const double cost = optimiser.fvec.squaredNorm();
@@ -174,33 +176,34 @@ std::vector<MeasuredCapacitance> Some(std::span<const MeasuredCapacitance> point
 }
 } // namespace
 
-PeakFit FitPeak(std::span<const MeasuredCapacitance> points, double ratedVolts, bool overBias)
+PeakFit FitPeak(std::span<const MeasuredCapacitance> points, double ratedVolts,
+                const std::optional<PeakByBias>& known)
 {
     const auto some = Some(points);
     Vector best;
     double bestCost = std::numeric_limits<double>::infinity();
     for (const double peakC : FirstPeaks)
     {
-        auto unknown = FirstGuess(points, overBias, peakC);
-        const double cost = Improve(some, ratedVolts, unknown);
+        auto unknown = FirstGuess(points, known.has_value(), peakC);
+        const double cost = Improve({some, ratedVolts, known}, unknown);
         if (best.size() == 0 || cost < bestCost)
         {
             best = unknown;
             bestCost = cost;
         }
     }
-    const double cost = some.size() == points.size() ? bestCost : Improve(points, ratedVolts, best);
-    auto fit = FitOf(best);
+    const double cost = some.size() == points.size() ? bestCost : Improve({points, ratedVolts, known}, best);
+    auto fit = FitOf(best, known);
     fit.Cost = cost;
     return fit;
 }
 
 /// Writes one side of the bell; its decay counts per °C^n.
-static void WriteFlank(const PeakFlank& flank, double ratedVolts, ValueGroup decay, Value::Index exponent,
-                       PartValues& data)
+static void WriteFlank(const PeakFlank& flank, double changePerSquare, ValueGroup decay,
+                       Value::Index exponent, PartValues& data)
 {
     const double perC = flank.Decay / std::pow(FlankC, flank.Exponent);
-    data[decay.First] = perC * flank.DecayByBias / (ratedVolts * ratedVolts);
+    data[decay.First] = perC * changePerSquare;
     data[decay.Last] = perC;
     data[exponent] = flank.Exponent;
 }
@@ -211,8 +214,9 @@ void WritePeakFit(const PeakFit& fit, double ratedVolts, PartValues& data)
     WriteBiasLoss(fit.Losses, ratedVolts, data);
     data[Value::PeakAmplitude] = AmplitudeOf(fit);
     data[Value::PeakOffset] = fit.Offset;
-    data[Value::PeakTemperatureV2] = fit.PeakByBias / (ratedVolts * ratedVolts);
+    const double square = ratedVolts * ratedVolts;
+    data[Value::PeakTemperatureV2] = fit.ByBias.Shift / square;
     data[Value::PeakTemperature] = fit.PeakC;
-    WriteFlank(fit.Below, ratedVolts, Values::DecayBelow, Value::ExponentBelow, data);
-    WriteFlank(fit.Above, ratedVolts, Values::DecayAbove, Value::ExponentAbove, data);
+    WriteFlank(fit.Below, fit.ByBias.DecayBelow / square, Values::DecayBelow, Value::ExponentBelow, data);
+    WriteFlank(fit.Above, fit.ByBias.DecayAbove / square, Values::DecayAbove, Value::ExponentAbove, data);
 }

@@ -69,6 +69,7 @@ _tavik_cli()
         --capacitance) words=$(_tavik_cli_parts "$program" "" "capacitance [pF]" | _tavik_cli_with_prefix) ;;
         --rated-voltage | --min-rated-voltage) words=$(_tavik_cli_parts "$program" "" "rated voltage [V]" | sed 's/$/V/') ;;
         --parallel) words=auto ;;
+        --like) [[ -z $current ]] || words=$(_tavik_cli_parts "$program" "$current" part) ;;
         --parameter) words=$(_tavik_cli_names --parameter <<< "$help" | sed 's/[a-z-]\{1,\}/&=/g') ;;
         *)
             if ! _tavik_cli_takes_value "$previous" <<< "$help"; then

@@ -59,6 +59,8 @@ void GoldenTextsTest::Help_data()
     QTest::newRow("help-data-check") << "data check --help";
     QTest::newRow("help-data-export") << "data export --help";
     QTest::newRow("help-data-build") << "data build --help";
+    QTest::newRow("help-data-fit") << "data fit --help";
+    QTest::newRow("help-data-merge") << "data merge --help";
 }
 
 void GoldenTextsTest::Help()

@@ -184,6 +184,7 @@ void InstallTest::BringsWhatDesktopAndShellsLookFor_data()
     QTest::newRow("share/doc/tavik/copyright") << QByteArray("MIT License");
     QTest::newRow("share/doc/tavik/answers.md") << QByteArray("# Answers for scripts");
     QTest::newRow("share/doc/tavik/answers.schema.json") << QByteArray("{");
+    QTest::newRow("share/doc/tavik/own-parts.md") << QByteArray("# ");
     QTest::newRow("share/doc/tavik/part-files.md") << QByteArray("# ");
     QTest::newRow("share/doc/tavik/part-table.md") << QByteArray("# The part table");
     QTest::newRow("share/doc/tavik/banks.md") << QByteArray("# Banks of parts");

@@ -46,37 +46,37 @@ std::vector<MeasuredCapacitance> Points(bool overBias)
 
 TEST(FitPeak, FindsTheBellItWasGiven)
 {
-    const auto fit = FitPeak(Points(true), RatedVolts, true);
+    const auto fit = FitPeak(Points(true), RatedVolts, std::nullopt);
     EXPECT_LT(fit.Cost, 0.01);
     EXPECT_NEAR(fit.PeakC, 15, 0.1);
-    EXPECT_NEAR(fit.PeakByBias, 4, 0.5);
+    EXPECT_NEAR(fit.ByBias.Shift, 4, 0.5);
     EXPECT_NEAR(fit.Below.Decay, 1.2, 0.02);
     EXPECT_NEAR(fit.Above.Decay, 1.5, 0.02);
     EXPECT_NEAR(fit.Offset, Offset, 0.5);
     EXPECT_NEAR(LossAt(fit.Losses, 1), 0.6, 0.005);
 }
 
-TEST(FitPeak, LeavesThePeakInPlaceUnlessToldBySweepsUnderBias)
+TEST(FitPeak, TakesWhatBiasDoesAsKnown)
 {
-    const auto fit = FitPeak(Points(false), RatedVolts, false);
-    EXPECT_EQ(fit.PeakByBias, 0);
-    EXPECT_EQ(fit.Below.DecayByBias, 0);
+    const auto fit = FitPeak(Points(false), RatedVolts, PeakByBias{});
+    EXPECT_EQ(fit.ByBias.Shift, 0);
+    EXPECT_EQ(fit.ByBias.DecayBelow, 0);
     EXPECT_NEAR(fit.PeakC, 15, 0.2);
 }
 
 TEST(WritePeakFit, ChangesNothingAtRoomTemperatureWithoutBias)
 {
     PartValues data{};
-    const auto fit = FitPeak(Points(true), RatedVolts, true);
+    const auto fit = FitPeak(Points(true), RatedVolts, std::nullopt);
     WritePeakFit(fit, RatedVolts, data);
     const double distance = 25 - data[Value::PeakTemperature];
     EXPECT_NEAR(data[Value::PeakAmplitude] *
                         std::exp(-data[Value::DecayAbove] * std::pow(distance, data[Value::ExponentAbove])) +
                     data[Value::PeakOffset],
                 0, 1e-9);
-    EXPECT_NEAR(data[Value::PeakTemperatureV2] * RatedVolts * RatedVolts, fit.PeakByBias, 1e-9);
+    EXPECT_NEAR(data[Value::PeakTemperatureV2] * RatedVolts * RatedVolts, fit.ByBias.Shift, 1e-9);
     EXPECT_NEAR(data[Value::DecayBelowV2] * RatedVolts * RatedVolts,
-                data[Value::DecayBelow] * fit.Below.DecayByBias, 1e-9);
+                data[Value::DecayBelow] * fit.ByBias.DecayBelow, 1e-9);
     EXPECT_EQ(data[Value::PeakTemperatureV], 0);
 }
 } // namespace

@@ -65,6 +65,10 @@ with tempfile.TemporaryDirectory() as folder:
 assert report["findings"]
 validator.validate(report)
 
+fit = json.loads(run(["data", "fit", str(pathlib.Path(schema_file).parent / "own-parts.csv"), "--format", "json"]))
+assert fit["points"] and fit["groups"] and fit["warnings"]
+validator.validate(fit)
+
 met = {answer["error"]["code"] for answer in answers if "error" in answer}
 named = set(schema["definitions"]["failure"]["properties"]["error"]["properties"]["code"]["enum"])
 assert named - met == {"calculation"} and met <= named, named ^ met

@@ -1,0 +1,163 @@
+#include "cli/DataFit.h"
+
+#include "cli/Command.h"
+#include "cli/DataTables.h"
+#include "cli/FileArguments.h"
+#include "cli/FitJson.h"
+#include "cli/Output.h"
+#include "cli/Terminal.h"
+#include "ownparts/FitText.h"
+#include "ownparts/MeasurementReader.h"
+#include "ownparts/PartFit.h"
+#include "partfiles/TableMerge.h"
+#include "requests/CurveRequest.h"
+
+#include <CLI/CLI.hpp>
+
+namespace
+{
+/// What the user typed.
+struct FitOptions
+{
+    std::string Measurements;
+    std::string Like;
+    std::string DataFolder;
+    std::string Table;
+    bool Replace = false;
+    std::string Output;
+    std::string Format = "text";
+};
+
+struct MergeOptions
+{
+    std::vector<std::string> Tables;
+    std::string Output;
+};
+
+void RefuseStreams(const FitOptions& options)
+{
+    if (options.Output == StandardStream)
+    {
+        throw UsageError("--output: standard output has the report; name a file");
+    }
+    if (options.Replace && options.Table.empty())
+    {
+        throw UsageError("--replace wants --table");
+    }
+    if (!options.Output.empty())
+    {
+        RefuseInputAsOutput(options.Output, {options.Measurements});
+    }
+}
+
+MeasuredPart MeasuredOf(const FitOptions& options, const TableContents& table)
+{
+    const auto jisSizeOf = [&table](const std::string& eia)
+    {
+        const auto isOfSize = [&eia](const TablePart& part) { return part.Names[FirstSizeCodeField] == eia; };
+        const auto found = std::ranges::find_if(table.Parts, isOfSize);
+        return found == table.Parts.end() ? std::string() : found->Names[FirstSizeCodeField + 1];
+    };
+    auto file = ReadMeasurements(ReadInput(options.Measurements, MostMeasurementBytes), jisSizeOf);
+    RefuseFaults(file.Errors, options.Measurements);
+    return std::move(file.Part);
+}
+
+FittedPart FittedOf(const FitOptions& options, const TableContents& table)
+{
+    auto measured = MeasuredOf(options, table);
+    PartFit fit;
+    if (options.Like.empty())
+    {
+        fit = FitPart(std::move(measured), nullptr);
+    }
+    else
+    {
+        const auto parts = LoadParts(options.DataFolder);
+        fit = FitPart(std::move(measured), &parts.PartData[FindPart(parts, options.Like, 0)]);
+    }
+    for (const auto& refusal : fit.Refusals)
+    {
+        TellLine(ShownName(options.Measurements) + ": " + refusal);
+    }
+    if (!fit.Refusals.empty())
+    {
+        throw Failure("");
+    }
+    return std::move(fit.Fitted);
+}
+
+void Fit(const FitOptions& options)
+{
+    RefuseStreams(options);
+    NamedTable table{ShownName(options.Table), {}};
+    if (!options.Table.empty())
+    {
+        table.Table = TableOf(options.Table);
+    }
+    const auto fitted = FittedOf(options, table.Table);
+    if (const auto refusal = PutIntoTable(table, fitted.Row, options.Replace))
+    {
+        throw Failure(*refusal);
+    }
+    Output report("");
+    report.Write(options.Format == "json" ? JsonOf(fitted) : TextOf(fitted));
+    if (!options.Output.empty())
+    {
+        Output output(options.Output);
+        output.Write(TextOf(table.Table));
+        output.Finish();
+    }
+    report.Finish();
+}
+
+void Merge(const MergeOptions& options)
+{
+    RefuseInputAsOutput(options.Output, {options.Tables.begin(), options.Tables.end()});
+    std::vector<NamedTable> tables;
+    for (const auto& file : options.Tables)
+    {
+        tables.push_back({ShownName(file), TableOf(file)});
+    }
+    const auto merged = MergeTables(tables);
+    for (const auto& fault : merged.Faults)
+    {
+        TellLine(fault);
+    }
+    if (!merged.Faults.empty())
+    {
+        throw Failure("");
+    }
+    Output output(options.Output);
+    output.Write(TextOf(merged.Table));
+    output.Finish();
+}
+} // namespace
+
+void AddFitCommand(CLI::App& data)
+{
+    const auto options = std::make_shared<FitOptions>();
+    auto& fit = *data.add_subcommand("fit", "Make a row of a part table from measurements");
+    TakeInputFile(*fit.add_option("MEASUREMENTS", options->Measurements,
+                                  "What was measured on a part (CSV), or - for standard input")
+                       ->required());
+    fit.add_option("--like", options->Like, "Part that lends what was not measured")->type_name("PART");
+    AddDataOption(fit, options->DataFolder);
+    TakeInputFile(*fit.add_option("--table", options->Table, "Table of parts that the row is put into"));
+    fit.add_flag("--replace", options->Replace, "Put the row in the place of the part of its number");
+    TakeOutputFile(*fit.add_option("--output", options->Output,
+                                   "File for the table (left out: nothing but the report)"));
+    fit.add_option("--format", options->Format, "Form of the report: text or json")
+        ->check(CLI::IsMember({"text", "json"}));
+    fit.callback([options] { Fit(*options); });
+}
+
+void AddMergeCommand(CLI::App& data)
+{
+    const auto options = std::make_shared<MergeOptions>();
+    auto& merge = *data.add_subcommand("merge", "Make one part table of several");
+    TakeInputFile(*merge.add_option("TABLES", options->Tables, "Tables of parts")->required());
+    TakeOutputFile(*merge.add_option("--output", options->Output, "File for the table (-: standard output)")
+                        ->required());
+    merge.callback([options] { Merge(*options); });
+}
