@@ -2,7 +2,7 @@
 
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-qpa-plugins libgl-dev
     libcli11-dev nlohmann-json3-dev libeigen3-dev libgmock-dev fonts-liberation fontconfig)
-test_packages=(clang-format python3-jsonschema xvfb xdotool xclip poppler-utils cups zsh fish)
+test_packages=(clang-format python3-jsonschema xvfb xdotool xclip poppler-utils cups zsh fish ngspice)
 fuzz_packages=(clang libclang-rt-dev)
 coverage_packages=(gcovr)
 valgrind_packages=(valgrind)

@@ -1,26 +1,13 @@
 #include "simulation/ChargeLaw.h"
 
 #include "calc/Capacitance.h"
+#include "tests/simulation/ChargeOfCharts.h"
 #include "tests/simulation/ModelParts.h"
 
 #include <gtest/gtest.h>
 
 namespace
 {
-/// The integral of the charts' capacitance over the bias, over the nominal one, by Simpson's rule in steps
-/// that leave the places where it is rough to either side.
-double ChargeOfCharts(const PartRecord& part, double volts, double celsius)
-{
-    constexpr int steps = 20000;
-    double sum = 0;
-    for (int i = 0; i <= steps; ++i)
-    {
-        const int weight = i == 0 || i == steps ? 1 : i % 2 == 0 ? 2 : 4;
-        sum += weight * CapacitancePointAt(part, volts * i / steps, celsius, CodeView::Eia)->PicoFarads;
-    }
-    return sum * volts / (3 * steps) / double{part.Data[Value::NominalCapacitance]};
-}
-
 TEST(ChargeLaw, OfAStraightLossOfCapacitanceIsAParabola)
 {
     const auto charge = ChargeLawAt(ProductPart(), 25);
