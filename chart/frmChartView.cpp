@@ -173,6 +173,7 @@ void frmChartView::ShowLines()
         scene.Chosen.reset();
     }
     scene.Hovered.reset();
+    OfferModel();
     NoteUnseenLines();
     ForgetWidths();
     ShowTable();

@@ -114,7 +114,11 @@ private:
     void mnuCopyTable_Click();
     void mnuSavePicture_Click();
     void mnuSaveData_Click();
+    void mnuSaveModel_Click();
     void mnuPrint_Click();
+    /// The part of the chosen line; those of all lines where none is chosen.
+    std::vector<std::int32_t> PartsOfChosen() const;
+    void OfferModel();
     void CopyPicture();
     ViewSheet Sheet() const;
     QString Caption() const;

@@ -35,6 +35,7 @@ void frmChartView::ConnectCommands()
     };
     connectOutput(ui->mnuSavePicture, &frmChartView::mnuSavePicture_Click);
     connectOutput(ui->mnuSaveData, &frmChartView::mnuSaveData_Click);
+    connectOutput(ui->mnuSaveModel, &frmChartView::mnuSaveModel_Click);
     connectOutput(ui->mnuCopy, &frmChartView::mnuCopy_Click);
     connectTo(ui->mnuPrint, &frmChartView::mnuPrint_Click);
     connectTo(ui->mnuCopyTable, &frmChartView::mnuCopyTable_Click);
@@ -45,7 +46,7 @@ void frmChartView::ConnectCommands()
     ui->mnuZoomIn->setShortcuts(
         {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal, Qt::CTRL | Qt::SHIFT | Qt::Key_Plus});
     addActions({ui->mnuZoomIn, ui->mnuZoomOut, ui->mnuTextSmaller, ui->mnuTextLarger, ui->mnuFullScreen,
-                ui->mnuCopyTable, ui->mnuHelp, ui->mnuClose});
+                ui->mnuSaveModel, ui->mnuCopyTable, ui->mnuHelp, ui->mnuClose});
 }
 
 // ---- The range ----
@@ -186,7 +187,8 @@ void frmChartView::ShowMenu(const QPoint& at)
     menu->addSeparator();
     menu->addActions({ui->mnuDashes, ui->mnuTextSmaller, ui->mnuTextLarger, ui->mnuFullScreen});
     menu->addSeparator();
-    menu->addActions({ui->mnuSavePicture, ui->mnuSaveData, ui->mnuCopy, ui->mnuCopyTable, ui->mnuPrint});
+    menu->addActions(
+        {ui->mnuSavePicture, ui->mnuSaveData, ui->mnuSaveModel, ui->mnuCopy, ui->mnuCopyTable, ui->mnuPrint});
     menu->addSeparator();
     menu->addActions({ui->mnuUseConditions, ui->mnuHelp, ui->mnuClose});
     menu->popup(at);

@@ -3,6 +3,7 @@
 #include "calc/ChartKinds.h"
 #include "calc/CurveCsv.h"
 #include "chart/LineTable.h"
+#include "chart/ModelSaving.h"
 #include "chart/drawing/PictureFile.h"
 #include "chart/drawing/ViewSheet.h"
 #include "chart/frmPicture.h"
@@ -179,6 +180,34 @@ void frmChartView::mnuSaveData_Click()
     }
     WriteWholeFile(path->toStdString(), CurvesCsv(lines));
     ShowTold(QStringLiteral("Data saved to ") + *path, false);
+}
+
+std::vector<std::int32_t> frmChartView::PartsOfChosen() const
+{
+    if (scene.Chosen)
+    {
+        return {scene.Lines.at(static_cast<std::size_t>(*scene.Chosen)).Line.PartDataIndex};
+    }
+    std::vector<std::int32_t> parts;
+    for (const ViewedLine& line : scene.Lines)
+    {
+        parts.push_back(line.Line.PartDataIndex);
+    }
+    return parts;
+}
+
+void frmChartView::OfferModel()
+{
+    ui->mnuSaveModel->setEnabled(CanHaveModel(PartsOfChosen()));
+}
+
+void frmChartView::mnuSaveModel_Click()
+{
+    const auto ask = [this](const FileQuestion& question) { return chart.Host().AskForFile(this, question); };
+    if (const auto path = SaveModels(this, PartsOfChosen(), ask))
+    {
+        ShowTold(QStringLiteral("Model saved to ") + *path, false);
+    }
 }
 
 /// Prints the picture as large as the page has room for it.

@@ -143,6 +143,7 @@ void frmChartView::Choose(std::optional<int> line)
     if (line != scene.Chosen)
     {
         scene.Chosen = line;
+        OfferModel();
         TellReader();
         ui->picChartView->ShowOverlay();
     }

@@ -91,6 +91,7 @@ private:
     void ShowChartMenuByKey();
     void ShowPaneMenu(std::size_t pane, const QPoint& at);
     void UseConditionsOf(std::size_t line);
+    void SaveModelOf(std::size_t line);
     void InitChartWindow(const ChartKey& chart);
     void ColorPane(std::size_t index, const QColor& color);
     void Draw(const AxisRange& range);

@@ -3,13 +3,18 @@
 #include "app/PartNumText.h"
 #include "app/mdlPublic.h"
 #include "chart/FittedLabel.h"
+#include "chart/ModelSaving.h"
 #include "chart/frmChartView.h"
+#include "formkit/RunCommand.h"
 #include "ui_frmGraph.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QShortcut>
+
+/// How long the status bar tells where a model is, unless the pointer reads the chart out before.
+static constexpr int SavedShownMs = 10000;
 
 // ---- The chart view ----
 
@@ -72,6 +77,25 @@ void frmGraph::UseConditionsOf(std::size_t line)
     }
 }
 
+void frmGraph::SaveModelOf(std::size_t line)
+{
+    const auto lines = Lines();
+    if (line >= lines.size())
+    {
+        return;
+    }
+    RunCommand(this,
+               [&]
+               {
+                   const auto ask = [this](const FileQuestion& question)
+                   { return host.AskForFile(this, question); };
+                   if (const auto path = SaveModels(this, {lines[line]->PartDataIndex}, ask))
+                   {
+                       ui->sbr1->showMessage(QStringLiteral("Model saved to ") + *path, SavedShownMs);
+                   }
+               });
+}
+
 // ---- Context menus ----
 
 static QMenu* NewMenu(QWidget* parent, const char* name)
@@ -106,6 +130,8 @@ void frmGraph::ShowPaneMenu(std::size_t pane, const QPoint& at)
     menu->addAction(QStringLiteral("&Use These Conditions"), this, [this, pane] { UseConditionsOf(pane); });
     menu->addAction(QStringLiteral("&Copy Part Number"), this,
                     [this, pane] { QGuiApplication::clipboard()->setText(lblStatus[pane]->text()); });
+    menu->addAction(QLatin1String(SaveModelText), this, [this, pane] { SaveModelOf(pane); })
+        ->setEnabled(CanHaveModel({Lines()[pane]->PartDataIndex}));
     menu->addSeparator();
     menu->addAction(QStringLiteral("&Open in Chart View\tCtrl+E"), this, &frmGraph::OpenView);
     menu->popup(at);

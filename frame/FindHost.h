@@ -2,6 +2,7 @@
 
 /// What the window that finds parts asks of the main window.
 
+#include "chart/ChartHost.h"
 #include "selection/ConditionsOf.h"
 
 #include <QString>
@@ -29,6 +30,8 @@ public:
 
     /// The window that all others go with.
     virtual QWidget* MainWindow() = 0;
+    /// Asks for a file to write, as chart windows do.
+    virtual std::optional<QString> AskForFile(QWidget* window, const FileQuestion& question) = 0;
     /// Opens the help book at a topic's anchor.
     virtual void ShowHelpTopic(const QString& anchor) = 0;
     /// Fills the selection form, and brings the main window to the front with the focus on Plot.

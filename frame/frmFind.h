@@ -69,6 +69,8 @@ private:
     void ViewChosen();
     void TellOfRowsLeftOut();
     void CopyChosen();
+    std::vector<std::int32_t> PartsOfChosenRows() const;
+    void SaveModelsOfChosen();
     void ShowMenu(const QPoint& at);
 
     std::unique_ptr<Ui::frmFind> ui;

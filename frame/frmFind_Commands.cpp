@@ -1,6 +1,8 @@
 #include "app/mdlPublic.h"
 #include "calc/ChartKinds.h"
 #include "calc/NumberText.h"
+#include "chart/ModelSaving.h"
+#include "formkit/RunCommand.h"
 #include "frame/FoundTable.h"
 #include "frame/frmFind.h"
 #include "ui_frmFind.h"
@@ -193,6 +195,22 @@ void frmFind::CopyChosen()
     QGuiApplication::clipboard()->setText(table->Copied(ChosenRows()));
 }
 
+std::vector<std::int32_t> frmFind::PartsOfChosenRows() const
+{
+    std::vector<std::int32_t> parts;
+    for (const int row : ChosenRows())
+    {
+        parts.push_back(table->PartIndexAt(row));
+    }
+    return parts;
+}
+
+void frmFind::SaveModelsOfChosen()
+{
+    const auto ask = [this](const FileQuestion& question) { return host.AskForFile(this, question); };
+    RunCommand(this, [&] { SaveModels(this, PartsOfChosenRows(), ask); });
+}
+
 void frmFind::ShowMenu(const QPoint& at)
 {
     auto* const menu = new QMenu(this);
@@ -208,5 +226,7 @@ void frmFind::ShowMenu(const QPoint& at)
     menu->addSeparator();
     menu->addAction(QStringLiteral("&Copy\tCtrl+C"), this, &frmFind::CopyChosen)
         ->setEnabled(!ChosenRows().empty());
+    menu->addAction(QLatin1String(SaveModelText), this, &frmFind::SaveModelsOfChosen)
+        ->setEnabled(CanHaveModel(PartsOfChosenRows()));
     menu->popup(ui->tblFound->viewport()->mapToGlobal(at));
 }

@@ -4,10 +4,13 @@
 #include "chart/frmChartView.h"
 #include "chart/frmGraph.h"
 #include "tests/frame/FindDesk.h"
+#include "tests/frame/TypePath.h"
 
 #include <QClipboard>
+#include <QMenu>
 #include <QRadioButton>
 #include <QStatusBar>
+#include <QTemporaryDir>
 
 class FindCommandsTest : public QObject
 {
@@ -23,6 +26,7 @@ private Q_SLOTS:
     void FirstRefusalEndsThePlotting();
     void ViewShowsThePlottedRows();
     void CopiesChosenRowsInFull();
+    void SavesModelsOfChosenRows();
     void KeysLeadThroughTheWindow();
 };
 
@@ -190,6 +194,45 @@ void FindCommandsTest::CopiesChosenRowsInFull()
     QVERIFY2(std::abs(cells.at(5).toDouble() - 6.276e6) <= 500, qPrintable(cells.at(5)));
     QVERIFY(cells.at(6).size() > 5);
     QCOMPARE(cells.at(7), QString("5.12"));
+}
+
+/// The command of the menu over the rows.
+static QAction* SaveModelEntry(const FindDesk& desk)
+{
+    Q_EMIT desk.Table()->customContextMenuRequested(QPoint(5, 5));
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    for (QAction* entry : menu->actions())
+    {
+        if (entry->text().remove('&') == "Save Simulation Model...")
+        {
+            menu->close();
+            return entry;
+        }
+    }
+    return nullptr;
+}
+
+void FindCommandsTest::SavesModelsOfChosenRows()
+{
+    const FindDesk desk;
+    desk.Enter("txtFindPartNum", "KTS31N");
+    QVERIFY(desk.Rows() > 2);
+    QVERIFY(!SaveModelEntry(desk)->isEnabled());
+    desk.ChooseRows(0, 1);
+    const QTemporaryDir folder;
+    {
+        const WhenShown user({TypePath(folder.filePath("found.lib"))});
+        SaveModelEntry(desk)->trigger();
+    }
+    QFile file(folder.filePath("found.lib"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const auto text = QString::fromUtf8(file.readAll());
+    for (const int row : {0, 1})
+    {
+        QVERIFY2(text.contains("\n.SUBCKT " + desk.Cell(row, "Part number") + " 1 2 "),
+                 qPrintable(text.left(200)));
+    }
+    QCOMPARE(text.count("\n.SUBCKT "), 2);
 }
 
 void FindCommandsTest::KeysLeadThroughTheWindow()

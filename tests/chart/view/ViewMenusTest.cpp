@@ -42,8 +42,8 @@ void ViewMenusTest::PaneMenuOffersConditionsAndPartNumber()
     ViewDesk desk;
     auto* const pane = desk.Chart()->findChild<QGroupBox*>("fraStatus_1");
     SendContextMenu(pane, pane->rect().center());
-    QCOMPARE(Entries(OpenMenu()),
-             (QStringList{"Use These Conditions", "Copy Part Number", "-", "Open in Chart View"}));
+    QCOMPARE(Entries(OpenMenu()), (QStringList{"Use These Conditions", "Copy Part Number",
+                                               "Save Simulation Model...", "-", "Open in Chart View"}));
     Choose(OpenMenu(), "Copy Part Number");
     QCOMPARE(QGuiApplication::clipboard()->text(), NumberOnDisplay("KTS31NB51E106MA01"));
     // A pane without a line belongs to the chart.
@@ -110,7 +110,7 @@ void ViewMenusTest::ItsMenuOffersEveryCommandWithItsKey()
         commands += command->isSeparator() ? 0 : 1;
         QVERIFY2(command->isSeparator() || !command->shortcut().isEmpty(), qPrintable(command->text()));
     }
-    QCOMPARE(commands, 17);
+    QCOMPARE(commands, 18);
     menu->close();
 }
 

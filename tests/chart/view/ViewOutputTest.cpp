@@ -4,11 +4,10 @@
 #include "chart/frmPicture.h"
 #include "frame/LastFolder.h"
 #include "tests/chart/view/ViewDesk.h"
-#include "tests/frame/WhenShown.h"
+#include "tests/frame/TypePath.h"
 
 #include <QClipboard>
 #include <QDialogButtonBox>
-#include <QFileDialog>
 #include <QImage>
 #include <QImageReader>
 #include <QMessageBox>
@@ -65,25 +64,6 @@ static WhenShown::Step ChooseSize(int entry, const QSize& own = {})
             dialog.findChild<QSpinBox*>("txtHeight")->setValue(own.height());
         }
         dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
-    };
-}
-
-/// Types a path over the proposed name; notes the folder and the name that the dialog offers.
-static WhenShown::Step TypePath(const QString& path, std::pair<QString, QString>* offered = nullptr)
-{
-    return [=](QWidget& shown)
-    {
-        auto* const dialog = qobject_cast<QFileDialog*>(&shown);
-        QVERIFY(dialog != nullptr);
-        auto* const name = dialog->findChild<QLineEdit*>("fileNameEdit");
-        if (offered != nullptr)
-        {
-            *offered = {dialog->directory().path(), name->text()};
-        }
-        dialog->activateWindow();
-        name->setFocus();
-        name->setText(path);
-        QTest::keyClick(name, Qt::Key_Return);
     };
 }
 
