@@ -188,6 +188,7 @@ void InstallTest::BringsWhatDesktopAndShellsLookFor_data()
     QTest::newRow("share/doc/tavik/part-files.md") << QByteArray("# ");
     QTest::newRow("share/doc/tavik/part-table.md") << QByteArray("# The part table");
     QTest::newRow("share/doc/tavik/banks.md") << QByteArray("# Banks of parts");
+    QTest::newRow("share/doc/tavik/simulation.md") << QByteArray("# Capacitors in a circuit simulator");
     QTest::newRow("share/doc/tavik/tavik.py") << QByteArray("\"\"\"Curves of capacitors");
     QTest::newRow("share/man/man1/tavik.1") << QByteArray(".TH TAVIK 1 ");
     QTest::newRow("share/man/man1/tavik-cli.1") << QByteArray(".TH TAVIK-CLI 1 ");
