@@ -13,11 +13,13 @@
 #include "frame/ProgramIcon.h"
 #include "frame/frmMain.h"
 #include "partdata/RunTimeError.h"
+#include "tour/PictureText.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QFile>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QPushButton>
@@ -93,7 +95,7 @@ public:
     void Plot() { QTest::mouseClick(Find<QPushButton>(QStringLiteral("cmdPlot")), Qt::LeftButton); }
 
     /// The whole window, as it stands.
-    void SaveWindow(const char* name) { Save(window.grab(), name); }
+    void SaveWindow(const char* name) { Save(window.grab(), window, name); }
 
     /// The selection form alone, down to Plot.
     void SaveForm(const char* name)
@@ -101,14 +103,14 @@ public:
         QApplication::processEvents();
         auto* form = Find<QWidget>(QStringLiteral("frmLibraryContents"));
         const auto* last = Find<QPushButton>(QStringLiteral("cmdPlot"));
-        Save(PictureForHelp(*form, {form->width(), last->geometry().bottom() + 3}), name);
+        Save(PictureForHelp(*form, {form->width(), last->geometry().bottom() + 3}), *form, name);
     }
 
     /// The chart window in front, alone.
     void SaveChart(const char* name)
     {
         QWidget& chart = *window.findChild<QMdiArea*>()->activeSubWindow();
-        Save(PictureForHelp(chart, chart.size()), name);
+        Save(PictureForHelp(chart, chart.size()), chart, name);
     }
 
     /// The axis-range dialog of the chart in front.
@@ -118,7 +120,7 @@ public:
                            [this, name]
                            {
                                QWidget* dialog = QApplication::activeModalWidget();
-                               Save(PictureForHelp(*dialog, dialog->size()), name);
+                               Save(PictureForHelp(*dialog, dialog->size()), *dialog, name);
                                dialog->close();
                            });
         window.findChild<QMdiArea*>()->activeSubWindow()->findChild<QAction*>("mnuChartExpand")->trigger();
@@ -140,7 +142,7 @@ public:
                 QTest::keyClick(entry, Qt::Key_Return);
                 // One cursor is enough for a picture.
                 QTest::keyClick(view->focusWidget(), Qt::Key_Escape);
-                Save(PictureForHelp(*view, view->size()), name);
+                Save(PictureForHelp(*view, view->size()), *view, name);
                 view->close();
                 return;
             }
@@ -162,7 +164,7 @@ public:
                         ->setText(QString::fromLatin1(entry));
                 }
                 find->resize(FindSize);
-                Save(PictureForHelp(*find, find->size()), name);
+                Save(PictureForHelp(*find, find->size()), *find, name);
                 find->close();
                 return;
             }
@@ -200,13 +202,15 @@ private:
         return picture;
     }
 
-    void Save(const QPixmap& picture, const char* name)
+    /// The picture, and beside it what it says.
+    void Save(const QPixmap& picture, QWidget& shown, const char* name)
     {
-        const QString file =
-            folder.filePath(QLatin1String(name) + QLatin1String(nameEnd) + QStringLiteral(".png"));
-        const bool saved = picture.save(file);
+        const QString file = folder.filePath(QLatin1String(name) + QLatin1String(nameEnd));
+        QFile text(file + QStringLiteral(".txt"));
+        const bool saved = picture.save(file + QStringLiteral(".png")) && text.open(QIODevice::WriteOnly) &&
+                           text.write(PictureText(shown, picture.size()).toUtf8()) >= 0;
         allSaved = allSaved && saved;
-        std::cout << (saved ? "saved " : "cannot write ") << file.toStdString() << '\n';
+        std::cout << (saved ? "saved " : "cannot write ") << file.toStdString() << ".png\n";
     }
 
     frmMain& window;
