@@ -6,6 +6,7 @@
 #include "chart/layout/AxisLimits.h"
 #include "chart/layout/FittingAxis.h"
 #include "chart/layout/Mapping.h"
+#include "formkit/Edges.h"
 #include "formkit/Entries.h"
 #include "requests/RequestError.h"
 #include "requests/UnitEntry.h"
@@ -106,13 +107,12 @@ void frmChartView::TellReader()
     }
 }
 
-/// Shows the line beside the entry; a refusal in red, and the entry with a red frame.
+/// Shows the line beside the entry, which has a red frame while it is refused.
 void frmChartView::ShowTold(const QString& text, bool refusal)
 {
     ui->lblCursor->setText(text);
     ui->lblCursor->setForegroundRole(QPalette::WindowText);
-    ui->txtCursorX->setStyleSheet(refusal ? QStringLiteral("QLineEdit { border: 2px solid #c00000; }")
-                                          : QString());
+    ui->txtCursorX->setStyleSheet(refusal ? RefusedFrame(palette()) : QString());
 }
 
 // ---- Moving them ----

@@ -45,3 +45,12 @@ QColor EdgeColor(const QPalette& palette)
     return {(ground.red() + text.red()) / 2, (ground.green() + text.green()) / 2,
             (ground.blue() + text.blue()) / 2};
 }
+
+QString RefusedFrame(const QPalette& palette)
+{
+    const QColor ground = palette.color(QPalette::Active, QPalette::Window);
+    const QColor deep(192, 0, 0);
+    const QColor bright(255, 96, 96);
+    const QColor red = ContrastOf(ground, deep) >= ContrastOf(ground, bright) ? deep : bright;
+    return QStringLiteral("QLineEdit { border: 2px solid %1; }").arg(red.name());
+}

@@ -3,6 +3,7 @@
 /// Edges of boxes and frames that can be seen in every palette.
 
 #include <QColor>
+#include <QString>
 
 class QPalette;
 
@@ -15,3 +16,6 @@ bool NeedsStrongEdges(const QPalette& palette);
 
 /// The colour of an edge: the palette's own, or where that is too weak one half-way to the text.
 QColor EdgeColor(const QPalette& palette);
+
+/// The style sheet of a box whose entry is refused: a frame in the red that is seen best in the palette.
+QString RefusedFrame(const QPalette& palette);

@@ -5,6 +5,7 @@
 #include "calc/NumberText.h"
 #include "find/PartFinder.h"
 #include "formkit/ClosesWith.h"
+#include "formkit/Edges.h"
 #include "formkit/Entries.h"
 #include "formkit/Texts.h"
 #include "frame/FoundTable.h"
@@ -302,7 +303,6 @@ void frmFind::ShowRefusal(const RefusedEntry& refused)
 /// Marks this box alone as refused; none for a null pointer.
 void frmFind::MarkRefused(QLineEdit* box, const QString& message)
 {
-    static const QString redFrame = QStringLiteral("QLineEdit { border: 2px solid #c00000; }");
     if (refusedBox != nullptr && refusedBox != box)
     {
         refusedBox->setStyleSheet({});
@@ -310,7 +310,7 @@ void frmFind::MarkRefused(QLineEdit* box, const QString& message)
     }
     if (box != nullptr)
     {
-        box->setStyleSheet(redFrame);
+        box->setStyleSheet(RefusedFrame(palette()));
         box->setAccessibleDescription(message);
     }
     refusedBox = box;

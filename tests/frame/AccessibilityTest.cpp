@@ -5,7 +5,7 @@
 #include "chart/frmGraph.h"
 #include "formkit/EdgedStyle.h"
 #include "formkit/Edges.h"
-#include "tests/frame/Desk.h"
+#include "tests/frame/FindDesk.h"
 
 #include <QAccessible>
 #include <QComboBox>
@@ -38,6 +38,8 @@ private Q_SLOTS:
     void EmptyListShowsItsFocus();
     void EdgesAreSeen_data();
     void EdgesAreSeen();
+    void EdgesOfTheSearchAreSeen_data();
+    void EdgesOfTheSearchAreSeen();
     void UsualPalettesLookAsEver();
 };
 
@@ -230,6 +232,31 @@ void AccessibilityTest::EdgesAreSeen()
         const double seen = EdgeContrast(box, box->height() / 2);
         QVERIFY2(seen >= contrast, qPrintable(QStringLiteral("%1 %2").arg(name).arg(seen)));
     }
+}
+
+void AccessibilityTest::EdgesOfTheSearchAreSeen_data()
+{
+    EdgesAreSeen_data();
+    QTest::newRow("usual") << QStyleFactory::create("Fusion")->standardPalette() << 1.5;
+}
+
+void AccessibilityTest::EdgesOfTheSearchAreSeen()
+{
+    QFETCH(QPalette, palette);
+    QFETCH(double, contrast);
+    QApplication::setPalette(palette);
+    const FindDesk desk;
+    for (const char* name : {"txtFindCap", "cmbFindMaxSize", "cmbFindRatedVol", "chkFindParallel", "tblFound",
+                             "cmbFindChartType", "cmdFindSelect"})
+    {
+        auto* box = desk.Control<QWidget>(name);
+        const double seen = EdgeContrast(box, box->height() / 2);
+        QVERIFY2(seen >= contrast, qPrintable(QStringLiteral("%1 %2").arg(name).arg(seen)));
+    }
+    desk.Enter("txtFindCap", "many");
+    auto* const refused = desk.Control<QLineEdit>("txtFindCap");
+    const double seen = EdgeContrast(refused, refused->height() / 2);
+    QVERIFY2(seen >= 3, qPrintable(QStringLiteral("refused %1").arg(seen)));
 }
 
 void AccessibilityTest::UsualPalettesLookAsEver()

@@ -2,6 +2,7 @@
 
 #include "app/mdlPublic.h"
 #include "chart/frmGraph.h"
+#include "formkit/Edges.h"
 #include "tests/frame/FindDesk.h"
 
 #include <QHeaderView>
@@ -192,7 +193,7 @@ void FindWindowTest::RefusedEntryIsMarkedAndKeepsTheAnswer()
     QVERIFY(!desk.Line().contains('\n'));
     // A current without frequency is refused for the frequency.
     auto* const marked = box == "txtFindCurrent" ? desk.Control<QLineEdit>("txtFindFrequency") : refused;
-    QVERIFY(marked->styleSheet().contains("#c00000"));
+    QCOMPARE(marked->styleSheet(), RefusedFrame(desk.window->palette()));
     QCOMPARE(marked->accessibleDescription(), desk.Line());
     QCOMPARE(desk.Rows(), 1);
     QCOMPARE(desk.Table()->model()->index(0, 0).data(Qt::ForegroundRole).value<QBrush>(),
