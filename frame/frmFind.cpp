@@ -262,8 +262,9 @@ void frmFind::Answer()
     ShowAnswer(std::get<FindAsked>(asked));
 }
 
-/// "25 parts fit; left out: 21 bias too high", "No part fits. Left out: 46 bias too high".
-static QString FoundText(const FoundParts& found)
+/// "25 parts fit; left out: 21 bias too high", "No part fits. Left out: 46 bias too high"; behind it what an
+/// ambient range below the heating data means.
+static QString FoundText(const FoundParts& found, const OperatingPoint& at)
 {
     QString text = QString::fromStdString(FitText(found.Parts.size(), found.LeftOut));
     if (found.Parts.empty())
@@ -272,13 +273,14 @@ static QString FoundText(const FoundParts& found)
         text = QStringLiteral("No part fits.");
         text += reasons.isEmpty() ? QString() : QStringLiteral(" Left out: ") + reasons;
     }
-    return text;
+    const std::string note(NoteOnHeating(at));
+    return note.empty() ? text : text + QStringLiteral("; ") + QString::fromStdString(note);
 }
 
 void frmFind::ShowAnswer(const FindAsked& asked)
 {
     auto found = FindParts(asked.Candidates, asked.Question);
-    ui->lblFound->setText(FoundText(found));
+    ui->lblFound->setText(FoundText(found, asked.Question.At));
     ui->tblFound->setAccessibleDescription(ui->lblFound->text());
     table->SetAnswer(std::move(found), asked.Question);
     HideColumns();

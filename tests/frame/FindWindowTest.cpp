@@ -26,6 +26,7 @@ private Q_SLOTS:
     void RefusedEntryIsMarkedAndKeepsTheAnswer();
     void BareCapacitancesAreMicrofarads();
     void RangesAndUnitsAreTaken();
+    void RangesBelowTheHeatingDataAreTold();
     void CommaIsReadWhereTheUserWritesOne();
     void EmptyAnswerTellsTheReasons();
     void HeadingsSortUpDownAndBack();
@@ -234,6 +235,21 @@ void FindWindowTest::RangesAndUnitsAreTaken()
     QCOMPARE(desk.Rows(), all);
     desk.Enter("txtFindFrequency", "0.3MHz");
     QVERIFY(!desk.Table()->isColumnHidden(desk.Column("Allowed [Arms]")));
+}
+
+void FindWindowTest::RangesBelowTheHeatingDataAreTold()
+{
+    const FindDesk desk;
+    const QString note = "; rise and loads judged from 20 C up, where the heating data begins";
+    desk.Enter("txtFindPartNum", NumberOnDisplay("KTS31NB51C226MA01"));
+    desk.Enter("txtFindAmbientTemp", "-20..60");
+    QCOMPARE(desk.Line(), QString("1 part fits"));
+    desk.Enter("txtFindFrequency", "100");
+    QCOMPARE(desk.Line(), "1 part fits" + note);
+    desk.Enter("txtFindDCBiasVol", "17");
+    QCOMPARE(desk.Line(), "No part fits. Left out: 1 bias too high" + note);
+    desk.Enter("txtFindAmbientTemp", "20..60");
+    QCOMPARE(desk.Line(), QString("No part fits. Left out: 1 bias too high"));
 }
 
 void FindWindowTest::CommaIsReadWhereTheUserWritesOne()
