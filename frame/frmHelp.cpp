@@ -317,7 +317,9 @@ void frmHelp::CloseWith(QWidget* window)
 void frmHelp::StayUsable()
 {
     QWindow* const front = QGuiApplication::modalWindow();
-    if (front == nullptr || front == windowHandle())
+    // A box or dialog of the viewer's own belongs to it: the two must not belong to each other.
+    if (front == nullptr || front == windowHandle() ||
+        windowHandle()->isAncestorOf(front, QWindow::IncludeTransients))
     {
         return;
     }
