@@ -51,6 +51,7 @@ frmChartView::frmChartView(ViewedChart& viewedChart)
     SetUpTable();
     Connect();
     ConnectCommands();
+    ConnectLoss();
     ConnectCanvas();
     Place();
     ShowLines();
@@ -142,29 +143,27 @@ void frmChartView::ConnectCanvas()
 
 // ---- The lines ----
 
-static AxisRange DefaultOf(const ChartKey& chart, const std::vector<ViewedLine>& lines)
+AxisRange frmChartView::DefaultOfLines() const
 {
     std::vector<ChartRecord> records;
-    records.reserve(lines.size());
-    for (const ViewedLine& line : lines)
+    records.reserve(scene.Lines.size());
+    for (const ViewedLine& line : scene.Lines)
     {
         records.push_back(line.Line);
     }
-    return DefaultRange(chart, records);
+    return DefaultRange(KeyOf(records.front()), records);
 }
 
 void frmChartView::ShowLines()
 {
-    const ChartView shown = chart.View();
+    const ChartView shown = TakeLines();
     const bool rangeChanged = shown.Range != chartShown.Range;
     const bool follows = rangeChanged && (shown.Rescaled || !hasOwnRange);
     const AxisRange range = follows ? shown.Range : zoom.Range();
     hasOwnRange = hasOwnRange && !follows;
     chartShown = shown;
-    scene.Lines = chart.ViewedLines();
-    scene.Code = GetCodeView();
     scene.View = shown;
-    defaults = DefaultOf(shown.Chart, scene.Lines);
+    defaults = DefaultOfLines();
     zoom = ZoomRange(shown.Chart, defaults);
     zoom.Set(range);
     scene.View.Range = zoom.Range();

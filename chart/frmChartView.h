@@ -68,6 +68,12 @@ private:
     void ForgetWidths();
     void FitTableHeight();
 
+    // The lines.
+    ChartView TakeLines();
+    AxisRange DefaultOfLines() const;
+    void ConnectLoss();
+    void mnuLossResistance_Click();
+
     // The range.
     void ChangeRange();
     void NoteUnseenLines();
@@ -137,6 +143,16 @@ private:
     ZoomRange zoom;
     /// The range that the chart window showed last, by which its changes are noticed.
     ChartView chartShown{};
+    /// The chart while its parts' loss resistances are shown, and these while the chart is.
+    struct OtherChart
+    {
+        ZoomRange Zoom = {};
+        ChartView Shown = {};
+        bool HasOwnRange = false;
+        ChartCursors Cursors;
+        QString Title = {};
+    };
+    std::optional<OtherChart> other;
     /// The range as a drag began.
     ZoomRange zoomAtDrag;
     QRectF plotAtDrag;

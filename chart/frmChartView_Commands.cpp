@@ -172,7 +172,8 @@ void frmChartView::mnuCopy_Click()
 void frmChartView::mnuUseConditions_Click()
 {
     const int line = scene.Chosen.value_or(0);
-    chart.Host().UseConditions(scene.Lines.at(static_cast<std::size_t>(line)).Line, line + 1);
+    // Those of the chart also while loss resistances are shown, which have fewer.
+    chart.Host().UseConditions(chart.ViewedLines().at(static_cast<std::size_t>(line)).Line, line + 1);
 }
 
 // ---- The context menu ----
@@ -185,6 +186,10 @@ void frmChartView::ShowMenu(const QPoint& at)
     menu->addActions(
         {ui->mnuDefaultRange, ui->mnuZoomIn, ui->mnuZoomOut, ui->mnuRange, ui->mnuToChartWindow});
     menu->addSeparator();
+    if (ui->mnuLossResistance->isEnabled())
+    {
+        menu->addAction(ui->mnuLossResistance);
+    }
     menu->addActions({ui->mnuDashes, ui->mnuTextSmaller, ui->mnuTextLarger, ui->mnuFullScreen});
     menu->addSeparator();
     menu->addActions(
