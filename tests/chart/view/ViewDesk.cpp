@@ -34,6 +34,9 @@ void ViewDesk::PlotLine(int part)
     case Kind::CapacitanceOverBias:
         desk.ClickChartType(3);
         break;
+    case Kind::RiseOverCurrent:
+        desk.ClickChartType(0);
+        break;
     case Kind::RiseOverFrequency:
         desk.ClickChartType(0);
         desk.PickXAxis("Frequency");
@@ -45,6 +48,10 @@ void ViewDesk::PlotLine(int part)
     if (desk.Find<QLineEdit>("txtDCBiasVol")->isEnabled())
     {
         desk.Type("txtDCBiasVol", "12");
+    }
+    if (desk.Find<QLineEdit>("txtFrequency")->isEnabled())
+    {
+        desk.Type("txtFrequency", "300");
     }
     if (desk.Find<QLineEdit>("txtParameter")->isEnabled())
     {

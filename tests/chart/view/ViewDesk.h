@@ -21,6 +21,7 @@ public:
     {
         CapacitanceOverTemperature,
         CapacitanceOverBias,
+        RiseOverCurrent,
         RiseOverFrequency,
         AllowablePower,
     };

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void ControlLShowsThemAndTheChartAgain();
     void EachKeepsItsOwnRange();
     void CursorsComeBackWithTheChart();
+    void CursorsStandOnTheNewAxis();
     void ALineThatIsPlottedMeanwhileIsShown();
     void RangeStaysAwayFromTheChartWindow();
     void ConditionsAreThoseOfTheChart();
@@ -43,6 +44,7 @@ static QStringList EntriesOf(const ViewDesk& desk)
 void ViewLossTest::ControlLShowsThemAndTheChartAgain_data()
 {
     QTest::addColumn<int>("kind");
+    QTest::newRow("temperature rise over current") << static_cast<int>(ViewDesk::Kind::RiseOverCurrent);
     QTest::newRow("temperature rise") << static_cast<int>(ViewDesk::Kind::RiseOverFrequency);
     QTest::newRow("allowable power") << static_cast<int>(ViewDesk::Kind::AllowablePower);
 }
@@ -106,6 +108,21 @@ void ViewLossTest::CursorsComeBackWithTheChart()
     PressControlL(desk);
     QVERIFY(desk.Cursors().IsPinnedA());
     QCOMPARE(desk.Cursors().A(), 3e5);
+}
+
+void ViewLossTest::CursorsStandOnTheNewAxis()
+{
+    const ViewDesk desk(ViewDesk::Kind::RiseOverCurrent);
+    desk.TypeText("1.5");
+    desk.Press(Qt::Key_Return);
+    PressControlL(desk);
+    QVERIFY(!desk.Cursors().IsPinnedA());
+    QCOMPARE(desk.Cursors().A(), 1e5);
+    QVERIFY2(desk.CursorLine().startsWith("A 100 kHz"), qPrintable(desk.CursorLine()));
+    PressControlL(desk);
+    QVERIFY(desk.Cursors().IsPinnedA());
+    QCOMPARE(desk.Cursors().A(), 1.5);
+    QVERIFY2(desk.CursorLine().startsWith("A 1.5 Arms"), qPrintable(desk.CursorLine()));
 }
 
 void ViewLossTest::ALineThatIsPlottedMeanwhileIsShown()
