@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <fstream>
 
 namespace
 {
@@ -179,6 +180,39 @@ TEST(BuckConverter, RipplesMoreThanWithNominalCapacitances)
         EXPECT_GT(modelled.Ripple, 1.3 * fixed.Ripple) << method;
         EXPECT_LT(modelled.Dip, fixed.Dip) << method;
     }
+}
+
+/// The netlist of docs/simulation.md up to its control section, the model in the place of its file.
+std::string FirstTransient()
+{
+    std::ifstream document(TEST_DATA "/../docs/simulation.md");
+    const std::string include = ".include KTS31NB51A476MA01.lib";
+    const std::string indent = "       ";
+    std::string deck;
+    for (std::string line; std::getline(document, line) && line != indent + ".control";)
+    {
+        const bool begins = line == indent + "a capacitor under a pulse of current";
+        if (begins || (!deck.empty() && line.starts_with(indent)))
+        {
+            const auto text = line.substr(indent.size());
+            deck += text == include ? ModelOf("KTS31NB51A476MA01") : text + "\n";
+        }
+    }
+    return deck;
+}
+
+TEST(FirstTransient, OfTheDocumentRuns)
+{
+    const auto run =
+        RunDeck(FirstTransient(),
+                "save all @r.x1.rs[i]\nrun\nlet rows=length(time)\nprint rows\n"
+                "meas tran most max @r.x1.rs[i]\nprint most\nmeas tran least min v(out)\nprint least\n",
+                limit);
+    ASSERT_EQ(run.Status, 0) << run.Output;
+    EXPECT_GE(run.Value("rows"), 5000) << run.Output;
+    // 2 V over 0.1 ohms at first; the rail comes down to 3 V.
+    EXPECT_NEAR(run.Value("most"), 20, 1.5) << run.Output;
+    EXPECT_NEAR(run.Value("least"), 3, 0.01);
 }
 
 TEST(StartingVoltage, IsTakenFromInitialConditions)
