@@ -25,8 +25,6 @@ HelpBrowser::HelpBrowser(QWidget* parent)
 {
     setOpenLinks(false);
     setLineWrapMode(QTextEdit::FixedPixelWidth);
-    // Without this a table touches the line above it.
-    document()->setDefaultStyleSheet(QStringLiteral("table { margin-top: 8px; margin-bottom: 8px }"));
     document()->documentLayout()->registerHandler(QTextFormat::ImageObject, new HelpPictures(this));
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this,
             [this]

@@ -187,8 +187,9 @@ std::string FormulaHtml(const std::string& formula)
         return "<p style=\"margin-left:24px\">" + text + "</p>";
     }
     upper += Cell("rowspan=\"2\" valign=\"middle\"", "&nbsp;" + text.substr(at));
-    return "<table border=\"0\" cellspacing=\"0\" cellpadding=\"1\" style=\"margin-left:24px\"><tr>" + upper +
-           "</tr><tr>" + lower + "</tr></table>";
+    return "<table border=\"0\" cellspacing=\"0\" cellpadding=\"1\" style=\"margin-left:24px; "
+           "margin-top:8px\"><tr>" +
+           upper + "</tr><tr>" + lower + "</tr></table>";
 }
 
 std::vector<IndexWord> ReadIndexWords(const std::string& text)
@@ -217,6 +218,8 @@ std::string MakeBook(const std::string& frame, const ChapterReader& chapter,
     std::string book = frame;
     ReplaceEach(book, "<!-- chapter ", " -->", chapter);
     ReplaceEach(book, "<formula>", "</formula>", FormulaHtml);
+    // Without a margin of its own a table touches the line above it.
+    ReplaceAll(book, "cellpadding=\"4\">", "cellpadding=\"4\" style=\"margin-top:10px\">");
     const auto chapters = NumberChapters(book);
     ReplaceAll(book, "<!-- contents -->", ContentsHtml(chapters));
     ReplaceAll(book, "<!-- index -->", IndexHtml(book, index));
