@@ -308,10 +308,13 @@ void frmFind::MarkRefused(QLineEdit* box, const QString& message)
     if (refusedBox != nullptr && refusedBox != box)
     {
         refusedBox->setStyleSheet({});
+        refusedBox->setMinimumHeight(0);
         refusedBox->setAccessibleDescription({});
     }
     if (box != nullptr)
     {
+        // The frame of a style sheet is lower than the desktop's: what is below would jump up.
+        box->setMinimumHeight(box->height());
         box->setStyleSheet(RefusedFrame(palette()));
         box->setAccessibleDescription(message);
     }

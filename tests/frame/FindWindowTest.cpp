@@ -24,6 +24,7 @@ private Q_SLOTS:
     void ANewAnswerIsPaintedOnce();
     void RefusedEntryIsMarkedAndKeepsTheAnswer_data();
     void RefusedEntryIsMarkedAndKeepsTheAnswer();
+    void RefusedEntryMovesNoRow();
     void BareCapacitancesAreMicrofarads();
     void RangesAndUnitsAreTaken();
     void RangesBelowTheHeatingDataAreTold();
@@ -208,6 +209,37 @@ void FindWindowTest::RefusedEntryIsMarkedAndKeepsTheAnswer()
     QCOMPARE(marked->accessibleDescription(), QString());
     QVERIFY(!desk.Table()->model()->index(0, 0).data(Qt::ForegroundRole).isValid());
     QCOMPARE(desk.Line(), QString("1 part fits"));
+}
+
+/// From where to where in height all that is above the table stands.
+static QList<std::pair<int, int>> RowsOfEntries(const FindDesk& desk)
+{
+    Settle();
+    QList<std::pair<int, int>> rows;
+    for (const QWidget* widget : desk.Control<QWidget>("fraFindEntries")->findChildren<QWidget*>())
+    {
+        const bool isOfList = qobject_cast<const QComboBox*>(widget->parentWidget()) != nullptr;
+        if (!isOfList)
+        {
+            rows << std::pair(widget->y(), widget->height());
+        }
+    }
+    return rows;
+}
+
+void FindWindowTest::RefusedEntryMovesNoRow()
+{
+    const FindDesk desk;
+    const auto rows = RowsOfEntries(desk);
+    for (const char* box : {"txtFindCap", "txtFindFrequency", "txtFindMinCap"})
+    {
+        desk.Enter(box, "no number");
+        QCOMPARE(RowsOfEntries(desk), rows);
+        desk.Enter(box, "");
+        QCOMPARE(RowsOfEntries(desk), rows);
+    }
+    desk.Pick("cmbFindRatedVol", "no number");
+    QCOMPARE(RowsOfEntries(desk), rows);
 }
 
 void FindWindowTest::BareCapacitancesAreMicrofarads()
