@@ -32,6 +32,12 @@ std::size_t PointsIn(const Waveform& current, TimeSpan stretch)
 }
 } // namespace
 
+double RecordedLoad::StepErrorOf(const LoadMoments& all) const
+{
+    return std::max(std::abs(Thinned.Square / all.Square - 1),
+                    std::abs(Thinned.OverFrequency / all.OverFrequency - 1));
+}
+
 double CurrentLoad::Arms() const
 {
     return std::sqrt(Figures.MeanSquare);

@@ -20,6 +20,8 @@ struct RecordedLoad
     /// What is left of the moments without every second row.
     LoadMoments Thinned;
 
+    /// By which share what heats changes without every second row, whatever the part.
+    double StepErrorOf(const LoadMoments& all) const;
     double PointsPerPeriod() const
     {
         return static_cast<double>(Points) / static_cast<double>(Counted.Periods);

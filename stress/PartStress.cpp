@@ -131,6 +131,11 @@ void FillRise(PartStress& stress, const CurrentLoad& load, const PowerModel& mod
     stress.RiseBelow = RiseOf(moments.Below.Scaled(share), model);
     stress.RiseAbove = RiseOf(moments.Above.Scaled(share), model);
     stress.LawRise = RiseOf(moments.Total().Scaled(share), model);
+    if (load.Record && *stress.LawRise > 0)
+    {
+        const double thinned = RiseOf(load.Record->Thinned.Scaled(share), model);
+        stress.StepError = std::abs(thinned / *stress.LawRise - 1);
+    }
     stress.Lines = LineTeller(load, model, stress.At.Parallel, *stress.LawRise).Largest(mostLines);
     if (stress.OutsideShare() <= MostOutside)
     {

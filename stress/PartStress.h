@@ -46,6 +46,8 @@ struct PartStress
     std::optional<double> LawRise = {};
     std::optional<double> RiseBelow = {};
     std::optional<double> RiseAbove = {};
+    /// By which share the rise changes without every second row of a record; nothing for a converter.
+    std::optional<double> StepError = {};
     double PermittedRise = 0;
     /// Nothing without capacitance data, or at a temperature that the part's characteristic does not have.
     std::optional<double> Capacitance = {};
