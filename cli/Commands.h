@@ -26,6 +26,9 @@ void AddModelCommand(CLI::App& app);
 /// "bank": how parts in parallel share a ripple current.
 void AddBankCommand(CLI::App& app);
 
+/// "ripple": what a current of any shape does to parts.
+void AddRippleCommand(CLI::App& app);
+
 /// All commands, in the order in which the help tells them.
-inline constexpr std::array AllCommands = {AddPartsCommand, AddFindCommand, AddCurveCommand, AddChartCommand,
-                                           AddModelCommand, AddBankCommand, AddDataCommands};
+inline constexpr std::array AllCommands = {AddPartsCommand, AddFindCommand, AddCurveCommand,  AddChartCommand,
+                                           AddModelCommand, AddBankCommand, AddRippleCommand, AddDataCommands};

@@ -1,10 +1,13 @@
 #include "cli/FilterOptions.h"
 
+#include "calc/NumberText.h"
 #include "cli/Command.h"
 #include "cli/RequestWords.h"
 #include "requests/PartList.h"
 
 #include <CLI/CLI.hpp>
+
+#include <cmath>
 
 void AddReadOption(CLI::App& command, const ReadOption& option,
                    const std::function<void(const std::string& value)>& take)
@@ -27,6 +30,21 @@ void AddReadOption(CLI::App& command, const ReadOption& option,
     command.add_option_function<std::string>(option.Name, read, option.Text)
         ->type_name(option.Type)
         ->group(option.Group);
+}
+
+int WholeNumber(const std::string& option, const std::string& typed, int most)
+{
+    const auto value = ReadEntry(typed);
+    if (!value)
+    {
+        throw UsageError(option + " \"" + typed + "\" is not a whole number");
+    }
+    if (*value < 1 || *value > static_cast<float>(most) || *value != std::trunc(*value))
+    {
+        throw Failure(option + ' ' + typed + ": Please enter a whole Number from 1 to " +
+                      std::to_string(most));
+    }
+    return static_cast<int>(*value);
 }
 
 void AddFilterOptions(CLI::App& command, PartFilter& filter)

@@ -27,5 +27,9 @@ struct ReadOption
 void AddReadOption(CLI::App& command, const ReadOption& option,
                    const std::function<void(const std::string& value)>& take);
 
+/// The value of an option that is a whole number from 1 on. Throws UsageError for what is no number, Failure
+/// for one that is not whole or not in the range.
+int WholeNumber(const std::string& option, const std::string& typed, int most);
+
 /// Adds the piece of a part number, --size, --characteristic, --capacitance and --rated-voltage.
 void AddFilterOptions(CLI::App& command, PartFilter& filter);

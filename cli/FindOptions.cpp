@@ -16,7 +16,6 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
-#include <cmath>
 
 FindOptions::Typed FindOptions::TypedFor(std::string_view key) const
 {
@@ -94,22 +93,6 @@ void TakeNamedLoad(FindOptions& options, const std::string& typed)
         Parameters.at(IndexOfName(request.Parameter.value_or(""), known, "parameter", "parameter"));
     const auto value = request.Conditions[Condition::Parameter].value_or("");
     TakeLoad(options, "parameter", {.Kind = kind, .Value = ValueInUnit(value, kind)}, value);
-}
-
-/// Throws UsageError for what is no number, Failure for one that is not whole or not in the range.
-int WholeNumber(const std::string& option, const std::string& typed, int most)
-{
-    const auto value = ReadEntry(typed);
-    if (!value)
-    {
-        throw UsageError(option + " \"" + typed + "\" is not a whole number");
-    }
-    if (*value < 1 || *value > static_cast<float>(most) || *value != std::trunc(*value))
-    {
-        throw Failure(option + ' ' + typed + ": Please enter a whole Number from 1 to " +
-                      std::to_string(most));
-    }
-    return static_cast<int>(*value);
 }
 
 Bank BankOf(const std::string& typed)

@@ -194,19 +194,27 @@ float ValueInUnit(std::string_view typed, Quantity quantity, std::string_view ke
     return *value;
 }
 
+/// A number that has been read as a single, with all its digits.
+static double AllDigitsOf(std::string_view entry, float read)
+{
+    auto digits = WithoutBlanks(entry);
+    digits.remove_prefix(digits.starts_with('+') ? 1 : 0);
+    double value = read;
+    std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    return value;
+}
+
 float StoredValueInUnit(std::string_view typed, Quantity quantity, std::string_view key)
 {
     const float shown = ValueInUnit(typed, quantity, key);
-    const float factor = KindOf(quantity).StoredPerShown;
-    if (factor == 1)
-    {
-        return shown;
-    }
     // Read with more digits than a single has, so that a stored value that is typed is met exactly.
-    const auto entry = EntryInUnit(typed, quantity, key);
-    auto digits = WithoutBlanks(entry);
-    digits.remove_prefix(digits.starts_with('+') ? 1 : 0);
-    double value = shown;
-    std::from_chars(digits.data(), digits.data() + digits.size(), value);
-    return static_cast<float>(value * factor);
+    return KindOf(quantity).StoredPerShown == 1
+               ? shown
+               : static_cast<float>(StoredNumberInUnit(typed, quantity, key));
+}
+
+double StoredNumberInUnit(std::string_view typed, Quantity quantity, std::string_view key)
+{
+    const float shown = ValueInUnit(typed, quantity, key);
+    return AllDigitsOf(EntryInUnit(typed, quantity, key), shown) * double{KindOf(quantity).StoredPerShown};
 }

@@ -29,3 +29,6 @@ float ValueInUnit(std::string_view typed, Quantity quantity, std::string_view ke
 /// The value in the unit that points are kept in: 300,000 Hz of "300" for a frequency. Throws as
 /// `ValueInUnit`.
 float StoredValueInUnit(std::string_view typed, Quantity quantity, std::string_view key = {});
+
+/// The same in double precision, for what no curve is drawn of: a time, a converter's data.
+double StoredNumberInUnit(std::string_view typed, Quantity quantity, std::string_view key = {});

@@ -57,7 +57,7 @@ std::optional<RippleVoltage> RippleIf(const PartRecord& part, const CurrentLoad&
     }
     constexpr double ohmsPerMilliohm = 1e-3;
     const double ohms = model.LossResistance(HeldHertz(load.MainLine().Hertz)).value_or(0) * ohmsPerMilliohm;
-    return RippleVoltageOf(load.Period, 1.0 / at.Parallel, ChargeLaw(part, at.AmbientC, at.View),
+    return RippleVoltageOf(load.Period, 1.0 / at.Parallel, StoredCharge(part, at.AmbientC, at.View),
                            at.BiasVolts, ohms);
 }
 

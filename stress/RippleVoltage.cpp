@@ -43,7 +43,7 @@ std::vector<ChargePoint> ChargeOver(const Waveform& current, TimeSpan period, do
     return points;
 }
 
-RippleVoltage RippleVoltageOf(std::span<const ChargePoint> period, double share, const ChargeLaw& law,
+RippleVoltage RippleVoltageOf(std::span<const ChargePoint> period, double share, const StoredCharge& law,
                               double biasVolts, double ohms)
 {
     const double biasCharge = law.ChargeAt(biasVolts);

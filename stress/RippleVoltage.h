@@ -2,7 +2,7 @@
 
 /// The voltage that a current of any shape makes across a part.
 
-#include "stress/ChargeLaw.h"
+#include "stress/StoredCharge.h"
 #include "stress/Waveform.h"
 
 #include <span>
@@ -28,5 +28,5 @@ struct RippleVoltage
 
 /// The voltage about a bias, at which the mean charge is that of the bias: through the charge law, and by the
 /// current across a resistance in ohms in series. `share` is the part's share of the current.
-RippleVoltage RippleVoltageOf(std::span<const ChargePoint> period, double share, const ChargeLaw& law,
+RippleVoltage RippleVoltageOf(std::span<const ChargePoint> period, double share, const StoredCharge& law,
                               double biasVolts, double ohms);

@@ -14,6 +14,8 @@ namespace
 /// Times that are read off a record, or typed, may be off by a rounding.
 constexpr double rounding = 1e-9;
 constexpr double fewPeriods = 10;
+/// What of a period may be missing where it is counted, or be left over at the begin of a record.
+constexpr double periodSlack = 1e-4;
 
 std::string TimeText(double seconds)
 {
@@ -23,13 +25,13 @@ std::string TimeText(double seconds)
 
 std::size_t WholePeriods(TimeSpan span, double period)
 {
-    constexpr double slack = 1e-4;
-    return static_cast<std::size_t>(span.Length() / period + slack);
+    return static_cast<std::size_t>(span.Length() / period + periodSlack);
 }
 
 TimeSpan LastPeriods(TimeSpan record, double period, std::size_t periods)
 {
-    return {std::max(record.From, record.To - static_cast<double>(periods) * period), record.To};
+    const double from = record.To - static_cast<double>(periods) * period;
+    return {from < record.From + periodSlack * period ? record.From : from, record.To};
 }
 
 TimeSpan LastShare(TimeSpan record, double share)

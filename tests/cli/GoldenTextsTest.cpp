@@ -55,6 +55,7 @@ void GoldenTextsTest::Help_data()
     QTest::newRow("help-chart") << "chart --help";
     QTest::newRow("help-model") << "model --help";
     QTest::newRow("help-bank") << "bank --help";
+    QTest::newRow("help-ripple") << "ripple --help";
     QTest::newRow("help-data") << "data --help";
     QTest::newRow("help-data-check") << "data check --help";
     QTest::newRow("help-data-export") << "data export --help";

@@ -23,9 +23,9 @@ Waveform Square()
     return Waveform({{0, 1}, {1e-6, 1}, {1e-6, -1}, {2e-6, -1}});
 }
 
-TEST(ChargeLaw, IsTheIntegralOfTheCapacitance)
+TEST(StoredCharge, IsTheIntegralOfTheCapacitance)
 {
-    const ChargeLaw law(Part(-4), 25, CodeView::Eia);
+    const StoredCharge law(Part(-4), 25, CodeView::Eia);
     // 1 µF·(V - 0.02·V²).
     EXPECT_NEAR(law.ChargeAt(5), 1e-6 * (5 - 0.5), 1e-13);
     EXPECT_NEAR(law.ChargeAt(-5), -1e-6 * (5 - 0.5), 1e-13);
@@ -39,7 +39,7 @@ TEST(ChargeLaw, IsTheIntegralOfTheCapacitance)
 TEST(RippleVoltage, OfASquareCurrentIsATriangle)
 {
     const auto charge = ChargeOver(Square(), {0, 2e-6}, 0);
-    const auto ripple = RippleVoltageOf(charge, 1, ChargeLaw(Part(0.0001F), 25, CodeView::Eia), 5, 0);
+    const auto ripple = RippleVoltageOf(charge, 1, StoredCharge(Part(0.0001F), 25, CodeView::Eia), 5, 0);
     EXPECT_NEAR(ripple.PeakToPeak, 1, 1e-4);
     EXPECT_NEAR(ripple.Highest, 5.5, 1e-4);
 }
@@ -47,7 +47,7 @@ TEST(RippleVoltage, OfASquareCurrentIsATriangle)
 TEST(RippleVoltage, IsLargerWhereTheBiasTakesCapacitance)
 {
     const auto charge = ChargeOver(Square(), {0, 2e-6}, 0);
-    const auto ripple = RippleVoltageOf(charge, 1, ChargeLaw(Part(-4), 25, CodeView::Eia), 5, 0);
+    const auto ripple = RippleVoltageOf(charge, 1, StoredCharge(Part(-4), 25, CodeView::Eia), 5, 0);
     // The charges of the peaks are 4.5 ± 0.5 µC, of V - 0.02·V² µC.
     const auto volts = [](double charged) { return (1 - std::sqrt(1 - 0.08 * charged)) / 0.04; };
     EXPECT_NEAR(ripple.PeakToPeak, volts(5) - volts(4), 1e-6);
@@ -57,14 +57,14 @@ TEST(RippleVoltage, IsLargerWhereTheBiasTakesCapacitance)
 TEST(RippleVoltage, JumpsByTheResistance)
 {
     const auto charge = ChargeOver(Square(), {0, 2e-6}, 0);
-    const auto ripple = RippleVoltageOf(charge, 1, ChargeLaw(Part(0.0001F), 25, CodeView::Eia), 5, 0.1);
+    const auto ripple = RippleVoltageOf(charge, 1, StoredCharge(Part(0.0001F), 25, CodeView::Eia), 5, 0.1);
     EXPECT_NEAR(ripple.PeakToPeak, 1.2, 1e-4);
 }
 
 TEST(RippleVoltage, IsSharedByEqualParts)
 {
     const auto charge = ChargeOver(Square(), {0, 2e-6}, 0);
-    const auto ripple = RippleVoltageOf(charge, 0.5, ChargeLaw(Part(0.0001F), 25, CodeView::Eia), 5, 0.1);
+    const auto ripple = RippleVoltageOf(charge, 0.5, StoredCharge(Part(0.0001F), 25, CodeView::Eia), 5, 0.1);
     EXPECT_NEAR(ripple.PeakToPeak, 0.6, 1e-4);
 }
 } // namespace

@@ -54,6 +54,18 @@ for words in (["KTS31NR71A226KA01 x2 tolerance=10", "KTS188R71H104KA01", "--freq
     answers.append(json.loads(run(["bank", *words, "--format", "json"])))
     assert answers[-1]["bank"]["capacitance"] > 0
 assert answers[-1]["warnings"] and not answers[-3]["warnings"]
+# Converters without and with parts, one of them without a rise.
+BUCK = "vin=12 vout=3.3 iout=5 f=500kHz l=2.2uH"
+ripples = [json.loads(run(["ripple", *words, "--format", "json"])) for words in (
+    ["--buck", BUCK], ["--buck", BUCK, "--part", PART, "--part", "KTS32XB51E106MA01"],
+    ["--flyback", "vin=48 vout=5 iout=3 f=2.5MHz l=4uH n=4", "--part", PART, "--dc-bias", "5V"])]
+assert len(ripples[0]["sides"]) == 2 and len(ripples[1]["parts"]) == 2 and ripples[2]["parts"][0]["rise"] is None
+answers += ripples
+with tempfile.TemporaryDirectory() as folder:
+    wave = pathlib.Path(folder, "wave.txt")
+    wave.write_text("".join(f"{i * 1e-7} {i % 20 if i % 20 < 10 else 20 - i % 20}\n" for i in range(1001)), encoding="ascii")
+    answers.append(json.loads(run(["ripple", str(wave), "--part", PART, "--format", "json"])))
+assert answers[-1]["waveform"]["periods"] == 50
 for answer in answers:
     validator.validate(answer)
 # The sample pair is sound; cut short, it is not.

@@ -1,4 +1,4 @@
-#include "stress/ChargeLaw.h"
+#include "stress/StoredCharge.h"
 
 #include "calc/Capacitance.h"
 #include "calc/CheckedMath.h"
@@ -23,7 +23,7 @@ double FaradsAt(const PartRecord& part, double volts, double celsius, CodeView v
 }
 } // namespace
 
-ChargeLaw::ChargeLaw(const PartRecord& part, double celsius, CodeView view)
+StoredCharge::StoredCharge(const PartRecord& part, double celsius, CodeView view)
     : rated(part.Data[Value::RatedVoltage])
 {
     CheckedDivisor(rated);
@@ -37,7 +37,7 @@ ChargeLaw::ChargeLaw(const PartRecord& part, double celsius, CodeView view)
     }
 }
 
-double ChargeLaw::ChargeAt(double volts) const
+double StoredCharge::ChargeAt(double volts) const
 {
     const double size = std::abs(volts);
     if (size >= rated)
@@ -51,7 +51,7 @@ double ChargeLaw::ChargeAt(double volts) const
     return std::copysign(charges[i] + behind * (farads[i] + slope * behind / 2), volts);
 }
 
-double ChargeLaw::VoltageAt(double charge) const
+double StoredCharge::VoltageAt(double charge) const
 {
     const double size = std::abs(charge);
     if (size >= charges.back())
