@@ -160,6 +160,10 @@ void AddWants(CLI::App& command, FindOptions& options)
         command, options,
         {"minCapacitance", Quantity::Capacitance, "Capacitance at the operating point at least", wantsGroup},
         [&wanted](float picofarads) { wanted.LeastCapacitance = picofarads; });
+    AddValue(command, options,
+             {"minWarmCapacitance", Quantity::Capacitance,
+              "Capacitance at the temperature that the load brings the part to, at least", wantsGroup},
+             [&wanted](float picofarads) { wanted.LeastWarmCapacitance = picofarads; });
     AddValue(
         command, options,
         {"minLeft", Quantity::CapacitanceChange, "Percentage of the capacitance left at least", wantsGroup},

@@ -25,6 +25,7 @@ static constexpr std::array<FoundColumnKind, FoundColumnCount> columns = {{
     {FoundColumn::Area, "area", "mm\u00B2", ColumnNeed::Nothing},
     {FoundColumn::MostCapacitance, "most-capacitance", "pF", ColumnNeed::Nothing},
     {FoundColumn::Margin, "margin", "\u00B0C", ColumnNeed::Load},
+    {FoundColumn::WarmCapacitance, "warm-capacitance", "pF", ColumnNeed::Load},
 }};
 
 /// In the order of `FoundPlace`.

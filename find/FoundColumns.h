@@ -34,9 +34,10 @@ enum class FoundColumn : std::uint8_t
     Area,
     MostCapacitance,
     Margin,
+    WarmCapacitance,
 };
 
-inline constexpr std::size_t FoundColumnCount = 21;
+inline constexpr std::size_t FoundColumnCount = 22;
 
 /// Where in the ranges of conditions a value occurs.
 enum class FoundPlace : std::uint8_t

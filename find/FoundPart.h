@@ -44,6 +44,12 @@ public:
         values[static_cast<std::size_t>(column) - firstComputed] = value;
     }
 
+    /// Leaves a column empty.
+    void Clear(FoundColumn column)
+    {
+        values[static_cast<std::size_t>(column) - firstComputed] = std::numeric_limits<double>::quiet_NaN();
+    }
+
     /// The conditions that tell a place, in the units that they are entered in; nothing where it is empty.
     std::optional<std::array<float, 2>> ConditionsAt(FoundPlace place) const
     {

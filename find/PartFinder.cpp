@@ -42,7 +42,7 @@ public:
         , wanted(asked.Wanted)
         , columns(asked)
         , isFewest(wanted.Parallel && wanted.Parallel->IsFewest)
-        , needsCapacitance(wanted.LeastCapacitance || wanted.LeastLeft)
+        , needsCapacitance(wanted.LeastCapacitance || wanted.LeastLeft || wanted.LeastWarmCapacitance)
         , needsHeating(at.Load || wanted.MostLossResistance)
         , needsLoads(at.Load && (isFewest || at.Load->Kind != Quantity::Current))
     {
@@ -150,7 +150,7 @@ private:
     bool DoesWhatIsWanted(const FoundPart& row) const
     {
         return IsWithin(row, FoundColumn::Count, static_cast<float>(MostInParallel)) && HasCapacitance(row) &&
-               HasLeft(row) && BearsLoad(row) &&
+               HasWarmCapacitance(row) && HasLeft(row) && BearsLoad(row) &&
                (!wanted.MostLossResistance ||
                 IsWithin(row, FoundColumn::LossResistance, *wanted.MostLossResistance));
     }
@@ -169,6 +169,13 @@ private:
         }
         const double total = row.Known(FoundColumn::Total);
         return isFewest ? total > 0 : static_cast<float>(total) >= *wanted.LeastCapacitance;
+    }
+
+    /// A part that has no capacitance where it works so warm has not enough of it.
+    bool HasWarmCapacitance(const FoundPart& row) const
+    {
+        const double bank = row.Known(FoundColumn::Count) * row.Known(FoundColumn::WarmCapacitance);
+        return !wanted.LeastWarmCapacitance || static_cast<float>(bank) >= *wanted.LeastWarmCapacitance;
     }
 
     bool HasLeft(const FoundPart& row) const

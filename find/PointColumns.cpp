@@ -53,12 +53,14 @@ void PointColumns::FillAtPoint(FoundPart& row, FilledColumns groups) const
     {
         FillLoads(row, *model);
     }
-    const int count = CountOf(row);
-    if (model && at.Load)
-    {
-        FillRise(row, *model, count);
-    }
-    FillBank(row, count);
+    FillCount(row,
+              [&](int count)
+              {
+                  if (model && at.Load)
+                  {
+                      FillRise(row, *model, count);
+                  }
+              });
 }
 
 void PointColumns::FillInRanges(FoundPart& row, FilledColumns groups) const
@@ -73,12 +75,56 @@ void PointColumns::FillInRanges(FoundPart& row, FilledColumns groups) const
     {
         corners->FillLoads(row);
     }
-    const int count = CountOf(row);
-    if (corners && at.Load)
+    FillCount(row,
+              [&](int count)
+              {
+                  if (corners && at.Load)
+                  {
+                      corners->FillRise(row, *at.Load, LoadOfEach(count));
+                  }
+              });
+}
+
+/// As many as are asked for; where as few as will do are, more of them while what they have left under their
+/// own heat is not enough.
+template <class Warmer> void PointColumns::FillCount(FoundPart& row, const Warmer& fillRise) const
+{
+    int count = CountOf(row);
+    fillRise(count);
+    FillWarmth(row);
+    const bool isFewest = wanted.Parallel && wanted.Parallel->IsFewest && wanted.LeastWarmCapacitance;
+    while (isFewest && count <= MostInParallel &&
+           static_cast<float>(count * row.Known(FoundColumn::WarmCapacitance)) < *wanted.LeastWarmCapacitance)
     {
-        corners->FillRise(row, *at.Load, LoadOfEach(count));
+        ++count;
+        fillRise(count);
+        FillWarmth(row);
     }
     FillBank(row, count);
+}
+
+/// The least capacitance between the lowest ambient temperature and the highest of the part itself; at a
+/// point, where it works. Empty where the part's characteristic ends below that.
+void PointColumns::FillWarmth(FoundPart& row) const
+{
+    const auto body = row.ValueOf(FoundColumn::Body);
+    if (!body || !row.ValueOf(FoundColumn::EffectiveCapacitance))
+    {
+        return;
+    }
+    const auto warm = static_cast<float>(*body);
+    const ConditionRange celsius = isPoint ? ConditionRange(warm) : ConditionRange(at.AmbientC.Low, warm);
+    row.Clear(FoundColumn::WarmCapacitance);
+    if (!IsClassAmbientPermitted(warm, row.Part(), at.View))
+    {
+        return;
+    }
+    if (const auto extremes =
+            CapacitanceExtremesIn(row.Part(), {.BiasVolts = at.BiasVolts, .AmbientC = celsius}, at.View))
+    {
+        row.Set(FoundColumn::WarmCapacitance,
+                extremes->Least.Point.PicoFarads * (1 - at.Tolerance.Down / 100.0));
+    }
 }
 
 void PointColumns::FillCapacitance(FoundPart& row) const

@@ -68,6 +68,19 @@ bool IsFromZero(float value)
     return value >= 0 && std::isfinite(value);
 }
 
+/// Without a load no part is warmer than what is around it.
+Result RefuseNoLoad(const FindQuestion& question)
+{
+    if (!question.Wanted.LeastWarmCapacitance || question.At.Load)
+    {
+        return std::nullopt;
+    }
+    auto refused = Refused(Condition::Parameter, InvalidWords(KindOf(Condition::Parameter).Name,
+                                                              "from 0 " + UnitOf(Quantity::Current)));
+    refused->IsMissing = true;
+    return refused;
+}
+
 Result RefuseLoad(const OperatingPoint& at)
 {
     if (!at.Load || IsFromZero(at.Load->Value))
@@ -111,8 +124,9 @@ struct Limit
     std::string_view Unit;
 };
 
-constexpr std::array<Limit, 3> limits = {{
+constexpr std::array<Limit, 4> limits = {{
     {"minCapacitance", &Wants::LeastCapacitance, "Capacitance", "[pF]"},
+    {"minWarmCapacitance", &Wants::LeastWarmCapacitance, "Warm capacitance", "[pF]"},
     {"minLeft", &Wants::LeastLeft, "Capacitance left", "[%]"},
     {"maxLossResistance", &Wants::MostLossResistance, "Loss Resistance", "[mOhm]"},
 }};
@@ -136,8 +150,8 @@ std::optional<QuestionRefusal> RefuseQuestion(const FindQuestion& question, floa
 {
     for (const Result& refused :
          {RefuseBias(question.At, largestRating), RefuseResistance(question.At), RefuseHertz(question),
-          RefuseLoad(question.At), RefuseTolerance(question.At.Tolerance), RefuseLimits(question.Wanted),
-          RefuseRise(question.Wanted)})
+          RefuseLoad(question.At), RefuseNoLoad(question), RefuseTolerance(question.At.Tolerance),
+          RefuseLimits(question.Wanted), RefuseRise(question.Wanted)})
     {
         if (refused)
         {

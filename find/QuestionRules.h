@@ -11,8 +11,8 @@
 /// Why a question is refused.
 struct QuestionRefusal
 {
-    /// What the entry is called: the key of a condition, "dcBias", or "minCapacitance", "minLeft", "maxRise",
-    /// "maxLossResistance", "tolerance".
+    /// What the entry is called: the key of a condition, "dcBias", or "minCapacitance", "minWarmCapacitance",
+    /// "minLeft", "maxRise", "maxLossResistance", "tolerance".
     std::string_view Key;
     /// In the words of the form, two lines separated by carriage return and line feed.
     std::string Message;

@@ -23,6 +23,8 @@ struct Wants
 {
     /// Of the whole bank, in pF.
     std::optional<float> LeastCapacitance = {};
+    /// Of the whole bank at its own temperature under the load, in pF.
+    std::optional<float> LeastWarmCapacitance = {};
     /// Percent of the nominal capacitance, in the JIS view of the one at 20 °C.
     std::optional<float> LeastLeft = {};
     /// The rise in °C that a load may bring, in place of the recommended one.

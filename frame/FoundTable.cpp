@@ -38,6 +38,7 @@ constexpr std::array<Heading, FoundColumnCount> headings = {{
     {FoundColumn::Rise, "Rise [%1C]", nullptr},
     {FoundColumn::Margin, "Margin [%1C]", nullptr},
     {FoundColumn::Body, "Body [%1C]", nullptr},
+    {FoundColumn::WarmCapacitance, "Warm", "Warm [pF]"},
     {FoundColumn::Ripple, "Ripple [Vrms]", nullptr},
     {FoundColumn::Current, "Allowed [Arms]", nullptr},
     {FoundColumn::Voltage, "Allowed [Vrms]", nullptr},

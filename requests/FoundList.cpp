@@ -21,7 +21,7 @@ constexpr std::array<std::string_view, FoundColumnCount> tableHeadings = {
     "PART",      "SIZE",         "TCC",        "CAPACITANCE",   "RATED[V]",      "EFFECTIVE",
     "LEFT[%]",   "PERMITTED[C]", "LOSS[mOhm]", "CURRENT[Arms]", "VOLTAGE[Vrms]", "APPARENT[VA]",
     "POWER[W]",  "RISE[C]",      "BODY[C]",    "RIPPLE[Vrms]",  "COUNT",         "TOTAL",
-    "AREA[mm2]", "MOST",         "MARGIN[C]",
+    "AREA[mm2]", "MOST",         "MARGIN[C]",  "WARM",
 };
 
 /// What requests call the condition of a place.
@@ -126,12 +126,17 @@ std::vector<TableColumn> ColumnsOf(const FindQuestion& question)
     std::vector<TableColumn> columns;
     for (const FoundColumnKind& column : FoundColumns())
     {
-        const bool isOther = column.Id == FoundColumn::MostCapacitance || column.Id == FoundColumn::Margin;
+        const bool isOther = column.Id == FoundColumn::MostCapacitance || column.Id == FoundColumn::Margin ||
+                             column.Id == FoundColumn::WarmCapacitance;
         if (isOther || !Applies(column.Needs, question))
         {
             continue;
         }
         question.At.HasWorst() ? AddWithWorst(columns, column) : columns.push_back({&column});
+        if (column.Id == FoundColumn::Body)
+        {
+            columns.push_back({&KindOf(FoundColumn::WarmCapacitance)});
+        }
     }
     return columns;
 }

@@ -134,7 +134,7 @@ void CompletionTest::OffersWhatFits_data()
     row("all orders of found parts", "find --sort ",
         "part size characteristic capacitance rated-voltage effective-capacitance left permitted-rise "
         "loss-resistance current voltage apparent-power effective-power rise body ripple count total area "
-        "most-capacitance margin");
+        "most-capacitance margin warm-capacitance");
     row("as few in parallel as will do", "find --parallel ", "auto");
     row("largest sizes", "find --max-size 12", "1206 1210");
     row("least rated voltages", "find --min-rated-voltage 6", "6.3V 630V");

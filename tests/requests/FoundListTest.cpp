@@ -76,10 +76,10 @@ TEST(FoundList, IsATableOfTheColumnsThatAreAskedFor)
               "AB-1  1206  X7R        4.7uF       6.3    1.235uF    33.33      10.24\n");
     EXPECT_EQ(Range().Text("table", All, 2),
               "PART   SIZE  TCC  CAPACITANCE  RATED[V]  EFFECTIVE  LEFT[%]  PERMITTED[C]  LOSS[mOhm]  "
-              "CURRENT[Arms]  VOLTAGE[Vrms]  APPARENT[VA]  POWER[W]  RISE[C]  BODY[C]  RIPPLE[Vrms]  COUNT  "
+              "CURRENT[Arms]  VOLTAGE[Vrms]  APPARENT[VA]  POWER[W]  RISE[C]  BODY[C]  WARM  RIPPLE[Vrms]  COUNT  "
               "  TOTAL  AREA[mm2]\n"
               "OLD,2  3216  R          4.7uF       6.3    1.235uF    33.33             -         2.5  "
-              "            -              -             -         -        -        -           0.1      2  "
+              "            -              -             -         -        -        -     -           0.1      2  "
               "2.469uF      10.24\n");
 }
 
@@ -88,7 +88,7 @@ TEST(FoundList, HasRippleForACurrentAlone)
     auto question = All;
     question.At.Load->Kind = Quantity::RmsVoltage;
     const auto text = Range().Text("table", question);
-    EXPECT_NE(text.find("BODY[C]  COUNT"), std::string::npos) << text;
+    EXPECT_NE(text.find("BODY[C]  WARM  COUNT"), std::string::npos) << text;
 }
 
 const std::string Headings =
@@ -96,16 +96,16 @@ const std::string Headings =
     "permitted rise [°C],loss resistance [mOhm],current [Arms],voltage [Vrms],apparent power [VA],"
     "effective power [W],rise [°C],body [°C],ripple [Vrms],count,total [pF],area [mm²],most capacitance [pF],"
     "least at bias [V],least at ambient [°C],most at bias [V],most at ambient [°C],rise at ambient [°C],"
-    "rise at frequency [kHz],margin [°C],margin at ambient [°C],margin at frequency [kHz]\n";
+    "rise at frequency [kHz],margin [°C],margin at ambient [°C],margin at frequency [kHz],warm capacitance [pF]\n";
 
 TEST(FoundList, HasAllHeadingsInCsv)
 {
     EXPECT_EQ(Range().Text("csv", Plain),
-              Headings + "AB-1,1206,X7R,4700000,6.3,1234567.4,33.333332,,,,,,,,,,,,10.24,,,,,,,,,,\n");
+              Headings + "AB-1,1206,X7R,4700000,6.3,1234567.4,33.333332,,,,,,,,,,,,10.24,,,,,,,,,,,\n");
     EXPECT_EQ(
         Range().Text("csv", All, 2),
         Headings +
-            "\"OLD,2\",3216,R,4700000,6.3,1234567.4,33.333332,,2.5,,,,,,,0.1,2,2469134.8,10.24,,,,,,,,,,\n");
+            "\"OLD,2\",3216,R,4700000,6.3,1234567.4,33.333332,,2.5,,,,,,,0.1,2,2469134.8,10.24,,,,,,,,,,,\n");
 }
 
 TEST(FoundList, HasAllKeysInJson)
@@ -116,7 +116,7 @@ TEST(FoundList, HasAllKeysInJson)
               "\"permittedRise\":null,\"lossResistance\":null,\"current\":null,\"voltage\":null,"
               "\"apparentPower\":null,\"effectivePower\":null,\"rise\":null,\"body\":null,\"ripple\":null,"
               "\"count\":null,\"total\":null,\"area\":10.24,\"mostCapacitance\":null,\"leastAt\":null,"
-              "\"mostAt\":null,\"riseAt\":null,\"margin\":null,\"marginAt\":null}\n]\n");
+              "\"mostAt\":null,\"riseAt\":null,\"margin\":null,\"marginAt\":null,\"warmCapacitance\":null}\n]\n");
 }
 
 TEST(FoundList, TellsTheWorstOfRangesWithItsPlaces)
@@ -143,10 +143,10 @@ TEST(FoundList, TellsTheWorstOfRangesWithItsPlaces)
     const auto json = range.Text("json", question);
     EXPECT_NE(json.find("\"mostCapacitance\":2000000,\"leastAt\":{\"dcBias\":13.2,\"ambient\":85},"
                         "\"mostAt\":{\"dcBias\":10.8,\"ambient\":10.25},"
-                        "\"riseAt\":{\"ambient\":85,\"frequency\":270},\"margin\":null,\"marginAt\":null}"),
+                        "\"riseAt\":{\"ambient\":85,\"frequency\":270},\"margin\":null,\"marginAt\":null,\"warmCapacitance\":null}"),
               std::string::npos)
         << json;
-    EXPECT_NE(range.Text("csv", question).find("10.24,2000000,13.2,85,10.8,10.25,85,270,,,\n"),
+    EXPECT_NE(range.Text("csv", question).find("10.24,2000000,13.2,85,10.8,10.25,85,270,,,,\n"),
               std::string::npos);
 }
 
