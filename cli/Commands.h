@@ -30,5 +30,6 @@ void AddBankCommand(CLI::App& app);
 void AddRippleCommand(CLI::App& app);
 
 /// All commands, in the order in which the help tells them.
-inline constexpr std::array AllCommands = {AddPartsCommand, AddFindCommand, AddCurveCommand,  AddChartCommand,
-                                           AddModelCommand, AddBankCommand, AddRippleCommand, AddDataCommands};
+inline constexpr std::array AllCommands = {AddPartsCommand,  AddFindCommand,  AddCurveCommand,
+                                           AddChartCommand,  AddModelCommand, AddBankCommand,
+                                           AddRippleCommand, AddDataCommands};

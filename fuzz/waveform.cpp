@@ -1,5 +1,5 @@
-/// A waveform as a simulator or an oscilloscope writes it, and what is found in it: told why not, or a current
-/// whose figures are numbers.
+/// A waveform as a simulator or an oscilloscope writes it, and what is found in it: told why not, or a
+/// current whose figures are numbers.
 
 #include "fuzz/Allocations.h"
 #include "fuzz/Require.h"

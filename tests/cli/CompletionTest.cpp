@@ -90,7 +90,8 @@ void CompletionTest::OffersAllOf(const QStringList& command)
 
 void CompletionTest::OffersAllThatTheHelpNames()
 {
-    QCOMPARE(CommandsOf({}), (QStringList{"parts", "find", "curve", "chart", "model", "bank", "ripple", "data"}));
+    QCOMPARE(CommandsOf({}),
+             (QStringList{"parts", "find", "curve", "chart", "model", "bank", "ripple", "data"}));
     OffersAllOf({});
 }
 

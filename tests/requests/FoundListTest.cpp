@@ -74,13 +74,14 @@ TEST(FoundList, IsATableOfTheColumnsThatAreAskedFor)
     EXPECT_EQ(Range().Text("table", Plain),
               "PART  SIZE  TCC  CAPACITANCE  RATED[V]  EFFECTIVE  LEFT[%]  AREA[mm2]\n"
               "AB-1  1206  X7R        4.7uF       6.3    1.235uF    33.33      10.24\n");
-    EXPECT_EQ(Range().Text("table", All, 2),
-              "PART   SIZE  TCC  CAPACITANCE  RATED[V]  EFFECTIVE  LEFT[%]  PERMITTED[C]  LOSS[mOhm]  "
-              "CURRENT[Arms]  VOLTAGE[Vrms]  APPARENT[VA]  POWER[W]  RISE[C]  BODY[C]  WARM  RIPPLE[Vrms]  COUNT  "
-              "  TOTAL  AREA[mm2]\n"
-              "OLD,2  3216  R          4.7uF       6.3    1.235uF    33.33             -         2.5  "
-              "            -              -             -         -        -        -     -           0.1      2  "
-              "2.469uF      10.24\n");
+    EXPECT_EQ(
+        Range().Text("table", All, 2),
+        "PART   SIZE  TCC  CAPACITANCE  RATED[V]  EFFECTIVE  LEFT[%]  PERMITTED[C]  LOSS[mOhm]  "
+        "CURRENT[Arms]  VOLTAGE[Vrms]  APPARENT[VA]  POWER[W]  RISE[C]  BODY[C]  WARM  RIPPLE[Vrms]  COUNT  "
+        "  TOTAL  AREA[mm2]\n"
+        "OLD,2  3216  R          4.7uF       6.3    1.235uF    33.33             -         2.5  "
+        "            -              -             -         -        -        -     -           0.1      2  "
+        "2.469uF      10.24\n");
 }
 
 TEST(FoundList, HasRippleForACurrentAlone)
@@ -96,7 +97,8 @@ const std::string Headings =
     "permitted rise [°C],loss resistance [mOhm],current [Arms],voltage [Vrms],apparent power [VA],"
     "effective power [W],rise [°C],body [°C],ripple [Vrms],count,total [pF],area [mm²],most capacitance [pF],"
     "least at bias [V],least at ambient [°C],most at bias [V],most at ambient [°C],rise at ambient [°C],"
-    "rise at frequency [kHz],margin [°C],margin at ambient [°C],margin at frequency [kHz],warm capacitance [pF]\n";
+    "rise at frequency [kHz],margin [°C],margin at ambient [°C],margin at frequency [kHz],warm capacitance "
+    "[pF]\n";
 
 TEST(FoundList, HasAllHeadingsInCsv)
 {
@@ -110,13 +112,14 @@ TEST(FoundList, HasAllHeadingsInCsv)
 
 TEST(FoundList, HasAllKeysInJson)
 {
-    EXPECT_EQ(Range().Text("json", Plain),
-              "[\n{\"part\":\"AB-1\",\"size\":\"1206\",\"characteristic\":\"X7R\",\"capacitance\":4700000,"
-              "\"ratedVoltage\":6.3,\"effectiveCapacitance\":1234567.4,\"left\":33.333332,"
-              "\"permittedRise\":null,\"lossResistance\":null,\"current\":null,\"voltage\":null,"
-              "\"apparentPower\":null,\"effectivePower\":null,\"rise\":null,\"body\":null,\"ripple\":null,"
-              "\"count\":null,\"total\":null,\"area\":10.24,\"mostCapacitance\":null,\"leastAt\":null,"
-              "\"mostAt\":null,\"riseAt\":null,\"margin\":null,\"marginAt\":null,\"warmCapacitance\":null}\n]\n");
+    EXPECT_EQ(
+        Range().Text("json", Plain),
+        "[\n{\"part\":\"AB-1\",\"size\":\"1206\",\"characteristic\":\"X7R\",\"capacitance\":4700000,"
+        "\"ratedVoltage\":6.3,\"effectiveCapacitance\":1234567.4,\"left\":33.333332,"
+        "\"permittedRise\":null,\"lossResistance\":null,\"current\":null,\"voltage\":null,"
+        "\"apparentPower\":null,\"effectivePower\":null,\"rise\":null,\"body\":null,\"ripple\":null,"
+        "\"count\":null,\"total\":null,\"area\":10.24,\"mostCapacitance\":null,\"leastAt\":null,"
+        "\"mostAt\":null,\"riseAt\":null,\"margin\":null,\"marginAt\":null,\"warmCapacitance\":null}\n]\n");
 }
 
 TEST(FoundList, TellsTheWorstOfRangesWithItsPlaces)
@@ -143,7 +146,8 @@ TEST(FoundList, TellsTheWorstOfRangesWithItsPlaces)
     const auto json = range.Text("json", question);
     EXPECT_NE(json.find("\"mostCapacitance\":2000000,\"leastAt\":{\"dcBias\":13.2,\"ambient\":85},"
                         "\"mostAt\":{\"dcBias\":10.8,\"ambient\":10.25},"
-                        "\"riseAt\":{\"ambient\":85,\"frequency\":270},\"margin\":null,\"marginAt\":null,\"warmCapacitance\":null}"),
+                        "\"riseAt\":{\"ambient\":85,\"frequency\":270},\"margin\":null,\"marginAt\":null,"
+                        "\"warmCapacitance\":null}"),
               std::string::npos)
         << json;
     EXPECT_NE(range.Text("csv", question).find("10.24,2000000,13.2,85,10.8,10.25,85,270,,,,\n"),
