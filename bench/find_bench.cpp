@@ -5,6 +5,7 @@
 #include "calc/AllowablePower.h"
 #include "files/PartLoading.h"
 #include "find/FoundOrder.h"
+#include "find/Likeness.h"
 #include "find/PartFilter.h"
 
 #include <algorithm>
@@ -162,6 +163,24 @@ void CompareWithPoint(const std::string& name, const PartTable& parts, const Fin
     std::printf("%s: %zu of %zu parts, quickest answer %.1f ms\n", name.c_str(), fitting,
                 parts.PartData.size(), std::ranges::min(times) / 1000);
 }
+/// Who may stand for a part of the sample, over its own conditions, beside the answer at a point.
+void CompareLike(const std::string& name, const PartTable& parts, std::size_t original,
+                 const FindQuestion& point)
+{
+    const auto all = FilterParts(parts, {.TakesPartsWithoutData = true});
+    const LikeQuestion question{.Original = &parts.PartData[original]};
+    std::vector<double> times;
+    CompareInTurns(
+        name, 20,
+        [&](int)
+        {
+            times.push_back(MicrosecondsOf([&] { fitting = FindLike(all, question).Parts.size(); }));
+            return times.back();
+        },
+        [&](int) { return MicrosecondsOf([&] { Ours(parts, point); }); });
+    std::printf("%s: %zu of %zu parts, quickest answer %.1f ms\n", name.c_str(), fitting,
+                parts.PartData.size(), std::ranges::min(times) / 1000);
+}
 } // namespace
 
 int main()
@@ -183,6 +202,10 @@ int main()
     CompareWithPoint("find-ranges-capacitance", parts,
                      {.At = {.BiasVolts = {0, 6.3F}, .AmbientC = {-20, 85}}},
                      {.At = {.BiasVolts = 5, .AmbientC = 60}});
+    const auto placeOf = [&](std::string_view part)
+    { return static_cast<std::size_t>(*sample.PartIndex[0].Find(part)); };
+    CompareLike("like-product", parts, placeOf("KTS188B51A475MA01"), {.At = loaded});
+    CompareLike("like-peaked", parts, placeOf("KTS21JF51A106ZA01"), {.At = loaded});
     Compare("find-bank", parts,
             {.At = loaded, .Wanted = {.LeastCapacitance = 1e6F, .Parallel = Bank{.IsFewest = true}}});
     return 0;

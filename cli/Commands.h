@@ -14,6 +14,9 @@ void AddPartsCommand(CLI::App& app);
 /// "find": the parts that do what is needed at an operating point.
 void AddFindCommand(CLI::App& app);
 
+/// "like": the parts that may stand for a part.
+void AddLikeCommand(CLI::App& app);
+
 /// "curve": one curve in a file format, or a stream of curves.
 void AddCurveCommand(CLI::App& app);
 
@@ -30,6 +33,6 @@ void AddBankCommand(CLI::App& app);
 void AddRippleCommand(CLI::App& app);
 
 /// All commands, in the order in which the help tells them.
-inline constexpr std::array AllCommands = {AddPartsCommand,  AddFindCommand,  AddCurveCommand,
-                                           AddChartCommand,  AddModelCommand, AddBankCommand,
-                                           AddRippleCommand, AddDataCommands};
+inline constexpr std::array AllCommands = {AddPartsCommand, AddFindCommand,  AddLikeCommand,
+                                           AddCurveCommand, AddChartCommand, AddModelCommand,
+                                           AddBankCommand,  AddRippleCommand, AddDataCommands};

@@ -3,6 +3,7 @@
 #include "calc/NumberText.h"
 #include "cli/Command.h"
 #include "cli/RequestWords.h"
+#include "requests/Names.h"
 #include "requests/PartList.h"
 
 #include <CLI/CLI.hpp>
@@ -47,10 +48,35 @@ int WholeNumber(const std::string& option, const std::string& typed, int most)
     return static_cast<int>(*value);
 }
 
+PartSize SizeOrFail(const PartTable& parts, const std::string& name, CodeView code)
+{
+    const auto size = SizeNamed(parts, name, code);
+    if (!size)
+    {
+        throw Failure("no size \"" + name + "\"; there are " + ListOf(SizeNames(parts, code)));
+    }
+    return *size;
+}
+
+void AddLimitOption(CLI::App& command, std::size_t& limit, const std::string& group)
+{
+    AddReadOption(command, {"--limit", "N", "So many parts at most", group},
+                  [&limit](const std::string& value)
+                  {
+                      constexpr int most = 1'000'000'000;
+                      limit = static_cast<std::size_t>(WholeNumber("--limit", value, most));
+                  });
+}
+
 void AddFilterOptions(CLI::App& command, PartFilter& filter)
 {
     command.add_option("text", filter.Text, "Part of a part number, in any form and letter case")
         ->type_name("TEXT");
+    AddRatingOptions(command, filter);
+}
+
+void AddRatingOptions(CLI::App& command, PartFilter& filter)
+{
     AddReadOption(command, {"--size", "SIZE", "Size code, such as 1206 or 3216"},
                   [&filter](const std::string& value) { filter.SizeCode = value; });
     AddReadOption(command, {"--characteristic", "TCC", "Temperature characteristic, such as X7R or R"},

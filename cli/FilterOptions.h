@@ -27,9 +27,17 @@ struct ReadOption
 void AddReadOption(CLI::App& command, const ReadOption& option,
                    const std::function<void(const std::string& value)>& take);
 
-/// The value of an option that is a whole number from 1 on. Throws UsageError for what is no number, Failure
-/// for one that is not whole or not in the range.
+/// Throws UsageError for what is no number, Failure for one that is not whole or not from 1 to `most`.
 int WholeNumber(const std::string& option, const std::string& typed, int most);
+
+/// The measures of a size by its name. Throws Failure that lists the names for a size that no part has.
+PartSize SizeOrFail(const PartTable& parts, const std::string& name, CodeView code);
+
+/// Adds --limit.
+void AddLimitOption(CLI::App& command, std::size_t& limit, const std::string& group = "");
+
+/// Adds --size, --characteristic, --capacitance and --rated-voltage.
+void AddRatingOptions(CLI::App& command, PartFilter& filter);
 
 /// Adds the piece of a part number, --size, --characteristic, --capacitance and --rated-voltage.
 void AddFilterOptions(CLI::App& command, PartFilter& filter);

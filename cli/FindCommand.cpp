@@ -3,6 +3,7 @@
 #include "cli/Command.h"
 #include "cli/Commands.h"
 #include "cli/FileArguments.h"
+#include "cli/FilterOptions.h"
 #include "cli/FindOptions.h"
 #include "cli/HelpText.h"
 #include "cli/Output.h"
@@ -53,12 +54,7 @@ static std::vector<const PartRecord*> CandidatesOf(const FindOptions& options, c
     filter.TakesPartsWithoutData = true;
     if (options.MaxSize)
     {
-        filter.LargestSize = SizeNamed(parts, *options.MaxSize, filter.Code);
-        if (!filter.LargestSize)
-        {
-            throw Failure("no size \"" + *options.MaxSize + "\"; there are " +
-                          ListOf(SizeNames(parts, filter.Code)));
-        }
+        filter.LargestSize = SizeOrFail(parts, *options.MaxSize, filter.Code);
     }
     return FilterParts(parts, filter);
 }

@@ -192,12 +192,7 @@ void AddResult(CLI::App& command, FindOptions& options)
          "Order by " + ChoiceOf({names.begin(), names.end()}) + "; downwards with a hyphen before the key",
          resultGroup},
         [&options](const std::string& value) { options.Sort = value; });
-    AddReadOption(command, {"--limit", "N", "So many parts at most", resultGroup},
-                  [&options](const std::string& value)
-                  {
-                      constexpr int most = 1'000'000'000;
-                      options.Limit = static_cast<std::size_t>(WholeNumber("--limit", value, most));
-                  });
+    AddLimitOption(command, options.Limit, resultGroup);
 }
 } // namespace
 

@@ -17,7 +17,7 @@ std::string_view TextOf(LeftOutReason reason)
     return texts.at(static_cast<std::size_t>(reason));
 }
 
-static std::string FittingText(std::size_t fitting)
+std::string FittingText(std::size_t fitting)
 {
     switch (fitting)
     {

@@ -39,6 +39,9 @@ private:
 /// "bias too high".
 std::string_view TextOf(LeftOutReason reason);
 
+/// "no part fits", "1 part fits", "25 parts fit".
+std::string FittingText(std::size_t fitting);
+
 /// "25 parts fit; left out: 3 no heating data, 21 bias too high", "1 part fits", "no part fits".
 std::string FitText(std::size_t fitting, const LeftOutCounts& leftOut);
 

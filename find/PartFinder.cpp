@@ -1,10 +1,9 @@
 #include "find/PartFinder.h"
 
 #include "calc/Conditions.h"
+#include "find/KindsOfData.h"
 #include "find/PointColumns.h"
 #include "find/SizeOrder.h"
-#include "partdata/Availability.h"
-#include "partdata/Characteristic.h"
 #include "partdata/RunTimeError.h"
 
 #include <algorithm>
@@ -89,9 +88,7 @@ private:
 
     Emptiness CapacitanceEmptiness(const PartRecord& part) const
     {
-        const bool hasData = CanBeListed(part) && HasData(part, Values::OfCapacitance) &&
-                             CapacitanceModelOf(part) != CapacitanceModel::None;
-        return First(ReasonUnless(hasData, LeftOutReason::NoCapacitanceData),
+        return First(ReasonUnless(HasCapacitanceData(part), LeftOutReason::NoCapacitanceData),
                      First(ReasonUnless(IsBiasPermitted(part), LeftOutReason::BiasTooHigh),
                            ReasonUnless(IsClassAmbientPermitted(at.AmbientC.Low, part, at.View) &&
                                             IsClassAmbientPermitted(at.AmbientC.High, part, at.View),
@@ -107,7 +104,7 @@ private:
     Emptiness HeatingEmptiness(const PartRecord& part) const
     {
         const auto heatingC = at.HeatingAmbientC();
-        const bool hasData = at.Kilohertz && CanBeListed(part) && HasData(part, Values::OfPower);
+        const bool hasData = at.Kilohertz && HasHeatingData(part);
         return First(ReasonUnless(hasData, LeftOutReason::NoHeatingData),
                      First(ReasonUnless(IsBiasPermitted(part), LeftOutReason::BiasTooHigh),
                            ReasonUnless(IsHeatingAmbientPermitted(heatingC.Low, part) &&

@@ -91,7 +91,7 @@ void CompletionTest::OffersAllOf(const QStringList& command)
 void CompletionTest::OffersAllThatTheHelpNames()
 {
     QCOMPARE(CommandsOf({}),
-             (QStringList{"parts", "find", "curve", "chart", "model", "bank", "ripple", "data"}));
+             (QStringList{"parts", "find", "like", "curve", "chart", "model", "bank", "ripple", "data"}));
     OffersAllOf({});
 }
 
@@ -123,6 +123,9 @@ void CompletionTest::OffersWhatFits_data()
     row("part numbers of a model", "model KTS31NB51E106", "KTS31NB51E106MA01");
     row("part numbers of a bank", "bank KTS31NB51E106MA01 --code jis KTU155F01H102", "KTU155F01H102ZA01");
     row("formats of banks", "bank --format ", "table json");
+    row("part numbers to stand for", "like KTS31NB51E106", "KTS31NB51E106MA01");
+    row("orders of parts that stand for another", "like KTS31NB51E106MA01 --sort l",
+        "least-ratio loss-ratio");
     row("no part number as text of a list", "parts KTS31NB51E106", "");
     row("sizes", "parts --size 0", "0201 0402 0603 0805");
     row("sizes in the other code", "parts --code jis --size 0", "0603");

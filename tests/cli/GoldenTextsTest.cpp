@@ -51,6 +51,7 @@ void GoldenTextsTest::Help_data()
     QTest::newRow("help") << "--help";
     QTest::newRow("help-parts") << "parts --help";
     QTest::newRow("help-find") << "find --help";
+    QTest::newRow("help-like") << "like --help";
     QTest::newRow("help-curve") << "curve --help";
     QTest::newRow("help-chart") << "chart --help";
     QTest::newRow("help-model") << "model --help";
@@ -102,6 +103,11 @@ void GoldenTextsTest::Answers_data()
                     "--parameter voltage=0.2 --format csv --code jis --numbering previous");
     row("find-json", "find --dc-bias 5V --ambient=-20C --min-left 75 --min-capacitance 0.7uF --max-size 0603 "
                      "--sort=-effective-capacitance --format json");
+    row("like-table", "like KTS32XR71E106KA01 --dc-bias 10.8..13.2V --ambient=-10..65C");
+    row("like-short", "like KTS32XR71E106KA01 --format csv");
+    row("like-json", "like KTS188B51A475MA01 --format json");
+    row("like-unknown", "like KTS188B51A475MA02");
+    row("like-refused", "like KTS188B51A475MA01 --dc-bias 20V");
     row("curve-tvk", "curve KTS31NB51E106MA01 --chart capacitance-dc-voltage --date 1/2/2026");
     row("curve-csv",
         "curve KTS31NB51E106MA01 --chart temperature-rise --dc-bias 12V --frequency 300kHz --format csv");

@@ -66,6 +66,11 @@ with tempfile.TemporaryDirectory() as folder:
     wave.write_text("".join(f"{i * 1e-7} {i % 20 if i % 20 < 10 else 20 - i % 20}\n" for i in range(1001)), encoding="ascii")
     answers.append(json.loads(run(["ripple", str(wave), "--part", PART, "--format", "json"])))
 assert answers[-1]["waveform"]["periods"] == 50
+# One that others may stand for, and one that has the nearest only.
+likes = [json.loads(run(["like", *words.split(), "--format", "json"])) for words in (
+    "KTS188B51A475MA01", "KTS32XR71E106KA01", "KTS32XR71E106KA01 --ambient -40..10C --worse 50")]
+assert likes[0]["parts"] and likes[1]["nearest"] and likes[2]["parts"][0]["lossRatio"] is None
+answers += likes
 for answer in answers:
     validator.validate(answer)
 # The sample pair is sound; cut short, it is not.
