@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 namespace
 {
@@ -21,22 +22,31 @@ struct Heading
     const char* Shown;
     /// With the unit of full numbers, where the shown one has none.
     const char* Copied;
+    /// The column tells where the value occurs.
+    std::optional<FoundPlace> Place = {};
 };
 
-constexpr std::array<Heading, FoundColumnCount> headings = {{
+/// Every column, and every place behind its own.
+constexpr std::size_t tableColumns = FoundColumnCount + FoundPlaceCount;
+
+constexpr std::array<Heading, tableColumns> headings = {{
     {FoundColumn::Part, "Part number", nullptr},
     {FoundColumn::Size, "Size", nullptr},
     {FoundColumn::Characteristic, "TCC", nullptr},
     {FoundColumn::Capacitance, "Nominal", "Nominal [pF]"},
     {FoundColumn::RatedVoltage, "Rated [V]", nullptr},
     {FoundColumn::EffectiveCapacitance, "Effective", "Effective [pF]"},
+    {FoundColumn::EffectiveCapacitance, "At", "Least at [V], [%1C]", FoundPlace::Least},
     {FoundColumn::MostCapacitance, "Most", "Most [pF]"},
+    {FoundColumn::MostCapacitance, "At", "Most at [V], [%1C]", FoundPlace::Most},
     {FoundColumn::Left, "Left [%]", nullptr},
     {FoundColumn::Count, "No.", nullptr},
     {FoundColumn::Total, "Total", "Total [pF]"},
     {FoundColumn::Area, "Area [mm²]", nullptr},
     {FoundColumn::Rise, "Rise [%1C]", nullptr},
+    {FoundColumn::Rise, "At", "Rise at [%1C], [kHz]", FoundPlace::Rise},
     {FoundColumn::Margin, "Margin [%1C]", nullptr},
+    {FoundColumn::Margin, "At", "Margin at [%1C], [kHz]", FoundPlace::Margin},
     {FoundColumn::Body, "Body [%1C]", nullptr},
     {FoundColumn::WarmCapacitance, "Warm", "Warm [pF]"},
     {FoundColumn::Ripple, "Ripple [Vrms]", nullptr},
@@ -83,6 +93,43 @@ QString ShownValue(const FoundPart& part, FoundColumn column)
     return KindOf(column).Unit == "pF" ? CapacitanceText(told) : QString::fromStdString(FourDigits(told));
 }
 
+/// "13.2 V, 85 °C".
+QString PlaceText(const FoundPart& part, FoundPlace place)
+{
+    const auto conditions = part.ConditionsAt(place);
+    if (!conditions)
+    {
+        return QStringLiteral("-");
+    }
+    const auto text = [&](std::size_t i)
+    {
+        return QString::fromStdString(FourDigits((*conditions)[i])) + u' ' +
+               FromAnsi(ShownUnitOf(KindOf(place).Conditions[i], mdlPublic.DegreeSign));
+    };
+    return text(0) + QStringLiteral(", ") + text(1);
+}
+
+/// The place of a column's value, which its tool tip tells.
+std::optional<FoundPlace> PlaceBehind(FoundColumn column)
+{
+    for (const FoundPlaceKind& place : FoundPlaces())
+    {
+        if (place.Of == column)
+        {
+            return place.Id;
+        }
+    }
+    return std::nullopt;
+}
+
+QString FullPlace(const FoundPart& part, FoundPlace place)
+{
+    const auto conditions = part.ConditionsAt(place);
+    return conditions
+               ? QString::fromStdString(NumberText((*conditions)[0]) + ", " + NumberText((*conditions)[1]))
+               : QString();
+}
+
 QString FullValue(const FoundPart& part, FoundColumn column)
 {
     const auto value = part.ValueOf(column);
@@ -124,6 +171,26 @@ void FoundTable::NamesChanged()
     TellChanged(Qt::DisplayRole);
 }
 
+QString FoundTable::PlaceAt(int row, FoundPlace place) const
+{
+    return PlaceText(PartAt(row), place);
+}
+
+bool FoundTable::IsPlace(int column)
+{
+    return HeadingAt(column).Place.has_value();
+}
+
+QString FoundTable::TextAt(int row, int column) const
+{
+    const Heading& heading = HeadingAt(column);
+    if (heading.Place)
+    {
+        return PlaceText(PartAt(row), *heading.Place);
+    }
+    return IsName(heading.Id) ? NameAt(row, heading.Id) : ShownValue(PartAt(row), heading.Id);
+}
+
 FoundColumn FoundTable::ColumnAt(int column)
 {
     return HeadingAt(column).Id;
@@ -132,7 +199,7 @@ FoundColumn FoundTable::ColumnAt(int column)
 bool FoundTable::Applies(int column) const
 {
     const FoundColumn id = ColumnAt(column);
-    const bool isWorst = id == FoundColumn::MostCapacitance || id == FoundColumn::Margin;
+    const bool isWorst = id == FoundColumn::MostCapacitance || id == FoundColumn::Margin || IsPlace(column);
     return ::Applies(KindOf(id).Needs, question) && (!isWorst || question.At.HasWorst());
 }
 
@@ -175,9 +242,17 @@ QVariant FoundTable::data(const QModelIndex& index, int role) const
     switch (role)
     {
     case Qt::DisplayRole:
-        return IsName(column) ? NameAt(index.row(), column) : ShownValue(PartAt(index.row()), column);
+        return TextAt(index.row(), index.column());
+    case Qt::ToolTipRole:
+    {
+        const auto place = PlaceBehind(column);
+        return place && question.At.HasWorst()
+                   ? QVariant(QStringLiteral("At ") + PlaceText(PartAt(index.row()), *place))
+                   : QVariant();
+    }
     case Qt::TextAlignmentRole:
-        return QVariant(Qt::AlignVCenter | (IsName(column) ? Qt::AlignLeft : Qt::AlignRight));
+        return QVariant(Qt::AlignVCenter |
+                        (IsName(column) || IsPlace(index.column()) ? Qt::AlignLeft : Qt::AlignRight));
     case Qt::ForegroundRole:
         return isStale ? QVariant(QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text))
                        : QVariant();
@@ -192,7 +267,9 @@ QVariant FoundTable::headerData(int section, Qt::Orientation orientation, int ro
     {
         return {};
     }
-    return WithDegreeSign(HeadingAt(section).Shown);
+    const Heading& heading = HeadingAt(section);
+    const bool isLeast = heading.Id == FoundColumn::EffectiveCapacitance && question.At.HasWorst();
+    return isLeast && !heading.Place ? QStringLiteral("Least") : WithDegreeSign(heading.Shown);
 }
 
 // ---- The order ----
@@ -238,8 +315,10 @@ QString FoundTable::Copied(const std::vector<int>& rows) const
         line.clear();
         for (const int column : columns)
         {
-            const FoundColumn id = ColumnAt(column);
-            line << (IsName(id) ? NameAt(row, id) : FullValue(PartAt(row), id));
+            const Heading& heading = HeadingAt(column);
+            line << (heading.Place        ? FullPlace(PartAt(row), *heading.Place)
+                     : IsName(heading.Id) ? NameAt(row, heading.Id)
+                                          : FullValue(PartAt(row), heading.Id));
         }
         text += line.join(u'\t') + u'\n';
     }

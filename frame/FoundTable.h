@@ -27,8 +27,12 @@ public:
     const FoundPart& PartAt(int row) const { return found.Parts[static_cast<std::size_t>(row)]; }
     /// Index into the part table.
     std::int16_t PartIndexAt(int row) const;
-    /// What the column tells.
+    /// What the column tells, or where that occurs.
     static FoundColumn ColumnAt(int column);
+    /// True for a column that tells where in the ranges of the question a value occurs.
+    static bool IsPlace(int column);
+    /// Where a value occurs, "13.2 V, 85 °C"; "-" where it is empty.
+    QString PlaceAt(int row, FoundPlace place) const;
     /// True while the question asks for what the column tells.
     bool Applies(int column) const;
 
@@ -45,6 +49,7 @@ public:
 private:
     void TellChanged(Qt::ItemDataRole role);
     void SortParts();
+    QString TextAt(int row, int column) const;
     QString NameAt(int row, FoundColumn column) const;
 
     FoundParts found;

@@ -170,13 +170,15 @@ void frmFind::SetUpTable()
 }
 
 /// The longest of what a column of names may hold; the rest is as wide as four digits are with their unit.
-static QString SampleOf(FoundColumn column)
+static QString SampleOf(int tableColumn)
 {
+    const FoundColumn column = FoundTable::ColumnAt(tableColumn);
     const auto naming = static_cast<std::size_t>(GetCodeView());
     const auto form = static_cast<std::size_t>(GetPartNumForm());
     if (column > FoundColumn::Characteristic)
     {
-        return QStringLiteral("888.8 µF");
+        return FoundTable::IsPlace(tableColumn) ? QStringLiteral("888.8 °C, 888.8 kHz")
+                                                : QStringLiteral("888.8 µF");
     }
     std::string_view longest;
     for (const PartRecord& part : mdlPublic.Parts.PartData)
@@ -195,8 +197,7 @@ void frmFind::FitColumns()
     const QHeaderView* const heads = ui->tblFound->horizontalHeader();
     for (int column = 0; column < table->columnCount(); ++column)
     {
-        const int text =
-            ui->tblFound->fontMetrics().horizontalAdvance(SampleOf(FoundTable::ColumnAt(column)));
+        const int text = ui->tblFound->fontMetrics().horizontalAdvance(SampleOf(column));
         ui->tblFound->setColumnWidth(column, std::max(text + margins, heads->sectionSizeHint(column)));
     }
 }
@@ -240,6 +241,7 @@ FindEntries frmFind::Entries() const
             .DCBiasVol = textOf(ui->txtFindDCBiasVol),
             .AmbientTemp = textOf(ui->txtFindAmbientTemp),
             .Frequency = textOf(ui->txtFindFrequency),
+            .Tolerance = textOf(ui->txtFindTolerance),
             .Current = textOf(ui->txtFindCurrent),
             .HeatResistance = textOf(ui->txtFindHeatResistance),
             .MinCap = textOf(ui->txtFindMinCap),

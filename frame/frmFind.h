@@ -65,6 +65,7 @@ private:
 
     // The commands.
     void cmdFindSelect_Click();
+    QString TakenText(int row, std::int16_t chartType) const;
     void cmdFindPlot_Click();
     void ViewChosen();
     void TellOfRowsLeftOut();

@@ -96,16 +96,20 @@ static std::int16_t ChartTypeOf(const PartRecord& part, int asked)
     return isFirst ? NumberOf(*first) : static_cast<std::int16_t>(asked);
 }
 
+static bool IsHeating(std::int16_t chartType)
+{
+    return ChartKindOf(chartType).Needs == Values::OfPower;
+}
+
 /// Where in the ranges of the question a chart of the part starts from: where the rise is largest for the
 /// charts of heating, else where the capacitance is least; at the upper ends where neither is told.
 static OperatingPoint StartOf(const FoundPart& part, OperatingPoint at, std::int16_t chartType)
 {
     const auto least = part.ConditionsAt(FoundPlace::Least);
     const auto hottest = part.ConditionsAt(FoundPlace::Rise);
-    const bool isHeating = ChartKindOf(chartType).Needs == Values::OfPower;
     const float ambient = least ? (*least)[1] : at.AmbientC.High;
     at.BiasVolts = least ? (*least)[0] : at.BiasVolts.High;
-    at.AmbientC = isHeating && hottest ? (*hottest)[0] : ambient;
+    at.AmbientC = IsHeating(chartType) && hottest ? (*hottest)[0] : ambient;
     if (at.Kilohertz)
     {
         at.Kilohertz = hottest ? (*hottest)[1] : at.Kilohertz->High;
@@ -155,7 +159,21 @@ std::vector<SelectedPart> frmFind::ChosenParts() const
 
 void frmFind::cmdFindSelect_Click()
 {
-    host.SelectPart(ChosenParts().front());
+    const auto part = ChosenParts().front();
+    host.SelectPart(part);
+    if (!table->Question().At.IsPoint())
+    {
+        host.TellInStatusBar(TakenText(ChosenRows().empty() ? 0 : ChosenRows().front(), part.ChartType));
+    }
+}
+
+/// Which of the conditions in the ranges have gone into the form.
+QString frmFind::TakenText(int row, std::int16_t chartType) const
+{
+    const bool isRise = IsHeating(chartType) && table->PartAt(row).ConditionsAt(FoundPlace::Rise);
+    return QStringLiteral("Conditions of the %1 taken: %2")
+        .arg(isRise ? QStringLiteral("largest rise") : QStringLiteral("least capacitance"),
+             table->PlaceAt(row, isRise ? FoundPlace::Rise : FoundPlace::Least));
 }
 
 void frmFind::cmdFindPlot_Click()

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void ViewShowsThePlottedRows();
     void CopiesChosenRowsInFull();
     void SavesModelsOfChosenRows();
+    void SelectTakesThePlaceOfTheWorst();
     void KeysLeadThroughTheWindow();
 };
 
@@ -235,6 +236,27 @@ void FindCommandsTest::SavesModelsOfChosenRows()
     QCOMPARE(text.count("\n.SUBCKT "), 2);
 }
 
+void FindCommandsTest::SelectTakesThePlaceOfTheWorst()
+{
+    FindDesk desk;
+    desk.Enter("txtFindPartNum", NumberOnDisplay("KTS31NB51C226MA01"));
+    desk.Enter("txtFindDCBiasVol", "10.8..13.2");
+    desk.Enter("txtFindAmbientTemp", "20..65C");
+    desk.Enter("txtFindFrequency", "270..330");
+    desk.Enter("txtFindCurrent", "1");
+    desk.Enter("txtFindTolerance", "10");
+    desk.Click("cmdFindSelect");
+    QCOMPARE(desk.Text("txtAmbientTemp"), QString("65"));
+    const auto* const bar = desk.Find<QStatusBar>("sbrMain");
+    QCOMPARE(bar->currentMessage(), QString("Conditions of the least capacitance taken: 13.2 V, 65 °C"));
+    desk.Pick("cmbFindChartType", "Temperature Rise Characteristics");
+    desk.Click("cmdFindSelect");
+    QCOMPARE(desk.Text("txtDCBiasVol"), QString("13.2"));
+    QCOMPARE(desk.Text("txtAmbientTemp"), QString("20"));
+    QCOMPARE(desk.Text("txtFrequency"), QString("270"));
+    QCOMPARE(bar->currentMessage(), QString("Conditions of the largest rise taken: 20 °C, 270 kHz"));
+}
+
 void FindCommandsTest::KeysLeadThroughTheWindow()
 {
     FindDesk desk;
@@ -250,9 +272,9 @@ void FindCommandsTest::KeysLeadThroughTheWindow()
     } while (QApplication::focusWidget() != first && order.size() < 40);
     QCOMPARE(order, QStringList({"txtFindPartNum", "cmbFindMaxSize", "cmbFindTcc", "cmbFindRatedVol",
                                  "txtFindCap", "txtFindDCBiasVol", "txtFindAmbientTemp", "txtFindFrequency",
-                                 "txtFindCurrent", "txtFindHeatResistance", "txtFindMinCap", "txtFindMinLeft",
-                                 "txtFindMaxRise", "chkFindParallel", "tblFound", "cmbFindChartType",
-                                 "cmdFindSelect", "cmdFindPlot"}));
+                                 "txtFindCurrent", "txtFindHeatResistance", "txtFindTolerance",
+                                 "txtFindMinCap", "txtFindMinLeft", "txtFindMaxRise", "chkFindParallel",
+                                 "tblFound", "cmbFindChartType", "cmdFindSelect", "cmdFindPlot"}));
     QTest::keyClick(first, Qt::Key_Down);
     QVERIFY(desk.Table()->hasFocus());
     QCOMPARE(desk.ChosenParts().size(), 1);

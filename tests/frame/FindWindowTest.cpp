@@ -22,6 +22,8 @@ private Q_SLOTS:
     void StartsAsItIsAskedNothing();
     void AnswersWhileTyping();
     void ANewAnswerIsPaintedOnce();
+    void TellsTheWorstOfRanges();
+    void SaysWhereHeatingIsJudgedFrom();
     void RefusedEntryIsMarkedAndKeepsTheAnswer_data();
     void RefusedEntryIsMarkedAndKeepsTheAnswer();
     void RefusedEntryMovesNoRow();
@@ -144,6 +146,42 @@ void FindWindowTest::ANewAnswerIsPaintedOnce()
     QCOMPARE(painted.Count, 1);
 }
 
+void FindWindowTest::TellsTheWorstOfRanges()
+{
+    const FindDesk desk;
+    desk.Enter("txtFindPartNum", NumberOnDisplay("KTS31NB51C226MA01"));
+    desk.Enter("txtFindDCBiasVol", "12V±10%");
+    QVERIFY(desk.Column("Effective") < 0);
+    desk.Enter("txtFindAmbientTemp", "-20..85");
+    QCOMPARE(desk.Cell(0, "Least"), QString("5.747 µF"));
+    QCOMPARE(desk.Cell(0, "At"), QString("13.2 V, 85 °C"));
+    QCOMPARE(desk.Cell(0, "Most"), QString("7.751 µF"));
+    const auto* const model = desk.Table()->model();
+    QCOMPARE(model->index(0, desk.Column("Least")).data(Qt::ToolTipRole).toString(),
+             QString("At 13.2 V, 85 °C"));
+    QVERIFY(!desk.Table()->isColumnHidden(desk.Column("Most")));
+    desk.Enter("txtFindTolerance", "-20/+80");
+    QCOMPARE(desk.Cell(0, "Least"), QString("4.598 µF"));
+    Grab(desk, "ranges");
+    // At a point there is no worst to tell.
+    desk.Enter("txtFindTolerance", "");
+    desk.Enter("txtFindDCBiasVol", "12");
+    desk.Enter("txtFindAmbientTemp", "85");
+    QCOMPARE(desk.Cell(0, "Effective"), QString("6.276 µF"));
+    QVERIFY(desk.Table()->isColumnHidden(desk.Column("Most")));
+    QVERIFY(desk.Table()->isColumnHidden(desk.Column("At")));
+}
+
+void FindWindowTest::SaysWhereHeatingIsJudgedFrom()
+{
+    const FindDesk desk;
+    desk.Enter("txtFindPartNum", NumberOnDisplay("KTS31NB51C226MA01"));
+    desk.Enter("txtFindAmbientTemp", "-20..65");
+    desk.Enter("txtFindFrequency", "300");
+    QCOMPARE(desk.Line(),
+             QString("1 part fits; rise and loads judged from 20 C up, where the heating data begins"));
+}
+
 void FindWindowTest::RefusedEntryIsMarkedAndKeepsTheAnswer_data()
 {
     QTest::addColumn<QString>("box");
@@ -158,6 +196,15 @@ void FindWindowTest::RefusedEntryIsMarkedAndKeepsTheAnswer_data()
     QTest::newRow("ambient no number") << "txtFindAmbientTemp"
                                        << "-"
                                        << "Ambient Temperature is invalid!";
+    QTest::newRow("range from above") << "txtFindDCBiasVol"
+                                      << "13.2..10.8"
+                                      << "the first must not be above the second";
+    QTest::newRow("range with an open end") << "txtFindAmbientTemp"
+                                            << "20.."
+                                            << "an end is left open";
+    QTest::newRow("tolerance") << "txtFindTolerance"
+                               << "100"
+                               << "Tolerance is invalid!";
     QTest::newRow("frequency too low") << "txtFindFrequency"
                                        << "9"
                                        << "Frequency is invalid!";
