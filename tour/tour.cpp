@@ -13,6 +13,7 @@
 #include "frame/ProgramIcon.h"
 #include "frame/frmMain.h"
 #include "partdata/RunTimeError.h"
+#include "tour/CallOuts.h"
 #include "tour/PictureText.h"
 
 #include <QAction>
@@ -103,14 +104,17 @@ public:
         QApplication::processEvents();
         auto* form = Find<QWidget>(QStringLiteral("frmLibraryContents"));
         const auto* last = Find<QPushButton>(QStringLiteral("cmdPlot"));
-        Save(PictureForHelp(*form, {form->width(), last->geometry().bottom() + 3}), *form, name);
+        Save(PictureForHelp(
+                 *form, {form->width(), last->geometry().bottom() + 3},
+                 {"fraChartType", "fraSelection", "fraAxes", "fraCondition", "fraParameter", "cmdPlot"}),
+             *form, name);
     }
 
     /// The chart window in front, alone.
-    void SaveChart(const char* name)
+    void SaveChart(const char* name, const QStringList& calledOut = {})
     {
         QWidget& chart = *window.findChild<QMdiArea*>()->activeSubWindow();
-        Save(PictureForHelp(chart, chart.size()), chart, name);
+        Save(PictureForHelp(chart, chart.size(), calledOut), chart, name);
     }
 
     /// The axis-range dialog of the chart in front.
@@ -189,7 +193,7 @@ private:
     }
 
     /// The upper left part of a widget, drawn with twice the pixels that its place on a page of the help has.
-    static QPixmap PictureForHelp(QWidget& widget, const QSize& part)
+    static QPixmap PictureForHelp(QWidget& widget, const QSize& part, const QStringList& calledOut = {})
     {
         QApplication::processEvents();
         const double scale = std::min(1.0, double{WidestPlace} / part.width());
@@ -199,6 +203,7 @@ private:
         picture.setDevicePixelRatio(2 * scale);
         widget.render(&picture, {}, QRect({}, part));
         picture.setDevicePixelRatio(1);
+        DrawCallOuts(picture, widget, calledOut, 2 * scale, 2);
         return picture;
     }
 
@@ -234,7 +239,7 @@ void CompareTemperatureRise(User& user)
         user.Plot();
     }
     user.SaveWindow("main-window");
-    user.SaveChart("temperature-rise");
+    user.SaveChart("temperature-rise", {"picGraph", "fraStatus_3", "sbr1"});
     user.SaveAxisRange("axis-range");
     user.SaveView("1.5", "chart-view");
 }
