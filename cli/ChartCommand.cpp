@@ -3,6 +3,7 @@
 #include "chart/drawing/PainterSheet.h"
 #include "cli/Command.h"
 #include "cli/Commands.h"
+#include "cli/Drawing.h"
 #include "cli/FileArguments.h"
 #include "cli/HelpText.h"
 #include "cli/LineOption.h"
@@ -12,13 +13,11 @@
 #include "cli/RequestWords.h"
 #include "cli/SheetPicture.h"
 #include "cli/Terminal.h"
-#include "formkit/Fonts.h"
 #include "requests/ChartLines.h"
 #include "requests/Names.h"
 
 #include <CLI/CLI.hpp>
 #include <QFileInfo>
-#include <QGuiApplication>
 
 #include <algorithm>
 #include <charconv>
@@ -119,23 +118,7 @@ static QByteArray Draw(const std::vector<RequestedCurve>& curves, const ChartOpt
     const ChartView view = ViewOf(lines, options.Range);
     const QSizeF extent = ExtentOf(options, format);
 
-    // Drawing needs fonts, but no display; what the platform remarks on its surroundings is no message of
-    // ours.
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    int argc = 1;
-    char name[] = "tavik-cli";
-    char* argv[] = {name, nullptr};
-    std::optional<QGuiApplication> application;
-    if (QCoreApplication::instance() == nullptr)
-    {
-        application.emplace(argc, argv);
-    }
-    if (!HasFonts())
-    {
-        throw Failure("no font is installed, so the chart would have no texts");
-    }
-    return SheetPicture(view, lines, partNums, extent, format);
+    return Drawn([&] { return SheetPicture(view, lines, partNums, extent, format); });
 }
 
 static void DrawChart(const ChartOptions& options)

@@ -4,6 +4,7 @@
 #include "cli/DataTables.h"
 #include "cli/FileArguments.h"
 #include "cli/FitJson.h"
+#include "cli/FitPicture.h"
 #include "cli/Output.h"
 #include "cli/Terminal.h"
 #include "ownparts/FitText.h"
@@ -25,6 +26,7 @@ struct FitOptions
     std::string Table;
     bool Replace = false;
     std::string Output;
+    std::string Picture;
     std::string Format = "text";
 };
 
@@ -34,11 +36,11 @@ struct MergeOptions
     std::string Output;
 };
 
-void RefuseStreams(const FitOptions& options)
+void RefuseOutputs(const FitOptions& options)
 {
-    if (options.Output == StandardStream)
+    if (options.Output == StandardStream || options.Picture == StandardStream)
     {
-        throw UsageError("--output: standard output has the report; name a file");
+        throw UsageError("standard output has the report; name a file for all else");
     }
     if (options.Replace && options.Table.empty())
     {
@@ -48,6 +50,22 @@ void RefuseStreams(const FitOptions& options)
     {
         RefuseInputAsOutput(options.Output, {options.Measurements});
     }
+    if (!options.Picture.empty())
+    {
+        RequirePictureName(options.Picture);
+        RefuseInputAsOutput(options.Picture, {options.Measurements, options.Table, options.Output});
+    }
+}
+
+/// A file that is put in place when all is done; nothing for one that is not asked for.
+std::optional<Output> Written(const std::string& file, const std::function<std::string()>& bytes)
+{
+    std::optional<Output> output;
+    if (!file.empty())
+    {
+        output.emplace(file).Write(bytes());
+    }
+    return output;
 }
 
 MeasuredPart MeasuredOf(const FitOptions& options, const TableContents& table)
@@ -89,7 +107,7 @@ FittedPart FittedOf(const FitOptions& options, const TableContents& table)
 
 void Fit(const FitOptions& options)
 {
-    RefuseStreams(options);
+    RefuseOutputs(options);
     NamedTable table{ShownName(options.Table), {}};
     if (!options.Table.empty())
     {
@@ -100,13 +118,16 @@ void Fit(const FitOptions& options)
     {
         throw Failure(*refusal);
     }
+    auto tableFile = Written(options.Output, [&] { return TextOf(table.Table); });
+    auto picture = Written(options.Picture, [&] { return FitPicture(fitted, options.Picture); });
     Output report("");
     report.Write(options.Format == "json" ? JsonOf(fitted) : TextOf(fitted));
-    if (!options.Output.empty())
+    for (auto* output : {&tableFile, &picture})
     {
-        Output output(options.Output);
-        output.Write(TextOf(table.Table));
-        output.Finish();
+        if (*output)
+        {
+            (*output)->Finish();
+        }
     }
     report.Finish();
 }
@@ -147,6 +168,8 @@ void AddFitCommand(CLI::App& data)
     fit.add_flag("--replace", options->Replace, "Put the row in the place of the part of its number");
     TakeOutputFile(*fit.add_option("--output", options->Output,
                                    "File for the table (left out: nothing but the report)"));
+    TakeOutputFile(*fit.add_option("--picture", options->Picture,
+                                   "File for the points over the curves: *.png, *.svg or *.pdf"));
     fit.add_option("--format", options->Format, "Form of the report: text or json")
         ->check(CLI::IsMember({"text", "json"}));
     fit.callback([options] { Fit(*options); });

@@ -67,6 +67,13 @@ double ScatterOf(const Repeats& repeats)
     return freedoms < LeastRepeats ? 0 : std::sqrt(sum / static_cast<double>(freedoms));
 }
 
+/// The usual residual of all points but one, which would hide itself in it.
+double RmsWithout(const FittedPoint& point, const Residuals& all)
+{
+    const double sum = all.Rms * all.Rms * static_cast<double>(all.Points) - std::pow(point.Residual(), 2);
+    return all.Points > 1 ? std::sqrt(std::max(sum, 0.0) / static_cast<double>(all.Points - 1)) : all.Rms;
+}
+
 /// Gathers the warnings of one fit.
 class Warnings
 {
@@ -173,10 +180,10 @@ void Warnings::JudgePoints(const std::string& what, const std::vector<FittedPoin
     for (const auto& point : points)
     {
         const double residual = std::abs(point.Residual());
-        if (residual > FarAway * rms && residual > WorthALook)
+        if (residual > FarAway * RmsWithout(point, *residuals) && residual > WorthALook)
         {
             Add(what + ": line " + std::to_string(point.Line) + " lies " +
-                SignedPercent(-point.Residual(), 1) + " off the curve: look at it");
+                SignedPercent(point.Measured / point.Fitted - 1, 1) + " off the curve: look at it");
         }
     }
 }

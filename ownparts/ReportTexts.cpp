@@ -33,7 +33,8 @@ std::string Percent(double share, int decimals)
 
 std::string SignedPercent(double share, int decimals)
 {
-    return (share > 0 ? "+" : "") + Percent(share, decimals);
+    const auto text = Percent(share, decimals);
+    return (share > 0 && text != Percent(0, decimals) ? "+" : "") + text;
 }
 
 /// The text with a letter in the place of the sign for micro.

@@ -121,6 +121,26 @@ TEST_F(DataFit, TellsTheSameAsJson)
     EXPECT_EQ(json["warnings"].size(), 1U);
 }
 
+TEST_F(DataFit, DrawsThePointsOverTheCurves)
+{
+    ASSERT_FALSE(RunData({"fit", Measurements, "--picture", File("fit.svg")}).HasFailed);
+    const auto picture = BytesOf(File("fit.svg"));
+    EXPECT_THAT(picture, HasSubstr("300 kHz, 25 \u00B0C"));
+    EXPECT_THAT(picture, HasSubstr("DC Bias Voltage"));
+    EXPECT_THAT(picture, HasSubstr("-5 %"));
+    EXPECT_THAT(RunData({"fit", Measurements, "--picture", File("fit.txt")}).Failure,
+                HasSubstr("ends in none of"));
+}
+
+TEST_F(DataFit, WritesAllFilesOrNone)
+{
+    const auto run =
+        RunData({"fit", Measurements, "--output", File("one.csv"), "--picture", File("no/fit.svg")});
+    EXPECT_TRUE(run.HasFailed);
+    EXPECT_FALSE(Has("one.csv"));
+    EXPECT_EQ(run.Output, "");
+}
+
 TEST_F(DataFit, TablesMergeIntoOne)
 {
     ASSERT_FALSE(RunData({"fit", Measurements, "--output", File("one.csv")}).HasFailed);

@@ -24,4 +24,5 @@ with tempfile.TemporaryDirectory() as folder:
             output = done.stdout
         else:
             assert output.endswith(text), f"told:\n{output}\nwritten:\n{text}"
-    assert pathlib.Path(folder, "compare.png").stat().st_size > 1000
+    for picture in ("own-parts.png", "compare.png"):
+        assert pathlib.Path(folder, picture).stat().st_size > 1000, picture

@@ -1,0 +1,43 @@
+#include "cli/FitPicture.h"
+
+#include "chart/drawing/PainterSheet.h"
+#include "chart/drawing/PictureFile.h"
+#include "cli/CommandError.h"
+#include "cli/Drawing.h"
+#include "cli/PdfDate.h"
+#include "ownparts/FitSheet.h"
+
+/// A bitmap is as fine as the clipboard's.
+static constexpr double BitmapScale = 2;
+
+static const PictureType& TypeOf(const std::string& fileName)
+{
+    const auto* const type = PictureTypeOf(QString::fromLocal8Bit(fileName.c_str()));
+    return type != nullptr
+               ? *type
+               : throw UsageError("--picture \"" + fileName + "\" ends in none of: .png, .svg, .pdf");
+}
+
+void RequirePictureName(const std::string& fileName)
+{
+    TypeOf(fileName);
+}
+
+std::string FitPicture(const FittedPart& fitted, const std::string& fileName)
+{
+    const auto& type = TypeOf(fileName);
+    const auto charts = ChartsOf(fitted);
+    const double scale = type.Name == "png" ? BitmapScale : 1;
+    const Picture picture = {.Extent = QSizeF(FitSheetWidth(charts.size()), FitSheetHeight) * scale,
+                             .Title = QString::fromStdString(fitted.Row.Names[0]),
+                             .Draw = [&](QPainter& painter)
+                             {
+                                 painter.scale(scale, scale);
+                                 PainterSheet sheet(painter);
+                                 DrawFitSheet(fitted, charts, sheet);
+                             }};
+    const auto draw = [&] { return Drawn([&] { return type.Write(picture); }); };
+    const auto bytes = type.Name == "pdf" ? PdfOfSourceDate(draw) : draw();
+    return bytes.isEmpty() ? throw Failure("there is no memory for a picture of this size")
+                           : bytes.toStdString();
+}
