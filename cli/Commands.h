@@ -33,6 +33,6 @@ void AddBankCommand(CLI::App& app);
 void AddRippleCommand(CLI::App& app);
 
 /// All commands, in the order in which the help tells them.
-inline constexpr std::array AllCommands = {AddPartsCommand, AddFindCommand,  AddLikeCommand,
-                                           AddCurveCommand, AddChartCommand, AddModelCommand,
+inline constexpr std::array AllCommands = {AddPartsCommand, AddFindCommand,   AddLikeCommand,
+                                           AddCurveCommand, AddChartCommand,  AddModelCommand,
                                            AddBankCommand,  AddRippleCommand, AddDataCommands};
