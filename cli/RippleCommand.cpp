@@ -1,14 +1,14 @@
 /// `tavik-cli ripple`: what a current of any shape does to parts.
 
-#include "calc/NumberText.h"
 #include "cli/Command.h"
 #include "cli/Commands.h"
 #include "cli/FileArguments.h"
 #include "cli/HelpText.h"
 #include "cli/Output.h"
-#include "cli/RippleOptions.h"
+#include "cli/RequestOptions.h"
+#include "cli/RequestWords.h"
 #include "files/InputFile.h"
-#include "partdata/OneLine.h"
+#include "requests/RippleRequest.h"
 #include "requests/StressFormats.h"
 #include "stress/WaveformError.h"
 #include "stress/WaveformTable.h"
@@ -16,7 +16,19 @@
 #include <CLI/CLI.hpp>
 
 #include <iostream>
-#include <iterator>
+
+namespace
+{
+struct RippleOptions
+{
+    std::string Waveform;
+    RippleTexts Texts;
+    CurveSettings Settings;
+    std::string DataFolder;
+    std::string Format;
+    std::string OutputFile;
+};
+} // namespace
 
 static constexpr const char* examples = R"(Examples:
   tavik-cli ripple buck.txt --column "@r.xc1.rs[i]" --part KTS32XB51E106MA01 --dc-bias 12V --ambient 45C
@@ -42,95 +54,38 @@ static std::string Help()
                "of ideal switches; without --part both sides are told.");
 }
 
-/// Throws UsageError for options that do not go together.
-static void CheckOptions(const RippleOptions& options)
+static StressReport ReportOfFile(const std::string& file, RippleRequest& request)
 {
-    if (options.Waveform.empty() != options.Source.has_value())
-    {
-        throw UsageError(options.Source ? "ripple wants a waveform or a converter, not both"
-                                        : "ripple wants a waveform, or --buck, --boost or --flyback");
-    }
-    if (!options.Source && options.Request.Parts.empty())
-    {
-        throw UsageError("ripple wants --part");
-    }
-    if (options.Voltage && options.Request.Conditions[Condition::DCBias])
-    {
-        throw UsageError("--voltage and --dc-bias are two biases: leave one out");
-    }
-}
-
-static std::string TextOf(const std::string& file)
-{
-    if (file != StandardStream)
-    {
-        return ReadBytes(file, MostWaveformBytes);
-    }
-    std::string text{std::istreambuf_iterator<char>(std::cin), {}};
-    if (text.size() > MostWaveformBytes)
-    {
-        throw WaveformError("there are more than " + std::to_string(MostWaveformBytes) + " bytes");
-    }
-    return text;
-}
-
-static StressReport ReportOfRecord(RippleOptions& options)
-{
+    const bool isStream = file == StandardStream;
     try
     {
-        const auto table = ReadWaveforms(TextOf(options.Waveform));
-        const auto& column = ColumnOf(table, options.Column);
-        const auto load = LoadOfRecord(table.WaveformOf(column), options.Wishes);
-        if (options.Voltage)
-        {
-            const auto voltage = table.WaveformOf(ColumnOf(table, *options.Voltage));
-            const double mean = voltage.FiguresOf(load.Record->Counted.Span).Mean;
-            options.Request.Conditions[Condition::DCBias] = NumberText(static_cast<float>(mean));
-        }
-        return {.Name = column.Name, .Load = load};
+        auto bytes = isStream ? std::string(std::istreambuf_iterator<char>(std::cin), {})
+                              : ReadBytes(file, MostWaveformBytes);
+        return ReportOfRecord(std::move(bytes), request);
     }
     catch (const WaveformError& error)
     {
-        throw Failure((options.Waveform == StandardStream ? "standard input" : options.Waveform) + ": " +
-                      error.what());
+        throw Failure((isStream ? "standard input" : file) + ": " + error.what());
     }
 }
 
-static StressReport ReportOfSide(const Converter& converter, ConverterSide side)
+static void TellRipple(const RippleOptions& options)
 {
-    return {.Name = "", .Source = ConverterSource{converter, side}, .Load = LoadOfConverter(converter, side)};
-}
-
-/// The side that is asked for; both where no part is.
-static std::vector<StressReport> ReportsOfConverter(RippleOptions& options)
-{
-    const auto& converter = *options.Source;
-    if (options.Request.Parts.empty() && !options.Side)
-    {
-        return {ReportOfSide(converter, ConverterSide::Input),
-                ReportOfSide(converter, ConverterSide::Output)};
-    }
-    const auto side = options.Side.value_or(KindOf(converter.Kind).PulsedSide);
-    auto& bias = options.Request.Conditions[Condition::DCBias];
-    bias = bias.value_or(NumberText(static_cast<float>(converter.VoltageOf(side))));
-    return {ReportOfSide(converter, side)};
-}
-
-static void TellRipple(RippleOptions& options)
-{
-    CheckOptions(options);
+    auto texts = options.Texts;
+    texts.HasRecord = !options.Waveform.empty();
+    auto request = RippleRequestOf(texts);
     auto inputs = PartFilesOf(PartFolder(options.DataFolder));
-    if (!options.Source)
+    if (texts.HasRecord)
     {
         inputs.emplace_back(options.Waveform);
     }
     RefuseInputAsOutput(options.OutputFile, inputs);
-    const auto parts = options.Request.Parts.empty() ? PartTable() : LoadParts(options.DataFolder);
-    auto reports = options.Source ? ReportsOfConverter(options) : std::vector{ReportOfRecord(options)};
-    reports.front().Parts = StressedPartsOf(options.Request, reports.front().Load, parts, options.Settings);
+    const auto parts = texts.Parts.empty() ? PartTable() : LoadParts(options.DataFolder);
+    auto reports =
+        request.Source ? ReportsOfConverter(request) : std::vector{ReportOfFile(options.Waveform, request)};
+    reports.front().Parts = StressedPartsOf(request.Stress, reports.front().Load, parts, options.Settings);
     Output output(options.OutputFile);
-    output.Write(
-        FormatNamed(StressFormats(), options.Format).Write(reports, options.Request.Code, options.Settings));
+    output.Write(FormatNamed(StressFormats(), options.Format).Write(reports, texts.Code, options.Settings));
     output.Finish();
 }
 
@@ -139,6 +94,30 @@ void AddRippleCommand(CLI::App& app)
     const auto options = std::make_shared<RippleOptions>();
     auto& command = *app.add_subcommand("ripple", "Tells what a current of any shape does to parts");
     command.footer(Help());
-    AddRippleOptions(command, *options);
+    TakeInputFile(*command
+                       .add_option("waveform", options->Waveform,
+                                   "Text of a simulator or an oscilloscope; - is standard input")
+                       ->type_name("WAVEFORM"));
+    command.add_option("--part", options->Texts.Parts, "Parts that bear the current, in any of their forms")
+        ->type_name("PART")
+        ->group("Operating point");
+    for (const RippleKey& key : RippleKeys())
+    {
+        command
+            .add_option_function<std::string>(
+                "--" + OptionNameOf(key.Key),
+                [options, name = std::string(key.Key)](const std::string& text)
+                { options->Texts.Values[name] = text; },
+                std::string(key.Text))
+            ->type_name(std::string(key.Unit))
+            ->group(std::string(key.Group));
+    }
+    command.add_flag("--whole", options->Texts.IsWhole, "All that is looked at is one period")
+        ->group("Waveform");
+    AddCodeOption(command, options->Texts.Code);
+    AddNumberingOption(command, options->Settings);
+    AddDataOption(command, options->DataFolder);
+    AddFormatOption(command, options->Format, {StressFormats().begin(), StressFormats().end()});
+    AddOutputOption(command, options->OutputFile);
     command.callback([options] { TellRipple(*options); });
 }
