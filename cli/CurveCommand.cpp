@@ -131,7 +131,9 @@ static void AddPointOptions(CLI::App& command, CurveRequest& request)
     command
         .add_option_function<std::string>(
             "--at", [&request](const std::string& text) { request.At = PiecesOf(text); },
-            "Values at these X in place of the curve, for example 12V,24V")
+            "Values at these X in place of the curve, for example 12V,24V; over ranges of conditions or of "
+            "X, "
+            "such as 10.8..13.2V, the least and the most")
         ->type_name("X[,X...]")
         ->group("Points");
     command

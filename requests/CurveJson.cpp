@@ -59,7 +59,22 @@ static void AddText(std::string& text, std::string_view key, std::string_view va
     AppendText(text, value);
 }
 
-static void AddConditions(std::string& text, const ChartRecord& line)
+/// A number, or both ends of a range.
+static void AddRange(std::string& text, std::string_view key, const ConditionRange& range)
+{
+    if (range.IsPoint())
+    {
+        AddNumber(text, key, range.Low);
+        return;
+    }
+    AppendKey(text, key);
+    text += '{';
+    AddNumber(text, "low", range.Low);
+    AddNumber(text, "high", range.High);
+    text += '}';
+}
+
+static void AddConditions(std::string& text, const ChartRecord& line, const ChartRecord& upper)
 {
     AppendKey(text, "conditions");
     text += '{';
@@ -70,7 +85,7 @@ static void AddConditions(std::string& text, const ChartRecord& line)
         {
             AddText(text, "parameter", RequestNameOf(line.ParameterName));
         }
-        AddNumber(text, kind.Key, line.*kind.Value);
+        AddRange(text, kind.Key, {line.*kind.Value, upper.*kind.Value});
     }
     text += '}';
 }
@@ -124,6 +139,34 @@ static void AddPoints(std::string& text, const std::vector<CurvePoint>& points)
     text += ']';
 }
 
+static void AddExtreme(std::string& text, std::string_view key, const CurveExtreme& extreme)
+{
+    AddNumber(text, key, extreme.Y);
+    AppendKey(text, std::string(key) + "At");
+    text += '{';
+    for (const CurveCondition& condition : extreme.At)
+    {
+        AddNumber(text, condition.Key, condition.Value);
+    }
+    text += '}';
+}
+
+static void AddWorst(std::string& text, const std::vector<WorstPoint>& points)
+{
+    AppendKey(text, "points");
+    text += '[';
+    for (std::size_t i = 0; i < points.size(); ++i)
+    {
+        AppendSeparated(text, i);
+        text += '{';
+        AddRange(text, "x", points[i].X);
+        AddExtreme(text, "least", points[i].Least);
+        AddExtreme(text, "most", points[i].Most);
+        text += '}';
+    }
+    text += ']';
+}
+
 static void AddLevels(std::string& text, const std::vector<CurveLevel>& levels)
 {
     AppendKey(text, "crossings");
@@ -151,6 +194,10 @@ static void AddValues(std::string& text, const RequestedCurve& curve, AxisTexts&
     if (curve.Points)
     {
         AddPoints(text, *curve.Points);
+    }
+    if (curve.Worst)
+    {
+        AddWorst(text, *curve.Worst);
     }
     if (curve.Levels)
     {
@@ -189,7 +236,7 @@ void AppendCurveJson(std::string& text, const RequestedCurve& curve, const Curve
     AddText(text, "xUnit", StoredUnitOf(line.XAxisName));
     AddText(text, "yName", line.YAxisName);
     AddText(text, "yUnit", StoredUnitOf(line.YAxisName));
-    AddConditions(text, line);
+    AddConditions(text, line, curve.Upper.value_or(line));
     AddConditionUnits(text, line);
     AddUnused(text, curve.Unused);
     AddValues(text, curve, axes);

@@ -8,7 +8,7 @@
 
 #include <cmath>
 
-static std::string ReachOf(const ChartRecord& line)
+std::string ReachOf(const ChartRecord& line)
 {
     const auto x = QuantityNamed(line.XAxisName);
     return "the curve reaches from " + NumberText(ShownValue(x, line.XData.front())) + " to " +

@@ -23,6 +23,9 @@ struct CurveLevel
     std::vector<float> X;
 };
 
+/// "the curve reaches from 0 to 25 [V] of DC Bias Voltage".
+std::string ReachOf(const ChartRecord& line);
+
 /// The points of a computed line at each X as typed, in that order.
 ///
 /// Throws RequestError with the key "at" for a text that is no number, for a unit that does not fit, and for

@@ -6,6 +6,7 @@
 #include "partdata/RunTimeError.h"
 #include "partdata/Windows1252.h"
 #include "requests/Names.h"
+#include "requests/RangeEntry.h"
 #include "requests/RequestError.h"
 #include "requests/UnitEntry.h"
 
@@ -285,11 +286,78 @@ static RequestedCurve CurveOfPart(const CurveRequest& request, const PartTable& 
     return curve;
 }
 
+/// The conditions that may be ranges.
+static bool TakesRange(Condition condition)
+{
+    return condition == Condition::DCBias || condition == Condition::Frequency ||
+           condition == Condition::AmbientTemperature;
+}
+
+/// The request with one end of each condition that is a range, and without points.
+static CurveRequest EndOf(const CurveRequest& request, bool isHigh)
+{
+    CurveRequest end = request;
+    end.At.reset();
+    for (const ConditionKind& kind : ConditionKinds())
+    {
+        const auto& typed = request.Conditions[kind.Id];
+        const auto ends =
+            typed && TakesRange(kind.Id) ? RangeTypedAs(*typed, *kind.Measures, kind.Key) : std::nullopt;
+        if (ends)
+        {
+            // Tells a first end above the second.
+            ConditionRangeOf(*typed, *kind.Measures, kind.Key);
+            end.Conditions[kind.Id] = isHigh ? ends->High : ends->Low;
+        }
+    }
+    return end;
+}
+
+/// Throws RequestError for ranges without single points: no curve can be drawn of them.
+static void RefuseRangesWithoutPoints(const CurveRequest& request)
+{
+    for (const ConditionKind& kind : ConditionKinds())
+    {
+        const auto& typed = request.Conditions[kind.Id];
+        const bool isRange = typed && TakesRange(kind.Id) && IsTypedAsRange(*typed);
+        if (isRange && (!request.At || request.Where))
+        {
+            throw RequestError(RequestErrorKind::NotANumber, std::string(kind.Key),
+                               '"' + *typed + "\" is a range, over which only values at single X are told");
+        }
+    }
+}
+
+static bool HasRanges(const CurveRequest& request)
+{
+    const auto isRange = [](const std::string& typed) { return IsTypedAsRange(typed); };
+    return std::ranges::any_of(ConditionKinds(),
+                               [&](const ConditionKind& kind)
+                               {
+                                   const auto& typed = request.Conditions[kind.Id];
+                                   return TakesRange(kind.Id) && typed && isRange(*typed);
+                               }) ||
+           (request.At && std::ranges::any_of(*request.At, isRange));
+}
+
+/// As `CurveOfPart`, over ranges.
+static RequestedCurve CurveOverRanges(const CurveRequest& request, const PartTable& parts,
+                                      const CurveSettings& settings)
+{
+    RefuseRangesWithoutPoints(request);
+    auto curve = CurveOfPart(EndOf(request, false), parts, settings);
+    curve.Upper = CurveOfPart(EndOf(request, true), parts, settings).Line;
+    curve.Worst = WorstPointsOf(*curve.Part, {curve.Line, *curve.Upper}, request.Code,
+                                request.At.value_or(std::vector<std::string>()));
+    return curve;
+}
+
 RequestedCurve CurveOf(const CurveRequest& request, const PartTable& parts, const CurveSettings& settings)
 {
     try
     {
-        return CurveOfPart(request, parts, settings);
+        return HasRanges(request) ? CurveOverRanges(request, parts, settings)
+                                  : CurveOfPart(request, parts, settings);
     }
     catch (const RequestError& error)
     {

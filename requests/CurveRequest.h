@@ -6,6 +6,7 @@
 #include "calc/Conditions.h"
 #include "partdata/PartTable.h"
 #include "requests/CurvePoints.h"
+#include "requests/CurveWorst.h"
 
 #include <array>
 #include <initializer_list>
@@ -36,7 +37,8 @@ private:
     std::array<std::optional<std::string>, ConditionCount> texts;
 };
 
-/// What is asked for. Texts are as typed, in UTF-8; values may bear a unit ("12V"). What is left out is what
+/// What is asked for. Texts are as typed, in UTF-8; values may bear a unit ("12V"). Bias, frequency, ambient
+/// temperature and the X of `At` may be ranges ("10.8..13.2V"). What is left out is what
 /// the form shows first: the first axes, ambient temperature 25 °C in the EIA code and 20 °C in the JIS code,
 /// the part's own heat resistance.
 struct CurveRequest
@@ -81,9 +83,13 @@ struct RequestedCurve
     /// What was asked for in place of the 200 points.
     std::optional<std::vector<CurvePoint>> Points = {};
     std::optional<std::vector<CurveLevel>> Levels = {};
+    /// What it is over ranges, where conditions or points are: `Line` then has their lower ends, `Upper` the
+    /// upper ones.
+    std::optional<std::vector<WorstPoint>> Worst = {};
+    std::optional<ChartRecord> Upper = {};
 
     /// True when the 200 points are not what was asked for.
-    bool HasOwnPoints() const { return Points || Levels; }
+    bool HasOwnPoints() const { return Points || Levels || Worst; }
 };
 
 /// The index of a part whose number in any form is `partNum`, in UTF-8. Where several parts are meant, letter

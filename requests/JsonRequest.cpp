@@ -25,6 +25,10 @@ static std::string TextOf(const std::string& key, const json& value)
     {
         return value.dump();
     }
+    if (value.is_object() && value.size() == 2 && value.contains("low") && value.contains("high"))
+    {
+        return TextOf(key, value["low"]) + ".." + TextOf(key, value["high"]);
+    }
     throw RequestError(RequestErrorKind::NotANumber, key, "is neither a text nor a number");
 }
 

@@ -79,6 +79,11 @@ static std::optional<Pieces> SplitAtSpread(std::string_view typed)
     return std::nullopt;
 }
 
+bool IsTypedAsRange(std::string_view typed)
+{
+    return typed.find("..") != std::string_view::npos || SplitAtSpread(typed);
+}
+
 static TypedEnds SpreadOf(const Pieces& pieces, std::string_view typed, Quantity quantity,
                           std::string_view key)
 {

@@ -16,6 +16,9 @@ struct TypedEnds
     std::string High;
 };
 
+/// True for a text with the sign of a range in it, well formed or not.
+bool IsTypedAsRange(std::string_view typed);
+
 /// The ends of "A..B", where the unit behind B is A's too unless A bears its own, and of "M±P%" and "M±D",
 /// where "+-" stands for the sign as well and a bare D has the unit of M; nothing for any other text.
 ///

@@ -114,6 +114,9 @@ void GoldenTextsTest::Answers_data()
     row("curve-csv-frequency", "curve KTS31NB51E106MA01 --chart temperature-rise --dc-bias 12V --x Frequency "
                                "--parameter current=2A --format csv");
     row("curve-json", "curve KTS31NB51E106MA01 --chart allowable-power --dc-bias 12V --format json");
+    row("curve-ranges",
+        "curve KTS31NB51C226MA01 --chart capacitance-dc-voltage --ambient=-20..85C --at 12V,10.8..13.2V");
+    row("curve-range-alone", "curve KTS31NB51C226MA01 --chart capacitance-dc-voltage --ambient=-20..85C");
     row("curve-loss-resistance", "curve KTS31NR71A226KA01 --chart loss-resistance --ambient 45C");
     row("bank-table",
         "bank KTS31NR71A226KA01 KTS188R71H104KA01 --dc-bias 5V --ambient 45C --frequency 300kHz "

@@ -41,6 +41,12 @@ assert len(answers) == len(requests)
 answers.append(json.loads(run(["curve", PART, "--chart", "allowable-power", "--dc-bias", "1", "--format", "json"])))
 answers.append(json.loads(run(["parts", "--format", "json"])))
 assert len(answers[-1]) > 1000
+# Points over ranges of conditions, and of X.
+for words in (["capacitance-dc-voltage", "--ambient", "-20..85C", "--at", "5V,5..6V"],
+              ["temperature-rise", "--dc-bias", "0..5V", "--frequency", "100..300kHz", "--at", "0.5A"],
+              ["allowable-power", "--ambient", "20..60C", "--dc-bias", "5V", "--at", "100..300kHz"]):
+    answers.append(json.loads(run(["curve", PART, "--chart", *words, "--format", "json"])))
+    assert answers[-1]["points"][0]["least"] <= answers[-1]["points"][-1]["most"]
 # A list of every kind: without and with heating, loads and counts, and one of parts that lack some of it.
 found = [json.loads(run(["find", "--format", "json", *words.split()])) for words in (
     "--dc-bias 12V", "--frequency 300kHz --dc-bias 16V", "--parallel auto --min-capacitance 22uF --frequency 300 --current 3",
