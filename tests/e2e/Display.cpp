@@ -63,7 +63,7 @@ QStringList TestDisplay::WindowsOf(const QProcess& program, int count) const
         windows = Ask({"search", "--all", "--onlyvisible", "--pid", QString::number(program.processId()),
                        "--name", "."})
                       .split('\n', Qt::SkipEmptyParts);
-    } while (windows.size() != count && waited.elapsed() < 30000);
+    } while (windows.size() != count && waited.elapsed() < 60000);
     return windows;
 }
 
