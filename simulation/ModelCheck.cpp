@@ -3,7 +3,7 @@
 #include "calc/Capacitance.h"
 #include "calc/CheckedMath.h"
 #include "partdata/Availability.h"
-#include "simulation/ChargeLaw.h"
+#include "simulation/ModelCharge.h"
 
 #include <algorithm>
 #include <cmath>
@@ -58,7 +58,7 @@ double RelativeCapacitance(const PartRecord& part, double volts, double celsius)
 /// The largest deviation at one temperature; nothing where a capacitance is not positive.
 std::optional<double> DeviationAt(const PartRecord& part, double celsius)
 {
-    const auto charge = ChargeLawAt(part, celsius);
+    const auto charge = ModelChargeAt(part, celsius);
     const double step = stepShare * RatedVolts(part);
     double worst = 0;
     for (int i = 0; i < voltages; ++i)

@@ -3,8 +3,8 @@
 #include "calc/Bounds.h"
 #include "calc/NumberText.h"
 #include "partdata/Characteristic.h"
-#include "simulation/ChargeLaw.h"
 #include "simulation/GaussPoints.h"
+#include "simulation/ModelCharge.h"
 #include "simulation/ModelNumbers.h"
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 
 #include "calc/Capacitance.h"
 #include "calc/PowerModel.h"
-#include "simulation/ChargeLaw.h"
+#include "simulation/ModelCharge.h"
 #include "simulation/SimulationModel.h"
 #include "tests/simulation/ModelParts.h"
 #include "tests/simulation/Ngspice.h"

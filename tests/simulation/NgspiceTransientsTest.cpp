@@ -1,6 +1,6 @@
 /// Models in a circuit simulator over time: they conserve charge, rest, and work in a converter.
 
-#include "simulation/ChargeLaw.h"
+#include "simulation/ModelCharge.h"
 #include "simulation/SimulationModel.h"
 #include "tests/simulation/ChargeOfCharts.h"
 #include "tests/simulation/ModelParts.h"
@@ -107,8 +107,8 @@ TEST(ModelsInSeries, ShareItAsTheirChargesDo)
     const auto run =
         RunDeck(deck, "tran 100n 50u 0 100n\nlet middle=v(mid)[length(time)-1]\nprint middle\n", limit);
     const double middle = run.Value("middle");
-    const double upperCharge = 47e6 * ChargeLawAt(SamplePart(upper), 25)(12 - middle);
-    const double lowerCharge = 22e6 * ChargeLawAt(SamplePart(lower), 25)(middle);
+    const double upperCharge = 47e6 * ModelChargeAt(SamplePart(upper), 25)(12 - middle);
+    const double lowerCharge = 22e6 * ModelChargeAt(SamplePart(lower), 25)(middle);
     EXPECT_NEAR(upperCharge / lowerCharge, 1, 1e-5) << middle;
 }
 

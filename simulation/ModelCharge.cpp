@@ -1,4 +1,4 @@
-#include "simulation/ChargeLaw.h"
+#include "simulation/ModelCharge.h"
 
 #include "calc/Bounds.h"
 #include "calc/ChangePolynomial.h"
@@ -129,11 +129,12 @@ private:
 };
 } // namespace
 
-ChargeLaw ChargeLawAt(const PartRecord& part, double celsius)
+ModelCharge ModelChargeAt(const PartRecord& part, double celsius)
 {
     const auto numbers = ModelNumbersOf(part);
-    return CapacitanceModelOf(part) == CapacitanceModel::Peaked ? ChargeLaw(PeakedCharge(numbers, celsius))
-                                                                : ChargeLaw(ProductCharge(numbers, celsius));
+    return CapacitanceModelOf(part) == CapacitanceModel::Peaked
+               ? ModelCharge(PeakedCharge(numbers, celsius))
+               : ModelCharge(ProductCharge(numbers, celsius));
 }
 
 TemperatureRange ModelTemperatures(const PartRecord& part)

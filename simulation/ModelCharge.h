@@ -9,10 +9,10 @@
 
 /// Charge over nominal capacitance, in V, of a voltage in V. Odd in the voltage; beyond the rated voltage it
 /// goes on straight.
-using ChargeLaw = std::function<double(double volts)>;
+using ModelCharge = std::function<double(double volts)>;
 
 /// The charge of a part at one temperature in °C, for a part of one of the capacitance models.
-ChargeLaw ChargeLawAt(const PartRecord& part, double celsius);
+ModelCharge ModelChargeAt(const PartRecord& part, double celsius);
 
 /// The temperatures that a model is told for, and held at beyond: the range of the part's capacitance charts
 /// in the EIA view.

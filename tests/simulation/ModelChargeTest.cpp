@@ -1,4 +1,4 @@
-#include "simulation/ChargeLaw.h"
+#include "simulation/ModelCharge.h"
 
 #include "calc/Capacitance.h"
 #include "tests/simulation/ChargeOfCharts.h"
@@ -8,34 +8,34 @@
 
 namespace
 {
-TEST(ChargeLaw, OfAStraightLossOfCapacitanceIsAParabola)
+TEST(ModelCharge, OfAStraightLossOfCapacitanceIsAParabola)
 {
-    const auto charge = ChargeLawAt(ProductPart(), 25);
+    const auto charge = ModelChargeAt(ProductPart(), 25);
     EXPECT_DOUBLE_EQ(charge(0), 0);
     EXPECT_DOUBLE_EQ(charge(4), 4 - 16.0 / 200);
     EXPECT_DOUBLE_EQ(charge(10), 9.5);
 }
 
-TEST(ChargeLaw, IsOdd)
+TEST(ModelCharge, IsOdd)
 {
     for (const auto& part : {ProductPart(), PeakedPart()})
     {
-        const auto charge = ChargeLawAt(part, 25);
+        const auto charge = ModelChargeAt(part, 25);
         EXPECT_DOUBLE_EQ(charge(-4), -charge(4));
         EXPECT_DOUBLE_EQ(charge(-14), -charge(14));
     }
 }
 
-TEST(ChargeLaw, GoesOnStraightBeyondTheRatedVoltage)
+TEST(ModelCharge, GoesOnStraightBeyondTheRatedVoltage)
 {
     // The capacitance at 10 V is 0.9 of the nominal one.
-    EXPECT_DOUBLE_EQ(ChargeLawAt(ProductPart(), 25)(15), 9.5 + 5 * 0.9);
-    const auto peaked = ChargeLawAt(PeakedPart(), 25);
+    EXPECT_DOUBLE_EQ(ModelChargeAt(ProductPart(), 25)(15), 9.5 + 5 * 0.9);
+    const auto peaked = ModelChargeAt(PeakedPart(), 25);
     const double atRated = CapacitancePointAt(PeakedPart(), 10, 25, CodeView::Eia)->PicoFarads / 1000;
     EXPECT_NEAR(peaked(15) - peaked(10), 5 * atRated, 1e-12);
 }
 
-TEST(ChargeLaw, IsTheIntegralOfTheChartsCapacitance)
+TEST(ModelCharge, IsTheIntegralOfTheChartsCapacitance)
 {
     for (const auto* const name :
          {"KTS31NR71A226KA01", "KTS31NB51A476MA01", "KTS216F51E224ZA01", "KTU155F51H222ZA01"})
@@ -43,7 +43,7 @@ TEST(ChargeLaw, IsTheIntegralOfTheChartsCapacitance)
         const auto& part = SamplePart(name);
         for (const double celsius : {-30.0, 16.0, 25.0, 85.0})
         {
-            const auto charge = ChargeLawAt(part, celsius);
+            const auto charge = ModelChargeAt(part, celsius);
             const double rated = part.Data[Value::RatedVoltage];
             for (const double volts : {rated / 7, rated / 2, rated})
             {
@@ -54,7 +54,7 @@ TEST(ChargeLaw, IsTheIntegralOfTheChartsCapacitance)
     }
 }
 
-TEST(ChargeLaw, FollowsAPeakThatTheBiasMoves)
+TEST(ModelCharge, FollowsAPeakThatTheBiasMoves)
 {
     // The peak crosses 20 °C at 5 V, and a bias lowers or raises it.
     for (const float slope : {-2.0F, 2.0F})
@@ -63,7 +63,7 @@ TEST(ChargeLaw, FollowsAPeakThatTheBiasMoves)
             With(With(PeakedPart(), Value::PeakTemperatureV, slope), Value::PeakTemperature, 20 - 5 * slope);
         for (const double celsius : {-20.0, 20.0, 60.0})
         {
-            const auto charge = ChargeLawAt(part, celsius);
+            const auto charge = ModelChargeAt(part, celsius);
             EXPECT_NEAR(charge(10) / ChargeOfCharts(part, 10, celsius), 1, 1e-6) << slope << ' ' << celsius;
             EXPECT_NEAR(charge(3) / ChargeOfCharts(part, 3, celsius), 1, 1e-6) << slope << ' ' << celsius;
         }
