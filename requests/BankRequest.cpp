@@ -43,21 +43,38 @@ static void CheckRange(bool isWithin, const std::string& word, const std::string
     }
 }
 
-static void TakeWord(PieceText& piece, const std::string& word)
+/// What stands behind a part.
+struct PieceWords
+{
+    std::optional<int> Count;
+    std::optional<float> TolerancePercent;
+};
+
+/// Throws RequestError for a word where an earlier one says the same.
+template <class Value> static void TakeOnce(std::optional<Value>& taken, Value value, const std::string& word)
+{
+    if (taken)
+    {
+        throw RequestError(RequestErrorKind::Syntax, "", '"' + word + "\" is one too many");
+    }
+    taken = value;
+}
+
+static void TakeWord(PieceWords& words, const std::string& word)
 {
     constexpr std::string_view tolerance = "tolerance=";
     if (const auto count = CountOf(word))
     {
         CheckRange(*count >= 1 && *count <= MostInParallel, word,
                    "whole Number from 1 to " + std::to_string(MostInParallel));
-        piece.Count = *count;
+        TakeOnce(words.Count, *count, word);
     }
     else if (std::ranges::equal(word.substr(0, tolerance.size()), tolerance, {}, LowerCase))
     {
         const float percent = ValueInUnit(word.substr(tolerance.size()), Quantity::CapacitanceChange);
         CheckRange(percent >= 0 && percent <= MostTolerance, word,
                    "Number from 0 to " + NumberText(MostTolerance) + " [%]");
-        piece.TolerancePercent = percent;
+        TakeOnce(words.TolerancePercent, percent, word);
     }
     else
     {
@@ -73,16 +90,18 @@ PieceText PieceOf(std::string_view typed)
     {
         throw RequestError(RequestErrorKind::UnknownValue, "", "a piece has no part number");
     }
-    PieceText piece{.Part = words.front()};
+    PieceWords said;
     try
     {
-        std::for_each(words.begin() + 1, words.end(), [&](const auto& word) { TakeWord(piece, word); });
+        std::for_each(words.begin() + 1, words.end(), [&](const auto& word) { TakeWord(said, word); });
     }
     catch (const RequestError& error)
     {
         throw RequestError(error.Kind(), "", '"' + std::string(typed) + "\": " + error.Message());
     }
-    return piece;
+    return {.Part = words.front(),
+            .Count = said.Count.value_or(1),
+            .TolerancePercent = said.TolerancePercent.value_or(0)};
 }
 
 // ---- Ripple currents ----

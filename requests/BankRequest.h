@@ -23,8 +23,8 @@ struct PieceText
 ///
 ///     PieceOf("KTS31NR71A226KA01 x2 tolerance=10")   // two of them, ±10 %
 ///
-/// Throws RequestError for words that are none of these, and for a count that is not from 1 to
-/// `MostInParallel` or a tolerance that is not from 0 to `MostTolerance` %.
+/// Throws RequestError for words that are none of these or stand there twice, and for a count that is not
+/// from 1 to `MostInParallel` or a tolerance that is not from 0 to `MostTolerance` %.
 PieceText PieceOf(std::string_view typed);
 
 /// A ripple current as typed. Without a frequency, that of the conditions counts.

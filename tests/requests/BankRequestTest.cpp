@@ -60,6 +60,10 @@ TEST(Piece, IsRefusedWithTheWordThatIsWrong)
     }
     EXPECT_EQ(kindOf("ABC tolerance="), RequestErrorKind::NotANumber);
     EXPECT_EQ(kindOf("ABC tolerance=1V"), RequestErrorKind::Unit);
+    for (const char* typed : {"ABC x2 x3", "ABC x2 x2", "ABC tolerance=5 x2 tolerance=6"})
+    {
+        EXPECT_EQ(kindOf(typed), RequestErrorKind::Syntax) << typed;
+    }
     for (const char* typed : {"ABC x0", "ABC x-1", "ABC x101", "ABC x99999999999999", "ABC tolerance=-1",
                               "ABC tolerance=99.1", "ABC tolerance=1E99"})
     {
