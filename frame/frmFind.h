@@ -73,6 +73,7 @@ private:
     std::vector<std::int32_t> PartsOfChosenRows() const;
     void SaveModelsOfChosen();
     void ShowMenu(const QPoint& at);
+    void ShowMenuByKey();
 
     std::unique_ptr<Ui::frmFind> ui;
     FindHost& host;

@@ -31,6 +31,8 @@ void frmFind::ConnectCommands()
     connect(ui->tblFound, &QTableView::doubleClicked, ui->cmdFindSelect, &QPushButton::click);
     connect(ui->tblFound, &QTableView::customContextMenuRequested, this, &frmFind::ShowMenu);
     connectKey(QKeySequence::Copy, ui->tblFound, [this] { CopyChosen(); });
+    // Of the two keys for menus, the window system makes a request of one alone.
+    connectKey(Qt::SHIFT | Qt::Key_F10, ui->tblFound, [this] { ShowMenuByKey(); });
     connectKey(Qt::CTRL | Qt::Key_E, this, [this] { ViewChosen(); });
     connectKey(Qt::Key_F1, this, [this] { host.ShowHelpTopic(QStringLiteral("find")); });
 }
@@ -247,4 +249,12 @@ void frmFind::ShowMenu(const QPoint& at)
     menu->addAction(QLatin1String(SaveModelText), this, &frmFind::SaveModelsOfChosen)
         ->setEnabled(CanHaveModel(PartsOfChosenRows()));
     menu->popup(ui->tblFound->viewport()->mapToGlobal(at));
+}
+
+/// At the current row, else in the middle of the rows.
+void frmFind::ShowMenuByKey()
+{
+    const QRect rows = ui->tblFound->viewport()->rect();
+    const QRect current = ui->tblFound->visualRect(ui->tblFound->currentIndex());
+    ShowMenu(rows.intersects(current) ? rows.intersected(current).center() : rows.center());
 }

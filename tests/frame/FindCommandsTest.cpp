@@ -27,6 +27,7 @@ private Q_SLOTS:
     void ViewShowsThePlottedRows();
     void CopiesChosenRowsInFull();
     void SavesModelsOfChosenRows();
+    void KeyOpensTheMenuAtTheCurrentRow();
     void SelectTakesThePlaceOfTheWorst();
     void KeysLeadThroughTheWindow();
 };
@@ -234,6 +235,23 @@ void FindCommandsTest::SavesModelsOfChosenRows()
                  qPrintable(text.left(200)));
     }
     QCOMPARE(text.count("\n.SUBCKT "), 2);
+}
+
+void FindCommandsTest::KeyOpensTheMenuAtTheCurrentRow()
+{
+    const FindDesk desk;
+    desk.Enter("txtFindPartNum", "KTS31N");
+    desk.ChooseRows(1, 1);
+    desk.Table()->setFocus();
+    desk.Table()->setCurrentIndex(desk.Table()->model()->index(1, 0));
+    const QWidget* const rows = desk.Table()->viewport();
+    const QRect row = desk.Table()->visualRect(desk.Table()->model()->index(1, 0));
+    QTest::keyClick(desk.Table(), Qt::Key_F10, Qt::ShiftModifier);
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    QVERIFY(menu != nullptr);
+    QCOMPARE(menu->objectName(), QString("mnuPopupFound"));
+    QCOMPARE(menu->y(), rows->mapToGlobal(row.center()).y());
+    menu->close();
 }
 
 void FindCommandsTest::SelectTakesThePlaceOfTheWorst()
