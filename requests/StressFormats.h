@@ -25,3 +25,16 @@ std::string StressText(std::span<const StressReport> reports, CodeView code, con
 
 /// "current 1.1560 Arms, 3.201 A peak to peak, mean -0.0001 A", and the sine that heats alike.
 std::string CurrentText(const CurrentLoad& load);
+
+/// Where a current comes from: "614 periods of 2.0000 us (500.00 kHz) from 272 us to 1.5 ms", or a
+/// converter's data with what is taken of it on a second line.
+std::string OriginText(const StressReport& report);
+
+/// "1.1560 Arms, 3.201 A peak to peak, mean -0.0001 A".
+std::string SwingText(const CurrentLoad& load);
+
+/// "1.1560 Arms at 628 kHz".
+std::string SineText(const EquivalentSine& sine);
+
+/// True where the parts can be asked about the sine: its frequency is one of the entries.
+bool CanBeTyped(const EquivalentSine& sine);

@@ -139,8 +139,7 @@ std::string PartText(const StressedPart& part, CodeView code, const CurveSetting
 
 std::string ReportText(const StressReport& report, CodeView code, const CurveSettings& settings)
 {
-    const auto origin = report.Source ? ConverterText(*report.Source) : RecordText(*report.Load.Record);
-    auto text = report.Title() + ": " + origin + '\n' + CurrentText(report.Load);
+    auto text = report.Title() + ": " + OriginText(report) + '\n' + CurrentText(report.Load);
     for (const StressedPart& part : report.Parts)
     {
         text += PartText(part, code, settings);
@@ -153,20 +152,39 @@ std::string ReportText(const StressReport& report, CodeView code, const CurveSet
 }
 } // namespace
 
-std::string CurrentText(const CurrentLoad& load)
+std::string OriginText(const StressReport& report)
+{
+    return report.Source ? ConverterText(*report.Source) : RecordText(*report.Load.Record);
+}
+
+std::string SwingText(const CurrentLoad& load)
 {
     constexpr int decimals = 4;
     constexpr int swingDecimals = 3;
-    const auto sine = load.Lines.Moments.Total().Sine();
-    const auto arms = Fixed(sine.Arms, decimals) + "Arms";
-    const auto kilohertz = Digits(sine.Hertz / hertzPerKilohertz) + "kHz";
-    const bool canBeTyped = sine.Hertz >= LowestFrequencyHz && sine.Hertz <= HighestFrequencyHz;
-    return "current   " + Fixed(load.Arms(), decimals) + " Arms, " +
+    return Fixed(load.Arms(), decimals) + " Arms, " +
            Fixed(load.Figures.Highest - load.Figures.Lowest, swingDecimals) + " A peak to peak" +
-           (load.Record ? ", mean " + Fixed(load.Figures.Mean, decimals) + " A" : "") +
-           "\nheats like a sine of " + Fixed(sine.Arms, decimals) + " Arms at " +
-           Digits(sine.Hertz / hertzPerKilohertz) + " kHz" +
-           (canBeTyped ? "   (find --current " + arms + " --frequency " + kilohertz + ")" : "") + '\n';
+           (load.Record ? ", mean " + Fixed(load.Figures.Mean, decimals) + " A" : "");
+}
+
+std::string SineText(const EquivalentSine& sine)
+{
+    constexpr int decimals = 4;
+    return Fixed(sine.Arms, decimals) + " Arms at " + Digits(sine.Hertz / hertzPerKilohertz) + " kHz";
+}
+
+bool CanBeTyped(const EquivalentSine& sine)
+{
+    return sine.Hertz >= LowestFrequencyHz && sine.Hertz <= HighestFrequencyHz;
+}
+
+std::string CurrentText(const CurrentLoad& load)
+{
+    constexpr int decimals = 4;
+    const auto sine = load.Lines.Moments.Total().Sine();
+    const auto typed = "   (find --current " + Fixed(sine.Arms, decimals) + "Arms --frequency " +
+                       Digits(sine.Hertz / hertzPerKilohertz) + "kHz)";
+    return "current   " + SwingText(load) + "\nheats like a sine of " + SineText(sine) +
+           (CanBeTyped(sine) ? typed : "") + '\n';
 }
 
 std::string StressText(std::span<const StressReport> reports, CodeView code, const CurveSettings& settings)

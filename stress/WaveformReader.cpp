@@ -74,8 +74,9 @@ struct Block
 class BlockReader
 {
 public:
-    explicit BlockReader(std::string_view utf8)
+    BlockReader(std::string_view utf8, const std::function<void()>& betweenLines)
         : lines(utf8)
+        , pause(betweenLines)
     {
     }
 
@@ -83,6 +84,7 @@ public:
     {
         for (std::string_view line; lines.Read(line);)
         {
+            Pause();
             line.remove_prefix(line.starts_with('\f') ? 1 : 0);
             if (!IsRule(line) && !(inRows && TakeRow(line)))
             {
@@ -93,6 +95,16 @@ public:
     }
 
 private:
+    /// Gives way to the caller every so many lines.
+    void Pause()
+    {
+        constexpr std::size_t seldom = 4096;
+        if (pause && ++linesRead % seldom == 0)
+        {
+            pause();
+        }
+    }
+
     /// A further row of the block at hand; false for a line that may stand between rows.
     bool TakeRow(std::string_view line)
     {
@@ -193,6 +205,8 @@ private:
     }
 
     TextLines lines;
+    const std::function<void()>& pause;
+    std::size_t linesRead = 0;
     Cells cells;
     std::string_view heading;
     std::string_view lineBefore;
@@ -270,11 +284,11 @@ void CheckText(std::string_view text)
 }
 } // namespace
 
-WaveformTable ReadWaveforms(std::string bytes)
+WaveformTable ReadWaveforms(std::string bytes, const std::function<void()>& betweenLines)
 {
     const auto text = Utf8Of(std::move(bytes));
     CheckText(text);
-    auto blocks = BlockReader(text).Read();
+    auto blocks = BlockReader(text, betweenLines).Read();
     CheckBlocks(blocks);
     const Block& first = blocks.front();
     WaveformTable table{.Seconds = first.Times(), .Columns = {}};

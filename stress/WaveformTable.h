@@ -5,6 +5,7 @@
 #include "stress/Waveform.h"
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -46,8 +47,8 @@ struct WaveformTable
 ///
 /// Throws WaveformError with the line for a row of another number of cells, text among numbers, a value that
 /// is not finite and a time that falls; also for a binary file, less than 8 rows, and more than
-/// `MostWaveformRows`.
-WaveformTable ReadWaveforms(std::string bytes);
+/// `MostWaveformRows`. `betweenLines` is called every few thousand lines; what it throws ends the reading.
+WaveformTable ReadWaveforms(std::string bytes, const std::function<void()>& betweenLines = {});
 
 /// True for a column that is named as simulators name currents, or has the unit A.
 bool IsCurrent(const WaveColumn& column);
