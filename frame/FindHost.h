@@ -32,6 +32,8 @@ public:
     virtual QWidget* MainWindow() = 0;
     /// Asks for a file to write, as chart windows do.
     virtual std::optional<QString> AskForFile(QWidget* window, const FileQuestion& question) = 0;
+    /// Asks for a file to read, in the folder that such a file was last taken from.
+    virtual std::optional<QString> AskForFileToOpen(QWidget* window, const FileQuestion& question) = 0;
     /// Opens the help book at a topic's anchor.
     virtual void ShowHelpTopic(const QString& anchor) = 0;
     /// Fills the selection form, and brings the main window to the front with the focus on Plot.

@@ -38,6 +38,7 @@ frmFind::frmFind(FindHost& mainWindow)
     new ClosesWith(*this, *host.MainWindow());
     setMinimumSize(LeastSize.boundedTo(screen()->availableSize() - FrameRoom));
     new StartPlace(this, size());
+    ui->lblFindOrigin->hide();
     ui->txtFindDCBiasVol->setText(QStringLiteral("0"));
     ui->txtFindAmbientTemp->setText(QString::fromStdString(NumberText(ReferenceC(view))));
     FillLists();

@@ -11,6 +11,7 @@
 #include <set>
 
 class FoundTable;
+class frmWaveform;
 class QLineEdit;
 
 namespace Ui
@@ -56,6 +57,11 @@ private:
     void HideColumns();
     void GoToTable();
 
+    // Where current and frequency come from.
+    void cmdFindWaveform_Click();
+    void TakeWaveform();
+    void ForgetOrigin();
+
     // The chosen parts.
     std::vector<int> ChosenRows() const;
     void KeepChosen();
@@ -78,6 +84,8 @@ private:
     std::unique_ptr<Ui::frmFind> ui;
     FindHost& host;
     FoundTable* table;
+    /// Made when it is first asked for.
+    frmWaveform* waveform = nullptr;
     /// The naming that the lists show.
     CodeView view;
     /// The entry that is refused, or none.

@@ -5,6 +5,7 @@
 #include "formkit/RunCommand.h"
 #include "frame/FoundTable.h"
 #include "frame/frmFind.h"
+#include "frame/frmWaveform.h"
 #include "ui_frmFind.h"
 
 #include <QClipboard>
@@ -28,6 +29,9 @@ void frmFind::ConnectCommands()
     };
     connect(ui->cmdFindSelect, &QPushButton::clicked, this, &frmFind::cmdFindSelect_Click);
     connect(ui->cmdFindPlot, &QPushButton::clicked, this, &frmFind::cmdFindPlot_Click);
+    connect(ui->cmdFindWaveform, &QPushButton::clicked, this, &frmFind::cmdFindWaveform_Click);
+    connect(ui->txtFindCurrent, &QLineEdit::textChanged, this, &frmFind::ForgetOrigin);
+    connect(ui->txtFindFrequency, &QLineEdit::textChanged, this, &frmFind::ForgetOrigin);
     connect(ui->tblFound, &QTableView::doubleClicked, ui->cmdFindSelect, &QPushButton::click);
     connect(ui->tblFound, &QTableView::customContextMenuRequested, this, &frmFind::ShowMenu);
     connectKey(QKeySequence::Copy, ui->tblFound, [this] { CopyChosen(); });
@@ -35,6 +39,40 @@ void frmFind::ConnectCommands()
     connectKey(Qt::SHIFT | Qt::Key_F10, ui->tblFound, [this] { ShowMenuByKey(); });
     connectKey(Qt::CTRL | Qt::Key_E, this, [this] { ViewChosen(); });
     connectKey(Qt::Key_F1, this, [this] { host.ShowHelpTopic(QStringLiteral("find")); });
+}
+
+// ---- A current of any shape ----
+
+void frmFind::cmdFindWaveform_Click()
+{
+    if (waveform == nullptr)
+    {
+        waveform = new frmWaveform(this, host);
+        connect(waveform, &QDialog::accepted, this, &frmFind::TakeWaveform);
+    }
+    waveform->ComeToFront();
+}
+
+void frmFind::TakeWaveform()
+{
+    const auto taken = waveform->Taken();
+    ui->txtFindCurrent->setText(taken.Current);
+    ui->txtFindFrequency->setText(taken.Frequency);
+    if (ui->txtFindDCBiasVol->text().isEmpty())
+    {
+        ui->txtFindDCBiasVol->setText(taken.BiasVolts);
+    }
+    ui->lblFindOrigin->setText(QStringLiteral("Current and frequency: %1").arg(taken.Origin));
+    ui->lblFindOrigin->show();
+    ui->txtFindCurrent->setAccessibleDescription(ui->lblFindOrigin->text());
+}
+
+/// An entry that is edited no longer is the waveform's.
+void frmFind::ForgetOrigin()
+{
+    ui->lblFindOrigin->clear();
+    ui->lblFindOrigin->hide();
+    ui->txtFindCurrent->setAccessibleDescription({});
 }
 
 // ---- The chosen parts ----

@@ -18,6 +18,7 @@
 #include <vector>
 
 class FormAccessKeys;
+class clsComdlg;
 class frmFind;
 class frmGraph;
 class QMdiSubWindow;
@@ -57,6 +58,7 @@ public:
     QWidget* MainWindow() override { return this; }
     void PrintSheet(const DrawSheet& draw, const QString& title) override;
     std::optional<QString> AskForFile(QWidget* window, const FileQuestion& question) override;
+    std::optional<QString> AskForFileToOpen(QWidget* window, const FileQuestion& question) override;
     void UseConditions(const ChartRecord& line, int number) override;
     void ShowHelpTopic(const QString& anchor) override;
     void Keep(const QString& name, const QVariant& value) override;
@@ -101,6 +103,7 @@ private:
     void EnableOutput(bool enabled);
     std::optional<ChartRecord> CurrentCurve();
     void SaveData(const ChartRecord& line);
+    void BeginDialog(clsComdlg& dialog, QWidget* window, const FileQuestion& question);
     void NoteFolder(const QString& dialog, const QString& file);
     void PrintData(const ChartRecord& line);
     bool MayReplaceFile();

@@ -35,12 +35,11 @@ void frmMain::NoteFolder(const QString& dialog, const QString& file)
     Keep(FolderKey({}), folder);
 }
 
-std::optional<QString> frmMain::AskForFile(QWidget* window, const FileQuestion& question)
+/// Where a question's dialog begins: in its own last folder, else in the last one of all.
+void frmMain::BeginDialog(clsComdlg& dialog, QWidget* window, const FileQuestion& question)
 {
-    clsComdlg dialog;
     dialog.hWndOwner = window;
     dialog.CancelError = false;
-    dialog.Flags = 2;
     const QVariant last = Kept(FolderKey({}));
     dialog.InitDir = Kept(FolderKey(question.Dialog)).toString();
     if (dialog.InitDir.isEmpty())
@@ -49,6 +48,13 @@ std::optional<QString> frmMain::AskForFile(QWidget* window, const FileQuestion& 
     }
     dialog.Filter(question.Filter);
     dialog.FilterIndex = 1;
+}
+
+std::optional<QString> frmMain::AskForFile(QWidget* window, const FileQuestion& question)
+{
+    clsComdlg dialog;
+    BeginDialog(dialog, window, question);
+    dialog.Flags = 2;
     dialog.FileName = FileNameOf(question.ProposedName);
     dialog.Refuse = question.Refuse;
     dialog.ShowSave();
@@ -57,6 +63,21 @@ std::optional<QString> frmMain::AskForFile(QWidget* window, const FileQuestion& 
         return std::nullopt;
     }
     NoteFolder(question.Dialog, dialog.FileName);
+    return dialog.FileName;
+}
+
+std::optional<QString> frmMain::AskForFileToOpen(QWidget* window, const FileQuestion& question)
+{
+    constexpr int onlyFilesThatExist = 4096;
+    clsComdlg dialog;
+    BeginDialog(dialog, window, question);
+    dialog.Flags = onlyFilesThatExist;
+    dialog.ShowOpen();
+    if (dialog.FileTitle.isEmpty())
+    {
+        return std::nullopt;
+    }
+    Keep(FolderKey(question.Dialog), QFileInfo(dialog.FileName).path());
     return dialog.FileName;
 }
 
