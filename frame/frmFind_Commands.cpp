@@ -62,7 +62,9 @@ void frmFind::TakeWaveform()
     {
         ui->txtFindDCBiasVol->setText(taken.BiasVolts);
     }
-    ui->lblFindOrigin->setText(QStringLiteral("Current and frequency: %1").arg(taken.Origin));
+    ui->lblFindOrigin->setText(QStringLiteral("From %1").arg(taken.Origin));
+    // Long names do not fit beside the boxes.
+    ui->lblFindOrigin->setToolTip(ui->lblFindOrigin->text());
     ui->lblFindOrigin->show();
     ui->txtFindCurrent->setAccessibleDescription(ui->lblFindOrigin->text());
 }

@@ -254,7 +254,7 @@ void WaveformWindowTest::OkFillsTheSearchAndSaysWhereFrom()
     QCOMPARE(desk.FindDesk::Control<QLineEdit>("txtFindDCBiasVol")->text(), QString("0"));
     const auto* origin = desk.FindDesk::Control<QLabel>("lblFindOrigin");
     QVERIFY(origin->isVisible());
-    QCOMPARE(origin->text(), QString("Current and frequency: buck input"));
+    QCOMPARE(origin->text(), QString("From buck input"));
     QVERIFY(!desk.Table()->isColumnHidden(desk.Column("Rise [°C]")));
     ::Grab(desk, "origin");
     desk.Enter("txtFindDCBiasVol", "12");
@@ -316,8 +316,7 @@ void WaveformWindowTest::FileIsReadAndItsCurrentFound()
     QVERIFY(desk.Told().contains("\n1.1547 Arms, 4.000 A peak to peak, mean "));
     QTest::mouseClick(desk.Of<QPushButton>("cmdWaveOK"), Qt::LeftButton);
     QCOMPARE(desk.FindDesk::Control<QLineEdit>("txtFindCurrent")->text(), QString("1.155"));
-    QCOMPARE(desk.FindDesk::Control<QLabel>("lblFindOrigin")->text(),
-             QString("Current and frequency: i(c1) of buck.txt"));
+    QCOMPARE(desk.FindDesk::Control<QLabel>("lblFindOrigin")->text(), QString("From i(c1) of buck.txt"));
     QCOMPARE(desk.TakeBoxes().size(), std::size_t{0});
 }
 
