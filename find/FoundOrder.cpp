@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <functional>
 #include <limits>
-#include <ranges>
 
 namespace
 {
@@ -109,9 +108,9 @@ void SortFound(std::vector<FoundPart>& found, const PartTable& parts, const std:
         order.push_back({.Rank = 0, .Index = i});
     }
     // The weightiest key last: each pass keeps the order of those before it among equals.
-    for (const FoundKey& key : std::views::reverse(keys))
+    for (auto key = keys.rbegin(); key != keys.rend(); ++key)
     {
-        SortBy(order, found, RankOf(parts, key, code));
+        SortBy(order, found, RankOf(parts, *key, code));
     }
     Permute(found, order);
 }

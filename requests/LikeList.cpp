@@ -16,7 +16,6 @@
 #include <cmath>
 #include <functional>
 #include <limits>
-#include <ranges>
 
 namespace
 {
@@ -135,7 +134,7 @@ std::string Table(const LikeParts& found, const LikeQuestion& question, const Cu
     {
         areNumbers.push_back(false);
         rows[0].emplace_back("MARK");
-        std::ranges::for_each(rows | std::views::drop(1), [](ListRow& row) { row.emplace_back("short"); });
+        std::for_each(rows.begin() + 1, rows.end(), [](ListRow& row) { row.emplace_back("short"); });
     }
     return AlignedTable(std::move(rows), areNumbers);
 }
@@ -289,9 +288,9 @@ void SortLike(std::vector<LikePart>& found, const PartTable& parts, const std::v
               CodeView code)
 {
     // The weightiest key last: each pass keeps the order of those before it among equals.
-    for (const LikeKey& key : std::views::reverse(keys))
+    for (auto key = keys.rbegin(); key != keys.rend(); ++key)
     {
-        std::ranges::stable_sort(found, {}, RankOf(parts, key, code));
+        std::ranges::stable_sort(found, {}, RankOf(parts, *key, code));
     }
 }
 

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 
 static constexpr std::array<std::string_view, 5> columnNames = {"part", "size", "characteristic",
                                                                 "capacitance", "rated-voltage"};
@@ -74,8 +73,8 @@ void SortParts(std::vector<const PartRecord*>& found, const PartTable& parts,
                const std::vector<SortKey>& keys, CodeView code, const CurveSettings& settings)
 {
     // The weightiest key last: each pass keeps the order of those before it among equals.
-    for (const SortKey& key : std::views::reverse(keys))
+    for (auto key = keys.rbegin(); key != keys.rend(); ++key)
     {
-        std::ranges::stable_sort(found, PartLess(parts, key, code, settings));
+        std::ranges::stable_sort(found, PartLess(parts, *key, code, settings));
     }
 }

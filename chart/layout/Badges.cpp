@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
-#include <ranges>
 #include <utility>
 
 namespace
@@ -189,11 +188,12 @@ private:
     {
         std::vector<Point> places;
         double toNext = 0;
-        for (const auto& run : curves[line] | std::views::reverse)
+        const auto& runs = curves[line];
+        for (auto run = runs.rbegin(); run != runs.rend(); ++run)
         {
-            for (std::size_t i = run.size() - 1; i > 0; --i)
+            for (std::size_t i = run->size() - 1; i > 0; --i)
             {
-                toNext = AddPlaces(run[i], run[i - 1], toNext, places);
+                toNext = AddPlaces((*run)[i], (*run)[i - 1], toNext, places);
             }
         }
         return places;
