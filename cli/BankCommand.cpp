@@ -3,11 +3,11 @@
 #include "cli/Command.h"
 #include "cli/Commands.h"
 #include "cli/FileArguments.h"
-#include "cli/HelpText.h"
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
-#include "cli/Terminal.h"
 #include "requests/BankFormats.h"
+#include "terminal/HelpText.h"
+#include "terminal/Terminal.h"
 
 #include <CLI/CLI.hpp>
 

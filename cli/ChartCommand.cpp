@@ -5,16 +5,16 @@
 #include "cli/Commands.h"
 #include "cli/Drawing.h"
 #include "cli/FileArguments.h"
-#include "cli/HelpText.h"
 #include "cli/LineOption.h"
 #include "cli/Output.h"
 #include "cli/PdfDate.h"
 #include "cli/RequestOptions.h"
 #include "cli/RequestWords.h"
 #include "cli/SheetPicture.h"
-#include "cli/Terminal.h"
 #include "requests/ChartLines.h"
 #include "requests/Names.h"
+#include "terminal/HelpText.h"
+#include "terminal/Terminal.h"
 
 #include <CLI/CLI.hpp>
 #include <QFileInfo>

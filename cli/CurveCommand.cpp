@@ -4,7 +4,6 @@
 #include "cli/Command.h"
 #include "cli/Commands.h"
 #include "cli/FileArguments.h"
-#include "cli/HelpText.h"
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
 #include "cli/RequestStream.h"
@@ -13,6 +12,7 @@
 #include "requests/CurveFormats.h"
 #include "requests/JsonRequest.h"
 #include "requests/Names.h"
+#include "terminal/HelpText.h"
 
 #include <CLI/CLI.hpp>
 

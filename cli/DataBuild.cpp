@@ -3,12 +3,12 @@
 #include "cli/Command.h"
 #include "cli/DataTables.h"
 #include "cli/FileArguments.h"
-#include "cli/Terminal.h"
 #include "files/PartLoading.h"
 #include "partdata/RunTimeError.h"
 #include "partfiles/PairCheck.h"
 #include "partfiles/PairReplacement.h"
 #include "partfiles/TablePair.h"
+#include "terminal/Terminal.h"
 
 #include <iostream>
 

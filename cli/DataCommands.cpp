@@ -5,13 +5,13 @@
 #include "cli/DataFit.h"
 #include "cli/FileArguments.h"
 #include "cli/Output.h"
-#include "cli/Terminal.h"
 #include "files/PartLoading.h"
 #include "partdata/DataReader.h"
 #include "partdata/PartTable.h"
 #include "partfiles/PairBytes.h"
 #include "partfiles/PairCheck.h"
 #include "partfiles/TableWriter.h"
+#include "terminal/Terminal.h"
 
 #include <CLI/CLI.hpp>
 

@@ -6,12 +6,12 @@
 #include "cli/FitJson.h"
 #include "cli/FitPicture.h"
 #include "cli/Output.h"
-#include "cli/Terminal.h"
 #include "ownparts/FitText.h"
 #include "ownparts/MeasurementReader.h"
 #include "ownparts/PartFit.h"
 #include "partfiles/TableMerge.h"
 #include "requests/CurveRequest.h"
+#include "terminal/Terminal.h"
 
 #include <CLI/CLI.hpp>
 

@@ -2,9 +2,9 @@
 
 #include "cli/CommandError.h"
 #include "cli/FileArguments.h"
-#include "cli/Terminal.h"
 #include "files/InputFile.h"
 #include "partdata/RunTimeError.h"
+#include "terminal/Terminal.h"
 
 #include <iostream>
 

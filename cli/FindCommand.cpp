@@ -5,12 +5,12 @@
 #include "cli/FileArguments.h"
 #include "cli/FilterOptions.h"
 #include "cli/FindOptions.h"
-#include "cli/HelpText.h"
 #include "cli/Output.h"
 #include "find/QuestionRules.h"
 #include "requests/FoundList.h"
 #include "requests/Names.h"
 #include "requests/RequestError.h"
+#include "terminal/HelpText.h"
 
 #include <CLI/CLI.hpp>
 

@@ -4,7 +4,6 @@
 #include "cli/Commands.h"
 #include "cli/FileArguments.h"
 #include "cli/FilterOptions.h"
-#include "cli/HelpText.h"
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
 #include "find/LikenessRules.h"
@@ -13,6 +12,7 @@
 #include "requests/RangeEntry.h"
 #include "requests/RequestError.h"
 #include "requests/UnitEntry.h"
+#include "terminal/HelpText.h"
 
 #include <CLI/CLI.hpp>
 

@@ -3,12 +3,12 @@
 #include "cli/Command.h"
 #include "cli/Commands.h"
 #include "cli/FileArguments.h"
-#include "cli/HelpText.h"
 #include "cli/Output.h"
-#include "cli/Progress.h"
 #include "cli/RequestOptions.h"
-#include "cli/Terminal.h"
 #include "simulation/ModelFile.h"
+#include "terminal/HelpText.h"
+#include "terminal/Progress.h"
+#include "terminal/Terminal.h"
 
 #include <CLI/CLI.hpp>
 

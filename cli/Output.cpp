@@ -1,8 +1,8 @@
 #include "cli/Output.h"
 
 #include "cli/Command.h"
-#include "cli/Terminal.h"
 #include "partdata/RunTimeError.h"
+#include "terminal/Terminal.h"
 
 #include <cerrno>
 #include <iostream>

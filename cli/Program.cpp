@@ -3,9 +3,9 @@
 #include "cli/Command.h"
 #include "cli/Commands.h"
 #include "cli/RequestWords.h"
-#include "cli/Terminal.h"
 #include "partdata/OneLine.h"
 #include "requests/Names.h"
+#include "terminal/Terminal.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,8 +1,8 @@
 #include "cli/RequestStream.h"
 
 #include "cli/Command.h"
-#include "cli/Progress.h"
 #include "requests/JsonRequest.h"
+#include "terminal/Progress.h"
 
 #include <filesystem>
 #include <fstream>

@@ -1,8 +1,8 @@
 #include "cli/RequestWords.h"
-#include "cli/Terminal.h"
 
 #include "calc/ChartKinds.h"
 #include "requests/Names.h"
+#include "terminal/Terminal.h"
 
 #include <algorithm>
 

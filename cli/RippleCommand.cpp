@@ -3,7 +3,6 @@
 #include "cli/Command.h"
 #include "cli/Commands.h"
 #include "cli/FileArguments.h"
-#include "cli/HelpText.h"
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
 #include "cli/RequestWords.h"
@@ -12,6 +11,7 @@
 #include "requests/StressFormats.h"
 #include "stress/WaveformError.h"
 #include "stress/WaveformTable.h"
+#include "terminal/HelpText.h"
 
 #include <CLI/CLI.hpp>
 

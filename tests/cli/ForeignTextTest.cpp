@@ -1,8 +1,8 @@
 /// Part numbers and file names that are commands to a terminal, or break the format that they stand in.
 
 #include "tests/cli/CommandLine.h"
-#include "tests/cli/PseudoTerminal.h"
 #include "tests/partfiles/SmallPair.h"
+#include "tests/terminal/PseudoTerminal.h"
 
 #include <QTest>
 #include <QXmlStreamReader>

@@ -2,8 +2,8 @@
 
 #include "partdata/ValueNames.h"
 #include "tests/cli/CommandLine.h"
-#include "tests/cli/PseudoTerminal.h"
 #include "tests/partfiles/SmallPair.h"
+#include "tests/terminal/PseudoTerminal.h"
 
 #include <QFile>
 #include <QProcess>

@@ -1,4 +1,4 @@
-#include "cli/HelpText.h"
+#include "terminal/HelpText.h"
 
 static constexpr std::size_t longestLine = 112;
 

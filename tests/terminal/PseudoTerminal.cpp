@@ -1,4 +1,4 @@
-#include "tests/cli/PseudoTerminal.h"
+#include "tests/terminal/PseudoTerminal.h"
 
 #include <array>
 #include <cerrno>

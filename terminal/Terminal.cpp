@@ -1,4 +1,4 @@
-#include "cli/Terminal.h"
+#include "terminal/Terminal.h"
 
 #include "partdata/OneLine.h"
 

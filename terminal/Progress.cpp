@@ -1,6 +1,6 @@
-#include "cli/Progress.h"
+#include "terminal/Progress.h"
 
-#include "cli/Terminal.h"
+#include "terminal/Terminal.h"
 
 #include <algorithm>
 #include <iostream>

@@ -1,6 +1,6 @@
 /// Texts of the help as a terminal shows them.
 
-#include "cli/HelpText.h"
+#include "terminal/HelpText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 /// The progress bar as a person at a terminal sees it.
 
-#include "cli/Progress.h"
+#include "terminal/Progress.h"
 
-#include "tests/cli/PseudoTerminal.h"
+#include "tests/terminal/PseudoTerminal.h"
 
 #include <gtest/gtest.h>
 
