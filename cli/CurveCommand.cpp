@@ -7,7 +7,6 @@
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
 #include "cli/RequestStream.h"
-#include "cli/RequestWords.h"
 #include "formkit/Texts.h"
 #include "requests/CurveFormats.h"
 #include "requests/JsonRequest.h"

@@ -2,9 +2,9 @@
 
 #include "calc/NumberText.h"
 #include "cli/Command.h"
-#include "cli/RequestWords.h"
 #include "requests/Names.h"
 #include "requests/PartList.h"
+#include "requests/RequestWords.h"
 
 #include <CLI/CLI.hpp>
 

@@ -6,10 +6,10 @@
 #include "cli/Command.h"
 #include "cli/FilterOptions.h"
 #include "cli/RequestOptions.h"
-#include "cli/RequestWords.h"
 #include "requests/FoundList.h"
 #include "requests/Names.h"
 #include "requests/RangeEntry.h"
+#include "requests/RequestWords.h"
 #include "requests/ToleranceEntry.h"
 #include "requests/UnitEntry.h"
 

@@ -2,9 +2,9 @@
 
 #include "cli/Command.h"
 #include "cli/Commands.h"
-#include "cli/RequestWords.h"
 #include "partdata/OneLine.h"
 #include "requests/Names.h"
+#include "requests/RequestWords.h"
 #include "terminal/Terminal.h"
 
 #include <CLI/CLI.hpp>
@@ -172,7 +172,8 @@ int RunProgram(int argc, const char* const* argv)
     }
     catch (const RequestError& error)
     {
-        return End(StatusOf(error), WordsOf(error));
+        // A request that makes no sense is a wrong command line.
+        return End(IsMistaken(error.Kind()) ? ExitStatus::Usage : ExitStatus::Failed, WordsOf(error));
     }
     catch (const std::bad_alloc&)
     {

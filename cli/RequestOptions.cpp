@@ -4,8 +4,9 @@
 #include "calc/NumberText.h"
 #include "cli/Command.h"
 #include "cli/FileArguments.h"
-#include "cli/RequestWords.h"
 #include "requests/Names.h"
+#include "requests/RequestWords.h"
+#include "terminal/Terminal.h"
 
 #include <CLI/CLI.hpp>
 
@@ -141,4 +142,12 @@ void AddFormatOption(CLI::App& command, std::string& format, const std::vector<F
     command.add_option("--format", format, ChoiceOf(notedNames) + note)
         ->type_name("FORMAT")
         ->check(CLI::IsMember(names));
+}
+
+void TellUnused(const RequestedCurve& curve, std::string_view partNum)
+{
+    if (const auto note = NoteOnUnused(curve, partNum); !note.empty())
+    {
+        TellLine("tavik-cli: " + note);
+    }
 }

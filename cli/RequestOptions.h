@@ -1,10 +1,12 @@
 #pragma once
 
-/// The options that commands on curves share: chart, axes, conditions, namings.
+/// The options that commands on curves share: chart, axes, conditions, namings; and what is told of those
+/// given in vain.
 
 #include "requests/CurveRequest.h"
 #include "requests/OutputFormat.h"
 
+#include <string_view>
 #include <vector>
 
 namespace CLI
@@ -34,3 +36,6 @@ void AddFormatOption(CLI::App& command, std::string& format, const std::vector<F
 
 /// Takes "effective-power=1.5W" into a request. Throws UsageError without an equals sign.
 void TakeParameter(CurveRequest& request, const std::string& text);
+
+/// Tells on standard error which options the chart type does not use, where there are any.
+void TellUnused(const RequestedCurve& curve, std::string_view partNum);

@@ -1,8 +1,8 @@
 /// Lines of a chart with conditions of their own.
 
-#include "cli/LineOption.h"
+#include "requests/LineOption.h"
 
-#include "cli/Command.h"
+#include "requests/RequestWords.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -27,26 +27,27 @@ TEST(LineOption, OverridesCommonConditions)
     EXPECT_EQ(request.Conditions[Condition::Parameter], "0.1W");
 }
 
-std::string UsageErrorOf(const std::string& line)
+std::string RefusalOf(const std::string& line)
 {
     try
     {
         RequestOfLine(line, {});
     }
-    catch (const UsageError& error)
+    catch (const RequestError& error)
     {
-        return error.what();
+        EXPECT_TRUE(IsMistaken(error.Kind()));
+        return WordsOf(error);
     }
     return "no error";
 }
 
 TEST(LineOption, RefusesWhatIsNoCondition)
 {
-    EXPECT_EQ(UsageErrorOf(" "), "--line is empty");
-    EXPECT_EQ(UsageErrorOf("ABC bias=5"),
+    EXPECT_EQ(RefusalOf(" "), "--line is empty");
+    EXPECT_EQ(RefusalOf("ABC bias=5"),
               "--line \"ABC bias=5\": \"bias\" is none of: dc-bias, frequency, heat-resistance, ambient, "
               "current, voltage, effective-power, apparent-power");
-    EXPECT_THAT(UsageErrorOf("ABC ambeint=5"), testing::EndsWith("; did you mean \"ambient\"?"));
-    EXPECT_EQ(UsageErrorOf("ABC 5V"), "--line \"ABC 5V\": \"5V\" is not NAME=VALUE");
+    EXPECT_THAT(RefusalOf("ABC ambeint=5"), testing::EndsWith("; did you mean \"ambient\"?"));
+    EXPECT_EQ(RefusalOf("ABC 5V"), "--line \"ABC 5V\": \"5V\" is not NAME=VALUE");
 }
 } // namespace

@@ -1,8 +1,7 @@
-#include "cli/RequestWords.h"
+#include "requests/RequestWords.h"
 
 #include "calc/ChartKinds.h"
 #include "requests/Names.h"
-#include "terminal/Terminal.h"
 
 #include <algorithm>
 
@@ -21,11 +20,6 @@ std::string OptionNameOf(std::string_view key)
 static std::string OptionOf(const std::string& key)
 {
     return "--" + (key == "parameterValue" ? "parameter" : OptionNameOf(key));
-}
-
-ExitStatus StatusOf(const RequestError& error)
-{
-    return IsMistaken(error.Kind()) ? ExitStatus::Usage : ExitStatus::Failed;
 }
 
 /// The message, and what was probably meant.
@@ -48,14 +42,6 @@ std::string NoteOnUnused(const RequestedCurve& curve, std::string_view partNum)
     return options.empty()
                ? ""
                : std::string(partNum) + ": " + std::string(chart) + " does not use " + ListOf(options);
-}
-
-void TellUnused(const RequestedCurve& curve, std::string_view partNum)
-{
-    if (const auto note = NoteOnUnused(curve, partNum); !note.empty())
-    {
-        TellLine("tavik-cli: " + note);
-    }
 }
 
 /// Where the error is: the part, and among several lines the line. What is wrong with the only one's command

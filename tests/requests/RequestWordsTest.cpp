@@ -1,6 +1,6 @@
 /// Refused requests in the words of the command line.
 
-#include "cli/RequestWords.h"
+#include "requests/RequestWords.h"
 
 #include <gtest/gtest.h>
 
@@ -20,21 +20,21 @@ TEST(RequestWords, TellPartOptionAndEntryOfARefusedCondition)
             .OfPart("ABC");
     EXPECT_EQ(WordsOf(refused.Of("-1")), "ABC: --heat-resistance -1: Heat Resistance is invalid!");
     EXPECT_EQ(WordsOf(refused), "ABC: --heat-resistance is not given: Heat Resistance is invalid!");
-    EXPECT_EQ(StatusOf(refused), ExitStatus::Failed);
+    EXPECT_FALSE(IsMistaken(refused.Kind()));
 }
 
 TEST(RequestWords, TellAParameterByItsOption)
 {
     const RequestError error(RequestErrorKind::Unit, "parameterValue", "\"5V\": \"V\" is not the unit");
     EXPECT_EQ(WordsOf(error), "--parameter \"5V\": \"V\" is not the unit");
-    EXPECT_EQ(StatusOf(error), ExitStatus::Usage);
+    EXPECT_TRUE(IsMistaken(error.Kind()));
 }
 
 TEST(RequestWords, LeaveOutThePartOfAWrongCommandLine)
 {
     const RequestError error(RequestErrorKind::UnknownValue, "x", "X axis \"Time\" is none of: Frequency");
     EXPECT_EQ(WordsOf(error.OfPart("ABC")), "X axis \"Time\" is none of: Frequency");
-    EXPECT_EQ(StatusOf(error), ExitStatus::Usage);
+    EXPECT_TRUE(IsMistaken(error.Kind()));
 }
 
 TEST(RequestWords, TellPartAndLineAmongSeveral)
@@ -50,6 +50,6 @@ TEST(RequestWords, TellThePartOfALineThatIsNotTaken)
 {
     const RequestError error(RequestErrorKind::Line, "part", "This Chart is already opened!");
     EXPECT_EQ(WordsOf(error.OfPart("ABC")), "ABC: This Chart is already opened!");
-    EXPECT_EQ(StatusOf(error), ExitStatus::Failed);
+    EXPECT_FALSE(IsMistaken(error.Kind()));
 }
 } // namespace

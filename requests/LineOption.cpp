@@ -1,9 +1,8 @@
-#include "cli/LineOption.h"
+#include "requests/LineOption.h"
 
 #include "calc/ChartKinds.h"
-#include "cli/Command.h"
-#include "cli/RequestWords.h"
 #include "requests/Names.h"
+#include "requests/RequestWords.h"
 
 #include <algorithm>
 #include <sstream>
@@ -30,8 +29,8 @@ static std::vector<std::string> LineNames()
     return names;
 }
 
-/// Throws UsageError that says what no condition is called.
-static void TakeCondition(CurveRequest& request, const std::string& name, const std::string& value)
+/// False where no condition bears the name.
+static bool TakeCondition(CurveRequest& request, const std::string& name, const std::string& value)
 {
     const auto conditions = ConditionKinds();
     const auto condition = std::ranges::find_if(conditions, [&](const ConditionKind& kind)
@@ -39,26 +38,37 @@ static void TakeCondition(CurveRequest& request, const std::string& name, const 
     if (condition != conditions.end())
     {
         request.Conditions[condition->Id] = value;
-        return;
+        return true;
     }
     if (std::ranges::none_of(Parameters, [&](Quantity load) { return RequestNameOf(NameOf(load)) == name; }))
     {
-        const auto meant = NameMeantBy(name, LineNames());
-        throw UsageError('"' + name + "\" is none of: " + ListOf(LineNames()) +
-                         (meant ? "; did you mean \"" + *meant + "\"?" : ""));
+        return false;
     }
     request.Parameter = name;
     request.Conditions[Condition::Parameter] = value;
+    return true;
 }
 
-static void TakeWord(CurveRequest& request, const std::string& word)
+static RequestError WrongLine(const std::string& message)
 {
+    return {RequestErrorKind::Syntax, "line", message};
+}
+
+/// @param line the whole line, which the error tells
+static void TakeWord(CurveRequest& request, const std::string& word, const std::string& line)
+{
+    const auto where = '"' + line + "\": \"";
     const auto equals = word.find('=');
     if (equals == std::string::npos)
     {
-        throw UsageError('"' + word + "\" is not NAME=VALUE");
+        throw WrongLine(where + word + "\" is not NAME=VALUE");
     }
-    TakeCondition(request, word.substr(0, equals), word.substr(equals + 1));
+    const auto name = word.substr(0, equals);
+    if (!TakeCondition(request, name, word.substr(equals + 1)))
+    {
+        const auto names = LineNames();
+        throw WrongLine(where + name + "\" is none of: " + ListOf(names)).Meaning(NameMeantBy(name, names));
+    }
 }
 
 CurveRequest RequestOfLine(const std::string& line, const CurveRequest& defaults)
@@ -67,19 +77,12 @@ CurveRequest RequestOfLine(const std::string& line, const CurveRequest& defaults
     std::istringstream words(line);
     if (!(words >> request.Part))
     {
-        throw UsageError("--line is empty");
+        throw WrongLine("is empty");
     }
     std::string word;
     while (words >> word)
     {
-        try
-        {
-            TakeWord(request, word);
-        }
-        catch (const UsageError& error)
-        {
-            throw UsageError("--line \"" + line + "\": " + error.what());
-        }
+        TakeWord(request, word, line);
     }
     return request;
 }

@@ -15,5 +15,6 @@ std::vector<std::string> ConditionOptionNames();
 ///
 ///     RequestOfLine("KTS31NB51E106MA01 dc-bias=12V frequency=300kHz", common)
 ///
-/// Throws UsageError for a name that no condition bears.
+/// Throws RequestError that names the option and tells the line, where it is empty, has a word that is not
+/// NAME=VALUE, or a name that no condition bears.
 CurveRequest RequestOfLine(const std::string& line, const CurveRequest& defaults);

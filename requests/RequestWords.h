@@ -2,7 +2,6 @@
 
 /// Requests in the words of the command line.
 
-#include "cli/Command.h"
 #include "requests/CurveRequest.h"
 #include "requests/RequestError.h"
 
@@ -22,9 +21,3 @@ std::string WordsOf(const RequestError& error);
 
 /// What was typed in vain, "ABC: allowable-power does not use --frequency"; empty where all is used.
 std::string NoteOnUnused(const RequestedCurve& curve, std::string_view partNum);
-
-/// Tells it on standard error, where it is anything.
-void TellUnused(const RequestedCurve& curve, std::string_view partNum);
-
-/// A request that makes no sense is a wrong command line.
-ExitStatus StatusOf(const RequestError& error);
