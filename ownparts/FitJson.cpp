@@ -1,4 +1,4 @@
-#include "cli/FitJson.h"
+#include "ownparts/FitJson.h"
 
 #include "calc/NumberText.h"
 #include "partdata/AnswersVersion.h"
