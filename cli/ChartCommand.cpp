@@ -1,12 +1,12 @@
 /// `tavik-cli chart`: up to six lines on one picture.
 
 #include "chart/drawing/PainterSheet.h"
+#include "chart/drawing/PdfDate.h"
 #include "cli/Command.h"
 #include "cli/Commands.h"
 #include "cli/Drawing.h"
 #include "cli/FileArguments.h"
 #include "cli/Output.h"
-#include "cli/PdfDate.h"
 #include "cli/RequestOptions.h"
 #include "cli/SheetPicture.h"
 #include "requests/ChartLines.h"

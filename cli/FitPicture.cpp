@@ -1,10 +1,10 @@
 #include "cli/FitPicture.h"
 
 #include "chart/drawing/PainterSheet.h"
+#include "chart/drawing/PdfDate.h"
 #include "chart/drawing/PictureFile.h"
 #include "cli/CommandError.h"
 #include "cli/Drawing.h"
-#include "cli/PdfDate.h"
 #include "ownparts/FitSheet.h"
 
 /// A bitmap is as fine as the clipboard's.

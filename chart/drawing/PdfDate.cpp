@@ -1,10 +1,10 @@
-#include "cli/PdfDate.h"
-
-#include "cli/CommandError.h"
+#include "chart/drawing/PdfDate.h"
 
 #include <QDateTime>
 
 #include <optional>
+#include <stdexcept>
+#include <string>
 
 static std::optional<QDateTime> SourceDate()
 {
@@ -20,8 +20,8 @@ static std::optional<QDateTime> SourceDate()
     const qint64 seconds = text.toLongLong(&isNumber);
     if (!isNumber || seconds < 0 || seconds > latest)
     {
-        throw Failure(std::string(variable) + " \"" + text.toStdString() +
-                      "\" is no time in seconds since 1970");
+        throw std::runtime_error(std::string(variable) + " \"" + text.toStdString() +
+                                 "\" is no time in seconds since 1970");
     }
     return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
 }
