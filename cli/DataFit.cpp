@@ -3,9 +3,10 @@
 #include "cli/Command.h"
 #include "cli/DataTables.h"
 #include "cli/FileArguments.h"
-#include "cli/FitPicture.h"
+#include "cli/NamedPicture.h"
 #include "cli/Output.h"
 #include "ownparts/FitJson.h"
+#include "ownparts/FitSheet.h"
 #include "ownparts/FitText.h"
 #include "ownparts/MeasurementReader.h"
 #include "ownparts/PartFit.h"
@@ -105,6 +106,13 @@ FittedPart FittedOf(const FitOptions& options, const TableContents& table)
     return std::move(fit.Fitted);
 }
 
+std::string PictureOf(const FittedPart& fitted, const std::string& file)
+{
+    const auto charts = ChartsOf(fitted);
+    return NamedPicture(file, fitted.Row.Names[0], QSizeF(FitSheetWidth(charts.size()), FitSheetHeight),
+                        [&](SheetSurface& sheet) { DrawFitSheet(fitted, charts, sheet); });
+}
+
 void Fit(const FitOptions& options)
 {
     RefuseOutputs(options);
@@ -119,7 +127,7 @@ void Fit(const FitOptions& options)
         throw Failure(*refusal);
     }
     auto tableFile = Written(options.Output, [&] { return TextOf(table.Table); });
-    auto picture = Written(options.Picture, [&] { return FitPicture(fitted, options.Picture); });
+    auto picture = Written(options.Picture, [&] { return PictureOf(fitted, options.Picture); });
     Output report("");
     report.Write(options.Format == "json" ? JsonOf(fitted) : TextOf(fitted));
     for (auto* output : {&tableFile, &picture})

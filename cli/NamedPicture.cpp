@@ -1,11 +1,10 @@
-#include "cli/FitPicture.h"
+#include "cli/NamedPicture.h"
 
 #include "chart/drawing/PainterSheet.h"
 #include "chart/drawing/PdfDate.h"
 #include "chart/drawing/PictureFile.h"
 #include "cli/CommandError.h"
 #include "cli/Drawing.h"
-#include "ownparts/FitSheet.h"
 
 /// A bitmap is as fine as the clipboard's.
 static constexpr double BitmapScale = 2;
@@ -23,18 +22,18 @@ void RequirePictureName(const std::string& fileName)
     TypeOf(fileName);
 }
 
-std::string FitPicture(const FittedPart& fitted, const std::string& fileName)
+std::string NamedPicture(const std::string& fileName, const std::string& title, const QSizeF& extent,
+                         const std::function<void(SheetSurface&)>& drawSheet)
 {
     const auto& type = TypeOf(fileName);
-    const auto charts = ChartsOf(fitted);
     const double scale = type.Name == "png" ? BitmapScale : 1;
-    const Picture picture = {.Extent = QSizeF(FitSheetWidth(charts.size()), FitSheetHeight) * scale,
-                             .Title = QString::fromStdString(fitted.Row.Names[0]),
+    const Picture picture = {.Extent = extent * scale,
+                             .Title = QString::fromStdString(title),
                              .Draw = [&](QPainter& painter)
                              {
                                  painter.scale(scale, scale);
                                  PainterSheet sheet(painter);
-                                 DrawFitSheet(fitted, charts, sheet);
+                                 drawSheet(sheet);
                              }};
     const auto draw = [&] { return Drawn([&] { return type.Write(picture); }); };
     const auto bytes = type.Name == "pdf" ? PdfOfSourceDate(draw) : draw();
