@@ -3,12 +3,14 @@
 #include "cli/Command.h"
 #include "cli/Commands.h"
 #include "cli/FileArguments.h"
+#include "cli/NamedPicture.h"
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
 #include "files/InputFile.h"
 #include "requests/RequestWords.h"
 #include "requests/RippleRequest.h"
 #include "requests/StressFormats.h"
+#include "requests/StressSheet.h"
 #include "stress/WaveformError.h"
 #include "stress/WaveformTable.h"
 #include "terminal/HelpText.h"
@@ -27,6 +29,7 @@ struct RippleOptions
     std::string DataFolder;
     std::string Format;
     std::string OutputFile;
+    std::string Picture;
 };
 } // namespace
 
@@ -51,7 +54,9 @@ static std::string Help()
                "refused: "
                "--from, --to, --period, --periods and --whole say what counts. A converter's currents are "
                "those "
-               "of ideal switches; without --part both sides are told.");
+               "of ideal switches; without --part both sides are told. --picture draws the current, what of "
+               "it "
+               "counts, and which frequencies heat.");
 }
 
 static StressReport ReportOfFile(const std::string& file, RippleRequest& request)
@@ -69,6 +74,21 @@ static StressReport ReportOfFile(const std::string& file, RippleRequest& request
     }
 }
 
+/// The picture, to be put in place when all is done.
+static std::optional<Output> Drawn(const std::vector<StressReport>& reports, const RippleOptions& options)
+{
+    std::optional<Output> output;
+    if (!options.Picture.empty())
+    {
+        const auto draw = [&](SheetSurface& sheet)
+        { DrawStressSheet(reports, options.Texts.Code, options.Settings, sheet); };
+        output.emplace(options.Picture)
+            .Write(NamedPicture(options.Picture, reports.front().Title(),
+                                {StressSheetWidth, StressSheetHeight(reports.size())}, draw));
+    }
+    return output;
+}
+
 static void TellRipple(const RippleOptions& options)
 {
     auto texts = options.Texts;
@@ -80,12 +100,26 @@ static void TellRipple(const RippleOptions& options)
         inputs.emplace_back(options.Waveform);
     }
     RefuseInputAsOutput(options.OutputFile, inputs);
+    if (!options.Picture.empty())
+    {
+        RequirePictureName(options.Picture);
+        RefuseInputAsOutput(options.Picture, inputs);
+        if (options.Picture == options.OutputFile)
+        {
+            throw UsageError("--output and --picture name one file");
+        }
+    }
     const auto parts = texts.Parts.empty() ? PartTable() : LoadParts(options.DataFolder);
     auto reports =
         request.Source ? ReportsOfConverter(request) : std::vector{ReportOfFile(options.Waveform, request)};
     reports.front().Parts = StressedPartsOf(request.Stress, reports.front().Load, parts, options.Settings);
+    auto picture = Drawn(reports, options);
     Output output(options.OutputFile);
     output.Write(FormatNamed(StressFormats(), options.Format).Write(reports, texts.Code, options.Settings));
+    if (picture)
+    {
+        picture->Finish();
+    }
     output.Finish();
 }
 
@@ -119,5 +153,7 @@ void AddRippleCommand(CLI::App& app)
     AddDataOption(command, options->DataFolder);
     AddFormatOption(command, options->Format, {StressFormats().begin(), StressFormats().end()});
     AddOutputOption(command, options->OutputFile);
+    TakeOutputFile(*command.add_option("--picture", options->Picture,
+                                       "File for the current and what heats: *.png, *.svg or *.pdf"));
     command.callback([options] { TellRipple(*options); });
 }

@@ -64,9 +64,11 @@ CurrentLoad LoadOfRecord(const Waveform& current, const StretchWishes& wishes)
             .Lines = SpectrumOf(current, stretch.Span, stretch.Periods),
             .Period = ChargeOver(current, stretch.LastPeriod(), figures.Mean),
             .PeriodLength = stretch.Period,
+            .Shape = EnvelopeOf(current, stretch.LastPeriod()),
             .Record = RecordedLoad{.Counted = stretch,
                                    .Points = PointsIn(current, stretch.Span),
-                                   .Thinned = thinned.Moments.Total()}};
+                                   .Thinned = thinned.Moments.Total(),
+                                   .Course = EnvelopeOf(current, current.Whole())}};
 }
 
 CurrentLoad LoadOfConverter(const Converter& converter, ConverterSide side)
@@ -77,5 +79,6 @@ CurrentLoad LoadOfConverter(const Converter& converter, ConverterSide side)
     return {.Figures = figures,
             .Lines = ExactSpectrumOf(current),
             .Period = ChargeOver(current, period, figures.Mean),
-            .PeriodLength = period.Length()};
+            .PeriodLength = period.Length(),
+            .Shape = EnvelopeOf(current, period)};
 }

@@ -3,6 +3,7 @@
 /// A current as a load on capacitors, whatever the part: read off a record, or a converter's.
 
 #include "stress/Converters.h"
+#include "stress/Envelope.h"
 #include "stress/RippleVoltage.h"
 #include "stress/Spectrum.h"
 #include "stress/Stretch.h"
@@ -19,6 +20,8 @@ struct RecordedLoad
     std::size_t Points;
     /// What is left of the moments without every second row.
     LoadMoments Thinned;
+    /// The whole record, beyond what was looked at as well.
+    Envelope Course = {};
 
     /// By which share what heats changes without every second row, whatever the part.
     double StepErrorOf(const LoadMoments& all) const;
@@ -37,6 +40,8 @@ struct CurrentLoad
     std::vector<ChargePoint> Period;
     /// In s; of `Period`.
     double PeriodLength;
+    /// The same period as it is, with its mean; the last one of a record.
+    Envelope Shape = {};
     /// Nothing for a converter's.
     std::optional<RecordedLoad> Record = {};
 

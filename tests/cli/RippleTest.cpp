@@ -28,6 +28,8 @@ private Q_SLOTS:
     void TellsNoRiseOutsideTheData();
     void WarnsInTheReport();
     void WritesARowALine();
+    void DrawsThePicture();
+    void WritesPictureAndReportOrNeither();
 
     void RefusesWithOneLine_data();
     void RefusesWithOneLine();
@@ -59,6 +61,12 @@ static void Write(const QString& name, const QByteArray& text)
     QFile file(name);
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(text);
+}
+
+static QString BytesOf(const QString& name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 void RippleTest::initTestCase()
@@ -207,6 +215,39 @@ void RippleTest::WritesARowALine()
                           "part,frequency [kHz],current [Arms],loss resistance [mOhm],rise [\u00B0C],share"));
     QVERIFY(rows[1].startsWith(QString::fromUtf8(part) + ",200,1.41"));
     QVERIFY(rows.last().contains(",rest,"));
+}
+
+void RippleTest::DrawsThePicture()
+{
+    QVERIFY(
+        !Ripple({File("wave.txt"), "--part", part, "--column", "2", "--picture", File("wave.svg")}).Status);
+    const auto picture = BytesOf(File("wave.svg"));
+    QVERIFY(picture.contains("I(C1): 1.49 Arms, heats like a sine of 1.49 Arms at 214.3 kHz"));
+    QVERIFY(picture.contains("KTS32XB51E106MA01 rises "));
+    QVERIFY(picture.contains("Time in the last period [\u00B5s]"));
+    QVERIFY(picture.contains("Share of the rise [%]"));
+    QVERIFY(picture.contains("100 % from 10 kHz to 1 MHz"));
+
+    const char* const buck = "vin=12 vout=3.3 iout=5 f=500kHz l=2.2uH";
+    QVERIFY(!Ripple({"--buck", buck, "--picture", File("buck.svg")}).Status);
+    const auto sides = BytesOf(File("buck.svg"));
+    QVERIFY(sides.contains("buck input: 2.257 Arms"));
+    QVERIFY(sides.contains("buck output: 627.9 mArms"));
+    QVERIFY(sides.contains("Share of the square [%]"));
+    QVERIFY(sides.contains("17.3 % above 1 MHz"));
+}
+
+void RippleTest::WritesPictureAndReportOrNeither()
+{
+    const QStringList words = {File("wave.txt"), "--part", part, "--column", "2", "--picture"};
+    QCOMPARE(Ripple(words + QStringList{File("wave.bmp")}).Status, 2);
+    QCOMPARE(Ripple(words + QStringList{File("wave.txt")}).Status, 2);
+    const auto onOutput = Ripple({File("wave.txt"), "--part", part, "--column", "2", "--output",
+                                  File("a.svg"), "--picture", File("a.svg")});
+    QCOMPARE(onOutput.Status, 2);
+    const auto noFolder = Ripple(words + QStringList{File("none/wave.svg"), "--output", File("report.txt")});
+    QCOMPARE(noFolder.Status, 1);
+    QVERIFY(!QFile::exists(File("report.txt")));
 }
 
 void RippleTest::RefusesWithOneLine_data()
