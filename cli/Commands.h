@@ -29,10 +29,13 @@ void AddModelCommand(CLI::App& app);
 /// "bank": how parts in parallel share a ripple current.
 void AddBankCommand(CLI::App& app);
 
+/// "bom": which parts of a bill of materials hold what is asked of them.
+void AddBomCommand(CLI::App& app);
+
 /// "ripple": what a current of any shape does to parts.
 void AddRippleCommand(CLI::App& app);
 
 /// All commands, in the order in which the help tells them.
-inline constexpr std::array AllCommands = {AddPartsCommand, AddFindCommand,   AddLikeCommand,
-                                           AddCurveCommand, AddChartCommand,  AddModelCommand,
-                                           AddBankCommand,  AddRippleCommand, AddDataCommands};
+inline constexpr std::array AllCommands = {AddPartsCommand, AddFindCommand,  AddLikeCommand, AddCurveCommand,
+                                           AddChartCommand, AddModelCommand, AddBankCommand, AddRippleCommand,
+                                           AddBomCommand,   AddDataCommands};

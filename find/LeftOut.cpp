@@ -1,5 +1,6 @@
 #include "find/LeftOut.h"
 
+#include <algorithm>
 #include <numeric>
 
 static constexpr std::array<std::string_view, LeftOutReasons> texts = {
@@ -10,6 +11,12 @@ static constexpr std::array<std::string_view, LeftOutReasons> texts = {
 std::size_t LeftOutCounts::Total() const
 {
     return std::accumulate(counts.begin(), counts.end(), std::size_t{0});
+}
+
+std::optional<LeftOutReason> LeftOutCounts::First() const
+{
+    const auto* const found = std::ranges::find_if(counts, [](std::size_t count) { return count > 0; });
+    return found == counts.end() ? std::nullopt : std::optional(LeftOutReason(found - counts.begin()));
 }
 
 std::string_view TextOf(LeftOutReason reason)

@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -31,6 +32,8 @@ public:
     void Add(LeftOutReason reason) { ++counts[static_cast<std::size_t>(reason)]; }
     std::size_t operator[](LeftOutReason reason) const { return counts[static_cast<std::size_t>(reason)]; }
     std::size_t Total() const;
+    /// The first reason that has left out a part; nothing where none has.
+    std::optional<LeftOutReason> First() const;
 
 private:
     std::array<std::size_t, LeftOutReasons> counts{};

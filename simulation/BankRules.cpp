@@ -19,18 +19,6 @@ FindQuestion SearchFor(const BankQuestion& question, const RippleCurrent& ripple
     return search;
 }
 
-std::optional<LeftOutReason> ReasonOf(const LeftOutCounts& counts)
-{
-    for (std::size_t i = 0; i < LeftOutReasons; ++i)
-    {
-        if (const auto reason = static_cast<LeftOutReason>(i); counts[reason] > 0)
-        {
-            return reason;
-        }
-    }
-    return std::nullopt;
-}
-
 std::optional<LeftOutReason> RefusePart(const PartRecord& part, const FindQuestion& search)
 {
     const std::array candidates = {&part};
@@ -38,7 +26,7 @@ std::optional<LeftOutReason> RefusePart(const PartRecord& part, const FindQuesti
     const bool conducts =
         !found.Parts.empty() && found.Parts.front().Known(FoundColumn::EffectiveCapacitance) > 0;
     return conducts ? std::nullopt
-                    : std::optional(ReasonOf(found.LeftOut).value_or(LeftOutReason::CannotBeCalculated));
+                    : std::optional(found.LeftOut.First().value_or(LeftOutReason::CannotBeCalculated));
 }
 } // namespace
 

@@ -90,8 +90,8 @@ void CompletionTest::OffersAllOf(const QStringList& command)
 
 void CompletionTest::OffersAllThatTheHelpNames()
 {
-    QCOMPARE(CommandsOf({}),
-             (QStringList{"parts", "find", "like", "curve", "chart", "model", "bank", "ripple", "data"}));
+    QCOMPARE(CommandsOf({}), (QStringList{"parts", "find", "like", "curve", "chart", "model", "bank",
+                                          "ripple", "bom", "data"}));
     OffersAllOf({});
 }
 

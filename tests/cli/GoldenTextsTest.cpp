@@ -51,6 +51,7 @@ void GoldenTextsTest::Help_data()
     QTest::newRow("help") << "--help";
     QTest::newRow("help-parts") << "parts --help";
     QTest::newRow("help-find") << "find --help";
+    QTest::newRow("help-bom") << "bom --help";
     QTest::newRow("help-like") << "like --help";
     QTest::newRow("help-curve") << "curve --help";
     QTest::newRow("help-chart") << "chart --help";

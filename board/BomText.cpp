@@ -1,0 +1,162 @@
+#include "board/BomText.h"
+
+#include "board/References.h"
+#include "partdata/OneLine.h"
+#include "partdata/Windows1252.h"
+#include "requests/FourDigits.h"
+#include "requests/ListText.h"
+#include "requests/Names.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace
+{
+std::string Digits(double value)
+{
+    return FourDigits(static_cast<float>(value));
+}
+
+std::string Farads(double picofarads)
+{
+    return CapacitanceInFourDigits(static_cast<float>(picofarads));
+}
+
+std::string Fixed(double value, int decimals)
+{
+    std::array<char, 400> text{};
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, decimals).ptr;
+    return {text.data(), end};
+}
+
+/// "-65.0 %".
+std::string Tenths(double percent)
+{
+    return Fixed(percent, 1) + " %";
+}
+
+std::string OrHyphen(const std::string& text)
+{
+    return text.empty() ? "-" : WithoutControls(text);
+}
+
+/// "5.398uF 54 %" of what one part has at least.
+std::string CapacitanceText(const JudgedItem& item)
+{
+    const auto& figures = item.Judged->Figures;
+    const auto least = figures.ValueOf(FoundColumn::EffectiveCapacitance);
+    const auto left = figures.ValueOf(FoundColumn::Left);
+    return least && left ? Farads(*least) + ' ' + Tenths(*left) : "";
+}
+
+/// "0.33 C of 20", the rise and what is permitted.
+std::string RiseText(const JudgedItem& item)
+{
+    for (const BomLimit& limit : item.Judged->Limits)
+    {
+        if (limit.Name == "rise")
+        {
+            return Fixed(limit.Found, 2) + " C of " + Digits(limit.Wanted);
+        }
+    }
+    return "";
+}
+
+/// "try 2 x KTS31NB51V106MA01 1206 X5R 10uF 35V (2.099uF, 25 %)".
+std::string SuggestionText(const JudgedItem& item, const BomSettings& settings)
+{
+    if (!item.Suggestion)
+    {
+        return item.WasSuggested ? "; none passes" : "";
+    }
+    const auto& [part, count, least, reserve] = *item.Suggestion;
+    const auto view = static_cast<std::size_t>(settings.View);
+    const auto number = Utf8FromWindows1252(part->PartNum[view + settings.NumberingOffset]);
+    return "; try " + (count > 1 ? std::to_string(count) + " x " : "") + number + ' ' +
+           Utf8FromWindows1252(part->SizeCode[view]) + ' ' + Utf8FromWindows1252(part->Tcc[view]) + ' ' +
+           Farads(part->Data[Value::NominalCapacitance]) + ' ' + Digits(part->Data[Value::RatedVoltage]) +
+           "V (" + (least ? Farads(*least) + ", " : "") + Digits(std::round(reserve)) + " %)";
+}
+
+ListRow RowOf(const JudgedItem& item, const BomSettings& settings)
+{
+    auto reasons = ListOf(item.Reasons, "; ");
+    reasons += item.Near.empty() ? "" : "; near: " + ListOf(item.Near);
+    return {std::string(BomVerdictNames.at(static_cast<std::size_t>(item.Verdict))),
+            OrHyphen(ReferenceText(item.Item->References)),
+            OrHyphen(item.Item->TextOf(BomField::Part)),
+            OrHyphen(item.Item->TextOf(BomField::Net)),
+            item.Reserve ? Tenths(*item.Reserve) : "-",
+            item.Judged ? CapacitanceText(item) : "",
+            item.Judged ? RiseText(item) : "",
+            WithoutControls(reasons) + SuggestionText(item, settings)};
+}
+
+std::string Parts(const JudgedNet& net)
+{
+    int count = 0;
+    for (const NetPiece& piece : net.Pieces)
+    {
+        count += piece.Count;
+    }
+    return std::to_string(count) + (count == 1 ? " part" : " parts");
+}
+
+/// "net +12V: 3 parts, 20.1uF nominal, at least 10.87uF at 13.2 V, -10 C, 10uF wanted: warn (+8.7 %); 2.257
+/// Arms shared".
+std::string NetText(const JudgedNet& net)
+{
+    const auto name = "net " + WithoutControls(net.Name) + ": ";
+    if (!net.Answer.Least)
+    {
+        return name + "no total: " + net.Reason + '\n';
+    }
+    const auto& at = net.Answer.LeastAt;
+    auto text = name + Parts(net) + ", " + Farads(net.Answer.Nominal) + " nominal, at least " +
+                Farads(*net.Answer.Least) + " at " + Digits(at.BiasVolts) + " V, " + Digits(at.AmbientC) +
+                " C";
+    if (net.Wanted)
+    {
+        text += ", " + Farads(*net.Wanted) +
+                " wanted: " + std::string(BomVerdictNames.at(static_cast<std::size_t>(net.Verdict)));
+    }
+    if (net.Reserve)
+    {
+        text += " (" + std::string(*net.Reserve > 0 ? "+" : "") + Tenths(*net.Reserve) + ')';
+    }
+    text += net.Answer.Arms ? "; " + Digits(*net.Answer.Arms) + " Arms shared" : "";
+    return text + (net.Reason.empty() ? "" : "; " + net.Reason) + '\n';
+}
+} // namespace
+
+std::string CountsText(const JudgedBom& bom)
+{
+    std::string text;
+    for (std::size_t i = 0; i < BomVerdictNames.size(); ++i)
+    {
+        text += (text.empty() ? "" : ", ") + std::to_string(bom.Counts.at(i)) + ' ' +
+                std::string(BomVerdictNames.at(i));
+    }
+    return text + "; " + std::to_string(bom.Skipped) + (bom.Skipped == 1 ? " row" : " rows") + " skipped, " +
+           std::to_string(bom.NotFitted) + " not fitted";
+}
+
+std::string BomText(const JudgedBom& bom, const BomSettings& settings)
+{
+    std::vector<ListRow> rows;
+    for (const JudgedItem& item : bom.Items)
+    {
+        rows.push_back(RowOf(item, settings));
+    }
+    auto text = rows.empty()
+                    ? std::string()
+                    : AlignedTable(std::move(rows), {false, false, false, false, true, false, false, false});
+    for (const JudgedNet& net : bom.Nets)
+    {
+        const bool isTold = net.Pieces.size() > 1 || net.Wanted || net.Answer.Arms || !net.Answer.Least;
+        text += isTold ? NetText(net) : "";
+    }
+    return text + CountsText(bom) + '\n';
+}

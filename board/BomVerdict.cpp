@@ -1,0 +1,337 @@
+#include "board/BomVerdict.h"
+
+#include "board/PartSuggestion.h"
+#include "board/References.h"
+#include "partdata/RunTimeError.h"
+#include "partdata/Windows1252.h"
+#include "requests/CurveRequest.h"
+#include "requests/RequestError.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <map>
+#include <numeric>
+#include <tuple>
+#include <utility>
+
+namespace
+{
+constexpr double percent = 100;
+
+/// Letters to change, add or drop from one name to another.
+std::size_t StepsTo(const std::string& name, std::string_view other)
+{
+    std::vector<std::size_t> row(other.size() + 1);
+    std::iota(row.begin(), row.end(), std::size_t{0});
+    for (std::size_t i = 0; i < name.size(); ++i)
+    {
+        std::size_t diagonal = std::exchange(row[0], i + 1);
+        for (std::size_t j = 0; j < other.size(); ++j)
+        {
+            const auto changed = diagonal + (name[i] == other[j] ? 0 : 1);
+            diagonal = row[j + 1];
+            row[j + 1] = std::min({changed, row[j] + 1, row[j + 1] + 1});
+        }
+    }
+    return row.back();
+}
+
+class BomJudge
+{
+public:
+    BomJudge(const JoinedBom& joinedBom, const PartTable& partTable, const BomSettings& bomSettings,
+             const WaveformSource& source)
+        : joined(joinedBom)
+        , parts(partTable)
+        , settings(bomSettings)
+        , waveforms(source)
+    {
+    }
+
+    JudgedBom Judge()
+    {
+        bom.Items.reserve(joined.Items.size());
+        for (const BomItem& item : joined.Items)
+        {
+            Take(item);
+        }
+        if (bom.Faults.empty())
+        {
+            JudgeNets();
+            std::ranges::for_each(bom.Items, [this](JudgedItem& item) { JudgeItem(item); });
+            Order();
+        }
+        return std::move(bom);
+    }
+
+private:
+    // ---- Parts ----
+
+    void Take(const BomItem& item)
+    {
+        if (!item.IsFitted())
+        {
+            bom.NotFitted += IsCounted(item) || PartOf(item) != nullptr ? 1 : 0;
+            return;
+        }
+        const PartRecord* part = PartOf(item);
+        if (part == nullptr && !IsCounted(item))
+        {
+            ++bom.Skipped;
+            return;
+        }
+        JudgedItem& judged = bom.Items.emplace_back();
+        judged.Item = &item;
+        judged.Part = part;
+        judged.Question = QuestionOf(item, settings.View, waveforms, bom.Faults);
+        if (part == nullptr)
+        {
+            judged.Near = NearOf(item.TextOf(BomField::Part));
+        }
+    }
+
+    static bool IsCounted(const BomItem& item)
+    {
+        return std::ranges::any_of(item.References, IsCapacitorReference);
+    }
+
+    const PartRecord* PartOf(const BomItem& item) const
+    {
+        const auto key = Windows1252FromUtf8(item.TextOf(BomField::Part));
+        const auto first = static_cast<std::size_t>(settings.View) + settings.NumberingOffset;
+        for (std::size_t i = 0; i < PartNumForms && !key.empty(); ++i)
+        {
+            const auto* found = parts.PartIndex[(first + i) % PartNumForms].Find(key);
+            if (found != nullptr)
+            {
+                return &parts.PartData[static_cast<std::size_t>(*found)];
+            }
+        }
+        return nullptr;
+    }
+
+    /// At most three part numbers of the same prefix that differ in two letters, the nearest first.
+    std::vector<std::string> NearOf(const std::string& name) const
+    {
+        constexpr std::size_t most = 3;
+        constexpr std::size_t mostSteps = 2;
+        constexpr std::size_t prefix = 3;
+        const auto form = static_cast<std::size_t>(settings.View) + settings.NumberingOffset;
+        std::vector<std::pair<std::size_t, std::string>> near;
+        for (const PartRecord& part : parts.PartData)
+        {
+            const auto number = Utf8FromWindows1252(part.PartNum[form]);
+            const auto longer = std::max(number.size(), name.size()) - std::min(number.size(), name.size());
+            const bool isLike = longer <= mostSteps && number.starts_with(name.substr(0, prefix));
+            const auto steps = isLike ? StepsTo(name, number) : mostSteps + 1;
+            if (steps <= mostSteps)
+            {
+                near.emplace_back(steps, number);
+            }
+        }
+        std::ranges::stable_sort(near, {}, &std::pair<std::size_t, std::string>::first);
+        near.resize(std::min(near.size(), most));
+        std::vector<std::string> names;
+        std::ranges::transform(near, std::back_inserter(names), &std::pair<std::size_t, std::string>::second);
+        return names;
+    }
+
+    // ---- Nets ----
+
+    void JudgeNets()
+    {
+        std::map<std::string, std::vector<std::size_t>> items;
+        std::vector<std::string> names;
+        for (std::size_t i = 0; i < bom.Items.size(); ++i)
+        {
+            const auto& name = bom.Items[i].Item->TextOf(BomField::Net);
+            if (!name.empty() && items[name].empty())
+            {
+                names.push_back(name);
+            }
+            if (!name.empty())
+            {
+                items[name].push_back(i);
+            }
+        }
+        for (const auto& name : names)
+        {
+            JudgeNet(name, items[name]);
+        }
+    }
+
+    void JudgeNet(const std::string& name, const std::vector<std::size_t>& items)
+    {
+        JudgedNet net;
+        net.Name = name;
+        bool isWhole = true;
+        for (const std::size_t item : items)
+        {
+            const JudgedItem& judged = bom.Items[item];
+            isWhole = isWhole && judged.Part != nullptr;
+            net.Pieces.push_back({judged.Part, &judged.Question,
+                                  static_cast<int>(std::max<std::size_t>(1, judged.Item->References.size())) *
+                                      judged.Question.Parallel()});
+            net.Wanted = judged.Question.NetMinCapacitance;
+        }
+        if (isWhole)
+        {
+            net.Answer = AnswerOf(net.Pieces);
+            for (std::size_t i = 0; i < net.Answer.Shares.size(); ++i)
+            {
+                bom.Items[items[i]].Share = net.Answer.Shares[i];
+            }
+        }
+        else
+        {
+            net.Answer.Unknown = "a part on it is not in the range";
+        }
+        Conclude(net);
+        bom.Nets.push_back(std::move(net));
+    }
+
+    static NetAnswer AnswerOf(const std::vector<NetPiece>& pieces)
+    {
+        try
+        {
+            return NetOf(pieces);
+        }
+        catch (const RunTimeError&)
+        {
+            NetAnswer answer;
+            answer.Unknown = "cannot be calculated";
+            return answer;
+        }
+    }
+
+    void Conclude(JudgedNet& net) const
+    {
+        net.Reason = net.Answer.Refusal.empty() ? net.Answer.Unknown : net.Answer.Refusal;
+        if (!net.Answer.Least)
+        {
+            net.Verdict = net.Answer.Refusal.empty() ? BomVerdict::Unknown : BomVerdict::Fail;
+            return;
+        }
+        const bool isWanted = net.Wanted && *net.Wanted > 0;
+        net.Reserve =
+            isWanted ? std::optional((*net.Answer.Least / *net.Wanted - 1) * percent) : std::nullopt;
+        const bool isMissed = isWanted && static_cast<float>(*net.Answer.Least) < *net.Wanted;
+        const bool isUnshared = net.Answer.Arms && net.Answer.Shares.empty();
+        net.Reason = isUnshared ? "the current cannot be shared" : "";
+        net.Verdict = isMissed     ? BomVerdict::Fail
+                      : isUnshared ? BomVerdict::Unknown
+                                   : HeldVerdict(net.Reserve);
+    }
+
+    BomVerdict HeldVerdict(std::optional<double> reserve) const
+    {
+        return reserve && *reserve < settings.WarnPercent ? BomVerdict::Warn : BomVerdict::Ok;
+    }
+
+    // ---- Items ----
+
+    void JudgeItem(JudgedItem& item)
+    {
+        if (item.Part == nullptr)
+        {
+            item.Reasons.emplace_back("not in the range");
+            return;
+        }
+        item.Judged = JudgePart(*item.Part, item.Question, item.Share ? &*item.Share : nullptr);
+        const JudgedPart& judged = *item.Judged;
+        if (const auto* deciding = judged.Deciding())
+        {
+            item.Reserve = deciding->Reserve;
+            item.Decides = deciding->Name;
+        }
+        const auto warnings = WarningsOf(item);
+        item.Verdict = judged.IsFailing()        ? BomVerdict::Fail
+                       : !judged.Unknown.empty() ? BomVerdict::Unknown
+                       : !warnings.empty()       ? BomVerdict::Warn
+                                                 : HeldVerdict(item.Reserve);
+        TellReasons(item, warnings);
+        if (settings.IsSuggesting && item.Verdict == BomVerdict::Fail)
+        {
+            item.WasSuggested = item.Question.NetRipple.empty();
+            item.Suggestion =
+                item.WasSuggested ? SuggestionFor(*item.Part, item.Question, parts, settings) : std::nullopt;
+        }
+    }
+
+    static std::vector<std::string> WarningsOf(const JudgedItem& item)
+    {
+        std::vector<std::string> warnings;
+        const auto& quantity = item.Item->TextOf(BomField::Quantity);
+        const auto count = std::to_string(item.Item->ReferencesOfRow);
+        if (!quantity.empty() && item.Item->ReferencesOfRow > 0 && quantity != count)
+        {
+            warnings.push_back("quantity " + quantity + ", but " + count + " references");
+        }
+        const auto& figures = item.Judged->Figures;
+        const auto ripple = figures.ValueOf(FoundColumn::Ripple);
+        const double peak = item.Question.Asked.At.BiasVolts.High + ripple.value_or(0) * std::sqrt(2.0);
+        const double rated = item.Part->Data[Value::RatedVoltage];
+        if (ripple && peak > rated && item.Question.Asked.At.BiasVolts.High <= rated)
+        {
+            warnings.emplace_back("bias and ripple reach above the rated voltage");
+        }
+        return warnings;
+    }
+
+    /// What is missed, or cannot be judged; the limit of the least reserve where all are held.
+    static void TellReasons(JudgedItem& item, const std::vector<std::string>& warnings)
+    {
+        const JudgedPart& judged = *item.Judged;
+        item.Reasons = judged.Missed;
+        for (const BomLimit& limit : judged.Limits)
+        {
+            if (limit.Reserve < 0)
+            {
+                item.Reasons.push_back(limit.Text);
+            }
+        }
+        item.Reasons.insert(item.Reasons.end(), judged.Unknown.begin(), judged.Unknown.end());
+        item.Reasons.insert(item.Reasons.end(), warnings.begin(), warnings.end());
+        if (const auto* deciding = judged.Deciding(); deciding != nullptr && item.Reasons.empty())
+        {
+            item.Reasons.push_back(deciding->Text);
+        }
+    }
+
+    void Order()
+    {
+        for (const JudgedItem& item : bom.Items)
+        {
+            ++bom.Counts.at(static_cast<std::size_t>(item.Verdict));
+        }
+        if (!settings.IsByLine)
+        {
+            std::ranges::stable_sort(bom.Items, {},
+                                     [](const JudgedItem& item) {
+                                         return std::tuple(
+                                             item.Verdict,
+                                             item.Reserve.value_or(std::numeric_limits<double>::max()));
+                                     });
+        }
+    }
+
+    const JoinedBom& joined;
+    const PartTable& parts;
+    const BomSettings& settings;
+    const WaveformSource& waveforms;
+    JudgedBom bom;
+};
+} // namespace
+
+bool JudgedBom::Has(BomVerdict verdict) const
+{
+    return Counts.at(static_cast<std::size_t>(verdict)) > 0 ||
+           std::ranges::find(Nets, verdict, &JudgedNet::Verdict) != Nets.end();
+}
+
+JudgedBom JudgeBom(const JoinedBom& joined, const PartTable& parts, const BomSettings& settings,
+                   const WaveformSource& waveforms)
+{
+    return BomJudge(joined, parts, settings, waveforms).Judge();
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+/// Files that a bill of materials names: none outside its own folder.
+
+#include <filesystem>
+#include <string>
+
+/// All bytes of a file that another file names. A bill comes from anywhere, so that what it names lies in its
+/// folder or below it, links resolved. Throws std::runtime_error for any other place, RunTimeError for a file
+/// that is not there or holds more than the most bytes.
+std::string ReadBeside(const std::filesystem::path& naming, const std::string& name, std::uintmax_t most);
