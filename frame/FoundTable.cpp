@@ -4,6 +4,7 @@
 #include "app/mdlPublic.h"
 #include "calc/NumberText.h"
 #include "formkit/Texts.h"
+#include "frame/CellTexts.h"
 #include "requests/FourDigits.h"
 
 #include <QGuiApplication>
@@ -63,23 +64,9 @@ const Heading& HeadingAt(int column)
     return headings.at(static_cast<std::size_t>(column));
 }
 
-QString WithDegreeSign(const char* text)
-{
-    return QString::fromUtf8(text).replace(QStringLiteral("%1"), FromAnsi(mdlPublic.DegreeSign));
-}
-
 bool IsName(FoundColumn column)
 {
     return column <= FoundColumn::Characteristic;
-}
-
-/// "10.46 µF".
-QString CapacitanceText(float picofarads)
-{
-    constexpr int unitLength = 2;
-    QString text = QString::fromStdString(CapacitanceInFourDigits(picofarads));
-    text.insert(text.size() - unitLength, u' ');
-    return text.replace(u'u', QChar(u'µ'));
 }
 
 QString ShownValue(const FoundPart& part, FoundColumn column)
@@ -101,12 +88,7 @@ QString PlaceText(const FoundPart& part, FoundPlace place)
     {
         return QStringLiteral("-");
     }
-    const auto text = [&](std::size_t i)
-    {
-        return QString::fromStdString(FourDigits((*conditions)[i])) + u' ' +
-               FromAnsi(ShownUnitOf(KindOf(place).Conditions[i], mdlPublic.DegreeSign));
-    };
-    return text(0) + QStringLiteral(", ") + text(1);
+    return ::PlaceText(*conditions, KindOf(place).Conditions);
 }
 
 /// The place of a column's value, which its tool tip tells.
@@ -125,9 +107,7 @@ std::optional<FoundPlace> PlaceBehind(FoundColumn column)
 QString FullPlace(const FoundPart& part, FoundPlace place)
 {
     const auto conditions = part.ConditionsAt(place);
-    return conditions
-               ? QString::fromStdString(NumberText((*conditions)[0]) + ", " + NumberText((*conditions)[1]))
-               : QString();
+    return conditions ? FullPlaceText(*conditions) : QString();
 }
 
 QString FullValue(const FoundPart& part, FoundColumn column)

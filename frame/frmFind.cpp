@@ -9,6 +9,7 @@
 #include "formkit/Entries.h"
 #include "formkit/Texts.h"
 #include "frame/FoundTable.h"
+#include "frame/LikeTable.h"
 #include "frame/StartPlace.h"
 #include "partdata/Availability.h"
 #include "ui_frmFind.h"
@@ -30,6 +31,7 @@ frmFind::frmFind(FindHost& mainWindow)
     : ui(std::make_unique<Ui::frmFind>())
     , host(mainWindow)
     , table(new FoundTable(this))
+    , likes(new LikeTable(this))
     , view(GetCodeView())
 {
     ui->setupUi(this);
@@ -130,6 +132,7 @@ void frmFind::FillTccs()
 /// An ambient temperature that is still the reference of the former view follows to that of the new one.
 void frmFind::ShowNaming()
 {
+    const PartRecord* const original = LeaveLike();
     const QString former = QString::fromStdString(NumberText(ReferenceC(view)));
     view = GetCodeView();
     {
@@ -147,6 +150,10 @@ void frmFind::ShowNaming()
     // An answer that stays because an entry is refused is renamed, too.
     table->NamesChanged();
     Answer();
+    if (original != nullptr && refusedBox == nullptr)
+    {
+        ShowLike(*original);
+    }
 }
 
 // ---- The table ----
@@ -154,10 +161,7 @@ void frmFind::ShowNaming()
 void frmFind::SetUpTable()
 {
     QTableView* const found = ui->tblFound;
-    // Before the table itself hears of a new answer, and forgets what was chosen.
-    connect(table, &QAbstractItemModel::modelAboutToBeReset, this, &frmFind::KeepChosen);
-    found->setModel(table);
-    connect(table, &QAbstractItemModel::modelReset, this, &frmFind::ChooseAgain);
+    PutIntoTable(*table);
     QHeaderView* const rows = found->verticalHeader();
     rows->hide();
     rows->setSectionResizeMode(QHeaderView::Fixed);
@@ -255,6 +259,7 @@ FindEntries frmFind::Entries() const
 
 void frmFind::Answer()
 {
+    LeaveLike();
     MarkRefused(nullptr, {});
     const auto asked = AskedBy(Entries(), mdlPublic.Parts);
     if (const auto* refused = std::get_if<RefusedEntry>(&asked))
@@ -353,7 +358,7 @@ bool frmFind::eventFilter(QObject* watched, QEvent* event)
 void frmFind::GoToTable()
 {
     ui->tblFound->setFocus(Qt::ShortcutFocusReason);
-    if (ChosenRows().empty() && table->rowCount() > 0)
+    if (ChosenRows().empty() && ShownRows() > 0)
     {
         ui->tblFound->selectRow(0);
     }
@@ -370,7 +375,10 @@ void frmFind::keyPressEvent(QKeyEvent* event)
     }
     if (event->key() == Qt::Key_Escape)
     {
-        close();
+        if (LeaveLike() == nullptr)
+        {
+            close();
+        }
         return;
     }
     QWidget::keyPressEvent(event);

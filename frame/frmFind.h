@@ -12,6 +12,8 @@
 
 class FoundTable;
 class frmWaveform;
+class LikeTable;
+class QAbstractItemModel;
 class QLineEdit;
 
 namespace Ui
@@ -40,6 +42,7 @@ protected:
 private:
     // The window.
     void SetUpTable();
+    void PutIntoTable(QAbstractItemModel& rows);
     void FitColumns();
     void Connect();
     void ConnectCommands();
@@ -62,12 +65,26 @@ private:
     void TakeWaveform();
     void ForgetOrigin();
 
+    // The parts that may stand for one, in place of the answer.
+    void FindReplacements();
+    void ShowLike(const PartRecord& original);
+    void TakeLikeTable(const PartRecord& original);
+    /// Back to the answer to the entries; the part whose replacements were shown, or none.
+    const PartRecord* LeaveLike();
+    bool IsLike() const { return likeOriginal != nullptr; }
+
     // The chosen parts.
     std::vector<int> ChosenRows() const;
+    int ShownRows() const;
+    /// Index into the part table of the part that a row shows.
+    std::int16_t PartIndexAt(int row) const;
     void KeepChosen();
     void ChooseAgain();
     /// In the order shown, six at most; the first part found where none is chosen.
     std::vector<SelectedPart> ChosenParts() const;
+
+    /// Where in the ranges a chart of the part in a row starts from.
+    OperatingPoint StartAt(int row, std::int16_t chartType) const;
 
     // The commands.
     void cmdFindSelect_Click();
@@ -86,6 +103,13 @@ private:
     FoundTable* table;
     /// Made when it is first asked for.
     frmWaveform* waveform = nullptr;
+    LikeTable* likes;
+    /// The part whose replacements are shown, or none.
+    const PartRecord* likeOriginal = nullptr;
+    /// The answer's line, how its table stands, and what is chosen of it, while replacements are shown.
+    QString answerLine;
+    QByteArray answerHeads;
+    std::set<std::int16_t> chosenInAnswer;
     /// The naming that the lists show.
     CodeView view;
     /// The entry that is refused, or none.

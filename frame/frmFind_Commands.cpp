@@ -3,7 +3,9 @@
 #include "calc/NumberText.h"
 #include "chart/ModelSaving.h"
 #include "formkit/RunCommand.h"
+#include "frame/CellTexts.h"
 #include "frame/FoundTable.h"
+#include "frame/LikeTable.h"
 #include "frame/frmFind.h"
 #include "frame/frmWaveform.h"
 #include "ui_frmFind.h"
@@ -38,6 +40,7 @@ void frmFind::ConnectCommands()
     // Of the two keys for menus, the window system makes a request of one alone.
     connectKey(Qt::SHIFT | Qt::Key_F10, ui->tblFound, [this] { ShowMenuByKey(); });
     connectKey(Qt::CTRL | Qt::Key_E, this, [this] { ViewChosen(); });
+    connectKey(Qt::CTRL | Qt::Key_L, this, [this] { FindReplacements(); });
     connectKey(Qt::Key_F1, this, [this] { host.ShowHelpTopic(QStringLiteral("find")); });
 }
 
@@ -95,7 +98,7 @@ void frmFind::KeepChosen()
     chosenBefore.clear();
     for (const int row : ChosenRows())
     {
-        chosenBefore.insert(table->PartIndexAt(row));
+        chosenBefore.insert(PartIndexAt(row));
     }
 }
 
@@ -107,15 +110,16 @@ void frmFind::ChooseAgain()
         return;
     }
     // Neighbours are chosen in one: each range of a selection costs time.
+    const QAbstractItemModel* const rows = ui->tblFound->model();
     QItemSelection chosen;
     int first = 0;
-    for (int row = 0; row <= table->rowCount(); ++row)
+    for (int row = 0; row <= ShownRows(); ++row)
     {
-        if (row == table->rowCount() || !chosenBefore.contains(table->PartIndexAt(row)))
+        if (row == ShownRows() || !chosenBefore.contains(PartIndexAt(row)))
         {
             if (first < row)
             {
-                chosen.select(table->index(first, 0), table->index(row - 1, table->columnCount() - 1));
+                chosen.select(rows->index(first, 0), rows->index(row - 1, rows->columnCount() - 1));
             }
             first = row + 1;
         }
@@ -159,6 +163,27 @@ static OperatingPoint StartOf(const FoundPart& part, OperatingPoint at, std::int
     return at;
 }
 
+/// The same of a part beside the one that it may stand for: the temperature where it heats most against that
+/// one for the charts of heating, else where it has the least capacitance against it.
+static OperatingPoint StartOf(const LikePart& like, OperatingPoint at, std::int16_t chartType)
+{
+    const bool isHottest = IsHeating(chartType) && like.Loss;
+    at.BiasVolts = static_cast<float>(like.Least.At.BiasVolts);
+    at.AmbientC = static_cast<float>((isHottest ? *like.Loss : like.Least).At.AmbientC);
+    if (at.Kilohertz || isHottest)
+    {
+        at.Kilohertz =
+            at.Kilohertz ? at.Kilohertz->High : ShownValue(Quantity::Frequency, like.Loss->At.Hertz);
+    }
+    return at;
+}
+
+OperatingPoint frmFind::StartAt(int row, std::int16_t chartType) const
+{
+    const auto& at = table->Question().At;
+    return IsLike() ? StartOf(likes->LikeAt(row), at, chartType) : StartOf(table->PartAt(row), at, chartType);
+}
+
 /// The conditions of a point as numbers; those that were not given stay as the part leaves them.
 static std::vector<TakenCondition> ConditionsOf(const OperatingPoint& at)
 {
@@ -180,19 +205,20 @@ static std::vector<TakenCondition> ConditionsOf(const OperatingPoint& at)
 std::vector<SelectedPart> frmFind::ChosenParts() const
 {
     auto rows = ChosenRows();
-    if (rows.empty() && table->rowCount() > 0)
+    if (rows.empty() && ShownRows() > 0)
     {
         rows.push_back(0);
     }
     std::vector<SelectedPart> parts;
     for (const int row : rows | std::views::take(MostToPlot))
     {
-        const FoundPart& part = table->PartAt(row);
-        const auto chartType = ChartTypeOf(part.Part(), ui->cmbFindChartType->currentIndex());
+        const auto part = PartIndexAt(row);
+        const auto chartType = ChartTypeOf(mdlPublic.Parts.PartData[static_cast<std::size_t>(part)],
+                                           ui->cmbFindChartType->currentIndex());
         const auto& at = table->Question().At;
-        parts.push_back({.Part = table->PartIndexAt(row),
+        parts.push_back({.Part = part,
                          .ChartType = chartType,
-                         .Conditions = ConditionsOf(at.IsPoint() ? at : StartOf(part, at, chartType))});
+                         .Conditions = ConditionsOf(at.IsPoint() ? at : StartAt(row, chartType))});
     }
     return parts;
 }
@@ -212,10 +238,21 @@ void frmFind::cmdFindSelect_Click()
 /// Which of the conditions in the ranges have gone into the form.
 QString frmFind::TakenText(int row, std::int16_t chartType) const
 {
+    const QString taken = QStringLiteral("Conditions of the %1 taken: %2");
+    if (IsLike())
+    {
+        const auto at = StartAt(row, chartType);
+        const bool isLoss = IsHeating(chartType) && likes->LikeAt(row).Loss;
+        return isLoss ? taken.arg(QStringLiteral("largest loss ratio"),
+                                  PlaceText({at.AmbientC.Low, at.Kilohertz->Low},
+                                            {Quantity::Temperature, Quantity::Frequency}))
+                      : taken.arg(QStringLiteral("least ratio"),
+                                  PlaceText({at.BiasVolts.Low, at.AmbientC.Low},
+                                            {Quantity::DCVoltage, Quantity::Temperature}));
+    }
     const bool isRise = IsHeating(chartType) && table->PartAt(row).ConditionsAt(FoundPlace::Rise);
-    return QStringLiteral("Conditions of the %1 taken: %2")
-        .arg(isRise ? QStringLiteral("largest rise") : QStringLiteral("least capacitance"),
-             table->PlaceAt(row, isRise ? FoundPlace::Rise : FoundPlace::Least));
+    return taken.arg(isRise ? QStringLiteral("largest rise") : QStringLiteral("least capacitance"),
+                     table->PlaceAt(row, isRise ? FoundPlace::Rise : FoundPlace::Least));
 }
 
 void frmFind::cmdFindPlot_Click()
@@ -252,7 +289,8 @@ void frmFind::ViewChosen()
 
 void frmFind::CopyChosen()
 {
-    QGuiApplication::clipboard()->setText(table->Copied(ChosenRows()));
+    QGuiApplication::clipboard()->setText(IsLike() ? likes->Copied(ChosenRows())
+                                                   : table->Copied(ChosenRows()));
 }
 
 std::vector<std::int32_t> frmFind::PartsOfChosenRows() const
@@ -260,7 +298,7 @@ std::vector<std::int32_t> frmFind::PartsOfChosenRows() const
     std::vector<std::int32_t> parts;
     for (const int row : ChosenRows())
     {
-        parts.push_back(table->PartIndexAt(row));
+        parts.push_back(PartIndexAt(row));
     }
     return parts;
 }
@@ -279,6 +317,7 @@ void frmFind::ShowMenu(const QPoint& at)
     menu->addAction(QStringLiteral("&Select\tEnter"), ui->cmdFindSelect, &QPushButton::click);
     menu->addAction(QStringLiteral("Pl&ot\tCtrl+Enter"), ui->cmdFindPlot, &QPushButton::click);
     menu->addAction(QStringLiteral("Plot in Chart &View\tCtrl+E"), this, &frmFind::ViewChosen);
+    menu->addAction(QStringLiteral("Find &Replacements\tCtrl+L"), this, &frmFind::FindReplacements);
     for (QAction* const action : menu->actions())
     {
         action->setEnabled(ui->cmdFindPlot->isEnabled());

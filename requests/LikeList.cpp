@@ -27,30 +27,8 @@ constexpr std::array<std::string_view, 9> columnNames = {
     "least-ratio", "most-ratio", "loss-ratio",     "area",
 };
 
-/// A value of a part as singles are told; nothing where it is empty.
+/// As singles are told.
 using Told = std::optional<float>;
-
-Told ValueOf(const LikePart& like, LikeColumn column)
-{
-    const auto told = [](double value) { return static_cast<float>(value); };
-    switch (column)
-    {
-    case LikeColumn::Capacitance:
-        return like.Part->Data[Value::Capacitance];
-    case LikeColumn::RatedVoltage:
-        return like.Part->Data[Value::RatedVoltage];
-    case LikeColumn::LeastRatio:
-        return told(like.Least.Value);
-    case LikeColumn::MostRatio:
-        return told(like.Most.Value);
-    case LikeColumn::LossRatio:
-        return like.Loss ? Told(told(like.Loss->Value)) : std::nullopt;
-    default:
-        break;
-    }
-    const auto size = SizeOf(*like.Part);
-    return size ? Told(told(size->Area())) : std::nullopt;
-}
 
 std::string NameOf(const LikePart& like, LikeColumn column, CodeView code, const CurveSettings& settings)
 {
@@ -72,13 +50,6 @@ constexpr std::array nameColumns = {LikeColumn::Part, LikeColumn::Size, LikeColu
 const std::vector<LikePart>& ListedOf(const LikeParts& found)
 {
     return found.Parts.empty() ? found.Nearest : found.Parts;
-}
-
-/// Against the part: "+3.3", "-1.7", "0".
-std::string RatioText(const Told& percent)
-{
-    const std::string digits = percent ? FourDigits(*percent) : "-";
-    return (percent && *percent > 0 ? "+" : "") + digits;
 }
 
 std::string CapacitancePlace(const Extreme& extreme)
@@ -268,6 +239,34 @@ Rank RankOf(const PartTable& parts, LikeKey key, CodeView code)
     }
 }
 } // namespace
+
+std::optional<float> ValueOf(const LikePart& like, LikeColumn column)
+{
+    const auto told = [](double value) { return static_cast<float>(value); };
+    switch (column)
+    {
+    case LikeColumn::Capacitance:
+        return like.Part->Data[Value::Capacitance];
+    case LikeColumn::RatedVoltage:
+        return like.Part->Data[Value::RatedVoltage];
+    case LikeColumn::LeastRatio:
+        return told(like.Least.Value);
+    case LikeColumn::MostRatio:
+        return told(like.Most.Value);
+    case LikeColumn::LossRatio:
+        return like.Loss ? Told(told(like.Loss->Value)) : std::nullopt;
+    default:
+        break;
+    }
+    const auto size = SizeOf(*like.Part);
+    return size ? Told(told(size->Area())) : std::nullopt;
+}
+
+std::string RatioText(std::optional<float> percent)
+{
+    const std::string digits = percent ? FourDigits(*percent) : "-";
+    return (percent && *percent > 0 ? "+" : "") + digits;
+}
 
 std::vector<std::string_view> LikeColumnNames()
 {

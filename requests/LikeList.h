@@ -7,6 +7,7 @@
 #include "requests/CurveRequest.h"
 #include "requests/OutputFormat.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,6 +25,12 @@ enum class LikeColumn
     LossRatio,
     Area,
 };
+
+/// A number of a part in the unit of its column; nothing where it is empty, and for names.
+std::optional<float> ValueOf(const LikePart& like, LikeColumn column);
+
+/// A ratio in percent against the part: "+3.3", "-1.7", "0"; "-" where it is empty.
+std::string RatioText(std::optional<float> percent);
 
 /// One key of an order, the first of them the weightiest.
 struct LikeKey
