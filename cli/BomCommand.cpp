@@ -6,14 +6,14 @@
 #include "cli/Commands.h"
 #include "cli/FileArguments.h"
 #include "cli/FilterOptions.h"
-#include "cli/HelpText.h"
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
-#include "cli/RequestWords.h"
-#include "cli/Terminal.h"
 #include "files/InputFile.h"
 #include "requests/Names.h"
+#include "requests/RequestWords.h"
 #include "requests/UnitEntry.h"
+#include "terminal/HelpText.h"
+#include "terminal/Terminal.h"
 
 #include <CLI/CLI.hpp>
 
