@@ -1,12 +1,16 @@
 /// Replacements of a found part, in the table of the window that finds parts.
 
 #include "app/mdlPublic.h"
+#include "find/KindsOfData.h"
+#include "formkit/Texts.h"
 #include "tests/frame/FindDesk.h"
 
 #include <QClipboard>
 #include <QHeaderView>
 #include <QMenu>
 #include <QStatusBar>
+
+#include <algorithm>
 
 class LikeWindowTest : public QObject
 {
@@ -24,6 +28,7 @@ private Q_SLOTS:
     void StandsInTheMenuOfTheRows();
     void FollowsTheNaming();
     void RefusedEntryOffersNone();
+    void TellsOfAPartWithoutCapacitanceData();
 };
 
 /// Ctrl+L on the row of this part alone.
@@ -264,6 +269,23 @@ void LikeWindowTest::RefusedEntryOffersNone()
     const QString line = desk.Line();
     QTest::keyClick(desk.Table(), Qt::Key_L, Qt::ControlModifier);
     QCOMPARE(desk.Line(), line);
+}
+
+void LikeWindowTest::TellsOfAPartWithoutCapacitanceData()
+{
+    const FindDesk desk;
+    const auto& parts = mdlPublic.Parts.PartData;
+    const auto part = std::ranges::find_if(parts, [](const PartRecord& each)
+                                           { return !HasCapacitanceData(each) && HasHeatingData(each); });
+    QVERIFY(part != parts.end());
+    const QString name = NumberOnDisplay(FromAnsi(part->PartNum[0]));
+    desk.Enter("txtFindFrequency", "100");
+    ReplaceByKey(desk, name.toUtf8().constData());
+    QCOMPARE(desk.Line(), name + ": has no capacitance data");
+    // The answer stays as it is.
+    QCOMPARE(desk.Rows(), 1);
+    QTest::keyClick(desk.Table(), Qt::Key_Escape);
+    QVERIFY(!desk.window->isVisible());
 }
 
 QTEST_MAIN(LikeWindowTest)
