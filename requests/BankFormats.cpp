@@ -39,8 +39,9 @@ std::string Capacitance(double picofarads)
 
 std::string PiecesTable(const RequestedBank& bank, const CurveSettings& settings)
 {
-    std::vector<ListRow> rows = {{"PART", "COUNT", "TOLERANCE[%]", "CAPACITANCE", "CURRENT[Arms]", "RISE[C]",
-                                  "PERMITTED[C]", "MARGIN[C]", "WORST[Arms]", "WORST[C]", "BOUND[Vrms]"}};
+    std::vector<ListRow> rows = {{"PART", "COUNT", "TOLERANCE[%]", "CAPACITANCE", "WARM", "CURRENT[Arms]",
+                                  "RISE[C]", "PERMITTED[C]", "MARGIN[C]", "WORST[Arms]", "WORST[C]",
+                                  "BOUND[Vrms]"}};
     if (HasOneFrequency(bank))
     {
         rows.front().emplace_back("LOSS[mOhm]");
@@ -50,7 +51,8 @@ std::string PiecesTable(const RequestedBank& bank, const CurveSettings& settings
         const BankPiece& asked = bank.Question.Pieces[i];
         const PieceOfBank& piece = bank.Answer.Pieces[i];
         rows.push_back({NameOf(bank, i, settings), std::to_string(asked.Count),
-                        Digits(asked.TolerancePercent), Capacitance(piece.PicoFarads), Digits(piece.Arms),
+                        Digits(asked.TolerancePercent), Capacitance(piece.PicoFarads),
+                        piece.WarmPicoFarads ? Capacitance(*piece.WarmPicoFarads) : "-", Digits(piece.Arms),
                         Digits(piece.Rise), Digits(piece.PermittedRise), Digits(piece.Margin),
                         Digits(piece.WorstArms), Digits(piece.WorstRise), Digits(piece.VoltageBound)});
         if (HasOneFrequency(bank))
@@ -129,6 +131,7 @@ Json PieceJson(const RequestedBank& bank, std::size_t index, const CurveSettings
                    {"count", asked.Count},
                    {"tolerance", Number(asked.TolerancePercent)},
                    {"capacitance", Number(piece.PicoFarads)},
+                   {"warmCapacitance", piece.WarmPicoFarads ? Number(*piece.WarmPicoFarads) : Json()},
                    {"current", Number(piece.Arms)},
                    {"rise", Number(piece.Rise)},
                    {"permittedRise", Number(piece.PermittedRise)},
@@ -195,6 +198,9 @@ std::string WordsOf(const BankWarning& warning)
                " C permitted";
     case BankWarningKind::Ripple:
         return "has a ripple voltage of " + value + " Vrms, above the " + permitted + " Vrms permitted";
+    case BankWarningKind::Warmth:
+        return "rises by " + value + " C instead of " + permitted +
+               " C with each piece's capacitance at its own temperature";
     default:
         return "at " + value + " kHz an inductance of 1 nH would decide currents and ripple voltage";
     }

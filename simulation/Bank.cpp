@@ -3,6 +3,7 @@
 #include "calc/AllowablePower.h"
 #include "calc/Capacitance.h"
 #include "calc/CheckedMath.h"
+#include "calc/Conditions.h"
 #include "calc/PowerModel.h"
 #include "calc/TemperatureRise.h"
 
@@ -10,6 +11,8 @@
 #include <cmath>
 #include <complex>
 #include <numbers>
+#include <optional>
+#include <utility>
 
 namespace
 {
@@ -122,15 +125,22 @@ PieceState StateOf(const BankPiece& piece, const OperatingPoint& at)
             .Model = PowerModelOf(part, at.BiasVolts.High, at.AmbientC.High, resistance)};
 }
 
+std::vector<PieceState> StatesOf(const BankQuestion& question)
+{
+    std::vector<PieceState> states;
+    std::ranges::transform(question.Pieces, std::back_inserter(states),
+                           [&](const BankPiece& piece) { return StateOf(piece, question.At); });
+    return states;
+}
+
 /// Works out one bank.
 class BankLaw
 {
 public:
-    explicit BankLaw(const BankQuestion& asked)
+    BankLaw(const BankQuestion& asked, std::vector<PieceState> states)
         : question(asked)
+        , pieces(std::move(states))
     {
-        std::ranges::transform(question.Pieces, std::back_inserter(pieces),
-                               [&](const BankPiece& piece) { return StateOf(piece, question.At); });
         std::ranges::transform(question.Ripple, std::back_inserter(sharings),
                                [&](const RippleCurrent& ripple) { return Sharing(pieces, HertzOf(ripple)); });
     }
@@ -205,9 +215,58 @@ private:
     std::vector<PieceState> pieces;
     std::vector<Sharing> sharings;
 };
+/// The capacitance of a piece that runs warmer than its surroundings.
+std::optional<double> WarmPicoFarads(const BankPiece& piece, const OperatingPoint& at, double rise)
+{
+    const double body = at.AmbientC.High + rise;
+    if (!IsClassAmbientPermitted(static_cast<float>(body), *piece.Part, at.View))
+    {
+        return std::nullopt;
+    }
+    const auto point = CapacitancePointAt(*piece.Part, at.BiasVolts.High, body, at.View);
+    return point && point->PicoFarads > 0 ? std::optional(point->PicoFarads) : std::nullopt;
+}
+
+/// The bank whose pieces have the capacitances of the temperatures that an answer leads to; nothing where one
+/// has none there.
+std::optional<BankAnswer> WarmedBy(const BankAnswer& answer, const BankQuestion& question)
+{
+    auto states = StatesOf(question);
+    for (std::size_t i = 0; i < states.size(); ++i)
+    {
+        const auto warm = WarmPicoFarads(question.Pieces[i], question.At, answer.Pieces[i].Rise);
+        if (!warm)
+        {
+            return std::nullopt;
+        }
+        states[i].Farads = *warm * FaradsPerPicoFarad;
+    }
+    return BankLaw(question, std::move(states)).Answer();
+}
+
+/// The bank in which each piece has the capacitance of its own temperature.
+std::optional<BankAnswer> SettledFrom(const BankAnswer& cold, const BankQuestion& question)
+{
+    // Each round leaves a small part of the error of the one before.
+    constexpr int rounds = 12;
+    auto settled = WarmedBy(cold, question);
+    for (int round = 1; settled && round < rounds; ++round)
+    {
+        settled = WarmedBy(*settled, question);
+    }
+    return settled;
+}
 } // namespace
 
 BankAnswer BankOf(const BankQuestion& question)
 {
-    return BankLaw(question).Answer();
+    auto answer = BankLaw(question, StatesOf(question)).Answer();
+    const auto settled = SettledFrom(answer, question);
+    for (std::size_t i = 0; i < answer.Pieces.size(); ++i)
+    {
+        PieceOfBank& piece = answer.Pieces[i];
+        piece.WarmPicoFarads = WarmPicoFarads(question.Pieces[i], question.At, piece.Rise);
+        piece.WarmRise = settled ? std::optional(settled->Pieces[i].Rise) : std::nullopt;
+    }
+    return answer;
 }

@@ -8,6 +8,7 @@
 
 #include "simulation/BankQuestion.h"
 
+#include <optional>
 #include <vector>
 
 /// A piece at one frequency.
@@ -23,11 +24,15 @@ struct PieceAtFrequency
 struct PieceOfBank
 {
     double PicoFarads = 0;
+    /// At the temperature that the rise brings; nothing where the part's characteristic does not have it.
+    std::optional<double> WarmPicoFarads = {};
     double Arms = 0;
     /// In °C, as what is permitted for the part and what is left of it.
     double Rise = 0;
     double PermittedRise = 0;
     double Margin = 0;
+    /// The rise with each piece's capacitance at its own temperature; nothing where one has none there.
+    std::optional<double> WarmRise = {};
     /// The largest r.m.s. voltage on top of the bias, in V.
     double VoltageBound = 0;
     /// With this piece at the upper end of its tolerance and all others at the lower end of theirs.

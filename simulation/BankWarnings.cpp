@@ -35,6 +35,7 @@ static std::optional<double> InductiveFrequency(const PieceOfBank& piece)
 
 static void AddWarnings(std::vector<BankWarning>& warnings, const BankAnswer& answer, std::size_t index)
 {
+    constexpr double mostWarmShare = 0.05;
     const PieceOfBank& piece = answer.Pieces[index];
     const auto add = [&](BankWarningKind kind, double value, double permitted)
     { warnings.push_back({.Kind = kind, .Piece = index, .Value = value, .Permitted = permitted}); };
@@ -53,6 +54,10 @@ static void AddWarnings(std::vector<BankWarning>& warnings, const BankAnswer& an
     if (const auto kilohertz = InductiveFrequency(piece))
     {
         add(BankWarningKind::Inductance, *kilohertz, 0);
+    }
+    if (piece.WarmRise && std::abs(*piece.WarmRise - piece.Rise) > mostWarmShare * piece.Rise)
+    {
+        add(BankWarningKind::Warmth, *piece.WarmRise, piece.Rise);
     }
 }
 

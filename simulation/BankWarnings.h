@@ -18,6 +18,8 @@ enum class BankWarningKind : std::uint8_t
     Ripple,
     /// An inductance of 1 nH, which no part is without, has a tenth of the piece's reactance or more.
     Inductance,
+    /// The rise is off by more than 5 % where each piece has the capacitance of its own temperature.
+    Warmth,
 };
 
 struct BankWarning
@@ -26,7 +28,7 @@ struct BankWarning
     std::size_t Piece;
     /// What is too large: °C, Vrms, or the lowest such frequency in kHz.
     double Value;
-    /// What is permitted, in the same unit; 0 for a frequency.
+    /// What is permitted, in the same unit; 0 for a frequency, the rise without warmth beside one with it.
     double Permitted;
 };
 

@@ -3,6 +3,7 @@
 
 #include "simulation/Bank.h"
 
+#include "calc/Capacitance.h"
 #include "files/PartLoading.h"
 #include "tests/find/FindParts.h"
 
@@ -10,6 +11,7 @@
 
 #include <array>
 #include <cmath>
+#include <complex>
 
 namespace
 {
@@ -165,5 +167,65 @@ TEST(Bank, LosesCapacitanceByItsBias)
     EXPECT_NEAR(answer.PicoFarads, 1800, 1e-6);
     EXPECT_EQ(answer.Pieces[0].VoltageBound, 0);
     EXPECT_EQ(answer.Vrms, 0);
+}
+
+// ---- Warmth ----
+
+TEST(Bank, HasEachPiecesCapacitanceAtItsOwnTemperature)
+{
+    const auto question = ThreeKinds({{.Kilohertz = 300, .Arms = 12}});
+    const auto answer = BankOf(question);
+    for (std::size_t i = 0; i < answer.Pieces.size(); ++i)
+    {
+        const PieceOfBank& piece = answer.Pieces[i];
+        const auto warm = CapacitancePointAt(*question.Pieces[i].Part, 5, 45 + piece.Rise, CodeView::Eia);
+        ExpectNear(piece.WarmPicoFarads.value(), warm->PicoFarads);
+    }
+    EXPECT_NE(answer.Pieces[0].WarmPicoFarads, answer.Pieces[0].PicoFarads);
+    EXPECT_NE(answer.Pieces[1].WarmRise, answer.Pieces[1].Rise);
+}
+
+TEST(Bank, SharesByTheCapacitancesOfItsOwnTemperatures)
+{
+    constexpr double ripple = 11;
+    const BankQuestion question = {
+        .Pieces = {{.Part = &PartNamed("KTS31NR71A226KA01")}, {.Part = &PartNamed("KTS31NB51A476MA01")}},
+        .At = {.BiasVolts = 9, .AmbientC = 20},
+        .Ripple = {{.Kilohertz = 20, .Arms = ripple}}};
+    const auto answer = BankOf(question);
+    std::array<std::complex<double>, 2> admittances;
+    for (std::size_t i = 0; i < 2; ++i)
+    {
+        const PieceOfBank& piece = answer.Pieces[i];
+        const auto warm =
+            CapacitancePointAt(*question.Pieces[i].Part, 9, 20 + piece.WarmRise.value(), CodeView::Eia);
+        const double reactance = 1 / (2 * M_PI * 20e3 * warm->PicoFarads * 1e-12);
+        admittances[i] = 1.0 / std::complex(piece.Frequencies[0].LossResistance * 1e-3, -reactance);
+    }
+    for (std::size_t i = 0; i < 2; ++i)
+    {
+        const PieceOfBank& piece = answer.Pieces[i];
+        const double amperes = ripple * std::abs(admittances[i] / (admittances[0] + admittances[1]));
+        EXPECT_NEAR(*piece.WarmRise, piece.Rise * std::pow(amperes / piece.Arms, 2), 1e-6);
+        EXPECT_GT(std::abs(*piece.WarmRise / piece.Rise - 1), 0.05);
+    }
+}
+
+TEST(Bank, OfEqualPiecesIsAsHotWhenItsCapacitanceIsWarm)
+{
+    const auto answer = BankOf({.Pieces = {{.Part = &PartNamed("KTS31NR71A226KA01"), .Count = 3}},
+                                .At = {.BiasVolts = 5, .AmbientC = 45},
+                                .Ripple = {{.Kilohertz = 300, .Arms = 12}}});
+    EXPECT_NEAR(answer.Pieces[0].WarmRise.value(), answer.Pieces[0].Rise, 1e-9);
+}
+
+TEST(Bank, HasNoWarmthWhereAPieceLeavesItsCharacteristic)
+{
+    auto question = ThreeKinds({{.Kilohertz = 300, .Arms = 60}});
+    const auto answer = BankOf(question);
+    ASSERT_GT(answer.Pieces[1].Rise, 85 - 45);
+    EXPECT_EQ(answer.Pieces[1].WarmPicoFarads, std::nullopt);
+    EXPECT_EQ(answer.Pieces[0].WarmRise, std::nullopt);
+    EXPECT_EQ(answer.Pieces[1].WarmRise, std::nullopt);
 }
 } // namespace

@@ -78,4 +78,19 @@ TEST(BankWarnings, TellFromWhichFrequencyAnInductanceDecides)
     EXPECT_EQ(warnings[0].Kind, BankWarningKind::Inductance);
     EXPECT_EQ(warnings[0].Value, 504);
 }
+
+TEST(BankWarnings, TellARiseThatWarmthChanges)
+{
+    auto answer = Sound();
+    answer.Pieces[0].WarmRise = 10.49;
+    answer.Pieces[1].WarmRise = 9.51;
+    EXPECT_TRUE(WarningsOf(answer).empty());
+    answer.Pieces[0].WarmRise = 9.49;
+    answer.Pieces[1].WarmRise = 10.51;
+    const auto warnings = WarningsOf(answer);
+    ASSERT_EQ(warnings.size(), 2U);
+    EXPECT_EQ(warnings[1].Kind, BankWarningKind::Warmth);
+    EXPECT_EQ(warnings[1].Value, 10.51);
+    EXPECT_EQ(warnings[1].Permitted, 10);
+}
 } // namespace
