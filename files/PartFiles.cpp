@@ -73,8 +73,7 @@ std::vector<std::string> NamesOfPartFiles(const std::string& folder, std::string
             .At(folder);
     }
     std::ranges::sort(names, StandsBefore);
-    const auto twice = std::ranges::unique(names);
-    names.erase(twice.begin(), twice.end());
+    names.erase(std::unique(names.begin(), names.end()), names.end());
     return names;
 }
 

@@ -17,7 +17,9 @@ std::string Folded(std::string_view utf8)
 
 bool Holds(std::string_view partNum, const std::string& foldedText)
 {
-    return !std::ranges::search(partNum, foldedText, {}, FoldCase).empty();
+    const auto isSame = [](char held, char folded) { return FoldCase(held) == folded; };
+    return std::search(partNum.begin(), partNum.end(), foldedText.begin(), foldedText.end(), isSame) !=
+           partNum.end();
 }
 
 bool IsNamed(const PartRecord& part, const std::string& foldedText)
