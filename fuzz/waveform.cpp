@@ -32,6 +32,13 @@ static void RequireRows(const WaveformTable& table)
     }
 }
 
+/// The lines of a long record are many, whatever its rows: they would leave the reader few executions.
+static bool HasFewLines(const WaveformTable& table)
+{
+    constexpr double shortRecord = 100e-6;
+    return table.Seconds.back() - table.Seconds.front() <= shortRecord;
+}
+
 static void RequireLoad(const WaveformTable& table)
 {
     const auto current = table.WaveformOf(table.Columns.front());
@@ -50,7 +57,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const auto table = ReadWaveforms(text);
         Require(LargestAllocation() <= 65536 + 64 * text.size(), "memory is in proportion to the text");
         RequireRows(table);
-        RequireLoad(table);
+        if (HasFewLines(table))
+        {
+            RequireLoad(table);
+        }
     }
     catch (const WaveformError& error)
     {
