@@ -2,13 +2,11 @@
 
 #include "board/BomText.h"
 #include "board/FilesBeside.h"
-#include "files/InputFile.h"
-#include "files/PartLoading.h"
+#include "tests/board/Board.h"
 
 #include <gmock/gmock.h>
 
 #include <fstream>
-#include <stdexcept>
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -17,42 +15,6 @@ using testing::SizeIs;
 
 namespace
 {
-const PartTable& Range()
-{
-    static const PartTable parts = LoadPartData(RANGE_FOLDER);
-    return parts;
-}
-
-WaveformTable NoWaveform(const std::string& /*name*/, bool /*isOfConditions*/)
-{
-    throw std::runtime_error("no waveform");
-}
-
-/// A board with what it refers to.
-struct Board
-{
-    explicit Board(const std::string& billText, const std::string& conditionText = "",
-                   const BomSettings& settings = {})
-        : Bill(ReadBomTable(billText, BomTableKind::Bill))
-        , Joined(JoinBom(
-              Bill,
-              conditionText.empty() ? BomTable() : ReadBomTable(conditionText, BomTableKind::Conditions), {}))
-        , Judged(JudgeBom(Joined, Range(), settings, NoWaveform))
-    {
-    }
-
-    const JudgedItem& Item(std::size_t index = 0) const { return Judged.Items.at(index); }
-
-    BomTable Bill;
-    JoinedBom Joined;
-    JudgedBom Judged;
-};
-
-std::string BoardFile(const std::string& name)
-{
-    return ReadBytes(std::string(TEST_DATA) + "/board/boards/" + name, MostBomBytes);
-}
-
 const std::string Part = "KTS31NB51C226MA01";
 } // namespace
 
