@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-std::string ReadBeside(const std::filesystem::path& naming, const std::string& name, std::uintmax_t most)
+std::filesystem::path PathBeside(const std::filesystem::path& naming, const std::string& name)
 {
     const auto parent = naming.parent_path();
     const auto folder = std::filesystem::weakly_canonical(parent.empty() ? "." : parent);
@@ -17,5 +17,10 @@ std::string ReadBeside(const std::filesystem::path& naming, const std::string& n
         throw std::runtime_error('"' + OneLine(name) +
                                  "\" lies outside the folder of the file that names it");
     }
-    return ReadBytes(file, most);
+    return file;
+}
+
+std::string ReadBeside(const std::filesystem::path& naming, const std::string& name, std::uintmax_t most)
+{
+    return ReadBytes(PathBeside(naming, name), most);
 }

@@ -5,7 +5,10 @@
 #include <filesystem>
 #include <string>
 
-/// All bytes of a file that another file names. A bill comes from anywhere, so that what it names lies in its
-/// folder or below it, links resolved. Throws std::runtime_error for any other place, RunTimeError for a file
-/// that is not there or holds more than the most bytes.
+/// The path of a file that another file names. A bill comes from anywhere, so that what it names lies in its
+/// folder or below it, links resolved. Throws std::runtime_error for any other place.
+std::filesystem::path PathBeside(const std::filesystem::path& naming, const std::string& name);
+
+/// All bytes of that file. Throws as `PathBeside`, and RunTimeError for a file that is not there or holds
+/// more than the most bytes.
 std::string ReadBeside(const std::filesystem::path& naming, const std::string& name, std::uintmax_t most);

@@ -1,5 +1,6 @@
 /// `tavik-cli bom`: which parts of a bill of materials hold what is asked of them.
 
+#include "board/BomCheck.h"
 #include "board/BomFormats.h"
 #include "board/FilesBeside.h"
 #include "cli/Command.h"
@@ -72,37 +73,38 @@ static void Tell(const BomOptions& options, const BomRemark& remark, const std::
              remark.Note.Text);
 }
 
-/// Tells all faults, and ends the command where there are any.
-static void EndAtFaults(const BomOptions& options, const std::vector<BomRemark>& faults)
+static std::string TextOf(const std::string& file)
 {
-    std::ranges::for_each(faults, [&](const auto& fault) { Tell(options, fault, ""); });
-    if (!faults.empty())
+    return file == StandardStream ? std::string(std::istreambuf_iterator<char>(std::cin), {})
+                                  : ReadBytes(file, MostBomBytes);
+}
+
+static BomTexts TextsOf(const BomOptions& options)
+{
+    BomTexts texts{.Bill = TextOf(options.Bill)};
+    texts.Conditions = options.Conditions.empty() ? std::nullopt : std::optional(TextOf(options.Conditions));
+    return texts;
+}
+
+/// Tells warnings and faults, and ends the command at faults.
+static std::unique_ptr<const CheckedBom> Checked(const BomOptions& options, const PartTable& parts)
+{
+    const auto waveforms = [&](const std::string& name, bool isOfConditions)
+    { return ReadWaveforms(ReadBeside(options.FileOf(isOfConditions), name, MostWaveformBytes)); };
+    auto checked = CheckBom(TextsOf(options),
+                            {.Columns = options.Columns,
+                             .Options = options.Cells,
+                             .Settings = options.Settings,
+                             .Waveforms = waveforms},
+                            parts);
+    std::ranges::for_each(checked->Warnings,
+                          [&](const auto& warning) { Tell(options, warning, "warning: "); });
+    std::ranges::for_each(checked->Faults, [&](const auto& fault) { Tell(options, fault, ""); });
+    if (!checked->Faults.empty())
     {
         throw Failure("");
     }
-}
-
-static BomTable TableOf(const BomOptions& options, BomTableKind kind, std::vector<BomRemark>& faults)
-{
-    const bool isOfConditions = kind == BomTableKind::Conditions;
-    const auto& file = options.FileOf(isOfConditions);
-    if (file.empty())
-    {
-        return {.Kind = kind, .Headings = {}, .Rows = {}, .Notes = {}, .Faults = {}};
-    }
-    auto table =
-        ReadBomTable(file == StandardStream ? std::string(std::istreambuf_iterator<char>(std::cin), {})
-                                            : ReadBytes(file, MostBomBytes),
-                     kind, isOfConditions ? std::vector<ChosenColumn>() : options.Columns);
-    for (const auto& fault : table.Faults)
-    {
-        faults.push_back({fault, isOfConditions});
-    }
-    for (const auto& note : table.Notes)
-    {
-        Tell(options, {note, isOfConditions}, "warning: ");
-    }
-    return table;
+    return checked;
 }
 
 static void TellBom(BomOptions options)
@@ -121,20 +123,10 @@ static void TellBom(BomOptions options)
     {
         throw Failure("no size \"" + *options.MaxSize + "\"");
     }
-    std::vector<BomRemark> faults;
-    const auto bill = TableOf(options, BomTableKind::Bill, faults);
-    const auto conditions = TableOf(options, BomTableKind::Conditions, faults);
-    EndAtFaults(options, faults);
-    const auto joined = JoinBom(bill, conditions, options.Cells);
-    EndAtFaults(options, joined.Faults);
-    const auto bom = JudgeBom(
-        joined, parts, options.Settings,
-        [&](const std::string& name, bool isOfConditions)
-        { return ReadWaveforms(ReadBeside(options.FileOf(isOfConditions), name, MostWaveformBytes)); });
-    EndAtFaults(options, bom.Faults);
-    std::ranges::for_each(joined.Warnings, [&](const auto& warning) { Tell(options, warning, "warning: "); });
+    const auto checked = Checked(options, parts);
+    const auto& bom = checked->Judged;
     Output output(options.OutputFile);
-    output.Write(FormatNamed(BomFormats(), options.Format).Write(bom, bill, options.Settings));
+    output.Write(FormatNamed(BomFormats(), options.Format).Write(bom, checked->Bill, options.Settings));
     output.Finish();
     const bool isStrictlyHeld = !bom.Has(BomVerdict::Unknown) && !bom.Has(BomVerdict::Warn);
     if (bom.Has(BomVerdict::Fail) || (options.IsStrict && !isStrictlyHeld))
