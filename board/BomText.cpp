@@ -82,8 +82,6 @@ std::string SuggestionText(const JudgedItem& item, const BomSettings& settings)
 
 ListRow RowOf(const JudgedItem& item, const BomSettings& settings)
 {
-    auto reasons = ListOf(item.Reasons, "; ");
-    reasons += item.Near.empty() ? "" : "; near: " + ListOf(item.Near);
     return {std::string(BomVerdictNames.at(static_cast<std::size_t>(item.Verdict))),
             OrHyphen(ReferenceText(item.Item->References)),
             OrHyphen(item.Item->TextOf(BomField::Part)),
@@ -91,7 +89,7 @@ ListRow RowOf(const JudgedItem& item, const BomSettings& settings)
             item.Reserve ? Tenths(*item.Reserve) : "-",
             item.Judged ? CapacitanceText(item) : "",
             item.Judged ? RiseText(item) : "",
-            WithoutControls(reasons) + SuggestionText(item, settings)};
+            ReasonsText(item, settings)};
 }
 
 std::string Parts(const JudgedNet& net)
@@ -130,6 +128,13 @@ std::string NetText(const JudgedNet& net)
     return text + (net.Reason.empty() ? "" : "; " + net.Reason) + '\n';
 }
 } // namespace
+
+std::string ReasonsText(const JudgedItem& item, const BomSettings& settings)
+{
+    auto reasons = ListOf(item.Reasons, "; ");
+    reasons += item.Near.empty() ? "" : "; near: " + ListOf(item.Near);
+    return WithoutControls(reasons) + SuggestionText(item, settings);
+}
 
 std::string CountsText(const JudgedBom& bom)
 {

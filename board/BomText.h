@@ -9,5 +9,9 @@
 /// One line an item, one a net, and the counts; each line ended by a line feed.
 std::string BomText(const JudgedBom& bom, const BomSettings& settings);
 
+/// "5.017uF at 5.25 V, 65 C under 6uF; try KTS21JB50J226MA01 0805 X5R 22uF 6.3V (7.184uF, 17 %)": why a
+/// verdict is as it is, part numbers near an unknown one, and what passes instead.
+std::string ReasonsText(const JudgedItem& item, const BomSettings& settings);
+
 /// "4 fail, 2 unknown, 0 warn, 6 ok; 2 rows skipped, 1 not fitted".
 std::string CountsText(const JudgedBom& bom);
