@@ -96,6 +96,16 @@ std::string FaultOf(const Columns& columns)
 
 Columns ReadColumns(const TableRow& headings, bool takesComma, std::vector<TableError>& errors)
 {
+    constexpr std::size_t most = 100;
+    if (headings.Cells.size() > most)
+    {
+        errors.push_back({headings.Line,
+                          "",
+                          {},
+                          std::to_string(headings.Cells.size()) +
+                              " columns: a table of measurements has at most " + std::to_string(most)});
+        return {};
+    }
     Columns columns;
     for (const auto& heading : headings.Cells)
     {

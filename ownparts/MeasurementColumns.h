@@ -35,7 +35,7 @@ struct MeasurementColumn
 };
 
 /// The columns of the line of headings, in its order, with a fault for each that is not known, stands twice
-/// or has a unit that is none of its quantity, and where nothing can be measured with them. Whatever is
-/// faulty is left out.
+/// or has a unit that is none of its quantity, where nothing can be measured with them, and where they are
+/// too many to be those of a table. Whatever is faulty is left out.
 std::vector<std::optional<MeasurementColumn>> ReadColumns(const TableRow& headings, bool takesComma,
                                                           std::vector<TableError>& errors);

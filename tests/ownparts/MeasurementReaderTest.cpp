@@ -195,6 +195,8 @@ INSTANTIATE_TEST_SUITE_P(
                  "line 7: Bias [mV]: the column stands twice"},
         FaultRow{"unit of a column", Header + "bias [A],capacitance\n",
                  "line 7: \"1 A\": \"A\" is not the unit of a voltage"},
+        FaultRow{"too many columns", Header + "bias,capacitance" + std::string(99, ',') + "rise\n",
+                 "line 7: 101 columns: a table of measurements has at most 100"},
         FaultRow{"nothing to measure", Header + "bias,temperature\n",
                  "line 7: there is neither a column of capacitance nor one of rise"},
         FaultRow{"no headings", Header, "line 7: the line of headings is missing"},
