@@ -188,6 +188,7 @@ void InstallTest::BringsWhatDesktopAndShellsLookFor_data()
     QTest::newRow("share/doc/tavik/part-files.md") << QByteArray("# ");
     QTest::newRow("share/doc/tavik/part-table.md") << QByteArray("# The part table");
     QTest::newRow("share/doc/tavik/banks.md") << QByteArray("# Banks of parts");
+    QTest::newRow("share/doc/tavik/board.md") << QByteArray("# Checking a board");
     QTest::newRow("share/doc/tavik/stress.md") << QByteArray("# From the ripple of a circuit to the part");
     QTest::newRow("share/doc/tavik/simulation.md") << QByteArray("# Capacitors in a circuit simulator");
     QTest::newRow("share/doc/tavik/tavik.py") << QByteArray("\"\"\"Curves of capacitors");

@@ -7,7 +7,11 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <memory>
+#include <regex>
 #include <sstream>
 
 namespace
@@ -73,10 +77,44 @@ std::vector<ShownCommand> CommandsOfBook(const std::string& book)
     return commands;
 }
 
-/// What the program writes, its notes included.
-std::string ToldBy(const std::string& command)
+/// A folder with the files that a book shows, and those that are installed beside it as documents.
+class ReadersFolder
 {
-    const std::string line = TAVIK_CLI + command.substr(std::string("tavik-cli").size()) + " 2>&1 </dev/null";
+public:
+    explicit ReadersFolder(const std::string& book)
+        : path(Made(std::filesystem::temp_directory_path() / "tavik-reader-XXXXXX"))
+    {
+        std::filesystem::create_directory(path / "parts");
+        std::filesystem::copy(SOURCES "/docs/own-parts.csv", path);
+        const auto text = BookText(book);
+        const char* const shown = "<p><code>([a-z]+\\.csv)</code>[^<]*</p>\n<pre[^>]*>\n([^<]*)</pre>";
+        const std::regex pattern(shown);
+        for (std::sregex_iterator match(text.begin(), text.end(), pattern), end; match != end; ++match)
+        {
+            std::ofstream(path / (*match)[1].str(), std::ios::binary) << WithoutTags((*match)[2]);
+        }
+    }
+    ReadersFolder(const ReadersFolder&) = delete;
+    ReadersFolder& operator=(const ReadersFolder&) = delete;
+    ~ReadersFolder() { std::filesystem::remove_all(path); }
+
+    const std::filesystem::path path;
+
+private:
+    static std::string Made(std::string name)
+    {
+        EXPECT_NE(mkdtemp(name.data()), nullptr);
+        return name;
+    }
+};
+
+/// What the program writes in a folder, its notes included.
+std::string ToldBy(const std::string& command, const ReadersFolder& folder)
+{
+    const auto arguments =
+        std::regex_replace(command.substr(std::string("tavik-cli").size()), std::regex("/usr/lib/tavik"),
+                           std::filesystem::path(TAVIK_CLI).parent_path().string());
+    const auto line = "cd " + folder.path.string() + " && " + TAVIK_CLI + arguments + " 2>&1 </dev/null";
     const std::unique_ptr<FILE, int (*)(FILE*)> program(popen(line.c_str(), "r"), pclose);
     std::string output;
     for (int c = 0; program != nullptr && (c = std::fgetc(program.get())) != EOF;)
@@ -86,17 +124,25 @@ std::string ToldBy(const std::string& command)
     return output;
 }
 
-/// The book shows some columns of a table, and some of its rows.
+/// The cells of a row: at least two blanks stand between them.
+std::vector<std::string> Cells(const std::string& row)
+{
+    static const std::regex gap(" {2,}");
+    return {std::sregex_token_iterator(row.begin(), row.end(), gap, -1), {}};
+}
+
+/// The book shows some columns of a table, in their order, and some of its rows.
 void ExpectTable(const std::vector<std::string>& shown, const std::vector<std::string>& told)
 {
     ASSERT_FALSE(told.empty());
-    const auto headings = Words(told.front());
+    const auto headings = Cells(told.front());
     std::vector<std::size_t> columns;
-    for (const auto& heading : Words(shown.front()))
+    auto next = headings.begin();
+    for (const auto& heading : Cells(shown.front()))
     {
-        const auto column = std::ranges::find(headings, heading);
-        ASSERT_NE(column, headings.end()) << heading;
-        columns.push_back(static_cast<std::size_t>(column - headings.begin()));
+        next = std::find(next, headings.end(), heading);
+        ASSERT_NE(next, headings.end()) << heading;
+        columns.push_back(static_cast<std::size_t>(next++ - headings.begin()));
     }
     for (std::size_t row = 1; row < shown.size(); ++row)
     {
@@ -106,8 +152,8 @@ void ExpectTable(const std::vector<std::string>& shown, const std::vector<std::s
         ASSERT_NE(line, told.end()) << part;
         std::vector<std::string> cells;
         std::ranges::transform(columns, std::back_inserter(cells),
-                               [&](std::size_t column) { return Words(*line).at(column); });
-        EXPECT_EQ(Words(shown[row]), cells);
+                               [&](std::size_t column) { return Cells(*line).at(column); });
+        EXPECT_EQ(Cells(shown[row]), cells);
     }
 }
 
@@ -118,12 +164,17 @@ class BookCommands : public testing::TestWithParam<const char*>
 TEST_P(BookCommands, AnswerWhatTheBookShows)
 {
     const auto commands = CommandsOfBook(GetParam());
-    EXPECT_GE(commands.size(), 12U);
+    EXPECT_GE(commands.size(), 30U);
+    const ReadersFolder folder(GetParam());
     for (const auto& shown : commands)
     {
         SCOPED_TRACE(shown.Command);
-        ASSERT_FALSE(shown.Answer.empty());
-        const auto told = ToldBy(shown.Command);
+        const auto told = ToldBy(shown.Command, folder);
+        if (shown.Answer.empty())
+        {
+            EXPECT_EQ(told, "");
+            continue;
+        }
         if (shown.Answer.front().starts_with("PART "))
         {
             ExpectTable(shown.Answer, Lines(told));
@@ -149,7 +200,11 @@ TEST(BookCommands, AreTheSameInBothBooks)
     {
         EXPECT_EQ(Words(english[i].Command)[1], Words(japanese[i].Command)[1]);
         EXPECT_EQ(english[i].Answer.size(), japanese[i].Answer.size());
-        EXPECT_THAT(japanese[i].Command, testing::HasSubstr(" --code jis"));
+        // Part files hold both codes.
+        if (Words(english[i].Command)[1] != "data")
+        {
+            EXPECT_THAT(japanese[i].Command, testing::HasSubstr(" --code jis"));
+        }
     }
 }
 

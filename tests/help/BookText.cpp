@@ -4,12 +4,17 @@
 #include <regex>
 #include <sstream>
 
-std::string BookText(const std::string& name)
+std::string FileText(const std::filesystem::path& path)
 {
-    std::ifstream file(std::string(BOOKS) + "/" + name, std::ios::binary);
+    std::ifstream file(path, std::ios::binary);
     std::ostringstream text;
     text << file.rdbuf();
     return text.str();
+}
+
+std::string BookText(const std::string& name)
+{
+    return FileText(std::string(BOOKS) + "/" + name);
 }
 
 std::vector<std::string> All(const std::string& text, const char* pattern)

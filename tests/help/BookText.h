@@ -2,8 +2,12 @@
 
 /// What the tests of the help books share: their texts, and parts of these.
 
+#include <filesystem>
 #include <string>
 #include <vector>
+
+/// All bytes of a file.
+std::string FileText(const std::filesystem::path& path);
 
 /// The text of a book as it is made, by its file name.
 std::string BookText(const std::string& name);

@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <array>
-#include <fstream>
 #include <regex>
 #include <set>
 #include <span>
@@ -64,14 +63,6 @@ bool IsMessage(std::span<const SourceText> statement, const std::filesystem::pat
            std::ranges::any_of(statement, [](const SourceText& text) { return EndsSentence(text.Text); });
 }
 
-std::string TextOf(const std::filesystem::path& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
-}
-
 /// What no user reads: the stand-in for numbers that no error of the program has.
 bool IsNeverShown(const std::string& text)
 {
@@ -80,7 +71,7 @@ bool IsNeverShown(const std::string& text)
 
 void AddMessages(const std::filesystem::path& source, std::set<std::string>& pieces)
 {
-    const auto texts = TextsOfSource(TextOf(source));
+    const auto texts = TextsOfSource(FileText(source));
     for (auto first = texts.begin(); first != texts.end();)
     {
         const auto last = std::find_if(
