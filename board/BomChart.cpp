@@ -1,5 +1,6 @@
 #include "board/BomChart.h"
 
+#include "board/BomText.h"
 #include "calc/Capacitance.h"
 #include "calc/Conditions.h"
 #include "find/KindsOfData.h"
@@ -29,11 +30,6 @@ struct AmbientCurve
 std::string Volts(double value)
 {
     return FourDigits(static_cast<float>(value)) + " V";
-}
-
-std::string Farads(double picofarads)
-{
-    return CapacitanceInFourDigits(static_cast<float>(picofarads));
 }
 
 /// A value to end an axis at: the next one that reads easily.
@@ -97,7 +93,7 @@ public:
     {
         const auto& wanted = item.Question.Asked.Wanted;
         double limit = wanted.LeastCapacitance.value_or(0);
-        const auto left = Figure(FoundColumn::Left);
+        const auto left = item.Figure(FoundColumn::Left);
         if (wanted.LeastLeft && left && *left > 0)
         {
             limit = std::max(limit, double{*wanted.LeastLeft} / *left * Least().value_or(Point{}).Y);
@@ -109,16 +105,11 @@ public:
     std::optional<Point> Least() const
     {
         const auto place = item.Judged ? item.Judged->Figures.ConditionsAt(FoundPlace::Least) : std::nullopt;
-        const auto total = Figure(FoundColumn::Total);
+        const auto total = item.Figure(FoundColumn::Total);
         return place && total ? std::optional(Point{(*place)[0], *total}) : std::nullopt;
     }
 
 private:
-    std::optional<double> Figure(FoundColumn column) const
-    {
-        return item.Judged ? item.Judged->Figures.ValueOf(column) : std::nullopt;
-    }
-
     void AddCurve(float ambientC, int pointCount)
     {
         if (!IsClassAmbientPermitted(ambientC, *item.Part, at.View))
@@ -258,7 +249,7 @@ private:
     void AddHeightLabel(double picofarads)
     {
         AddLabel({left - 3, Y(picofarads) + chart.Size.TextHeight * middleToBase}, TextAnchor::End,
-                 Farads(picofarads), frameColor);
+                 FaradsText(picofarads), frameColor);
     }
 
     void AddLabel(const Point& place, TextAnchor anchor, std::string text, const Color& ink)

@@ -1,17 +1,23 @@
 #include "board/BomFormats.h"
 
 #include "board/BomCsv.h"
+#include "board/BomReport.h"
 #include "board/BomText.h"
 
 #include <array>
 
 std::span<const BomFormat> BomFormats()
 {
-    static constexpr std::array<BomFormat, 2> formats = {{
+    static constexpr std::array<BomFormat, 3> formats = {{
         {{"table", "if left out"},
-         [](const JudgedBom& bom, const BomTable& /*bill*/, const BomSettings& settings)
-         { return BomText(bom, settings); }},
-        {{"csv", ""}, BomCsv},
+         [](const CheckedBom& bom, const BomSettings& settings, const BomNames& /*names*/)
+         { return BomText(bom.Judged, settings); }},
+        {{"csv", ""},
+         [](const CheckedBom& bom, const BomSettings& settings, const BomNames& /*names*/)
+         { return BomCsv(bom.Judged, bom.Bill, settings); }},
+        {{"html", ""},
+         [](const CheckedBom& bom, const BomSettings& settings, const BomNames& /*names*/)
+         { return BomReport(bom, settings); }},
     }};
     return formats;
 }

@@ -2,15 +2,23 @@
 
 /// The verdicts on a board in the formats that the command line writes.
 
-#include "board/BomVerdict.h"
+#include "board/BomCheck.h"
 #include "requests/OutputFormat.h"
 
 #include <span>
 #include <string>
 
-using BomFormat =
-    OutputFormat<std::string (*)(const JudgedBom& bom, const BomTable& bill, const BomSettings& settings)>;
+/// What the files of a board are called in answers.
+struct BomNames
+{
+    std::string Bill;
+    /// Empty where there are none.
+    std::string Conditions;
+};
 
-/// All formats, the one that holds where none is named foremost: a table for people, and CSV with the columns
-/// of the bill before its own.
+using BomFormat =
+    OutputFormat<std::string (*)(const CheckedBom& bom, const BomSettings& settings, const BomNames& names)>;
+
+/// All formats, the one that holds where none is named foremost: a table for people, CSV with the columns of
+/// the bill before its own, and a page for people.
 std::span<const BomFormat> BomFormats();

@@ -18,11 +18,6 @@ std::string Digits(double value)
     return FourDigits(static_cast<float>(value));
 }
 
-std::string Farads(double picofarads)
-{
-    return CapacitanceInFourDigits(static_cast<float>(picofarads));
-}
-
 std::string Fixed(double value, int decimals)
 {
     std::array<char, 400> text{};
@@ -31,37 +26,9 @@ std::string Fixed(double value, int decimals)
     return {text.data(), end};
 }
 
-/// "-65.0 %".
-std::string Tenths(double percent)
-{
-    return Fixed(percent, 1) + " %";
-}
-
 std::string OrHyphen(const std::string& text)
 {
     return text.empty() ? "-" : WithoutControls(text);
-}
-
-/// "5.398uF 54 %" of what one part has at least.
-std::string CapacitanceText(const JudgedItem& item)
-{
-    const auto& figures = item.Judged->Figures;
-    const auto least = figures.ValueOf(FoundColumn::EffectiveCapacitance);
-    const auto left = figures.ValueOf(FoundColumn::Left);
-    return least && left ? Farads(*least) + ' ' + Tenths(*left) : "";
-}
-
-/// "0.33 C of 20", the rise and what is permitted.
-std::string RiseText(const JudgedItem& item)
-{
-    for (const BomLimit& limit : item.Judged->Limits)
-    {
-        if (limit.Name == "rise")
-        {
-            return Fixed(limit.Found, 2) + " C of " + Digits(limit.Wanted);
-        }
-    }
-    return "";
 }
 
 /// "try 2 x KTS31NB51V106MA01 1206 X5R 10uF 35V (2.099uF, 25 %)".
@@ -76,8 +43,8 @@ std::string SuggestionText(const JudgedItem& item, const BomSettings& settings)
     const auto number = Utf8FromWindows1252(part->PartNum[view + settings.NumberingOffset]);
     return "; try " + (count > 1 ? std::to_string(count) + " x " : "") + number + ' ' +
            Utf8FromWindows1252(part->SizeCode[view]) + ' ' + Utf8FromWindows1252(part->Tcc[view]) + ' ' +
-           Farads(part->Data[Value::NominalCapacitance]) + ' ' + Digits(part->Data[Value::RatedVoltage]) +
-           "V (" + (least ? Farads(*least) + ", " : "") + Digits(std::round(reserve)) + " %)";
+           FaradsText(part->Data[Value::NominalCapacitance]) + ' ' + Digits(part->Data[Value::RatedVoltage]) +
+           "V (" + (least ? FaradsText(*least) + ", " : "") + Digits(std::round(reserve)) + " %)";
 }
 
 ListRow RowOf(const JudgedItem& item, const BomSettings& settings)
@@ -86,20 +53,10 @@ ListRow RowOf(const JudgedItem& item, const BomSettings& settings)
             OrHyphen(ReferenceText(item.Item->References)),
             OrHyphen(item.Item->TextOf(BomField::Part)),
             OrHyphen(item.Item->TextOf(BomField::Net)),
-            item.Reserve ? Tenths(*item.Reserve) : "-",
-            item.Judged ? CapacitanceText(item) : "",
-            item.Judged ? RiseText(item) : "",
+            item.Reserve ? PercentText(*item.Reserve) : "-",
+            LeastText(item),
+            RiseText(item),
             ReasonsText(item, settings)};
-}
-
-std::string Parts(const JudgedNet& net)
-{
-    int count = 0;
-    for (const NetPiece& piece : net.Pieces)
-    {
-        count += piece.Count;
-    }
-    return std::to_string(count) + (count == 1 ? " part" : " parts");
 }
 
 /// "net +12V: 3 parts, 20.1uF nominal, at least 10.87uF at 13.2 V, -10 C, 10uF wanted: warn (+8.7 %); 2.257
@@ -111,18 +68,17 @@ std::string NetText(const JudgedNet& net)
     {
         return name + "no total: " + net.Reason + '\n';
     }
-    const auto& at = net.Answer.LeastAt;
-    auto text = name + Parts(net) + ", " + Farads(net.Answer.Nominal) + " nominal, at least " +
-                Farads(*net.Answer.Least) + " at " + Digits(at.BiasVolts) + " V, " + Digits(at.AmbientC) +
-                " C";
+    auto text = name + std::to_string(net.Parts()) + (net.Parts() == 1 ? " part" : " parts") + ", " +
+                FaradsText(net.Answer.Nominal) + " nominal, at least " + FaradsText(*net.Answer.Least) +
+                " at " + PlaceText(net.Answer.LeastAt);
     if (net.Wanted)
     {
-        text += ", " + Farads(*net.Wanted) +
+        text += ", " + FaradsText(*net.Wanted) +
                 " wanted: " + std::string(BomVerdictNames.at(static_cast<std::size_t>(net.Verdict)));
     }
     if (net.Reserve)
     {
-        text += " (" + std::string(*net.Reserve > 0 ? "+" : "") + Tenths(*net.Reserve) + ')';
+        text += " (" + std::string(*net.Reserve > 0 ? "+" : "") + PercentText(*net.Reserve) + ')';
     }
     text += net.Answer.Arms ? "; " + Digits(*net.Answer.Arms) + " Arms shared" : "";
     return text + (net.Reason.empty() ? "" : "; " + net.Reason) + '\n';
@@ -134,6 +90,34 @@ std::string ReasonsText(const JudgedItem& item, const BomSettings& settings)
     auto reasons = ListOf(item.Reasons, "; ");
     reasons += item.Near.empty() ? "" : "; near: " + ListOf(item.Near);
     return WithoutControls(reasons) + SuggestionText(item, settings);
+}
+
+std::string FaradsText(double picofarads)
+{
+    return CapacitanceInFourDigits(static_cast<float>(picofarads));
+}
+
+std::string PercentText(double percent)
+{
+    return Fixed(percent, 1) + " %";
+}
+
+std::string PlaceText(const Place& place)
+{
+    return Digits(place.BiasVolts) + " V, " + Digits(place.AmbientC) + " C";
+}
+
+std::string LeastText(const JudgedItem& item)
+{
+    const auto least = item.Figure(FoundColumn::EffectiveCapacitance);
+    const auto left = item.Figure(FoundColumn::Left);
+    return least && left ? FaradsText(*least) + ' ' + PercentText(*left) : "";
+}
+
+std::string RiseText(const JudgedItem& item)
+{
+    const auto* rise = item.Limit("rise");
+    return rise == nullptr ? "" : Fixed(rise->Found, 2) + " C of " + Digits(rise->Wanted);
 }
 
 std::string CountsText(const JudgedBom& bom)
@@ -160,8 +144,7 @@ std::string BomText(const JudgedBom& bom, const BomSettings& settings)
                     : AlignedTable(std::move(rows), {false, false, false, false, true, false, false, false});
     for (const JudgedNet& net : bom.Nets)
     {
-        const bool isTold = net.Pieces.size() > 1 || net.Wanted || net.Answer.Arms || !net.Answer.Least;
-        text += isTold ? NetText(net) : "";
+        text += net.IsTold() ? NetText(net) : "";
     }
     return text + CountsText(bom) + '\n';
 }

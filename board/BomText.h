@@ -13,5 +13,21 @@ std::string BomText(const JudgedBom& bom, const BomSettings& settings);
 /// verdict is as it is, part numbers near an unknown one, and what passes instead.
 std::string ReasonsText(const JudgedItem& item, const BomSettings& settings);
 
+/// What one part has at least and how much of its nominal capacitance that is: "5.398uF 54.0 %"; empty where
+/// nothing is known.
+std::string LeastText(const JudgedItem& item);
+
+/// The rise and what of it is permitted: "0.33 C of 20"; empty without a load.
+std::string RiseText(const JudgedItem& item);
+
+/// "-65.0 %".
+std::string PercentText(double percent);
+
+/// "10.87uF" of so many pF.
+std::string FaradsText(double picofarads);
+
+/// "13.2 V, -10 C".
+std::string PlaceText(const Place& place);
+
 /// "4 fail, 2 unknown, 0 warn, 6 ok; 2 rows skipped, 1 not fitted".
 std::string CountsText(const JudgedBom& bom);

@@ -18,6 +18,7 @@
 namespace
 {
 constexpr double percent = 100;
+const std::vector<BomLimit> noLimits;
 
 /// Letters to change, add or drop from one name to another.
 std::size_t StepsTo(const std::string& name, std::string_view other)
@@ -323,6 +324,29 @@ private:
     JudgedBom bom;
 };
 } // namespace
+
+std::optional<double> JudgedItem::Figure(FoundColumn column) const
+{
+    return Judged ? Judged->Figures.ValueOf(column) : std::nullopt;
+}
+
+const BomLimit* JudgedItem::Limit(std::string_view name) const
+{
+    const auto& limits = Judged ? Judged->Limits : noLimits;
+    const auto found = std::ranges::find(limits, name, &BomLimit::Name);
+    return found == limits.end() ? nullptr : &*found;
+}
+
+int JudgedNet::Parts() const
+{
+    return std::accumulate(Pieces.begin(), Pieces.end(), 0,
+                           [](int sum, const NetPiece& piece) { return sum + piece.Count; });
+}
+
+bool JudgedNet::IsTold() const
+{
+    return Pieces.size() > 1 || Wanted || Answer.Arms || !Answer.Least;
+}
 
 bool JudgedBom::Has(BomVerdict verdict) const
 {

@@ -44,6 +44,11 @@ struct JudgedItem
     std::optional<BomSuggestion> Suggestion;
     /// Suggestions were looked for.
     bool WasSuggested = false;
+
+    /// A figure of the part; nothing where it is empty.
+    std::optional<double> Figure(FoundColumn column) const;
+    /// A limit by its name; null where it is not judged.
+    const BomLimit* Limit(std::string_view name) const;
 };
 
 struct JudgedNet
@@ -56,6 +61,11 @@ struct JudgedNet
     /// In percent.
     std::optional<double> Reserve;
     std::string Reason;
+
+    /// Of all pieces.
+    int Parts() const;
+    /// True where there is more to tell than the row of its only piece does.
+    bool IsTold() const;
 };
 
 struct JudgedBom

@@ -82,7 +82,8 @@ std::string SvgOf(const BomChart& chart)
     const auto height = Pixels(chart.Size.Height);
     auto svg = "<svg" + Attribute("width", width) + Attribute("height", height) +
                Attribute("viewBox", "0 0 " + width + ' ' + height) +
-               Attribute("font-size", Pixels(chart.Size.TextHeight)) + Attribute("fill", "none") + '>';
+               Attribute("font-size", Pixels(chart.Size.TextHeight)) + Attribute("fill", "none") +
+               Attribute("role", "img") + Attribute("aria-label", "Capacitance over DC bias") + '>';
     AddAll(svg, chart.Bands);
     AddAll(svg, chart.Strokes);
     AddAll(svg, chart.Dots);

@@ -126,7 +126,8 @@ static void TellBom(BomOptions options)
     const auto checked = Checked(options, parts);
     const auto& bom = checked->Judged;
     Output output(options.OutputFile);
-    output.Write(FormatNamed(BomFormats(), options.Format).Write(bom, checked->Bill, options.Settings));
+    output.Write(FormatNamed(BomFormats(), options.Format)
+                     .Write(*checked, options.Settings, {options.Bill, options.Conditions}));
     output.Finish();
     const bool isStrictlyHeld = !bom.Has(BomVerdict::Unknown) && !bom.Has(BomVerdict::Warn);
     if (bom.Has(BomVerdict::Fail) || (options.IsStrict && !isStrictlyHeld))
