@@ -37,6 +37,13 @@ static void Join(CheckedBom& checked, const BomAsked& asked)
     checked.Warnings.insert(checked.Warnings.end(), stale.begin(), stale.end());
 }
 
+std::string RemarkText(const BomRemark& remark, const BomNames& names)
+{
+    const auto line = remark.Note.Line > 0 ? "line " + std::to_string(remark.Note.Line) + ": " : "";
+    const auto file = (remark.IsOfConditions ? names.Conditions : names.Bill) + ": ";
+    return (remark.IsOfOptions ? "" : file) + line + remark.Note.Text;
+}
+
 std::unique_ptr<const CheckedBom> CheckBom(BomTexts texts, const BomAsked& asked, const PartTable& parts)
 {
     auto checked = std::make_unique<CheckedBom>();

@@ -18,6 +18,14 @@ struct BomTexts
     std::optional<std::string> Conditions = {};
 };
 
+/// What the two files are called.
+struct BomNames
+{
+    std::string Bill;
+    /// Empty where there is none.
+    std::string Conditions = {};
+};
+
 /// What is asked of a board beside its files.
 struct BomAsked
 {
@@ -43,6 +51,9 @@ struct CheckedBom
     /// Of the first step that has any: reading, joining, judging.
     std::vector<BomRemark> Faults = {};
 };
+
+/// "board.csv: line 12: dc bias: ...".
+std::string RemarkText(const BomRemark& remark, const BomNames& names);
 
 /// Reads, joins and judges; the parts must outlive the answer.
 std::unique_ptr<const CheckedBom> CheckBom(BomTexts texts, const BomAsked& asked, const PartTable& parts);

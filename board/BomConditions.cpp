@@ -3,6 +3,7 @@
 #include "board/References.h"
 
 #include <algorithm>
+#include <charconv>
 #include <map>
 
 namespace
@@ -281,6 +282,16 @@ bool BomItem::IsFitted() const
         return !word.empty() && word != "0" && word != "no" && word != "false";
     };
     return !says(BomField::NotFitted) && (TextOf(BomField::Fitted).empty() || says(BomField::Fitted));
+}
+
+std::size_t BomItem::Parts() const
+{
+    const auto& quantity = TextOf(BomField::Quantity);
+    std::size_t count = 0;
+    const auto read = std::from_chars(quantity.data(), quantity.data() + quantity.size(), count);
+    const bool isCount = read.ec == std::errc() && read.ptr == quantity.data() + quantity.size() &&
+                         count > 0 && count <= mostReferences;
+    return !References.empty() ? References.size() : (isCount ? count : 1);
 }
 
 JoinedBom JoinBom(const BomTable& bill, const BomTable& conditions, const BomCells& options)

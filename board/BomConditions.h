@@ -23,6 +23,8 @@ struct BomItem
     /// The text of a cell; empty where there is none.
     const std::string& TextOf(BomField field) const;
     bool IsFitted() const;
+    /// How many parts it is: as many as there are references; where there are none, the quantity.
+    std::size_t Parts() const;
 };
 
 /// A note with the file that it is about.
@@ -30,6 +32,8 @@ struct BomRemark
 {
     BomNote Note;
     bool IsOfConditions = false;
+    /// About an option of the command rather than a file.
+    bool IsOfOptions = false;
 };
 
 struct JoinedBom

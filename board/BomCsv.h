@@ -2,10 +2,11 @@
 
 /// The verdicts on a board as CSV.
 
-#include "board/BomVerdict.h"
+#include "board/BomCheck.h"
 
 #include <string>
 
-/// The columns of the bill as they are, then those of the verdict: a row a judged item. Separated by commas,
+/// The columns of the bill as they are, then those of the verdict, the figures of the part, and what passes
+/// in its place: a row a judged item, then those that are skipped or not fitted. Separated by commas,
 /// whatever the bill is.
-std::string BomCsv(const JudgedBom& bom, const BomTable& bill, const BomSettings& settings);
+std::string BomCsv(const CheckedBom& bom, const BomSettings& settings);

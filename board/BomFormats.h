@@ -8,17 +8,9 @@
 #include <span>
 #include <string>
 
-/// What the files of a board are called in answers.
-struct BomNames
-{
-    std::string Bill;
-    /// Empty where there are none.
-    std::string Conditions;
-};
-
 using BomFormat =
     OutputFormat<std::string (*)(const CheckedBom& bom, const BomSettings& settings, const BomNames& names)>;
 
 /// All formats, the one that holds where none is named foremost: a table for people, CSV with the columns of
-/// the bill before its own, and a page for people.
+/// the bill before its own, JSON, and a page for people.
 std::span<const BomFormat> BomFormats();

@@ -194,6 +194,8 @@ private:
         const PermittedRise rise{.MaxC = pieces[index].Part->Data[Value::UpperTemperature], .Wanted = wanted};
         const double permitted = rise.At(place.AmbientC);
         const double margin = permitted - piece.WorstRise;
+        const double body = place.AmbientC + piece.WorstRise;
+        share.Body = isFirst ? body : std::max(share.Body, body);
         share.Arms = std::max(share.Arms, piece.WorstArms);
         if (isFirst || piece.WorstRise > share.Rise)
         {

@@ -29,6 +29,8 @@ struct NetShare
     double Reserve = 0;
     double PermittedRise = 0;
     Place MarginAt;
+    /// The highest temperature, in °C.
+    double Body = 0;
 };
 
 struct NetAnswer

@@ -124,7 +124,8 @@ private:
         const auto& cell = item.Cells[static_cast<std::size_t>(field)];
         faults.push_back(
             {{cell ? cell->Line : item.Line, std::string(KindOf(field).Name) + ": " + OneLine(message)},
-             cell && cell->IsOfConditions});
+             cell && cell->IsOfConditions,
+             cell && cell->Line == 0});
     }
 
     void ReadRange(BomField field, ConditionRange& target)

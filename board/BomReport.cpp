@@ -116,7 +116,7 @@ std::string RowOf(const JudgedItem& item, const BomSettings& settings)
 {
     const auto chart = ChartOf(item);
     return "<tr>" + VerdictCell(item.Verdict) + Cell(ReferenceText(item.Item->References)) +
-           Cell(item.Item->TextOf(BomField::Part), "part") + Cell(item.Item->TextOf(BomField::Net)) +
+           Cell(PartText(item, settings), "part") + Cell(item.Item->TextOf(BomField::Net)) +
            Cell(item.Part != nullptr ? ConditionsText(item.Question) : "") +
            Cell(item.Reserve ? PercentText(*item.Reserve) : "", "number") + Cell(LeastText(item), "number") +
            Cell(RiseText(item), "number") + Cell(ReasonsText(item, settings)) + "<td>" +

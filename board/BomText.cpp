@@ -40,8 +40,7 @@ std::string SuggestionText(const JudgedItem& item, const BomSettings& settings)
     }
     const auto& [part, count, least, reserve] = *item.Suggestion;
     const auto view = static_cast<std::size_t>(settings.View);
-    const auto number = Utf8FromWindows1252(part->PartNum[view + settings.NumberingOffset]);
-    return "; try " + (count > 1 ? std::to_string(count) + " x " : "") + number + ' ' +
+    return "; try " + (count > 1 ? std::to_string(count) + " x " : "") + NumberOf(*part, settings) + ' ' +
            Utf8FromWindows1252(part->SizeCode[view]) + ' ' + Utf8FromWindows1252(part->Tcc[view]) + ' ' +
            FaradsText(part->Data[Value::NominalCapacitance]) + ' ' + Digits(part->Data[Value::RatedVoltage]) +
            "V (" + (least ? FaradsText(*least) + ", " : "") + Digits(std::round(reserve)) + " %)";
@@ -51,7 +50,7 @@ ListRow RowOf(const JudgedItem& item, const BomSettings& settings)
 {
     return {std::string(BomVerdictNames.at(static_cast<std::size_t>(item.Verdict))),
             OrHyphen(ReferenceText(item.Item->References)),
-            OrHyphen(item.Item->TextOf(BomField::Part)),
+            OrHyphen(PartText(item, settings)),
             OrHyphen(item.Item->TextOf(BomField::Net)),
             item.Reserve ? PercentText(*item.Reserve) : "-",
             LeastText(item),
@@ -90,6 +89,17 @@ std::string ReasonsText(const JudgedItem& item, const BomSettings& settings)
     auto reasons = ListOf(item.Reasons, "; ");
     reasons += item.Near.empty() ? "" : "; near: " + ListOf(item.Near);
     return WithoutControls(reasons) + SuggestionText(item, settings);
+}
+
+std::string NumberOf(const PartRecord& part, const BomSettings& settings)
+{
+    return Utf8FromWindows1252(
+        part.PartNum[static_cast<std::size_t>(settings.View) + settings.NumberingOffset]);
+}
+
+std::string PartText(const JudgedItem& item, const BomSettings& /*settings*/)
+{
+    return item.Item->TextOf(BomField::Part);
 }
 
 std::string FaradsText(double picofarads)

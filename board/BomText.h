@@ -13,6 +13,12 @@ std::string BomText(const JudgedBom& bom, const BomSettings& settings);
 /// verdict is as it is, part numbers near an unknown one, and what passes instead.
 std::string ReasonsText(const JudgedItem& item, const BomSettings& settings);
 
+/// The number of the part, as the bill has it.
+std::string PartText(const JudgedItem& item, const BomSettings& settings);
+
+/// The number of a part in the form on display.
+std::string NumberOf(const PartRecord& part, const BomSettings& settings);
+
 /// What one part has at least and how much of its nominal capacitance that is: "5.398uF 54.0 %"; empty where
 /// nothing is known.
 std::string LeastText(const JudgedItem& item);

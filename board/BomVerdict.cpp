@@ -71,15 +71,12 @@ private:
 
     void Take(const BomItem& item)
     {
-        if (!item.IsFitted())
-        {
-            bom.NotFitted += IsCounted(item) || PartOf(item) != nullptr ? 1 : 0;
-            return;
-        }
         const PartRecord* part = PartOf(item);
-        if (part == nullptr && !IsCounted(item))
+        const bool isOther = part == nullptr && !IsCounted(item);
+        if (isOther || !item.IsFitted())
         {
-            ++bom.Skipped;
+            ++(isOther ? bom.Skipped : bom.NotFitted);
+            bom.Unjudged.push_back(&item);
             return;
         }
         JudgedItem& judged = bom.Items.emplace_back();
@@ -172,8 +169,8 @@ private:
             const JudgedItem& judged = bom.Items[item];
             isWhole = isWhole && judged.Part != nullptr;
             net.Pieces.push_back({judged.Part, &judged.Question,
-                                  static_cast<int>(std::max<std::size_t>(1, judged.Item->References.size())) *
-                                      judged.Question.Parallel()});
+                                  static_cast<int>(judged.Item->Parts()) * judged.Question.Parallel()});
+            net.Items.push_back(item);
             net.Wanted = judged.Question.NetMinCapacitance;
         }
         if (isWhole)
@@ -306,14 +303,41 @@ private:
         {
             ++bom.Counts.at(static_cast<std::size_t>(item.Verdict));
         }
-        if (!settings.IsByLine)
+        if (settings.IsByLine)
         {
-            std::ranges::stable_sort(bom.Items, {},
-                                     [](const JudgedItem& item) {
-                                         return std::tuple(
-                                             item.Verdict,
-                                             item.Reserve.value_or(std::numeric_limits<double>::max()));
-                                     });
+            return;
+        }
+        std::vector<std::size_t> order(bom.Items.size());
+        std::iota(order.begin(), order.end(), std::size_t{0});
+        std::ranges::stable_sort(
+            order, {},
+            [this](std::size_t index)
+            {
+                const JudgedItem& item = bom.Items[index];
+                return std::tuple(item.Verdict, item.Reserve.value_or(std::numeric_limits<double>::max()));
+            });
+        Arrange(order);
+    }
+
+    /// Puts the items in an order, and tells the nets where theirs are.
+    void Arrange(const std::vector<std::size_t>& order)
+    {
+        std::vector<JudgedItem> items;
+        std::vector<std::size_t> places(order.size());
+        items.reserve(order.size());
+        for (const std::size_t index : order)
+        {
+            places[index] = items.size();
+            items.push_back(std::move(bom.Items[index]));
+        }
+        bom.Items = std::move(items);
+        for (JudgedNet& net : bom.Nets)
+        {
+            for (std::size_t i = 0; i < net.Items.size(); ++i)
+            {
+                net.Items[i] = places[net.Items[i]];
+                net.Pieces[i].Question = &bom.Items[net.Items[i]].Question;
+            }
         }
     }
 
@@ -328,6 +352,21 @@ private:
 std::optional<double> JudgedItem::Figure(FoundColumn column) const
 {
     return Judged ? Judged->Figures.ValueOf(column) : std::nullopt;
+}
+
+bool JudgedItem::IsLoaded() const
+{
+    return Question.Asked.At.Load || !Question.NetRipple.empty();
+}
+
+FindQuestion JudgedItem::ToldQuestion() const
+{
+    auto told = Question.Asked;
+    if (Share)
+    {
+        told.At.Load = AcLoad{.Kind = Quantity::Current, .Value = static_cast<float>(Share->Arms)};
+    }
+    return told;
 }
 
 const BomLimit* JudgedItem::Limit(std::string_view name) const

@@ -31,6 +31,8 @@ struct JudgedItem
     BomQuestion Question;
     /// Null for a part that is not in the range.
     const PartRecord* Part = nullptr;
+    /// The part is the only one of the values that the bill tells.
+    bool IsByValue = false;
     /// Part numbers like the one that is not in the range.
     std::vector<std::string> Near;
     BomVerdict Verdict = BomVerdict::Unknown;
@@ -47,6 +49,10 @@ struct JudgedItem
 
     /// A figure of the part; nothing where it is empty.
     std::optional<double> Figure(FoundColumn column) const;
+    /// True where a load of its own or a net's is judged.
+    bool IsLoaded() const;
+    /// The question that figures are told under: with the share of the net's current as the load.
+    FindQuestion ToldQuestion() const;
     /// A limit by its name; null where it is not judged.
     const BomLimit* Limit(std::string_view name) const;
 };
@@ -55,6 +61,8 @@ struct JudgedNet
 {
     std::string Name;
     std::vector<NetPiece> Pieces;
+    /// Of each piece: its index among the judged items.
+    std::vector<std::size_t> Items;
     NetAnswer Answer;
     std::optional<float> Wanted;
     BomVerdict Verdict = BomVerdict::Unknown;
@@ -76,6 +84,8 @@ struct JudgedBom
     std::array<std::size_t, 4> Counts = {};
     std::size_t Skipped = 0;
     std::size_t NotFitted = 0;
+    /// What is not judged, in the order of the bill; whether it is fitted tells why.
+    std::vector<const BomItem*> Unjudged;
     std::vector<BomRemark> Faults;
 
     bool Has(BomVerdict verdict) const;

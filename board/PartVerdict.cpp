@@ -1,6 +1,7 @@
 #include "board/PartVerdict.h"
 
 #include "calc/Conditions.h"
+#include "calc/CornerCapacitance.h"
 #include "find/PartFinder.h"
 #include "find/PointColumns.h"
 #include "partdata/RunTimeError.h"
@@ -52,6 +53,7 @@ public:
         }
         JudgeBias();
         Fill();
+        TakeShare();
         JudgeCapacitance();
         JudgeRise();
         JudgeLoss();
@@ -101,6 +103,32 @@ private:
         if (noCapacitance == LeftOutReason::TemperatureOutOfRange)
         {
             answer.Missed.emplace_back("the ambient temperature is outside the range of the characteristic");
+        }
+    }
+
+    /// What the part bears of a net's current, in the place of what a load of its own would do.
+    void TakeShare()
+    {
+        if (share == nullptr)
+        {
+            return;
+        }
+        FoundPart& figures = answer.Figures;
+        figures.Set(FoundColumn::Rise, share->Rise);
+        figures.Set(FoundColumn::PermittedRise, share->PermittedRise);
+        figures.Set(FoundColumn::Margin, share->Margin);
+        figures.Set(FoundColumn::Body, share->Body);
+        const auto& at = question.Asked.At;
+        const auto body = static_cast<float>(share->Body);
+        const auto warm =
+            noCapacitance || !IsClassAmbientPermitted(body, part, at.View)
+                ? std::nullopt
+                : CapacitanceExtremesIn(
+                      part, {.BiasVolts = at.BiasVolts, .AmbientC = {at.AmbientC.Low, body}}, at.View);
+        if (warm)
+        {
+            figures.Set(FoundColumn::WarmCapacitance,
+                        warm->Least.Point.PicoFarads * (1 - at.Tolerance.Down / percent));
         }
     }
 

@@ -5,6 +5,7 @@
 #include "board/FilesBeside.h"
 #include "cli/Command.h"
 #include "cli/Commands.h"
+#include "cli/DataTables.h"
 #include "cli/FileArguments.h"
 #include "cli/FilterOptions.h"
 #include "cli/Output.h"
@@ -17,9 +18,6 @@
 #include "terminal/Terminal.h"
 
 #include <CLI/CLI.hpp>
-
-#include <iostream>
-#include <iterator>
 
 namespace
 {
@@ -37,6 +35,7 @@ struct BomOptions
     std::string DataFolder;
     std::string OutputFile;
 
+    BomNames Names() const { return {ShownName(Bill), Conditions.empty() ? "" : ShownName(Conditions)}; }
     const std::string& FileOf(bool isOfConditions) const { return isOfConditions ? Conditions : Bill; }
 };
 
@@ -65,24 +64,12 @@ static std::string Help()
                "a part or a net fails; with --strict also where one is unknown or a warning.");
 }
 
-static void Tell(const BomOptions& options, const BomRemark& remark, const std::string& kind)
-{
-    const auto line = remark.Note.Line > 0 ? ": line " + std::to_string(remark.Note.Line) : "";
-    const auto& file = options.FileOf(remark.IsOfConditions);
-    TellLine("tavik-cli: " + kind + (file == StandardStream ? "standard input" : file) + line + ": " +
-             remark.Note.Text);
-}
-
-static std::string TextOf(const std::string& file)
-{
-    return file == StandardStream ? std::string(std::istreambuf_iterator<char>(std::cin), {})
-                                  : ReadBytes(file, MostBomBytes);
-}
-
 static BomTexts TextsOf(const BomOptions& options)
 {
-    BomTexts texts{.Bill = TextOf(options.Bill)};
-    texts.Conditions = options.Conditions.empty() ? std::nullopt : std::optional(TextOf(options.Conditions));
+    BomTexts texts{.Bill = ReadInput(options.Bill, MostBomBytes)};
+    texts.Conditions = options.Conditions.empty()
+                           ? std::nullopt
+                           : std::optional(ReadInput(options.Conditions, MostBomBytes));
     return texts;
 }
 
@@ -97,9 +84,11 @@ static std::unique_ptr<const CheckedBom> Checked(const BomOptions& options, cons
                              .Settings = options.Settings,
                              .Waveforms = waveforms},
                             parts);
-    std::ranges::for_each(checked->Warnings,
-                          [&](const auto& warning) { Tell(options, warning, "warning: "); });
-    std::ranges::for_each(checked->Faults, [&](const auto& fault) { Tell(options, fault, ""); });
+    const auto names = options.Names();
+    std::ranges::for_each(checked->Warnings, [&](const auto& warning)
+                          { TellLine("tavik-cli: warning: " + RemarkText(warning, names)); });
+    std::ranges::for_each(checked->Faults,
+                          [&](const auto& fault) { TellLine("tavik-cli: " + RemarkText(fault, names)); });
     if (!checked->Faults.empty())
     {
         throw Failure("");
@@ -126,8 +115,8 @@ static void TellBom(BomOptions options)
     const auto checked = Checked(options, parts);
     const auto& bom = checked->Judged;
     Output output(options.OutputFile);
-    output.Write(FormatNamed(BomFormats(), options.Format)
-                     .Write(*checked, options.Settings, {options.Bill, options.Conditions}));
+    output.Write(
+        FormatNamed(BomFormats(), options.Format).Write(*checked, options.Settings, options.Names()));
     output.Finish();
     const bool isStrictlyHeld = !bom.Has(BomVerdict::Unknown) && !bom.Has(BomVerdict::Warn);
     if (bom.Has(BomVerdict::Fail) || (options.IsStrict && !isStrictlyHeld))

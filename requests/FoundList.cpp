@@ -215,7 +215,9 @@ std::string CsvHeading(const FoundPlaceKind& place, Quantity condition)
            ShownUnitOf(condition) + ']';
 }
 
-ListRow CsvHeadings()
+} // namespace
+
+std::vector<std::string> FoundHeadings()
 {
     ListRow headings;
     for (const FoundColumnKind& column : FoundColumns())
@@ -230,7 +232,8 @@ ListRow CsvHeadings()
     return headings;
 }
 
-ListRow CsvRow(const FoundPart& part, const FindQuestion& question, const CurveSettings& settings)
+std::vector<std::string> FoundTexts(const FoundPart& part, const FindQuestion& question,
+                                    const CurveSettings& settings)
 {
     ListRow row;
     for (const FoundColumnKind& column : FoundColumns())
@@ -248,11 +251,13 @@ ListRow CsvRow(const FoundPart& part, const FindQuestion& question, const CurveS
     return row;
 }
 
+namespace
+{
 std::string Csv(std::span<const FoundPart> found, const FindQuestion& question, const CurveSettings& settings)
 {
-    std::vector<ListRow> rows = {CsvHeadings()};
+    std::vector<ListRow> rows = {FoundHeadings()};
     std::ranges::transform(found, std::back_inserter(rows),
-                           [&](const FoundPart& part) { return CsvRow(part, question, settings); });
+                           [&](const FoundPart& part) { return FoundTexts(part, question, settings); });
     return CsvOf(rows);
 }
 

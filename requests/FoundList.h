@@ -24,5 +24,12 @@ std::vector<FoundKey> FoundKeysOf(std::string_view typed, const FindQuestion& qu
 using FoundListFormat = OutputFormat<std::string (*)(
     std::span<const FoundPart> found, const FindQuestion& question, const CurveSettings& settings)>;
 
+/// The headings of the CSV: "effective capacitance [pF]".
+std::vector<std::string> FoundHeadings();
+
+/// The texts of a part below them; empty where it or the question has no value.
+std::vector<std::string> FoundTexts(const FoundPart& part, const FindQuestion& question,
+                                    const CurveSettings& settings);
+
 /// All formats, the one that holds where none is named foremost: a table for people, CSV and JSON.
 std::span<const FoundListFormat> FoundListFormats();

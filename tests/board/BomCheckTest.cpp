@@ -30,10 +30,10 @@ WaveformTable NoWaveform(const std::string& /*name*/, bool /*isOfConditions*/)
 std::vector<std::string> Told(const std::vector<BomRemark>& remarks)
 {
     std::vector<std::string> told;
-    for (const auto& [note, isOfConditions] : remarks)
+    for (const BomRemark& remark : remarks)
     {
-        told.push_back((isOfConditions ? "conditions " : "bill ") + std::to_string(note.Line) + ": " +
-                       note.Text);
+        told.push_back((remark.IsOfConditions ? "conditions " : "bill ") + std::to_string(remark.Note.Line) +
+                       ": " + remark.Note.Text);
     }
     return told;
 }

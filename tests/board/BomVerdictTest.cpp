@@ -18,14 +18,6 @@ namespace
 const std::string Part = "KTS31NB51C226MA01";
 } // namespace
 
-TEST(BomVerdict, OfTheSampleBoard)
-{
-    const BomSettings settings{.IsSuggesting = true};
-    const Board board(BoardFile("board.csv"), BoardFile("rails.csv"), settings);
-    EXPECT_THAT(board.Joined.Warnings, IsEmpty());
-    EXPECT_EQ(BomText(board.Judged, settings), BoardFile("verdicts.txt"));
-}
-
 TEST(BomVerdict, FailsAboveTheRatedVoltage)
 {
     EXPECT_EQ(Board("Ref,MPN,Bias\nC1," + Part + ",16V\n").Item().Verdict, BomVerdict::Warn);

@@ -77,8 +77,24 @@ likes = [json.loads(run(["like", *words.split(), "--format", "json"])) for words
     "KTS188B51A475MA01", "KTS32XR71E106KA01", "KTS32XR71E106KA01 --ambient -40..10C --worse 50")]
 assert likes[0]["parts"] and likes[1]["nearest"] and likes[2]["parts"][0]["lossRatio"] is None
 answers += likes
+# A board with all verdicts but one, nets and suggestions, and one whose units and headings are another's.
+boards = pathlib.Path(schema_file).parent.parent / "tests" / "board" / "boards"
+checks = [subprocess.run([program, "bom", *words, "--format", "json"], input=text, capture_output=True, text=True, check=False)
+          for words, text in (
+              ([str(boards / "board.csv"), "--conditions", str(boards / "rails.csv"), "--suggest"], ""),
+              (["-", "--code", "jis", "--sort", "line", "--dc-bias", "5V"], f"Ref\tMPN\tVoltage\tRef\nC1\t{PART}\t10V\tx\n"),
+              (["-"], f"Ref,MPN,Bias,Current,Frequency\nC1,{PART},5V,1A,300kHz\n"))]
+assert [check.returncode for check in checks] == [1, 0, 0]
+boards = [json.loads(check.stdout) for check in checks]
+assert boards[0]["counts"]["fail"] == 4 and boards[0]["nets"] and boards[0]["rows"][0]["suggestions"]
+assert boards[1]["warnings"] and boards[1]["rows"][0]["cells"]["Ref"] == "C1"
+assert boards[2]["rows"][0]["rise"] > 0
+answers += boards
 for answer in answers:
     validator.validate(answer)
+# Neither a row nor a net of a board bears what is not described.
+for place in ("rows", "nets"):
+    assert not validator.is_valid(boards[0] | {place: [boards[0][place][0] | {"colour": 1}]})
 # The sample pair is sound; cut short, it is not.
 with tempfile.TemporaryDirectory() as folder:
     for name, size in (("a.idx", None), ("a.dat", -100)):
