@@ -1,9 +1,8 @@
 #include "app/mdlPublic.h"
-#include "calc/ChartKinds.h"
-#include "calc/NumberText.h"
 #include "chart/ModelSaving.h"
 #include "formkit/RunCommand.h"
 #include "frame/CellTexts.h"
+#include "frame/ChartStart.h"
 #include "frame/FoundTable.h"
 #include "frame/LikeTable.h"
 #include "frame/frmFind.h"
@@ -17,9 +16,6 @@
 
 #include <algorithm>
 #include <ranges>
-
-/// The most lines of a chart.
-static constexpr std::size_t MostToPlot = 6;
 
 void frmFind::ConnectCommands()
 {
@@ -132,37 +128,6 @@ void frmFind::ChooseAgain()
     }
 }
 
-/// The chart type that is asked for, or the first one that the part has data for.
-static std::int16_t ChartTypeOf(const PartRecord& part, int asked)
-{
-    const auto kinds = ChartKinds();
-    const auto available = [&](const ChartKind& kind) { return IsAvailable(part, NumberOf(kind)); };
-    const auto first = std::ranges::find_if(kinds, available);
-    const bool isFirst = !IsAvailable(part, asked) && first != kinds.end();
-    return isFirst ? NumberOf(*first) : static_cast<std::int16_t>(asked);
-}
-
-static bool IsHeating(std::int16_t chartType)
-{
-    return ChartKindOf(chartType).Needs == Values::OfPower;
-}
-
-/// Where in the ranges of the question a chart of the part starts from: where the rise is largest for the
-/// charts of heating, else where the capacitance is least; at the upper ends where neither is told.
-static OperatingPoint StartOf(const FoundPart& part, OperatingPoint at, std::int16_t chartType)
-{
-    const auto least = part.ConditionsAt(FoundPlace::Least);
-    const auto hottest = part.ConditionsAt(FoundPlace::Rise);
-    const float ambient = least ? (*least)[1] : at.AmbientC.High;
-    at.BiasVolts = least ? (*least)[0] : at.BiasVolts.High;
-    at.AmbientC = IsHeating(chartType) && hottest ? (*hottest)[0] : ambient;
-    if (at.Kilohertz)
-    {
-        at.Kilohertz = hottest ? (*hottest)[1] : at.Kilohertz->High;
-    }
-    return at;
-}
-
 /// The same of a part beside the one that it may stand for: the temperature where it heats most against that
 /// one for the charts of heating, else where it has the least capacitance against it.
 static OperatingPoint StartOf(const LikePart& like, OperatingPoint at, std::int16_t chartType)
@@ -184,24 +149,6 @@ OperatingPoint frmFind::StartAt(int row, std::int16_t chartType) const
     return IsLike() ? StartOf(likes->LikeAt(row), at, chartType) : StartOf(table->PartAt(row), at, chartType);
 }
 
-/// The conditions of a point as numbers; those that were not given stay as the part leaves them.
-static std::vector<TakenCondition> ConditionsOf(const OperatingPoint& at)
-{
-    std::vector<TakenCondition> conditions;
-    const auto add = [&](Condition id, const std::optional<float>& value)
-    {
-        if (value)
-        {
-            conditions.push_back({.Id = id, .Entry = NumberText(*value), .Text = {}});
-        }
-    };
-    add(Condition::DCBias, at.BiasVolts.Low);
-    add(Condition::Frequency, at.Kilohertz ? std::optional(at.Kilohertz->Low) : std::nullopt);
-    add(Condition::AmbientTemperature, at.AmbientC.Low);
-    add(Condition::HeatResistance, at.HeatResistance);
-    return conditions;
-}
-
 std::vector<SelectedPart> frmFind::ChosenParts() const
 {
     auto rows = ChosenRows();
@@ -213,8 +160,8 @@ std::vector<SelectedPart> frmFind::ChosenParts() const
     for (const int row : rows | std::views::take(MostToPlot))
     {
         const auto part = PartIndexAt(row);
-        const auto chartType = ChartTypeOf(mdlPublic.Parts.PartData[static_cast<std::size_t>(part)],
-                                           ui->cmbFindChartType->currentIndex());
+        const auto chartType = ChartTypeFor(mdlPublic.Parts.PartData[static_cast<std::size_t>(part)],
+                                            ui->cmbFindChartType->currentIndex());
         const auto& at = table->Question().At;
         parts.push_back({.Part = part,
                          .ChartType = chartType,
