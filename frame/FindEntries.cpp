@@ -197,6 +197,32 @@ RefusedEntry RefusedFor(const QuestionRefusal& refusal)
     return {.Control = ControlOf(refusal.Key), .Message = std::move(message)};
 }
 
+std::string TextOf(const std::optional<float>& value)
+{
+    return value ? NumberText(*value) : "";
+}
+
+std::string TextOf(const std::optional<ConditionRange>& range)
+{
+    if (!range)
+    {
+        return "";
+    }
+    return NumberText(range->Low) + (range->IsPoint() ? "" : ".." + NumberText(range->High));
+}
+
+/// "10", "-20/+80"; empty for none.
+std::string TextOf(const CapacitanceTolerance& tolerance)
+{
+    if (tolerance == CapacitanceTolerance())
+    {
+        return "";
+    }
+    return tolerance.Down == tolerance.Up
+               ? NumberText(tolerance.Up)
+               : '-' + NumberText(tolerance.Down) + "/+" + NumberText(tolerance.Up);
+}
+
 float LargestRatingOf(const std::vector<const PartRecord*>& parts)
 {
     float largest = 0;
@@ -207,6 +233,26 @@ float LargestRatingOf(const std::vector<const PartRecord*>& parts)
     return largest;
 }
 } // namespace
+
+FindEntries EntriesOf(const FindQuestion& question)
+{
+    constexpr double picofaradsPerMicrofarad = 1e6;
+    const auto& at = question.At;
+    const auto& wanted = question.Wanted;
+    const auto& least = wanted.LeastCapacitance;
+    FindEntries entries;
+    entries.DCBiasVol = TextOf(std::optional(at.BiasVolts));
+    entries.AmbientTemp = TextOf(std::optional(at.AmbientC));
+    entries.Frequency = TextOf(at.Kilohertz);
+    entries.Tolerance = TextOf(at.Tolerance);
+    entries.Current = at.Load ? NumberText(at.Load->Value) : "";
+    entries.HeatResistance = TextOf(at.HeatResistance);
+    entries.MinCap = least ? NumberText(static_cast<float>(*least / picofaradsPerMicrofarad)) : "";
+    entries.MinLeft = TextOf(wanted.LeastLeft);
+    entries.MaxRise = TextOf(wanted.MostRise);
+    entries.IsParallel = wanted.Parallel && wanted.Parallel->Count > 1;
+    return entries;
+}
 
 std::variant<FindAsked, RefusedEntry> AskedBy(const FindEntries& entries, const PartTable& parts)
 {

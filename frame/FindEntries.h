@@ -52,5 +52,8 @@ struct RefusedEntry
     std::string Message;
 };
 
+/// The entries that ask this of every part.
+FindEntries EntriesOf(const FindQuestion& question);
+
 /// Reads the entries; the first that is refused ends it.
 std::variant<FindAsked, RefusedEntry> AskedBy(const FindEntries& entries, const PartTable& parts);

@@ -1,6 +1,6 @@
 #pragma once
 
-/// What the window that finds parts asks of the main window.
+/// What the windows that find and judge parts ask of the main window.
 
 #include "chart/ChartHost.h"
 #include "selection/ConditionsOf.h"
@@ -11,6 +11,8 @@
 #include <vector>
 
 class QWidget;
+struct FindEntries;
+struct PartRecord;
 
 /// A found part as it goes into the selection form.
 struct SelectedPart
@@ -22,7 +24,7 @@ struct SelectedPart
     std::vector<TakenCondition> Conditions;
 };
 
-/// The main window as the window that finds parts knows it.
+/// The main window as the windows that find and judge parts know it.
 class FindHost
 {
 public:
@@ -36,6 +38,9 @@ public:
     virtual std::optional<QString> AskForFileToOpen(QWidget* window, const FileQuestion& question) = 0;
     /// Opens the help book at a topic's anchor.
     virtual void ShowHelpTopic(const QString& anchor) = 0;
+    /// Opens the window that finds parts with these entries, and with the replacements of a part where one is
+    /// given.
+    virtual void OpenFind(const FindEntries& entries, const PartRecord* replaced) = 0;
     /// Fills the selection form, and brings the main window to the front with the focus on Plot.
     virtual void SelectPart(const SelectedPart& part) = 0;
     /// Tells the user something for a while.

@@ -32,6 +32,8 @@ public:
 
     /// Shows the window in front of all others.
     void ComeToFront();
+    /// Asks this in place of what was asked before; shows the replacements of a part where one is given.
+    void Ask(const FindEntries& entries, const PartRecord* replaced);
     /// After the naming on display has changed: relabels, and computes again.
     void ShowNaming();
 

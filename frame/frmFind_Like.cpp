@@ -11,6 +11,7 @@
 
 #include <QHeaderView>
 
+#include <array>
 #include <memory>
 #include <utility>
 
@@ -149,4 +150,39 @@ const PartRecord* frmFind::LeaveLike()
         OfferCommands(ShownRows() > 0);
     }
     return original;
+}
+
+void frmFind::Ask(const FindEntries& entries, const PartRecord* replaced)
+{
+    const std::array<std::pair<QLineEdit*, const std::string*>, 12> boxes = {
+        {{ui->txtFindPartNum, &entries.PartNum},
+         {ui->cmbFindRatedVol->lineEdit(), &entries.RatedVol},
+         {ui->txtFindCap, &entries.Cap},
+         {ui->txtFindDCBiasVol, &entries.DCBiasVol},
+         {ui->txtFindAmbientTemp, &entries.AmbientTemp},
+         {ui->txtFindFrequency, &entries.Frequency},
+         {ui->txtFindTolerance, &entries.Tolerance},
+         {ui->txtFindCurrent, &entries.Current},
+         {ui->txtFindHeatResistance, &entries.HeatResistance},
+         {ui->txtFindMinCap, &entries.MinCap},
+         {ui->txtFindMinLeft, &entries.MinLeft},
+         {ui->txtFindMaxRise, &entries.MaxRise}}};
+    for (const auto& [box, entry] : boxes)
+    {
+        const QSignalBlocker noAnswer(box);
+        box->setText(QString::fromStdString(*entry));
+    }
+    for (QComboBox* const list : {ui->cmbFindMaxSize, ui->cmbFindTcc})
+    {
+        const QSignalBlocker noAnswer(list);
+        list->setCurrentIndex(0);
+    }
+    const QSignalBlocker noAnswer(ui->chkFindParallel);
+    ui->chkFindParallel->setChecked(entries.IsParallel);
+    ForgetOrigin();
+    Answer();
+    if (replaced != nullptr && refusedBox == nullptr)
+    {
+        ShowLike(*replaced);
+    }
 }

@@ -19,6 +19,7 @@
 
 class FormAccessKeys;
 class clsComdlg;
+class frmBom;
 class frmFind;
 class frmGraph;
 class QMdiSubWindow;
@@ -64,7 +65,8 @@ public:
     void Keep(const QString& name, const QVariant& value) override;
     QVariant Kept(const QString& name) const override;
 
-    // What the window that finds parts asks for.
+    // What the windows that find and judge parts ask for.
+    void OpenFind(const FindEntries& entries, const PartRecord* replaced) override;
     void SelectPart(const SelectedPart& part) override;
     void TellInStatusBar(const QString& text) override;
     bool PlotPart(const SelectedPart& part) override;
@@ -72,6 +74,7 @@ public:
 
     // The button beside the menus.
     void cmdFind_Click();
+    void mnuCheckBom_Click();
 
     // The commands of the menus.
     void mnuFile_Click();
@@ -119,6 +122,8 @@ private:
     QList<QAction*> mainMenus;
     /// The window that finds parts, once it has been opened; it goes with this one.
     QPointer<frmFind> findWindow;
+    /// The same of the window that checks boards.
+    QPointer<frmBom> bomWindow;
     std::unique_ptr<QPrinter> printer;
     /// What the user has chosen in this run: the folders of dialogs, places and looks of windows.
     QVariantHash kept;

@@ -1,8 +1,10 @@
 #include "chart/frmGraph.h"
+#include "frame/frmBom.h"
 #include "frame/frmFind.h"
 #include "frame/frmMain.h"
 #include "ui_frmMain.h"
 
+#include <QMenu>
 #include <QShortcut>
 #include <QToolButton>
 
@@ -21,8 +23,17 @@ void frmMain::AddFindButton()
     cmdFind->setFocusPolicy(Qt::NoFocus);
     ui->mnuBar->setNativeMenuBar(false);
     ui->mnuBar->setCornerWidget(cmdFind);
+    auto* const menu = new QMenu(cmdFind);
+    menu->setObjectName(QStringLiteral("mnuPopupFindParts"));
+    menu->addAction(QStringLiteral("Check &Bill of Materials...\tCtrl+Shift+B"), this,
+                    &frmMain::mnuCheckBom_Click)
+        ->setObjectName(QStringLiteral("mnuCheckBom"));
+    cmdFind->setMenu(menu);
+    cmdFind->setPopupMode(QToolButton::MenuButtonPopup);
     connect(cmdFind, &QToolButton::clicked, this, &frmMain::cmdFind_Click);
     connect(new QShortcut(Qt::CTRL | Qt::Key_F, this), &QShortcut::activated, this, &frmMain::cmdFind_Click);
+    connect(new QShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_B, this), &QShortcut::activated, this,
+            &frmMain::mnuCheckBom_Click);
 }
 
 void frmMain::cmdFind_Click()
@@ -34,8 +45,27 @@ void frmMain::cmdFind_Click()
     findWindow->ComeToFront();
 }
 
+void frmMain::mnuCheckBom_Click()
+{
+    if (bomWindow == nullptr)
+    {
+        bomWindow = new frmBom(*this);
+    }
+    bomWindow->ComeToFront();
+}
+
+void frmMain::OpenFind(const FindEntries& entries, const PartRecord* replaced)
+{
+    cmdFind_Click();
+    findWindow->Ask(entries, replaced);
+}
+
 void frmMain::ShowNamingOfFound()
 {
+    if (bomWindow != nullptr)
+    {
+        bomWindow->ShowNaming();
+    }
     if (findWindow != nullptr)
     {
         findWindow->ShowNaming();

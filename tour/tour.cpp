@@ -25,6 +25,7 @@
 #include <QMdiArea>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTableView>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -50,6 +51,19 @@ constexpr QSize TourSize(1010, 700);
 constexpr QSize ViewSize(900, 600);
 /// The window that finds parts, with room for what a load does.
 constexpr QSize FindSize(1150, 560);
+
+/// The window that checks boards, with room for its reasons.
+constexpr QSize BoardSize(1150, 560);
+
+/// A board of a few parts, whose numbers stand as "%1" to "%4".
+constexpr const char* BoardBill = "Reference,Qty,MPN\n\"C1,C2\",2,%1\nC3-C6,4,%2\nC9,1,%3\nC10,1,%4\n"
+                                  "R1,1,RX0402-10K\n";
+constexpr std::array<const char*, 4> BoardParts = {"KTS32XB51E106MA01", "KTS31NR71A226KA01",
+                                                   "KTS21JB51C106MA01", "KTS188R71H104KA01"};
+constexpr const char* BoardRails =
+    "# ambient: -10..65C\n# tolerance: 10%\nnet,reference,dc bias,net converter,min capacitance\n"
+    "+12V,\"C1,C2\",10.8..13.2V,buck vin=12 vout=3.3 iout=5 f=500kHz l=2.2uH side=input,\n"
+    "+3V3,C3-C6,3.3V±3%,,\n+5V,C9,4.75..5.25V,,6uF\n";
 
 /// "Which 10 µF part runs less than 20 °C hot at 12 V and 1.5 Arms of 300 kHz?"
 constexpr std::array<std::pair<const char*, const char*>, 6> FindEntries = {{
@@ -176,6 +190,31 @@ public:
         allSaved = false;
     }
 
+    /// The window that checks boards, with a part of the board that fails.
+    void SaveBoard(const char* name)
+    {
+        // Short names in the boxes, wherever the pictures go.
+        const QString former = QDir::currentPath();
+        QDir::setCurrent(folder.path());
+        QString bill = QString::fromLatin1(BoardBill);
+        for (const char* part : BoardParts)
+        {
+            bill = bill.arg(NumberOnDisplay(part));
+        }
+        Write(QStringLiteral("board.csv"), bill.toUtf8());
+        Write(QStringLiteral("rails.csv"), BoardRails);
+        window.findChild<QAction*>(QStringLiteral("mnuCheckBom"))->trigger();
+        const auto tops = QApplication::topLevelWidgets();
+        const auto board = std::ranges::find(tops, QStringLiteral("frmBom"), &QWidget::objectName);
+        allSaved = allSaved && board != tops.end() && FillBoard(**board);
+        if (board != tops.end())
+        {
+            Save(PictureForHelp(**board, (*board)->size()), **board, name);
+            (*board)->close();
+        }
+        QDir::setCurrent(former);
+    }
+
     bool AllSaved() const { return allSaved; }
 
 private:
@@ -184,6 +223,29 @@ private:
         auto* control = window.findChild<Control*>(name);
         Q_ASSERT(control != nullptr);
         return control;
+    }
+
+    void Write(const QString& name, const QByteArray& text)
+    {
+        QFile file(folder.filePath(name));
+        allSaved = allSaved && file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+    }
+
+    /// False where the verdicts do not come.
+    static bool FillBoard(QWidget& board)
+    {
+        board.resize(BoardSize);
+        for (const auto& [box, file] :
+             {std::pair("txtBomConditions", "rails.csv"), std::pair("txtBomFile", "board.csv")})
+        {
+            auto* entry = board.findChild<QLineEdit*>(QString::fromLatin1(box));
+            entry->setText(QString::fromLatin1(file));
+            QTest::keyClick(entry, Qt::Key_Return);
+        }
+        auto* rows = board.findChild<QTableView*>(QStringLiteral("tblBom"));
+        const bool isRead = QTest::qWaitFor([&] { return rows->model()->rowCount() > 0; });
+        rows->selectRow(0);
+        return isRead;
     }
 
     /// The number of a part in the code on display, by its global EIA number.
@@ -292,6 +354,7 @@ bool CompareInLanguage(std::int16_t helpLanguage, const QDir& folder)
     CompareAllowablePower(user);
     CompareCapacitance(user);
     user.SaveFind("find-parts");
+    user.SaveBoard("board-window");
     return user.AllSaved();
 }
 
