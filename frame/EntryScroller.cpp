@@ -5,8 +5,13 @@
 
 QSize EntryScroller::sizeHint() const
 {
-    QSize hint = QScrollArea::sizeHint();
-    if (widget() != nullptr && widget()->minimumSizeHint().width() > width())
+    if (widget() == nullptr)
+    {
+        return QScrollArea::sizeHint();
+    }
+    // The area itself remembers the first hint of its contents, whatever is shown or hidden since.
+    QSize hint = widget()->sizeHint() + QSize(2, 2) * frameWidth();
+    if (widget()->minimumSizeHint().width() > width())
     {
         hint.rheight() += horizontalScrollBar()->sizeHint().height();
     }
@@ -20,6 +25,16 @@ void EntryScroller::ShowWhole(const QWidget& entry)
         const QPoint place = entry.mapTo(widget(), corner);
         ensureVisible(place.x(), place.y(), 1, 1);
     }
+}
+
+bool EntryScroller::event(QEvent* event)
+{
+    const bool isKnown = QScrollArea::event(event);
+    if (event->type() == QEvent::LayoutRequest)
+    {
+        updateGeometry();
+    }
+    return isKnown;
 }
 
 void EntryScroller::resizeEvent(QResizeEvent* event)

@@ -17,5 +17,6 @@ public:
     void ShowWhole(const QWidget& entry);
 
 protected:
+    bool event(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 };
