@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 
 namespace
@@ -18,6 +19,9 @@ struct Row
     LoadMoments Known;
     /// The most that the rise may be off, in percent.
     double MostPercent;
+    /// The most that the rise may change without every second row, in percent; nothing where that hangs on
+    /// which rows stand at a corner.
+    std::optional<double> MostStepPercent;
     StretchWishes Wishes = {};
     PowerModel Heating = HeatingOfTenMicrofarads();
 };
@@ -174,10 +178,9 @@ Shape Times(Shape a, Shape b)
     return [=](double seconds) { return a(seconds) * b(seconds); };
 }
 
-double PercentOff(const Row& row)
+double PercentOff(const Row& row, const LoadMoments& found, const LoadMoments& known)
 {
-    const auto load = LoadOfRecord(row.Record, row.Wishes);
-    return (RiseOf(load.Lines.Moments.Total(), row.Heating) / RiseOf(row.Known, row.Heating) - 1) * 100;
+    return (RiseOf(found, row.Heating) / RiseOf(known, row.Heating) - 1) * 100;
 }
 
 void PrintTo(const Row& row, std::ostream* out)
@@ -191,65 +194,78 @@ class RecordedRise : public testing::TestWithParam<Row>
 
 TEST_P(RecordedRise, IsThatOfTheCurrent)
 {
-    EXPECT_NEAR(PercentOff(GetParam()), 0, GetParam().MostPercent);
+    const auto& row = GetParam();
+    const auto load = LoadOfRecord(row.Record, row.Wishes);
+    const auto all = load.Lines.Moments.Total();
+    EXPECT_NEAR(PercentOff(row, all, row.Known), 0, row.MostPercent);
+    if (row.MostStepPercent)
+    {
+        EXPECT_NEAR(PercentOff(row, load.Record->Thinned, all), 0, *row.MostStepPercent);
+    }
 }
 
 std::vector<Row> Rows()
 {
     return {
-        {"Triangle500k", EvenRows(Triangle(500e3), 300 / 500e3, 1 / 500e3 / 200), ExactTriangle(500e3), 0.03},
-        {"Triangle12k", EvenRows(Triangle(12e3), 40 / 12e3, 1 / 12e3 / 200), ExactTriangle(12e3), 0.03},
+        {"Triangle500k", EvenRows(Triangle(500e3), 300 / 500e3, 1 / 500e3 / 200), ExactTriangle(500e3), 0.03,
+         0.6},
+        {"Triangle12k", EvenRows(Triangle(12e3), 40 / 12e3, 1 / 12e3 / 200), ExactTriangle(12e3), 0.03, 0.6},
         {"Trapezoid500k", Repeated({{0, 0}, {0.01, 1}, {0.3, 1}, {0.31, 0}}, 2e-6, 300),
-         Exact(TrapezoidCorners(500e3), 500e3), 0.03},
+         Exact(TrapezoidCorners(500e3), 500e3), 0.03, std::nullopt},
         {"Trapezoid65k", Repeated({{0, 0}, {0.0013, 1}, {0.3, 1}, {0.3013, 0}}, 1 / 65e3, 100),
-         Exact(TrapezoidCorners(65e3), 65e3), 0.03},
-        {"TriangleUneven", UnevenRows(Triangle(500e3), 2e-6, 100), ExactTriangle(500e3), 0.03},
+         Exact(TrapezoidCorners(65e3), 65e3), 0.03, std::nullopt},
+        {"TriangleUneven", UnevenRows(Triangle(500e3), 2e-6, 100), ExactTriangle(500e3), 0.03, 0.6},
         {"TriangleTenAPeriod", EvenRows(Triangle(500e3), 300 / 500e3, 1 / 500e3 / 10), ExactTriangle(500e3),
-         0.45},
+         0.45, std::nullopt},
         {"TrapezoidEvenSixtyFour", EvenRows(Trapezoid(500e3), 300 / 500e3, 1 / 500e3 / 64),
-         Exact(TrapezoidCorners(500e3), 500e3), 2.7},
-        {"SineTen", EvenRows(Sine(1, 500e3), 300 / 500e3, 1 / 500e3 / 10), MomentsOf({{500e3, 0.5}}), 7.35},
-        {"SineTwenty", EvenRows(Sine(1, 500e3), 300 / 500e3, 1 / 500e3 / 20), MomentsOf({{500e3, 0.5}}), 1.8},
-        {"SineFifty", EvenRows(Sine(1, 500e3), 300 / 500e3, 1 / 500e3 / 50), MomentsOf({{500e3, 0.5}}), 0.3},
+         Exact(TrapezoidCorners(500e3), 500e3), 2.7, std::nullopt},
+        {"SineTen", EvenRows(Sine(1, 500e3), 300 / 500e3, 1 / 500e3 / 10), MomentsOf({{500e3, 0.5}}), 7.35,
+         20.4},
+        {"SineTwenty", EvenRows(Sine(1, 500e3), 300 / 500e3, 1 / 500e3 / 20), MomentsOf({{500e3, 0.5}}), 1.8,
+         5.25},
+        {"SineFifty", EvenRows(Sine(1, 500e3), 300 / 500e3, 1 / 500e3 / 50), MomentsOf({{500e3, 0.5}}), 0.3,
+         0.9},
         {"SineTwoHundred", EvenRows(Sine(1, 500e3), 300 / 500e3, 1 / 500e3 / 200), MomentsOf({{500e3, 0.5}}),
-         0.03},
-        {"RingingFifty", EvenRows(Ringing, 300 / 500e3, 1 / 500e3 / 50), ExactRinging(), 2.6},
-        {"RingingTwoHundred", EvenRows(Ringing, 300 / 500e3, 1 / 500e3 / 200), ExactRinging(), 0.45},
-        {"RingingThousand", EvenRows(Ringing, 300 / 500e3, 1 / 500e3 / 1000), ExactRinging(), 0.045},
+         0.03, 0.06},
+        {"RingingFifty", EvenRows(Ringing, 300 / 500e3, 1 / 500e3 / 50), ExactRinging(), 2.6, std::nullopt},
+        {"RingingTwoHundred", EvenRows(Ringing, 300 / 500e3, 1 / 500e3 / 200), ExactRinging(), 0.45, 0.75},
+        {"RingingThousand", EvenRows(Ringing, 300 / 500e3, 1 / 500e3 / 1000), ExactRinging(), 0.045, 0.15},
         {"Bursts5k", EvenRows(Straight(BurstCorners(40, 100), 5e3), 10 / 5e3, 1 / 500e3 / 100),
-         Exact(BurstCorners(40, 100), 5e3), 0.23},
+         Exact(BurstCorners(40, 100), 5e3), 0.23, std::nullopt},
         {"Bursts300Hz",
          EvenRows(Straight(BurstCorners(87, 217), 300), 6 / 300.0, 1 / 65.1e3 / 200),
          Exact(BurstCorners(87, 217), 300),
          0.05,
+         0.45,
          {.Period = 1 / 300.0}},
-        {"Jitter", WithJitter(0.05), ExactRecord(WithJitter(0.05)), 0.45},
-        {"SpreadSpectrum", WithSpreadSpectrum(0.06), ExactRecord(WithSpreadSpectrum(0.06)), 0.05},
+        {"Jitter", WithJitter(0.05), ExactRecord(WithJitter(0.05)), 0.45, 0.6},
+        {"SpreadSpectrum", WithSpreadSpectrum(0.06), ExactRecord(WithSpreadSpectrum(0.06)), 0.05, 0.6},
         {"EverySecondDiffers", Repeated({{0, -1}, {0.25, 1}, {0.5, -1}, {0.75, 0.6}}, 4e-6, 150),
-         Exact({{0, -1}, {0.25, 1}, {0.5, -1}, {0.75, 0.6}}, 250e3), 0.03},
+         Exact({{0, -1}, {0.25, 1}, {0.5, -1}, {0.75, 0.6}}, 250e3), 0.03, std::nullopt},
         {"TwoThatFit", EvenRows(Sum(Sine(1, 500e3), Sine(1, 180e3)), 1e-3, 5e-9),
-         MomentsOf({{500e3, 0.5}, {180e3, 0.5}}), 0.03},
+         MomentsOf({{500e3, 0.5}, {180e3, 0.5}}), 0.03, 0.6},
         {"TwoThatDoNotFit", EvenRows(Sum(Sine(1, 500e3), Sine(1, 431.7e3)), 1e-3, 5e-9),
-         MomentsOf({{500e3, 0.5}, {431.7e3, 0.5}}), 0.23},
+         MomentsOf({{500e3, 0.5}, {431.7e3, 0.5}}), 0.23, 0.6},
         {"Noise5", WithNoise(EvenRows(Triangle(500e3), 600e-6, 10e-9), 0.05 * 0.577), ExactTriangle(500e3),
-         0.38},
+         0.38, 2.6},
         {"Noise30", WithNoise(EvenRows(Triangle(500e3), 600e-6, 10e-9), 0.3 * 0.577), ExactTriangle(500e3),
-         7.5},
-        {"EightBits", InSteps(EvenRows(Triangle(500e3), 600e-6, 10e-9), 2.0 / 200), ExactTriangle(500e3),
-         0.3},
+         7.5, 1.35},
+        {"EightBits", InSteps(EvenRows(Triangle(500e3), 600e-6, 10e-9), 2.0 / 200), ExactTriangle(500e3), 0.3,
+         0.9},
         {"StartSurge",
          EvenRows(Sum(Scaled(Triangle(500e3), 4), Surge(20, 30e-6)), 400e-6, 10e-9),
          ExactTriangle(500e3).Scaled(4),
          0.3,
+         0.6,
          {},
          HeatingOfFortySevenMicrofarads()},
         {"MeanDrifts",
          EvenRows(Sum(Scaled(Triangle(500e3), 4), [](double s) { return 0.5 * s / 400e-6; }), 400e-6, 10e-9),
-         ExactTriangle(500e3).Scaled(4), 0.45},
+         ExactTriangle(500e3).Scaled(4), 0.45, 0.6},
         {"AmplitudeDrifts",
          EvenRows(Times(Scaled(Triangle(500e3), 4), [](double s) { return 0.8 + 0.2 * s / 400e-6; }), 400e-6,
                   10e-9),
-         ExactTriangle(500e3).Scaled(4), 7.5},
+         ExactTriangle(500e3).Scaled(4), 7.5, 0.6},
     };
 }
 
