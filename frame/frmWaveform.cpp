@@ -5,6 +5,7 @@
 #include "formkit/Edges.h"
 #include "formkit/Entries.h"
 #include "formkit/Texts.h"
+#include "frame/StartPlace.h"
 #include "requests/FourDigits.h"
 #include "requests/StressFormats.h"
 #include "ui_frmWaveform.h"
@@ -16,6 +17,8 @@
 
 /// Reading that takes no longer than this is not worth a sign.
 static constexpr int ProgressMilliSeconds = 300;
+/// The text below the picture has room for so many lines at least.
+static constexpr int LinesOfText = 3;
 
 frmWaveform::frmWaveform(QWidget* search, FindHost& mainWindow)
     : QDialog(search)
@@ -23,6 +26,8 @@ frmWaveform::frmWaveform(QWidget* search, FindHost& mainWindow)
     , host(mainWindow)
 {
     ui->setupUi(this);
+    new StartPlace(this, size());
+    ui->scrWaveform->setMinimumHeight(LinesOfText * ui->lblWaveform->fontMetrics().lineSpacing());
     ui->prgWaveform->hide();
     progressDelay.setSingleShot(true);
     progressDelay.setInterval(ProgressMilliSeconds);
@@ -73,7 +78,7 @@ void frmWaveform::Connect()
     {
         connect(list, &QComboBox::currentIndexChanged, this, &frmWaveform::Answer);
     }
-    connect(ui->tabWaveform, &QTabWidget::currentChanged, this, &frmWaveform::Answer);
+    connect(ui->tabWaveform, &QTabWidget::currentChanged, this, &frmWaveform::ShowPage);
     connect(ui->cmdWaveOpen, &QPushButton::clicked, this, &frmWaveform::cmdWaveOpen_Click);
     connect(ui->cmdWaveOK, &QPushButton::clicked, this, &QDialog::accept);
     connect(ui->cmdWaveCancel, &QPushButton::clicked, this, &QDialog::reject);
@@ -91,6 +96,13 @@ void frmWaveform::ShowTurns()
     ui->cmbConvSide->setCurrentIndex(static_cast<int>(KindOf(kind).PulsedSide));
     ui->lblConvTurns->setVisible(kind == ConverterKind::Flyback);
     ui->txtConvTurns->setVisible(kind == ConverterKind::Flyback);
+}
+
+/// The picture of one page is none of the other.
+void frmWaveform::ShowPage()
+{
+    ui->picWaveform->Clear();
+    Answer();
 }
 
 bool frmWaveform::IsOfFile() const
@@ -167,9 +179,10 @@ void frmWaveform::AnswerOfConverter()
     }
     const auto& converter = std::get<Converter>(read);
     const auto side = static_cast<ConverterSide>(ui->cmbConvSide->currentIndex());
-    ShowReport({.Name = {},
-                .Source = ConverterSource{.Data = converter, .Side = side},
-                .Load = LoadOfConverter(converter, side)});
+    ShowReport(std::make_shared<const StressReport>(
+        StressReport{.Name = {},
+                     .Source = ConverterSource{.Data = converter, .Side = side},
+                     .Load = LoadOfConverter(converter, side)}));
 }
 
 /// What the current is, and what makes it less sure.
@@ -190,10 +203,11 @@ static QString TextOf(const StressReport& report)
     return QString::fromStdString(text).replace(micro, QStringLiteral(" µ\\1"));
 }
 
-void frmWaveform::ShowReport(StressReport found)
+void frmWaveform::ShowReport(std::shared_ptr<const StressReport> found)
 {
     report = std::move(found);
     ShowText(TextOf(*report));
+    ui->picWaveform->Show(report);
     ui->cmdWaveOK->setEnabled(CanBeTyped(report->Load.Lines.Moments.Total().Sine()));
 }
 
@@ -201,6 +215,7 @@ void frmWaveform::ShowFault(const QString& fault)
 {
     report.reset();
     ui->cmdWaveOK->setEnabled(false);
+    ui->picWaveform->Fade();
     ShowText(fault);
 }
 

@@ -10,7 +10,6 @@
 #include <QTimer>
 
 #include <memory>
-#include <optional>
 
 class QLineEdit;
 
@@ -31,8 +30,8 @@ struct TakenWaveform
     QString Origin;
 };
 
-/// The window that makes a sine of a current of any shape, off a file or a converter's data. It stands before
-/// the search, and its entries last as long as that.
+/// The window that makes a sine of a current of any shape, off a file or a converter's data, and draws that
+/// current. It stands before the search, and its entries last as long as that.
 class frmWaveform : public QDialog
 {
     Q_OBJECT
@@ -53,13 +52,14 @@ private:
     void FillLists();
     void Connect();
     void ShowTurns();
+    void ShowPage();
     bool IsOfFile() const;
 
     // The current.
     void Answer();
     void AnswerOfConverter();
     void AnswerOfFile();
-    void ShowReport(StressReport found);
+    void ShowReport(std::shared_ptr<const StressReport> found);
     void ShowFault(const QString& fault);
     void ShowRefusal(const RefusedEntry& refused);
     void MarkRefused(QLineEdit* box, const QString& message);
@@ -75,7 +75,7 @@ private:
     std::unique_ptr<Ui::frmWaveform> ui;
     FindHost& host;
     /// What is on display; nothing while it is refused or under way.
-    std::optional<StressReport> report;
+    std::shared_ptr<const StressReport> report;
     /// The entry that is refused, or none.
     QLineEdit* refusedBox = nullptr;
     QString file;

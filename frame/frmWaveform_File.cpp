@@ -125,7 +125,7 @@ void frmWaveform::AnswerOfFile()
         const auto& current = from->Columns[static_cast<std::size_t>(column)];
         const auto found = std::make_shared<const StressReport>(
             StressReport{.Name = current.Name, .Load = LoadOfRecord(from->WaveformOf(current), asked)});
-        return [this, found] { ShowReport(*found); };
+        return [this, found] { ShowReport(found); };
     };
     const auto tell = [this](const QString& fault) { ShowFault(fault.left(1).toUpper() + fault.mid(1)); };
     work.Begin([=](const SideWork::Pause&) { return AnswerOr(find, tell); });

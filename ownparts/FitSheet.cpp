@@ -143,11 +143,11 @@ void DrawFitSheet(const FittedPart& fitted, std::vector<FitChart> charts, SheetS
     for (auto& chart : charts)
     {
         const Box box = {left, TitleHeight + LegendHeight, ChartWidth, ChartHeight};
-        auto& surface = sheet.Chart(box);
+        auto& surface = sheet.Chart(box, chartScale);
         DrawChart(chart, box, surface);
         DrawLegend(chart, {left, TitleHeight, ChartWidth, LegendHeight}, surface, sheet);
         const Box strip = {left, box.Top + ChartHeight, ChartWidth, StripHeight};
-        DrawStrip(chart, strip, sheet.Chart(strip));
+        DrawStrip(chart, strip, sheet.Chart(strip, chartScale));
         left += ChartWidth;
     }
     sheet.Text({Margin, 4, width - 2 * Margin, TitleHeight}, TitleOf(fitted), frameColor);

@@ -14,7 +14,20 @@ namespace
 constexpr double xTickDistance = 50;
 constexpr double yTickDistance = 28;
 constexpr double minorDistance = 15;
-constexpr double labelGap = 1.5;
+/// Around the plot, for labels and titles, in device-independent pixels as all that follows.
+constexpr double leftMargin = 52;
+constexpr double rightMargin = 18;
+constexpr double topMargin = 8;
+constexpr double bottomMargin = 32;
+constexpr double labelGap = 3;
+
+/// The scale of a chart whose plot leaves the margins free.
+UserScale ScaleWithMargins(const Box& box)
+{
+    const double perX = 100 / (box.Width - leftMargin - rightMargin);
+    const double perY = 100 / (box.Height - topMargin - bottomMargin);
+    return {-leftMargin * perX, 100 + topMargin * perY, box.Width * perX, -box.Height * perY};
+}
 
 FittingTicks TicksAtPowersOfTen(const FittingScale& scale)
 {
@@ -34,24 +47,25 @@ FittingTicks TicksAtPowersOfTen(const FittingScale& scale)
 
 PlotOnSheet::PlotOnSheet(const Box& place, PlotAxis across, PlotAxis upwards, SheetSurface& surface)
     : box(place)
+    , scale(ScaleWithMargins(place))
     , xAxis(std::move(across))
     , yAxis(std::move(upwards))
     , sheet(surface)
-    , chart(surface.Chart(place))
+    , chart(surface.Chart(place, scale))
 {
 }
 
 double PlotOnSheet::PlotWidth() const
 {
-    return 100 * box.Width / std::abs(chartScale.ScaleWidth);
+    return 100 * box.Width / std::abs(scale.ScaleWidth);
 }
 
 double PlotOnSheet::PlotHeight() const
 {
-    return 100 * box.Height / std::abs(chartScale.ScaleHeight);
+    return 100 * box.Height / std::abs(scale.ScaleHeight);
 }
 
-FittingScale PlotOnSheet::Scale(const PlotAxis& axis, double length) const
+FittingScale PlotOnSheet::ScaleOf(const PlotAxis& axis, double length) const
 {
     return {.Kind = axis.Kind,
             .Low = axis.Low,
@@ -63,18 +77,18 @@ FittingScale PlotOnSheet::Scale(const PlotAxis& axis, double length) const
 
 FittingTicks PlotOnSheet::TicksOf(const PlotAxis& axis, double length) const
 {
-    const auto scale = Scale(axis, length);
-    return axis.Kind == AxisKind::Logarithmic ? TicksAtPowersOfTen(scale)
-                                              : TicksAtSteps(scale, StepSizes::Fifths);
+    const auto places = ScaleOf(axis, length);
+    return axis.Kind == AxisKind::Logarithmic ? TicksAtPowersOfTen(places)
+                                              : TicksAtSteps(places, StepSizes::Fifths);
 }
 
 void PlotOnSheet::Fill(double fromX, double toX, double toY, const Color& color)
 {
     const double left = XPosition(fromX);
-    const double top = Scale(yAxis, PlotHeight()).PositionOf(toY);
-    const double perX = box.Width / chartScale.ScaleWidth;
-    const double perY = box.Height / chartScale.ScaleHeight;
-    sheet.Fill({box.Left + (left - chartScale.ScaleLeft) * perX, box.Top + (top - chartScale.ScaleTop) * perY,
+    const double top = ScaleOf(yAxis, PlotHeight()).PositionOf(toY);
+    const double perX = box.Width / scale.ScaleWidth;
+    const double perY = box.Height / scale.ScaleHeight;
+    sheet.Fill({box.Left + (left - scale.ScaleLeft) * perX, box.Top + (top - scale.ScaleTop) * perY,
                 (XPosition(toX) - left) * perX, -top * perY},
                color);
 }
@@ -113,25 +127,29 @@ void PlotOnSheet::DrawAxes()
     {
         axes.Lines.push_back({false, line});
     }
+    const double gapX = 100 * labelGap / PlotWidth();
+    const double gapY = 100 * labelGap / PlotHeight();
     for (const auto& tick : across.Ticks)
     {
-        axes.Texts.push_back({{tick.At - chart.TextWidth(tick.Text) / 2, -labelGap, tick.Text}});
+        axes.Texts.push_back({{tick.At - chart.TextWidth(tick.Text) / 2, -gapY, tick.Text}});
     }
     for (const auto& tick : upwards.Ticks)
     {
         axes.Texts.push_back(
-            {{-labelGap - chart.TextWidth(tick.Text), tick.At + chart.TextHeight() / 2, tick.Text}});
+            {{-gapX - chart.TextWidth(tick.Text), tick.At + chart.TextHeight() / 2, tick.Text}});
     }
-    axes.Texts.push_back(
-        {{50 - chart.TextWidth(xAxis.Title) / 2, -labelGap - chart.TextHeight(), xAxis.Title}});
-    axes.Texts.push_back({{chartScale.ScaleLeft + labelGap, 50, yAxis.Title}, true});
+    axes.Texts.push_back({{50 - chart.TextWidth(xAxis.Title) / 2, -gapY - chart.TextHeight(), xAxis.Title}});
+    if (sheet.TextWidth(yAxis.Title) <= box.Height)
+    {
+        axes.Texts.push_back({{scale.ScaleLeft + gapX, 50, yAxis.Title}, true});
+    }
     ::DrawAxes(axes, chart);
 }
 
 void PlotOnSheet::Curve(std::span<const Point> values)
 {
-    const auto yScale = Scale(yAxis, PlotHeight());
-    const auto xScale = Scale(xAxis, PlotWidth());
+    const auto yScale = ScaleOf(yAxis, PlotHeight());
+    const auto xScale = ScaleOf(xAxis, PlotWidth());
     std::vector<Point> places;
     places.reserve(values.size());
     for (const auto& [x, y] : values)

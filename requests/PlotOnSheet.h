@@ -1,6 +1,8 @@
 #pragma once
 
-/// A chart of plain numbers on a sheet: axes from end to end, and boxes and curves in their values.
+/// A chart of plain numbers on a sheet: axes from end to end, and boxes and curves in their values. Its
+/// margins are as wide as their texts, however large it is; a title of Y longer than the box is high is left
+/// out.
 
 #include "chart/layout/FittingScale.h"
 #include "chart/layout/SheetSurface.h"
@@ -37,13 +39,14 @@ public:
     void Curve(std::span<const Point> values);
 
 private:
-    double XPosition(double x) const { return Scale(xAxis, PlotWidth()).PositionOf(x); }
+    double XPosition(double x) const { return ScaleOf(xAxis, PlotWidth()).PositionOf(x); }
     double PlotWidth() const;
     double PlotHeight() const;
-    FittingScale Scale(const PlotAxis& axis, double length) const;
+    FittingScale ScaleOf(const PlotAxis& axis, double length) const;
     FittingTicks TicksOf(const PlotAxis& axis, double length) const;
 
     Box box;
+    UserScale scale;
     PlotAxis xAxis;
     PlotAxis yAxis;
     SheetSurface& sheet;

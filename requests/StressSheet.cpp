@@ -14,11 +14,10 @@ namespace
 {
 constexpr double margin = 8;
 constexpr double titleHeight = 22;
-constexpr double chartHeight = 225;
-constexpr double reportHeight = titleHeight + 2 * chartHeight + margin;
-constexpr double fullWidth = StressSheetWidth - 2 * margin;
-constexpr double mainWidth = 0.6 * fullWidth;
-constexpr double lineHeight = 18;
+constexpr double reportHeight = 480;
+/// Of what stands in the left half: the record, and the shares.
+constexpr double mainShare = 0.6;
+constexpr double mostLineHeight = 18;
 /// A smaller share is told as none.
 constexpr double leastTold = 0.0005;
 constexpr Color white = {255, 255, 255};
@@ -100,20 +99,49 @@ void DrawCurrent(const Envelope& envelope, const WavePoint& origin, const Box& b
     plot.Curve(CurveOf(envelope, origin, seconds.Factor, amperes.Factor));
 }
 
-void DrawCurrents(const CurrentLoad& load, double top, SheetSurface& sheet)
+/// Where the pieces of a picture stand.
+struct Places
+{
+    Box Title;
+    Box Record;
+    Box Period;
+    Box Shares;
+    Box Notes;
+};
+
+Places PlacesIn(const Box& place)
+{
+    const double height = (place.Height - titleHeight - margin) / 2;
+    const double width = place.Width - 2 * margin;
+    const double main = mainShare * width;
+    const double left = place.Left + margin;
+    const double upper = place.Top + titleHeight;
+    const double lower = upper + height;
+    return {.Title = {left, place.Top + 4, width, titleHeight},
+            .Record = {left, upper, main, height},
+            .Period = {left + main, upper, width - main, height},
+            .Shares = {left, lower, main, height},
+            .Notes = {left + main + margin, lower + margin, width - main - margin, height - margin}};
+}
+
+/// The smallest box that holds two that stand side by side.
+Box Joined(const Box& left, const Box& right)
+{
+    return {left.Left, left.Top, right.Left + right.Width - left.Left, left.Height};
+}
+
+void DrawCurrents(const CurrentLoad& load, const Places& places, SheetSurface& sheet)
 {
     const double start = load.Shape.Span.From;
     if (!load.Record)
     {
         // The direct current flows past the capacitors.
-        DrawCurrent(load.Shape, {start, load.Figures.Mean}, {margin, top, fullWidth, chartHeight},
+        DrawCurrent(load.Shape, {start, load.Figures.Mean}, Joined(places.Record, places.Period),
                     "Time in one period", nullptr, sheet);
         return;
     }
-    DrawCurrent(load.Record->Course, {0, 0}, {margin, top, mainWidth, chartHeight}, "Time",
-                &load.Record->Counted.Span, sheet);
-    DrawCurrent(load.Shape, {start, 0}, {margin + mainWidth, top, fullWidth - mainWidth, chartHeight},
-                "Time in the last period", nullptr, sheet);
+    DrawCurrent(load.Record->Course, {0, 0}, places.Record, "Time", &load.Record->Counted.Span, sheet);
+    DrawCurrent(load.Shape, {start, 0}, places.Period, "Time in the last period", nullptr, sheet);
 }
 
 std::string Percent(double share)
@@ -172,14 +200,14 @@ void DrawShares(const StressShares& shares, const Box& box, SheetSurface& sheet)
     plot.Hatch(axis.Low, LowestFrequencyHz, hatchColor);
     plot.Hatch(HighestFrequencyHz, axis.High, hatchColor);
     plot.DrawAxes();
+    plot.Mark(LowestFrequencyHz, frameColor);
+    plot.Mark(HighestFrequencyHz, frameColor);
     for (const auto& line : shares.Lines)
     {
         plot.Fill(line.Hertz / half, line.Hertz * half, line.Share * percent,
                   line.Reach == DataReach::Inside ? insideColor : outsideColor);
     }
     plot.Fill(unresolvedHertz / half, unresolvedHertz * half, shares.Unresolved * percent, outsideColor);
-    plot.Mark(LowestFrequencyHz, frameColor);
-    plot.Mark(HighestFrequencyHz, frameColor);
 }
 
 /// A line beside the shares.
@@ -214,22 +242,33 @@ std::vector<Note> NotesOf(const CurrentLoad& load, const StressShares& shares)
     return notes;
 }
 
-void DrawReport(const StressReport& report, double top, const std::string& title, SheetSurface& sheet)
+void DrawNotes(const std::vector<Note>& notes, const Box& place, SheetSurface& sheet)
 {
-    DrawCurrents(report.Load, top + titleHeight, sheet);
-    const auto shares = StressSharesOf(report);
-    const double below = top + titleHeight + chartHeight;
-    DrawShares(shares, {margin, below, mainWidth, chartHeight}, sheet);
-    double line = below + margin;
-    for (const auto& [note, color] : NotesOf(report.Load, shares))
+    const double lineHeight = std::min(mostLineHeight, place.Height / static_cast<double>(notes.size()));
+    double top = place.Top;
+    for (const auto& [text, color] : notes)
     {
-        sheet.Text({margin + mainWidth + margin, line, fullWidth - mainWidth - margin, lineHeight}, note,
-                   color);
-        line += lineHeight;
+        sheet.Text({place.Left, top, place.Width, lineHeight}, text, color);
+        top += lineHeight;
     }
-    sheet.Text({margin, top + 4, fullWidth, titleHeight}, title, frameColor);
 }
 } // namespace
+
+StressPicture StressPictureOf(const StressReport& report, CodeView code, const CurveSettings& settings)
+{
+    return {.Title = TitleOf(report, code, settings), .Load = report.Load, .Shares = StressSharesOf(report)};
+}
+
+void DrawStressPicture(const StressPicture& picture, const Box& place, SheetSurface& sheet)
+{
+    sheet.Fill(place, white);
+    const auto places = PlacesIn(place);
+    // A chart gives the sheet the font of the texts that follow.
+    DrawCurrents(picture.Load, places, sheet);
+    DrawShares(picture.Shares, places.Shares, sheet);
+    DrawNotes(NotesOf(picture.Load, picture.Shares), places.Notes, sheet);
+    sheet.Text(places.Title, picture.Title, frameColor);
+}
 
 double StressSheetHeight(std::size_t reports)
 {
@@ -239,11 +278,11 @@ double StressSheetHeight(std::size_t reports)
 void DrawStressSheet(std::span<const StressReport> reports, CodeView code, const CurveSettings& settings,
                      SheetSurface& sheet)
 {
-    sheet.Fill({0, 0, StressSheetWidth, StressSheetHeight(reports.size())}, white);
     double top = 0;
     for (const auto& report : reports)
     {
-        DrawReport(report, top, TitleOf(report, code, settings), sheet);
+        DrawStressPicture(StressPictureOf(report, code, settings), {0, top, StressSheetWidth, reportHeight},
+                          sheet);
         top += reportHeight;
     }
 }

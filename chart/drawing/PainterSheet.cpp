@@ -2,7 +2,6 @@
 
 #include "chart/drawing/FittedText.h"
 #include "chart/drawing/QtColors.h"
-#include "chart/layout/ChartDrawing.h"
 
 static QRectF QtRect(const Box& box)
 {
@@ -32,9 +31,9 @@ double PainterSheet::TextWidth(std::string_view text) const
     return metrics.horizontalAdvance(QString::fromUtf8(text));
 }
 
-ChartSurface& PainterSheet::Chart(const Box& place)
+ChartSurface& PainterSheet::Chart(const Box& place, const UserScale& scale)
 {
-    chart.emplace(painter, QtRect(place), chartScale);
+    chart.emplace(painter, QtRect(place), scale);
     chart->Clear();
     return *chart;
 }

@@ -26,7 +26,7 @@ public:
     void Frame(const Box& box, const Color& color) override;
     void Text(const Box& box, std::string_view text, const Color& color) override;
     double TextWidth(std::string_view text) const override;
-    ChartSurface& Chart(const Box& place) override;
+    ChartSurface& Chart(const Box& place, const UserScale& scale) override;
 
 private:
     QPainter& painter;

@@ -39,7 +39,7 @@ void DrawChartSheet(const ChartView& view, std::span<const ChartRecord> lines,
                     std::span<const std::string> partNums, SheetSurface& sheet)
 {
     sheet.Fill({0, 0, sheetWidth, sheetHeight}, sheetColor);
-    auto& chart = sheet.Chart(chartPlace);
+    auto& chart = sheet.Chart(chartPlace, chartScale);
     DrawAxes(view, chart);
     DrawCurves(view, lines, chart);
 

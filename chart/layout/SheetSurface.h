@@ -32,7 +32,7 @@ public:
     /// Width of a line of text, positive.
     virtual double TextWidth(std::string_view text) const = 0;
 
-    /// The chart's place on the sheet, white, as a surface of its own in the scale of charts. It lasts until
-    /// the next call and no longer than the sheet.
-    virtual ChartSurface& Chart(const Box& place) = 0;
+    /// A chart's place on the sheet, white, as a surface of its own in a user scale that covers it. It lasts
+    /// until the next call and no longer than the sheet.
+    virtual ChartSurface& Chart(const Box& place, const UserScale& scale) = 0;
 };

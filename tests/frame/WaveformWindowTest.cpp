@@ -1,5 +1,6 @@
 /// The window that makes a sine of a current of any shape, before the search.
 
+#include "frame/WaveformPicture.h"
 #include "frame/frmWaveform.h"
 #include "tests/frame/FindDesk.h"
 
@@ -7,10 +8,14 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QProgressBar>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
 
 #include <cmath>
+#include <functional>
+#include <random>
 
 class WaveformWindowTest : public QObject
 {
@@ -32,6 +37,11 @@ private Q_SLOTS:
     void FaultsStandInTheWindow_data();
     void FaultsStandInTheWindow();
     void LongReadingShowsProgressAndCanBeCancelled();
+    void PictureFollowsTheEntries();
+    void PictureShowsTheCurrent_data();
+    void PictureShowsTheCurrent();
+    void PictureFillsItsPlace();
+    void WindowFitsASmallScreen();
     void KeysLeadThroughTheWindow();
     void ControlsHaveNames();
 };
@@ -64,6 +74,7 @@ struct WaveDesk : FindDesk
 
     template <class T> T* Of(const char* name) const { return wave->findChild<T*>(name); }
     QString Told() const { return Of<QLabel>("lblWaveform")->text(); }
+    WaveformPicture* Picture() const { return Of<WaveformPicture>("picWaveform"); }
     bool CanTake() const { return Of<QPushButton>("cmdWaveOK")->isEnabled(); }
     void Show(int page) const { Of<QTabWidget>("tabWaveform")->setCurrentIndex(page); }
     void Key(const char* box, const QString& text) const
@@ -127,14 +138,16 @@ struct WaveDesk : FindDesk
     frmWaveform* wave = nullptr;
 };
 
-/// Rows of a triangle, a current under the name and half of it under the other one.
-QByteArray Rows(const QByteArray& heading, int rows = 20001)
+/// Rows of a current, a triangle where none is given: it under the first name, half of it under the other
+/// one.
+QByteArray Rows(const QByteArray& heading, int rows = 20001,
+                const std::function<double(double seconds)>& currentAt = Triangle)
 {
     QByteArray text = heading + "\n";
     constexpr double step = 20e-9;
     for (int row = 0; row < rows; ++row)
     {
-        const double current = Triangle(row * step);
+        const double current = currentAt(row * step);
         text += QByteArray::number(row * step, 'g', 12) + ' ' + QByteArray::number(current, 'g', 12) + ' ' +
                 QByteArray::number(current / 2, 'g', 12) + '\n';
     }
@@ -410,6 +423,145 @@ void WaveformWindowTest::LongReadingShowsProgressAndCanBeCancelled()
     QVERIFY(desk.Tells("Heats like"));
 }
 
+// ---- The picture ----
+
+/// How many pixels of what the picture shows are strongly blue: the curves and the bars.
+static int BluePixels(const QImage& image)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+    {
+        for (int x = 0; x < image.width(); ++x)
+        {
+            const QColor color = image.pixelColor(x, y);
+            count += color.blue() > 120 && color.red() < 60 && color.green() < 110 ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+static QImage Shown(const WaveDesk& desk)
+{
+    return desk.Picture()->grab().toImage();
+}
+
+void WaveformWindowTest::PictureFollowsTheEntries()
+{
+    WaveDesk desk;
+    QVERIFY(desk.Picture()->isVisible());
+    QVERIFY(desk.Picture()->IsEmpty());
+    QCOMPARE(BluePixels(Shown(desk)), 0);
+    desk.KeyBuck();
+    QVERIFY(!desk.Picture()->IsEmpty() && !desk.Picture()->IsFaded());
+    QCOMPARE(desk.Picture()->accessibleDescription(),
+             QString("buck input: 2.257 Arms, heats like a sine of 2.257 Arms at 633.8 kHz"));
+    const QImage input = Shown(desk);
+    QVERIFY(BluePixels(input) > 500);
+    desk.Of<QComboBox>("cmbConvSide")->setCurrentIndex(1);
+    QVERIFY(desk.Picture()->accessibleDescription().startsWith("buck output: 627.9 mArms"));
+    QVERIFY(Shown(desk) != input);
+    // What no longer holds fades where it stands, and comes back with the entry.
+    desk.Of<QComboBox>("cmbConvSide")->setCurrentIndex(0);
+    desk.Key("txtConvVout", "");
+    QVERIFY(!desk.Picture()->IsEmpty() && desk.Picture()->IsFaded());
+    desk.Grab("faded");
+    QCOMPARE(BluePixels(Shown(desk)), 0);
+    QCOMPARE(desk.Picture()->accessibleDescription(), QString());
+    desk.Key("txtConvVout", "3.3");
+    QVERIFY(!desk.Picture()->IsFaded());
+    QCOMPARE(Shown(desk), input);
+    desk.Show(0);
+    QVERIFY(desk.Picture()->IsEmpty());
+    QCOMPARE(BluePixels(Shown(desk)), 0);
+}
+
+void WaveformWindowTest::PictureShowsTheCurrent_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("told");
+    QTest::addColumn<bool>("isShown");
+    QTest::newRow("clean") << Rows("time i(c1) v") << "200 periods of 2.0000 µs" << true;
+    const auto bursts = [](double seconds)
+    { return std::fmod(seconds, 200e-6) < 80e-6 ? Triangle(seconds) : 0; };
+    QTest::newRow("bursts") << Rows("time i(c1) v", 100001, bursts) << "10 periods of 200.00 µs" << true;
+    std::mt19937 random(3);
+    std::normal_distribution<double> noise(0, 0.4);
+    const auto noisy = [&](double seconds) { return Triangle(seconds) + noise(random); };
+    QTest::newRow("noisy") << Rows("time i(c1) v", 20001, noisy) << "Warning: the periods are not alike"
+                           << true;
+    const auto starting = [](double seconds) { return Triangle(seconds) + 20 * std::exp(-seconds / 100e-6); };
+    QTest::newRow("not settled") << Rows("time i(c1) v", 20001, starting) << "The current is not settled"
+                                 << false;
+}
+
+void WaveformWindowTest::PictureShowsTheCurrent()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, told);
+    QFETCH(bool, isShown);
+    WaveDesk desk;
+    desk.Open(text);
+    QVERIFY2(desk.Tells(told), qPrintable(desk.Told()));
+    desk.Grab(QTest::currentDataTag());
+    QCOMPARE(desk.Picture()->IsEmpty(), !isShown);
+    QCOMPARE(BluePixels(Shown(desk)) > 500, isShown);
+    QCOMPARE(desk.Picture()->accessibleDescription().startsWith("i(c1): "), isShown);
+}
+
+/// Pixels between the right side of the upper plot's frame and the right edge.
+static int RightMargin(const QImage& image)
+{
+    int x = image.width() - 1;
+    while (x > 0 && image.pixelColor(x, image.height() / 4).lightness() > 80)
+    {
+        --x;
+    }
+    return image.width() - x;
+}
+
+void WaveformWindowTest::PictureFillsItsPlace()
+{
+    WaveDesk desk;
+    desk.KeyBuck();
+    Settle();
+    const QSize usual = desk.wave->size();
+    const QImage before = Shown(desk);
+    QVERIFY(RightMargin(before) < before.width() / 10);
+    desk.wave->resize(usual + QSize(200, 150));
+    Settle();
+    const QImage larger = Shown(desk);
+    QCOMPARE(larger.deviceIndependentSize().toSize(), desk.Picture()->size());
+    QVERIFY(larger.width() > before.width() && larger.height() > before.height());
+    // Drawn anew, not stretched: the frame of the plot ends as far from the right edge.
+    QVERIFY(qAbs(RightMargin(larger) - RightMargin(before)) <= 1);
+    desk.wave->resize(usual);
+    Settle();
+    QCOMPARE(Shown(desk), before);
+}
+
+void WaveformWindowTest::WindowFitsASmallScreen()
+{
+    // Of 960 by 540, of which a usual frame leaves this.
+    const QSize free(944, 492);
+    WaveDesk desk;
+    for (int page = 0; page < 2; ++page)
+    {
+        desk.Show(page);
+        QVERIFY2(desk.wave->minimumSizeHint().boundedTo(free) == desk.wave->minimumSizeHint(),
+                 qPrintable(QString::number(desk.wave->minimumSizeHint().height())));
+    }
+    desk.KeyBuck();
+    desk.wave->resize(desk.wave->minimumSizeHint());
+    Settle();
+    desk.Grab("least");
+    QVERIFY(desk.Picture()->height() >= 200);
+    const auto* text = desk.Of<QScrollArea>("scrWaveform");
+    QVERIFY(desk.Picture()->geometry().bottom() < text->geometry().top());
+    QVERIFY(text->verticalScrollBar()->maximum() > 0);
+    QVERIFY(desk.wave->rect().contains(desk.Of<QPushButton>("cmdWaveOK")->geometry()));
+    QVERIFY(BluePixels(Shown(desk)) > 300);
+}
+
 // ---- Keys and names ----
 
 void WaveformWindowTest::KeysLeadThroughTheWindow()
@@ -425,7 +577,7 @@ void WaveformWindowTest::KeysLeadThroughTheWindow()
         order << QApplication::focusWidget()->objectName();
     }
     QCOMPARE(order, QStringList({"txtConvVin", "txtConvVout", "txtConvIout", "txtConvFrequency",
-                                 "txtConvInductance", "txtConvTurns", "cmbConvSide", "cmdWaveCancel"}));
+                                 "txtConvInductance", "txtConvTurns", "cmbConvSide", "scrWaveform"}));
     QTest::keyClick(desk.wave, Qt::Key_U, Qt::AltModifier);
     QCOMPARE(QApplication::focusWidget()->objectName(), QString("txtConvIout"));
 }

@@ -41,7 +41,7 @@ public:
         Texts.push_back({box, std::string(text), color});
     }
     double TextWidth(std::string_view text) const override { return 5.0 * static_cast<double>(text.size()); }
-    ChartSurface& Chart(const Box& place) override
+    ChartSurface& Chart(const Box& place, const UserScale&) override
     {
         ChartPlace = place;
         return ChartPart;
