@@ -46,31 +46,41 @@ static std::string Help()
     return examples +
            Wrapped(
                "The current is taken apart over whole periods into its lines, and each heats by the part's "
-               "law. "
-               "Lines above 1 MHz heat as at 1 MHz, and below 10 kHz the law goes on; more than a tenth of "
-               "the "
-               "rise there is told, and more than half leaves no rise. The current of a waveform divided by "
-               "--parallel is that of one part. A current that does not repeat, or is not settled, is "
-               "refused: "
-               "--from, --to, --period, --periods and --whole say what counts. A converter's currents are "
-               "those "
-               "of ideal switches; without --part both sides are told. --picture draws the current, what of "
-               "it "
-               "counts, and which frequencies heat.");
+               "law. Lines above 1 MHz heat as at 1 MHz, and below 10 kHz the law goes on; more than a tenth "
+               "of the rise there is told, and more than half leaves no rise. The current of a waveform "
+               "divided by --parallel is that of one part. A current that does not repeat, or is not "
+               "settled, is refused: --from, --to, --period, --periods and --whole say what counts. A "
+               "converter's currents are those of ideal switches; without --part both sides are told. "
+               "--picture draws the current, what of it counts, and which frequencies heat.");
+}
+
+/// The bytes of a waveform; of a stream no more than tell that it is too large.
+static std::string BytesOf(const std::string& file)
+{
+    if (file != StandardStream)
+    {
+        InputFile input(file);
+        RefuseTooLarge(input.Size());
+        return ReadBytes(input, MostWaveformBytes);
+    }
+    std::string bytes;
+    for (std::istreambuf_iterator<char> at(std::cin), end; at != end && bytes.size() <= MostWaveformBytes;
+         ++at)
+    {
+        bytes += *at;
+    }
+    return bytes;
 }
 
 static StressReport ReportOfFile(const std::string& file, RippleRequest& request)
 {
-    const bool isStream = file == StandardStream;
     try
     {
-        auto bytes = isStream ? std::string(std::istreambuf_iterator<char>(std::cin), {})
-                              : ReadBytes(file, MostWaveformBytes);
-        return ReportOfRecord(std::move(bytes), request);
+        return ReportOfRecord(BytesOf(file), request);
     }
     catch (const WaveformError& error)
     {
-        throw Failure((isStream ? "standard input" : file) + ": " + error.what());
+        throw Failure((file == StandardStream ? "standard input" : file) + ": " + error.what());
     }
 }
 

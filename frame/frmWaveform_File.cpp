@@ -58,7 +58,9 @@ void frmWaveform::ReadFile(const QString& path)
     { ShowFault(QFileInfo(path).fileName() + QStringLiteral(": ") + fault); };
     const auto read = [this, path](const SideWork::Pause& pause) -> SideWork::Answer
     {
-        auto bytes = ReadBytes(path.toStdString(), MostWaveformBytes);
+        InputFile input(path.toStdString());
+        RefuseTooLarge(input.Size());
+        auto bytes = ReadBytes(input, MostWaveformBytes);
         const auto found = std::make_shared<const WaveformTable>(ReadWaveforms(std::move(bytes), pause));
         return [this, path, found] { TakeFile(path, found); };
     };

@@ -284,8 +284,17 @@ void CheckText(std::string_view text)
 }
 } // namespace
 
+void RefuseTooLarge(std::uintmax_t bytes)
+{
+    if (bytes > MostWaveformBytes)
+    {
+        throw WaveformError("is larger than 1 GiB: export fewer columns, a shorter time or coarser steps");
+    }
+}
+
 WaveformTable ReadWaveforms(std::string bytes, const std::function<void()>& betweenLines)
 {
+    RefuseTooLarge(bytes.size());
     const auto text = Utf8Of(std::move(bytes));
     CheckText(text);
     auto blocks = BlockReader(text, betweenLines).Read();

@@ -5,6 +5,7 @@
 #include "stress/Waveform.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -14,6 +15,9 @@
 /// The most rows, and the most bytes, of a text.
 inline constexpr std::size_t MostWaveformRows = 10'000'000;
 inline constexpr std::size_t MostWaveformBytes = std::size_t{1} << 30;
+
+/// Throws WaveformError for a text of more bytes, so that nobody need read it before.
+void RefuseTooLarge(std::uintmax_t bytes);
 
 /// One column besides the time.
 struct WaveColumn
@@ -47,7 +51,8 @@ struct WaveformTable
 ///
 /// Throws WaveformError with the line for a row of another number of cells, text among numbers, a value that
 /// is not finite and a time that falls; also for a binary file, less than 8 rows, and more than
-/// `MostWaveformRows`. `betweenLines` is called every few thousand lines; what it throws ends the reading.
+/// `MostWaveformRows` or `MostWaveformBytes`. `betweenLines` is called every few thousand lines; what it
+/// throws ends the reading.
 WaveformTable ReadWaveforms(std::string bytes, const std::function<void()>& betweenLines = {});
 
 /// True for a column that is named as simulators name currents, or has the unit A.

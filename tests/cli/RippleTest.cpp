@@ -304,6 +304,11 @@ void RippleTest::RefusesWithOneLine_data()
         File("two.txt") + ": line 203: the time falls, so a second run begins; export one run");
     row("raw file", QStringList{File("buck.raw")} + bearer, 1,
         File("buck.raw") + ": is a raw file: export the waveform as text");
+    // Only its length is there, and nothing of it is read.
+    QFile tooLarge(File("large.txt"));
+    QVERIFY(tooLarge.open(QIODevice::WriteOnly) && tooLarge.resize((qint64{1} << 30) + 1));
+    row("larger than 1 GiB", QStringList{File("large.txt")} + bearer, 1,
+        File("large.txt") + ": is larger than 1 GiB: export fewer columns, a shorter time or coarser steps");
     row("output", QStringList{File("wave.txt"), "--output", File("wave.txt")} + bearer, 1,
         File("wave.txt") + ": is " + File("wave.txt") + ", which this command reads");
 }

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void StretchIsAsked();
     void FaultsStandInTheWindow_data();
     void FaultsStandInTheWindow();
+    void TooLargeAFileIsNotRead();
     void LongReadingShowsProgressAndCanBeCancelled();
     void PictureFollowsTheEntries();
     void PictureShowsTheCurrent_data();
@@ -95,13 +96,17 @@ struct WaveDesk : FindDesk
         Key("txtConvFrequency", "500");
         Key("txtConvInductance", "2.2");
     }
-    /// Writes a file, and opens it through the dialog.
-    void Open(const QByteArray& text)
+    /// Writes a file, of a length of its own where one is given, and opens it through the dialog.
+    void Open(const QByteArray& text, qint64 length = 0)
     {
         const QString path = folder.filePath("buck.txt");
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(text);
+        if (length > 0)
+        {
+            QVERIFY(file.resize(length));
+        }
         file.close();
         QTimer answer;
         QObject::connect(&answer, &QTimer::timeout, &answer,
@@ -403,6 +408,15 @@ void WaveformWindowTest::FaultsStandInTheWindow()
     desk.Open(Rows("time i(c1) v(out)"));
     QVERIFY(desk.Tells("Heats like"));
     QVERIFY(desk.CanTake());
+}
+
+void WaveformWindowTest::TooLargeAFileIsNotRead()
+{
+    WaveDesk desk;
+    // Only its length is there.
+    desk.Open("time i(c1)\n", (qint64{1} << 30) + 1);
+    QVERIFY2(desk.Tells("buck.txt: is larger than 1 GiB: export fewer columns"), qPrintable(desk.Told()));
+    QVERIFY(!desk.CanTake());
 }
 
 void WaveformWindowTest::LongReadingShowsProgressAndCanBeCancelled()

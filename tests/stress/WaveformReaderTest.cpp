@@ -168,6 +168,21 @@ TEST(ReadWaveforms, RefusesWithTheLine)
               "line 10: a second run begins; export one run");
 }
 
+TEST(RefuseTooLarge, TellsTheLimit)
+{
+    EXPECT_NO_THROW(RefuseTooLarge(MostWaveformBytes));
+    try
+    {
+        RefuseTooLarge(MostWaveformBytes + 1);
+        FAIL() << "is taken";
+    }
+    catch (const WaveformError& error)
+    {
+        EXPECT_STREQ(error.what(),
+                     "is larger than 1 GiB: export fewer columns, a shorter time or coarser steps");
+    }
+}
+
 TEST(ReadWaveforms, RefusesWhatIsNoTable)
 {
     EXPECT_EQ(Refusal(""), "there are no rows of numbers, of which the first is the time");
