@@ -1,13 +1,11 @@
 #include "board/BomNet.h"
 
-#include "calc/Capacitance.h"
 #include "calc/Conditions.h"
-#include "calc/PermittedRise.h"
-#include "calc/SearchBox.h"
+#include "calc/CornerSum.h"
 #include "find/KindsOfData.h"
 #include "partdata/RunTimeError.h"
 #include "partdata/Windows1252.h"
-#include "simulation/Bank.h"
+#include "simulation/BankRanges.h"
 #include "simulation/BankRules.h"
 
 #include <algorithm>
@@ -87,56 +85,32 @@ private:
         return "";
     }
 
-    double TotalAt(double biasVolts, double ambientC) const
-    {
-        double total = 0;
-        for (const NetPiece& piece : pieces)
-        {
-            const auto point = CapacitancePointAt(*piece.Part, static_cast<float>(biasVolts),
-                                                  static_cast<float>(ambientC), at.View);
-            const double down = 1 - piece.Question->Asked.At.Tolerance.Down / percent;
-            total += piece.Count * down * point.value_or(CapacitancePoint{}).PicoFarads;
-        }
-        return total;
-    }
-
     void FindLeast(NetAnswer& answer) const
     {
-        constexpr int nodes = 17;
-        const auto total = [&](double bias, double ambient) { return TotalAt(bias, ambient); };
-        LeastFound best;
-        for (const double bias : EvenNodes(at.BiasVolts.Low, at.BiasVolts.High, nodes))
+        std::vector<WeighedPart> parts;
+        for (const NetPiece& piece : pieces)
         {
-            for (const double ambient : EvenNodes(at.AmbientC.Low, at.AmbientC.High, nodes))
-            {
-                const double value = total(bias, ambient);
-                best = value < best.Value ? LeastFound{bias, ambient, value} : best;
-            }
+            const double down = 1 - piece.Question->Asked.At.Tolerance.Down / percent;
+            parts.push_back({.Part = piece.Part, .Weight = piece.Count * down});
         }
-        best =
-            Refined(total, best, {at.BiasVolts.Low, at.BiasVolts.High}, {at.AmbientC.Low, at.AmbientC.High},
-                    {(at.BiasVolts.High - at.BiasVolts.Low) / (nodes - 1),
-                     (at.AmbientC.High - at.AmbientC.Low) / (nodes - 1)});
-        answer.Least = best.Value;
-        answer.LeastAt = {.BiasVolts = best.X, .AmbientC = best.Y};
+        const auto least = LeastSumIn(parts, {.BiasVolts = at.BiasVolts, .AmbientC = at.AmbientC}, at.View);
+        answer.Least = least.Value;
+        answer.LeastAt = least.At;
     }
 
     // ---- Shares ----
 
-    BankQuestion QuestionAt(double biasVolts, double ambientC) const
+    BankQuestion SharedQuestion() const
     {
         BankQuestion question;
         for (const NetPiece& piece : pieces)
         {
-            const auto& tolerance = piece.Question->Asked.At.Tolerance;
-            question.Pieces.push_back(
-                {.Part = piece.Part,
-                 .Count = piece.Count,
-                 .TolerancePercent = std::min(std::max(tolerance.Down, tolerance.Up), MostTolerance)});
+            question.Pieces.push_back({.Part = piece.Part,
+                                       .Count = piece.Count,
+                                       .Tolerance = piece.Question->Asked.At.Tolerance,
+                                       .MostRise = piece.Question->Asked.Wanted.MostRise});
         }
         question.At = at;
-        question.At.BiasVolts = static_cast<float>(biasVolts);
-        question.At.AmbientC = static_cast<float>(ambientC);
         question.At.Load.reset();
         question.Ripple = pieces.front().Question->NetRipple;
         return question;
@@ -155,61 +129,37 @@ private:
             return;
         }
         answer.Arms = std::sqrt(square);
-        const auto heating = at.HeatingAmbientC();
-        for (const double bias : {at.BiasVolts.Low, at.BiasVolts.High})
+        const auto question = SharedQuestion();
+        if (answer.Refusal.empty() && answer.Unknown.empty() && !RefusePieces(question))
         {
-            for (const float ambient : {heating.Low, heating.High})
-            {
-                if (!answer.Refusal.empty() || !answer.Unknown.empty() ||
-                    RefusePieces(QuestionAt(bias, ambient)))
-                {
-                    return;
-                }
-            }
-        }
-        TakeWorstShares(answer, heating);
-    }
-
-    void TakeWorstShares(NetAnswer& answer, const ConditionRange& heating) const
-    {
-        constexpr int nodes = 9;
-        for (const double bias : EvenNodes(at.BiasVolts.Low, at.BiasVolts.High, nodes))
-        {
-            for (const double ambient : EvenNodes(heating.Low, heating.High, nodes))
-            {
-                const auto bank = BankOf(QuestionAt(bias, ambient));
-                for (std::size_t i = 0; i < bank.Pieces.size(); ++i)
-                {
-                    Take(answer, i, bank.Pieces[i], {.BiasVolts = bias, .AmbientC = ambient});
-                }
-            }
+            TakeWorstShares(answer, BankRanges(question));
         }
     }
 
-    void Take(NetAnswer& answer, std::size_t index, const PieceOfBank& piece, const Place& place) const
+    void TakeWorstShares(NetAnswer& answer, const BankRanges& ranges) const
     {
-        const bool isFirst = answer.Shares.size() == index;
-        NetShare& share = isFirst ? answer.Shares.emplace_back() : answer.Shares[index];
-        const auto& wanted = pieces[index].Question->Asked.Wanted.MostRise;
-        const PermittedRise rise{.MaxC = pieces[index].Part->Data[Value::UpperTemperature], .Wanted = wanted};
-        const double permitted = rise.At(place.AmbientC);
-        const double margin = permitted - piece.WorstRise;
-        const double body = place.AmbientC + piece.WorstRise;
-        share.Body = isFirst ? body : std::max(share.Body, body);
-        share.Arms = std::max(share.Arms, piece.WorstArms);
-        if (isFirst || piece.WorstRise > share.Rise)
+        for (std::size_t i = 0; i < pieces.size(); ++i)
         {
-            share.Rise = piece.WorstRise;
-            share.RiseAt = place;
+            const auto of = [i](double PieceOfBank::*told)
+            { return [=](const BankAnswer& bank) { return bank.Pieces[i].*told; }; };
+            const auto rise = ranges.Most(of(&PieceOfBank::WorstRise));
+            const auto margin = ranges.Least(of(&PieceOfBank::WorstMargin));
+            answer.Shares.push_back(
+                {.Arms = ranges.Most(of(&PieceOfBank::WorstArms)).Value,
+                 .Rise = rise.Value,
+                 .RiseAt = rise.At,
+                 .Margin = margin.Value,
+                 .Reserve =
+                     ranges.Least([i](const BankAnswer& bank) { return ReserveOf(bank.Pieces[i]); }).Value,
+                 .PermittedRise = ranges.Least(of(&PieceOfBank::PermittedRise)).Value,
+                 .MarginAt = margin.At,
+                 .Body = ranges.Most(of(&PieceOfBank::WorstBody)).Value});
         }
-        if (isFirst || margin < share.Margin)
-        {
-            share.Margin = margin;
-            share.MarginAt = place;
-        }
-        const double reserve = permitted > 0 ? margin / permitted : -1;
-        share.Reserve = isFirst ? reserve : std::min(share.Reserve, reserve);
-        share.PermittedRise = isFirst ? permitted : std::min(share.PermittedRise, permitted);
+    }
+
+    static double ReserveOf(const PieceOfBank& piece)
+    {
+        return piece.PermittedRise > 0 ? piece.WorstMargin / piece.PermittedRise : -1;
     }
 
     const std::vector<NetPiece>& pieces;

@@ -4,6 +4,7 @@
 
 #include "calc/TurningPoints.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
@@ -55,28 +56,64 @@ template <class Function> double LeastBetween(const Function& function, double f
     return std::midpoint(from, to);
 }
 
-/// Refines the least of a function from nodes that lie `stepX` and `stepY` apart: golden section along either
-/// side in turn, three times, each time over a quarter of the steps.
+/// One side of a box: its ends, and how far apart the places lie that have been tried.
+struct SearchSide
+{
+    double From = 0;
+    double To = 0;
+    double Step = 0;
+};
+
+/// A place of a box of so many sides and the value there.
+template <std::size_t Sides> struct LeastInBox
+{
+    std::array<double, Sides> At{};
+    double Value = std::numeric_limits<double>::infinity();
+};
+
+/// Refines the least of a function from places that lie a step apart: golden section along each side in turn,
+/// three times, each time over a quarter of the steps.
+template <std::size_t Sides, class Function>
+LeastInBox<Sides> RefinedIn(const Function& function, LeastInBox<Sides> best,
+                            std::array<SearchSide, Sides> sides)
+{
+    const auto refine = [&](std::size_t i)
+    {
+        auto at = best.At;
+        const auto along = [&](double x)
+        {
+            at[i] = x;
+            return function(at);
+        };
+        const double x = LeastBetween(along, std::max(sides[i].From, best.At[i] - sides[i].Step),
+                                      std::min(sides[i].To, best.At[i] + sides[i].Step));
+        if (const double value = along(x); value < best.Value)
+        {
+            best = {.At = at, .Value = value};
+        }
+        sides[i].Step /= 4;
+    };
+    for (int round = 0; round < 3; ++round)
+    {
+        for (std::size_t i = 0; i < Sides; ++i)
+        {
+            if (sides[i].From < sides[i].To)
+            {
+                refine(i);
+            }
+        }
+    }
+    return best;
+}
+
+/// The same over a rectangle, whose places have been tried `steps` apart.
 template <class Function>
 LeastFound Refined(const Function& function, LeastFound best, std::pair<double, double> xEnds,
                    std::pair<double, double> yEnds, std::pair<double, double> steps)
 {
-    const auto take = [&](double x, double y)
-    {
-        const double value = function(x, y);
-        best = value < best.Value ? LeastFound{x, y, value} : best;
-    };
-    for (int round = 0; round < 3; ++round)
-    {
-        take(LeastBetween([&](double x) { return function(x, best.Y); },
-                          std::max(xEnds.first, best.X - steps.first),
-                          std::min(xEnds.second, best.X + steps.first)),
-             best.Y);
-        take(best.X, LeastBetween([&](double y) { return function(best.X, y); },
-                                  std::max(yEnds.first, best.Y - steps.second),
-                                  std::min(yEnds.second, best.Y + steps.second)));
-        steps.first /= 4;
-        steps.second /= 4;
-    }
-    return best;
+    const auto found = RefinedIn<2>([&](const auto& at) { return function(at[0], at[1]); },
+                                    {.At = {best.X, best.Y}, .Value = best.Value},
+                                    {SearchSide{xEnds.first, xEnds.second, steps.first},
+                                     SearchSide{yEnds.first, yEnds.second, steps.second}});
+    return {found.At[0], found.At[1], found.Value};
 }

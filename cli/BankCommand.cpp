@@ -32,19 +32,23 @@ static constexpr const char* examples = R"(Examples:
       --dc-bias 5V --ambient 45C --frequency 300kHz --current 6Arms
   tavik-cli bank "KTS31NR71A226KA01 x2 tolerance=10" "KTS31NB51A476MA01 tolerance=20" \
       --dc-bias 5V --current "300kHz=4 600kHz=1.2" --format json
+  tavik-cli bank "KTS31NR71A226KA01 x2" KTS31NB51A476MA01 KTS188R71H104KA01 --tolerance 10 \
+      --dc-bias 4.5..5.5V --ambient -10..65C --frequency 270..330kHz --current 6Arms
 
 )";
 
 static std::string Help()
 {
     return examples +
-           Wrapped("Each PIECE is a part number, how many of it there are, and the percentage that their "
-                   "capacitance may differ by; the parts hold none. All pieces share the current by their "
-                   "capacitance and loss resistance at the operating point; currents of several frequencies "
-                   "heat as the sum of squares. The worst case has one piece at the upper end of its "
-                   "tolerance and all others at the lower end of theirs. Pieces do not heat each other. A "
-                   "bias that is left out is 0. The "
-                   "data of parts holds no inductance: where 1 nH would decide, a warning tells so.");
+           Wrapped(
+               "Each PIECE is a part number, in quotes where it has blanks, how many of it there are, and "
+               "the percentage that their capacitance may differ by; the parts hold none. All share the "
+               "current by their capacitance and loss resistance at the operating point; currents of "
+               "several frequencies heat as the sum of squares. The worst case has one piece at the upper "
+               "end of its tolerance and all others at the lower end of theirs. Over ranges of bias, ambient "
+               "temperature and frequency every value is the worst of all combinations, with the place "
+               "where it occurs. Pieces do not heat each other. A bias that is left out is 0. Where an "
+               "inductance of 1 nH, of which the data hold none, would decide, a warning tells so.");
 }
 
 static void TellBank(BankOptions options)
@@ -60,9 +64,9 @@ static void TellBank(BankOptions options)
     Output output(options.OutputFile);
     output.Write(FormatNamed(BankFormats(), options.Format).Write(bank, options.Settings));
     output.Finish();
-    for (const std::string& warning : WarningLines(bank, options.Settings))
+    for (const std::string& note : BankNotes(bank, options.Settings))
     {
-        TellLine("tavik-cli: warning: " + warning);
+        TellLine("tavik-cli: " + note);
     }
 }
 
@@ -77,6 +81,10 @@ void AddBankCommand(CLI::App& app)
         .add_option("--current", options->Request.Current,
                     "Ripple current, for example 4Arms, or \"300kHz=4 600kHz=1.2\"")
         ->type_name("Arms")
+        ->group("Operating point");
+    command
+        .add_option("--tolerance", options->Request.Tolerance, "That of pieces that name none, 10 or -20/+80")
+        ->type_name("%")
         ->group("Operating point");
     AddCodeOption(command, options->Request.Code);
     AddNumberingOption(command, options->Settings);

@@ -29,6 +29,12 @@ struct CapacitanceTolerance
 inline constexpr float MostToleranceDown = 99;
 inline constexpr float MostToleranceUp = 999;
 
+inline bool IsPermitted(const CapacitanceTolerance& tolerance)
+{
+    const auto& [down, up] = tolerance;
+    return down >= 0 && down <= MostToleranceDown && up >= 0 && up <= MostToleranceUp;
+}
+
 /// The conditions that all parts are judged under. Each stands anywhere in its range, whatever the others do.
 struct OperatingPoint
 {

@@ -93,8 +93,7 @@ Result RefuseLoad(const OperatingPoint& at)
 
 Result RefuseTolerance(const CapacitanceTolerance& tolerance)
 {
-    const auto& [down, up] = tolerance;
-    if (down >= 0 && down <= MostToleranceDown && up >= 0 && up <= MostToleranceUp)
+    if (IsPermitted(tolerance))
     {
         return std::nullopt;
     }

@@ -1,15 +1,18 @@
 #include "requests/BankFormats.h"
 
 #include "calc/NumberText.h"
+#include "find/LeftOut.h"
 #include "partdata/AnswersVersion.h"
 #include "requests/FourDigits.h"
 #include "requests/ListText.h"
-#include "simulation/BankWarnings.h"
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <functional>
+#include <iterator>
 
 namespace
 {
@@ -25,6 +28,11 @@ bool HasOneFrequency(const RequestedBank& bank)
     return bank.Question.Ripple.size() == 1;
 }
 
+double KilohertzOf(const Place& place)
+{
+    return place.Hertz / KindOf(Quantity::Frequency).StoredPerShown;
+}
+
 // ---- The table ----
 
 std::string Digits(double value)
@@ -32,36 +40,100 @@ std::string Digits(double value)
     return FourDigits(static_cast<float>(value));
 }
 
+/// "300", "270..330".
+std::string RangeText(const ConditionRange& range)
+{
+    return range.IsPoint() ? Digits(range.Low) : Digits(range.Low) + ".." + Digits(range.High);
+}
+
 std::string Capacitance(double picofarads)
 {
     return CapacitanceInFourDigits(static_cast<float>(picofarads));
 }
 
-std::string PiecesTable(const RequestedBank& bank, const CurveSettings& settings)
+/// "10", or "-20/+80" where the ends differ.
+std::string ToleranceText(const CapacitanceTolerance& tolerance)
 {
-    std::vector<ListRow> rows = {{"PART", "COUNT", "TOLERANCE[%]", "CAPACITANCE", "WARM", "CURRENT[Arms]",
-                                  "RISE[C]", "PERMITTED[C]", "MARGIN[C]", "WORST[Arms]", "WORST[C]",
-                                  "BOUND[Vrms]"}};
+    return tolerance.Down == tolerance.Up ? Digits(tolerance.Up)
+                                          : '-' + Digits(tolerance.Down) + "/+" + Digits(tolerance.Up);
+}
+
+/// "5.5V 65C", with "270kHz" for a place of heating.
+std::string PlaceText(const RequestedBank& bank, const Place& place, bool isOfHeating)
+{
+    const auto text = Digits(place.BiasVolts) + "V " + Digits(place.AmbientC) + 'C';
+    return isOfHeating && HasOneFrequency(bank) ? text + ' ' + Digits(KilohertzOf(place)) + "kHz" : text;
+}
+
+/// A column of the pieces; its text is that of the piece of a place in their order.
+struct PieceColumn
+{
+    std::string_view Heading;
+    bool IsNumber;
+    std::function<std::string(std::size_t)> Text;
+};
+
+/// What is worked out of each piece, over ranges with the places where it occurs.
+void AddValueColumns(std::vector<PieceColumn>& columns, const RequestedBank& bank)
+{
+    const bool isPoint = bank.Question.IsPoint();
+    const auto& pieces = bank.Answer.Pieces;
+    const auto add = [&](std::string_view heading, double PieceOfBank::*told) {
+        columns.push_back({heading, true, [=, &pieces](std::size_t i) { return Digits(pieces[i].*told); }});
+    };
+    const auto addPlace = [&](Place PieceOfBank::*place, bool isOfHeating)
+    {
+        if (!isPoint)
+        {
+            columns.push_back({"AT", false, [=, &bank, &pieces](std::size_t i) {
+                                   return PlaceText(bank, pieces[i].*place, isOfHeating);
+                               }});
+        }
+    };
+    columns.push_back({isPoint ? "CAPACITANCE" : "LEAST", true,
+                       [&](std::size_t i) { return Capacitance(pieces[i].PicoFarads); }});
+    addPlace(&PieceOfBank::LeastAt, false);
+    columns.push_back({"WARM", true, [&](std::size_t i) {
+                           return pieces[i].WarmPicoFarads ? Capacitance(*pieces[i].WarmPicoFarads) : "-";
+                       }});
+    add("CURRENT[Arms]", &PieceOfBank::Arms);
+    add("RISE[C]", &PieceOfBank::Rise);
+    addPlace(&PieceOfBank::RiseAt, true);
+    add("PERMITTED[C]", &PieceOfBank::PermittedRise);
+    add("MARGIN[C]", &PieceOfBank::Margin);
+    addPlace(&PieceOfBank::MarginAt, true);
+    add("WORST[Arms]", &PieceOfBank::WorstArms);
+    add("WORST[C]", &PieceOfBank::WorstRise);
+    addPlace(&PieceOfBank::WorstRiseAt, true);
+    add("BOUND[Vrms]", &PieceOfBank::VoltageBound);
     if (HasOneFrequency(bank))
     {
-        rows.front().emplace_back("LOSS[mOhm]");
+        columns.push_back({"LOSS[mOhm]", true, [&](std::size_t i) {
+                               return Digits(pieces[i].Frequencies.front().LossResistance);
+                           }});
     }
-    for (std::size_t i = 0; i < bank.Answer.Pieces.size(); ++i)
+}
+
+std::string PiecesTable(const RequestedBank& bank, const CurveSettings& settings)
+{
+    std::vector<PieceColumn> columns = {
+        {"PART", false, [&](std::size_t i) { return NameOf(bank, i, settings); }},
+        {"COUNT", true, [&](std::size_t i) { return std::to_string(bank.Question.Pieces[i].Count); }},
+        {"TOLERANCE[%]", true,
+         [&](std::size_t i) { return ToleranceText(bank.Question.Pieces[i].Tolerance); }},
+    };
+    AddValueColumns(columns, bank);
+    std::vector<ListRow> rows(1 + bank.Answer.Pieces.size());
+    std::vector<bool> areNumbers;
+    for (const PieceColumn& column : columns)
     {
-        const BankPiece& asked = bank.Question.Pieces[i];
-        const PieceOfBank& piece = bank.Answer.Pieces[i];
-        rows.push_back({NameOf(bank, i, settings), std::to_string(asked.Count),
-                        Digits(asked.TolerancePercent), Capacitance(piece.PicoFarads),
-                        piece.WarmPicoFarads ? Capacitance(*piece.WarmPicoFarads) : "-", Digits(piece.Arms),
-                        Digits(piece.Rise), Digits(piece.PermittedRise), Digits(piece.Margin),
-                        Digits(piece.WorstArms), Digits(piece.WorstRise), Digits(piece.VoltageBound)});
-        if (HasOneFrequency(bank))
+        rows.front().emplace_back(column.Heading);
+        areNumbers.push_back(column.IsNumber);
+        for (std::size_t i = 0; i < bank.Answer.Pieces.size(); ++i)
         {
-            rows.back().push_back(Digits(piece.Frequencies.front().LossResistance));
+            rows[i + 1].push_back(column.Text(i));
         }
     }
-    std::vector<bool> areNumbers(rows.front().size(), true);
-    areNumbers.front() = false;
     return AlignedTable(std::move(rows), areNumbers);
 }
 
@@ -77,21 +149,34 @@ double WholeCurrent(const RequestedBank& bank)
 
 std::string BankTable(const RequestedBank& bank)
 {
-    std::vector<ListRow> rows = {
-        {"FREQUENCY[kHz]", "CURRENT[Arms]", "CAPACITANCE", "LEAST", "LOSS[mOhm]", "RIPPLE[Vrms]"}};
-    const auto least = Capacitance(bank.Answer.LeastPicoFarads);
+    const bool isPoint = bank.Question.IsPoint();
+    std::vector<ListRow> rows = {{"FREQUENCY[kHz]", "CURRENT[Arms]", "CAPACITANCE", "LEAST"}};
+    ListRow least = {Capacitance(bank.Answer.LeastPicoFarads)};
+    if (!isPoint)
+    {
+        rows.front().emplace_back("AT");
+        least.push_back(PlaceText(bank, bank.Answer.LeastAt, false));
+    }
+    const auto add = [&](ListRow row, const std::string& loss, double vrms)
+    {
+        row.insert(row.end(), least.begin(), least.end());
+        row.insert(row.end(), {loss, Digits(vrms)});
+        rows.push_back(std::move(row));
+    };
+    rows.front().insert(rows.front().end(), {"LOSS[mOhm]", "RIPPLE[Vrms]"});
     for (std::size_t i = 0; i < bank.Answer.Frequencies.size(); ++i)
     {
         const BankAtFrequency& at = bank.Answer.Frequencies[i];
-        rows.push_back({Digits(at.Kilohertz), Digits(bank.Question.Ripple[i].Arms),
-                        Capacitance(at.PicoFarads), least, Digits(at.LossResistance), Digits(at.Vrms)});
+        add({RangeText(at.Kilohertz), Digits(bank.Question.Ripple[i].Arms), Capacitance(at.PicoFarads)},
+            Digits(at.LossResistance), at.Vrms);
     }
     if (!HasOneFrequency(bank))
     {
-        rows.push_back({"all", Digits(WholeCurrent(bank)), Capacitance(bank.Answer.PicoFarads), least, "-",
-                        Digits(bank.Answer.Vrms)});
+        add({"all", Digits(WholeCurrent(bank)), Capacitance(bank.Answer.PicoFarads)}, "-", bank.Answer.Vrms);
     }
-    return AlignedTable(std::move(rows), std::vector<bool>(6, true));
+    std::vector<bool> areNumbers(rows.front().size(), true);
+    areNumbers[4] = isPoint;
+    return AlignedTable(std::move(rows), areNumbers);
 }
 
 std::string Table(const RequestedBank& bank, const CurveSettings& settings)
@@ -107,10 +192,35 @@ Json Number(double value)
     return Json::parse(NumberText(static_cast<float>(value)));
 }
 
+/// A number, or both ends of a range.
+Json RangeJson(const ConditionRange& range)
+{
+    return range.IsPoint() ? Number(range.Low)
+                           : Json{{"low", Number(range.Low)}, {"high", Number(range.High)}};
+}
+
+/// A number, or both ends where they differ.
+Json ToleranceJson(const CapacitanceTolerance& tolerance)
+{
+    return tolerance.Down == tolerance.Up
+               ? Number(tolerance.Up)
+               : Json{{"down", Number(tolerance.Down)}, {"up", Number(tolerance.Up)}};
+}
+
+Json PlaceJson(const RequestedBank& bank, const Place& place, bool isOfHeating)
+{
+    Json object = {{"dcBias", Number(place.BiasVolts)}, {"ambient", Number(place.AmbientC)}};
+    if (isOfHeating && HasOneFrequency(bank))
+    {
+        object["frequency"] = Number(KilohertzOf(place));
+    }
+    return object;
+}
+
 Json ConditionsJson(const BankQuestion& question)
 {
-    Json conditions = {{"dcBias", Number(question.At.BiasVolts.High)},
-                       {"ambient", Number(question.At.AmbientC.High)}};
+    Json conditions = {{"dcBias", RangeJson(question.At.BiasVolts)},
+                       {"ambient", RangeJson(question.At.AmbientC)}};
     if (question.At.HeatResistance)
     {
         conditions["heatResistance"] = Number(*question.At.HeatResistance);
@@ -118,7 +228,11 @@ Json ConditionsJson(const BankQuestion& question)
     for (const RippleCurrent& ripple : question.Ripple)
     {
         conditions["frequencies"].push_back(
-            {{"frequency", Number(ripple.Kilohertz)}, {"current", Number(ripple.Arms)}});
+            {{"frequency", RangeJson(ripple.Kilohertz)}, {"current", Number(ripple.Arms)}});
+    }
+    if (const auto heating = question.At.HeatingAmbientC(); heating != question.At.AmbientC)
+    {
+        conditions["heatingAmbient"] = RangeJson(heating);
     }
     return conditions;
 }
@@ -129,7 +243,7 @@ Json PieceJson(const RequestedBank& bank, std::size_t index, const CurveSettings
     const PieceOfBank& piece = bank.Answer.Pieces[index];
     Json object = {{"part", NameOf(bank, index, settings)},
                    {"count", asked.Count},
-                   {"tolerance", Number(asked.TolerancePercent)},
+                   {"tolerance", ToleranceJson(asked.Tolerance)},
                    {"capacitance", Number(piece.PicoFarads)},
                    {"warmCapacitance", piece.WarmPicoFarads ? Number(*piece.WarmPicoFarads) : Json()},
                    {"current", Number(piece.Arms)},
@@ -141,13 +255,20 @@ Json PieceJson(const RequestedBank& bank, std::size_t index, const CurveSettings
                    {"worstRise", Number(piece.WorstRise)}};
     for (const PieceAtFrequency& at : piece.Frequencies)
     {
-        object["frequencies"].push_back({{"frequency", Number(at.Kilohertz)},
+        object["frequencies"].push_back({{"frequency", RangeJson(at.Kilohertz)},
                                          {"lossResistance", Number(at.LossResistance)},
                                          {"current", Number(at.Arms)}});
     }
     if (HasOneFrequency(bank))
     {
         object["lossResistance"] = Number(piece.Frequencies.front().LossResistance);
+    }
+    if (!bank.Question.IsPoint())
+    {
+        object["leastAt"] = PlaceJson(bank, piece.LeastAt, false);
+        object["riseAt"] = PlaceJson(bank, piece.RiseAt, true);
+        object["marginAt"] = PlaceJson(bank, piece.MarginAt, true);
+        object["worstRiseAt"] = PlaceJson(bank, piece.WorstRiseAt, true);
     }
     return object;
 }
@@ -159,7 +280,7 @@ Json WholeJson(const RequestedBank& bank)
                    {"rippleVoltage", Number(bank.Answer.Vrms)}};
     for (const BankAtFrequency& at : bank.Answer.Frequencies)
     {
-        object["frequencies"].push_back({{"frequency", Number(at.Kilohertz)},
+        object["frequencies"].push_back({{"frequency", RangeJson(at.Kilohertz)},
                                          {"capacitance", Number(at.PicoFarads)},
                                          {"lossResistance", Number(at.LossResistance)},
                                          {"rippleVoltage", Number(at.Vrms)}});
@@ -167,6 +288,10 @@ Json WholeJson(const RequestedBank& bank)
     if (HasOneFrequency(bank))
     {
         object["lossResistance"] = Number(bank.Answer.Frequencies.front().LossResistance);
+    }
+    if (!bank.Question.IsPoint())
+    {
+        object["leastAt"] = PlaceJson(bank, bank.Answer.LeastAt, false);
     }
     return object;
 }
@@ -210,11 +335,23 @@ std::string WordsOf(const BankWarning& warning)
 std::vector<std::string> WarningLines(const RequestedBank& bank, const CurveSettings& settings)
 {
     std::vector<std::string> lines;
-    for (const BankWarning& warning : WarningsOf(bank.Answer))
+    for (const BankWarning& warning : bank.Warnings)
     {
         lines.push_back(NameOf(bank, warning.Piece, settings) + ": " + WordsOf(warning));
     }
     return lines;
+}
+
+std::vector<std::string> BankNotes(const RequestedBank& bank, const CurveSettings& settings)
+{
+    std::vector<std::string> notes;
+    std::ranges::transform(WarningLines(bank, settings), std::back_inserter(notes),
+                           [](const std::string& line) { return "warning: " + line; });
+    if (const auto note = NoteOnHeating(bank.Question.At); !note.empty())
+    {
+        notes.emplace_back(note);
+    }
+    return notes;
 }
 
 std::span<const BankFormat> BankFormats()

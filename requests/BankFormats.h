@@ -19,3 +19,7 @@ std::span<const BankFormat> BankFormats();
 /// What a bank should not be built for, a line each: "KTS31NR71A226KA01: rises by 25.3 C, above the 20 C
 /// permitted". The part numbers are those on display.
 std::vector<std::string> WarningLines(const RequestedBank& bank, const CurveSettings& settings);
+
+/// What is told beside the bank, a line each: the warnings as "warning: ...", and from which ambient
+/// temperature heating is judged where that is not the range's own.
+std::vector<std::string> BankNotes(const RequestedBank& bank, const CurveSettings& settings);

@@ -4,7 +4,9 @@
 #include "calc/NumberText.h"
 #include "find/Wants.h"
 #include "requests/Names.h"
+#include "requests/RangeEntry.h"
 #include "requests/RequestError.h"
+#include "requests/ToleranceEntry.h"
 #include "requests/UnitEntry.h"
 #include "simulation/BankRules.h"
 
@@ -35,19 +37,32 @@ static std::optional<int> CountOf(std::string_view word)
 }
 
 /// Throws RequestError for a value of the word that is out of its range.
-static void CheckRange(bool isWithin, const std::string& word, const std::string& permitted)
+static void CheckRange(bool isWithin, std::string_view word, const std::string& permitted)
 {
     if (!isWithin)
     {
-        throw RequestError(RequestErrorKind::Line, "", word + ": Please enter a " + permitted);
+        throw RequestError(RequestErrorKind::Line, "", std::string(word) + ": Please enter a " + permitted);
     }
+}
+
+/// Throws RequestError for a tolerance that is not permitted.
+static CapacitanceTolerance ReadTolerance(std::string_view typed, std::string_view word)
+{
+    const auto tolerance = ToleranceOf(typed, "");
+    const auto down = NumberText(MostToleranceDown);
+    const bool isEven = tolerance.Down == tolerance.Up;
+    CheckRange(IsPermitted(tolerance), word,
+               isEven ? "Number from 0 to " + down + " [%]"
+                      : "Number from 0 to " + down + " [%] down and from 0 to " +
+                            NumberText(MostToleranceUp) + " [%] up");
+    return tolerance;
 }
 
 /// What stands behind a part.
 struct PieceWords
 {
     std::optional<int> Count;
-    std::optional<float> TolerancePercent;
+    std::optional<CapacitanceTolerance> Tolerance;
 };
 
 /// Throws RequestError for a word where an earlier one says the same.
@@ -71,37 +86,60 @@ static void TakeWord(PieceWords& words, const std::string& word)
     }
     else if (std::ranges::equal(word.substr(0, tolerance.size()), tolerance, {}, LowerCase))
     {
-        const float percent = ValueInUnit(word.substr(tolerance.size()), Quantity::CapacitanceChange);
-        CheckRange(percent >= 0 && percent <= MostTolerance, word,
-                   "Number from 0 to " + NumberText(MostTolerance) + " [%]");
-        TakeOnce(words.TolerancePercent, percent, word);
+        TakeOnce(words.Tolerance, ReadTolerance(word.substr(tolerance.size()), word), word);
     }
     else
     {
         throw RequestError(RequestErrorKind::UnknownValue, "",
-                           '"' + word + "\" is neither xN nor tolerance=PERCENT");
+                           '"' + word +
+                               "\" is neither xN nor tolerance=PERCENT; a part number with blanks stands in "
+                               "quotes");
     }
+}
+
+/// A part number, and what stands behind it.
+struct NamedPiece
+{
+    std::string Part;
+    std::string_view Rest;
+};
+
+/// A quote stands for itself where it does not begin the text.
+static NamedPiece SplitBehindPart(std::string_view typed)
+{
+    constexpr std::string_view blanks = " \t\r\n";
+    typed.remove_prefix(std::min(typed.find_first_not_of(blanks), typed.size()));
+    const bool isQuoted = typed.starts_with('"') || typed.starts_with('\'');
+    if (!isQuoted)
+    {
+        const auto end = std::min(typed.find_first_of(blanks), typed.size());
+        return {std::string(typed.substr(0, end)), typed.substr(end)};
+    }
+    const auto end = typed.find(typed.front(), 1);
+    if (end == std::string_view::npos)
+    {
+        throw RequestError(RequestErrorKind::Syntax, "", std::string(typed) + ": the quote does not end");
+    }
+    return {std::string(typed.substr(1, end - 1)), typed.substr(end + 1)};
 }
 
 PieceText PieceOf(std::string_view typed)
 {
-    const auto words = WordsOf(typed);
-    if (words.empty())
+    const auto piece = SplitBehindPart(typed);
+    if (piece.Part.empty())
     {
         throw RequestError(RequestErrorKind::UnknownValue, "", "a piece has no part number");
     }
     PieceWords said;
     try
     {
-        std::for_each(words.begin() + 1, words.end(), [&](const auto& word) { TakeWord(said, word); });
+        std::ranges::for_each(WordsOf(piece.Rest), [&](const auto& word) { TakeWord(said, word); });
     }
     catch (const RequestError& error)
     {
         throw RequestError(error.Kind(), "", '"' + std::string(typed) + "\": " + error.Message());
     }
-    return {.Part = words.front(),
-            .Count = said.Count.value_or(1),
-            .TolerancePercent = said.TolerancePercent.value_or(0)};
+    return {.Part = piece.Part, .Count = said.Count.value_or(1), .Tolerance = said.Tolerance};
 }
 
 // ---- Ripple currents ----
@@ -147,16 +185,23 @@ std::vector<RippleText> RippleOf(std::string_view typed)
 
 // ---- The question ----
 
-static std::optional<float> ValueOf(const BankRequest& request, Condition condition)
+static std::optional<ConditionRange> RangeOf(const BankRequest& request, Condition condition)
 {
     const auto& typed = request.Conditions[condition];
     const ConditionKind& kind = KindOf(condition);
+    return typed ? std::optional(ConditionRangeOf(*typed, *kind.Measures, kind.Key)) : std::nullopt;
+}
+
+static std::optional<float> HeatResistanceOf(const BankRequest& request)
+{
+    const auto& typed = request.Conditions[Condition::HeatResistance];
+    const ConditionKind& kind = KindOf(Condition::HeatResistance);
     return typed ? std::optional(ValueInUnit(*typed, *kind.Measures, kind.Key)) : std::nullopt;
 }
 
 static std::vector<RippleCurrent> RippleOf(const BankRequest& request)
 {
-    const auto kilohertz = ValueOf(request, Condition::Frequency);
+    const auto kilohertz = RangeOf(request, Condition::Frequency);
     std::vector<RippleCurrent> ripple;
     for (const RippleText& text : RippleOf(request.Current))
     {
@@ -170,7 +215,8 @@ static std::vector<RippleCurrent> RippleOf(const BankRequest& request)
             throw RequestError(RequestErrorKind::Condition, std::string(KindOf(Condition::Frequency).Key),
                                RefuseFrequency("", {}, request.Code, {}).value_or(""));
         }
-        ripple.push_back({.Kilohertz = text.Kilohertz ? *text.Kilohertz : *kilohertz, .Arms = text.Arms});
+        ripple.push_back(
+            {.Kilohertz = text.Kilohertz ? ConditionRange(*text.Kilohertz) : *kilohertz, .Arms = text.Arms});
     }
     return ripple;
 }
@@ -193,17 +239,19 @@ static BankQuestion QuestionOf(const BankRequest& request, const PartTable& part
 {
     BankQuestion question{
         .Pieces = {},
-        .At = {.BiasVolts = ValueOf(request, Condition::DCBias).value_or(0),
-               .AmbientC = ValueOf(request, Condition::AmbientTemperature).value_or(ReferenceC(request.Code)),
-               .HeatResistance = ValueOf(request, Condition::HeatResistance),
+        .At = {.BiasVolts = RangeOf(request, Condition::DCBias).value_or(0),
+               .AmbientC = RangeOf(request, Condition::AmbientTemperature).value_or(ReferenceC(request.Code)),
+               .HeatResistance = HeatResistanceOf(request),
                .View = request.Code},
         .Ripple = RippleOf(request)};
+    question.At.Kilohertz = question.Ripple.front().Kilohertz;
+    question.At.Tolerance = request.Tolerance ? ToleranceOf(*request.Tolerance) : CapacitanceTolerance();
     const auto shownForm = static_cast<std::size_t>(request.Code) + settings.NumberingOffset;
     for (const PieceText& piece : request.Pieces)
     {
         question.Pieces.push_back({.Part = &PartNamed(piece.Part, parts, shownForm),
                                    .Count = piece.Count,
-                                   .TolerancePercent = piece.TolerancePercent});
+                                   .Tolerance = piece.Tolerance.value_or(question.At.Tolerance)});
     }
     return question;
 }
@@ -222,7 +270,9 @@ static RequestError RefusalOf(const QuestionRefusal& refusal, const BankRequest&
                 .Of(*typed);
         }
     }
-    return RequestError(RequestErrorKind::Condition, "current", refusal.Message).Of(request.Current);
+    const bool isTolerance = request.Tolerance && refusal.Key == "tolerance";
+    return RequestError(RequestErrorKind::Condition, isTolerance ? "tolerance" : "current", refusal.Message)
+        .Of(isTolerance ? *request.Tolerance : request.Current);
 }
 
 /// In the words of the form where it is a condition that the part does not permit.
@@ -231,27 +281,34 @@ static RequestError RefusalOf(const PieceRefusal& refusal, const BankRequest& re
 {
     const PartRecord& part = *question.Pieces[refusal.Piece].Part;
     const auto& name = request.Pieces[refusal.Piece].Part;
-    const auto judged = [&](Condition condition, float value, ConditionRule rule)
-    {
-        const auto typed = request.Conditions[condition].value_or(NumberText(value));
-        const auto words = rule(NumberText(value), part, request.Code, {});
-        return words ? std::optional(RequestError(RequestErrorKind::Condition,
-                                                  std::string(KindOf(condition).Key), *words)
-                                         .Of(typed)
-                                         .OfPart(name))
-                     : std::nullopt;
-    };
     std::optional<RequestError> error;
+    const auto judge = [&](Condition condition, const ConditionRange& range, ConditionRule rule)
+    {
+        const auto typed = request.Conditions[condition].value_or(NumberText(range.High));
+        for (const float end : {range.High, range.Low})
+        {
+            const auto words = error ? std::nullopt : rule(NumberText(end), part, request.Code, {});
+            if (words)
+            {
+                error = RequestError(RequestErrorKind::Condition, std::string(KindOf(condition).Key), *words)
+                            .Of(typed)
+                            .OfPart(name);
+            }
+        }
+    };
     if (refusal.Reason == LeftOutReason::BiasTooHigh)
     {
-        error = judged(Condition::DCBias, question.At.BiasVolts.High, RefuseDCBias);
+        judge(Condition::DCBias, question.At.BiasVolts, RefuseDCBias);
     }
     if (refusal.Reason == LeftOutReason::TemperatureOutOfRange)
     {
-        for (const ConditionRule rule : {RefuseHeatingAmbient, RefuseClassAmbient})
-        {
-            error = error ? error : judged(Condition::AmbientTemperature, question.At.AmbientC.High, rule);
-        }
+        // Where a range reaches below the heating data, that is no reason to refuse it.
+        const auto heatingC = question.At.HeatingAmbientC();
+        const bool reachesBelow = heatingC != question.At.AmbientC;
+        judge(Condition::AmbientTemperature, question.At.AmbientC,
+              reachesBelow ? RefuseClassAmbient : RefuseHeatingAmbient);
+        judge(Condition::AmbientTemperature, heatingC,
+              reachesBelow ? RefuseHeatingAmbient : RefuseClassAmbient);
     }
     return error
                ? *error
@@ -260,7 +317,7 @@ static RequestError RefusalOf(const PieceRefusal& refusal, const BankRequest& re
 
 RequestedBank BankOf(const BankRequest& request, const PartTable& parts, const CurveSettings& settings)
 {
-    RequestedBank bank{.Question = QuestionOf(request, parts, settings), .Answer = {}};
+    RequestedBank bank{.Question = QuestionOf(request, parts, settings), .Answer = {}, .Warnings = {}};
     if (const auto refusal = RefuseConditions(bank.Question))
     {
         throw RefusalOf(*refusal, request);
@@ -270,5 +327,6 @@ RequestedBank BankOf(const BankRequest& request, const PartTable& parts, const C
         throw RefusalOf(*refusal, request, bank.Question);
     }
     bank.Answer = BankOf(bank.Question);
+    bank.Warnings = WarningsOf(bank.Question, bank.Answer);
     return bank;
 }

@@ -4,7 +4,8 @@
 
 #include "partdata/PartTable.h"
 #include "requests/CurveRequest.h"
-#include "simulation/Bank.h"
+#include "simulation/BankRanges.h"
+#include "simulation/BankWarnings.h"
 
 #include <optional>
 #include <string>
@@ -16,15 +17,18 @@ struct PieceText
 {
     std::string Part;
     int Count = 1;
-    float TolerancePercent = 0;
+    /// Where it is left out, that of the request.
+    std::optional<CapacitanceTolerance> Tolerance = {};
 };
 
-/// The pieces of "PART [xN] [tolerance=PERCENT]", words between blanks; letter case does not count.
+/// The pieces of "PART [xN] [tolerance=PERCENT]", words between blanks; letter case does not count. A part
+/// number with blanks in it stands in quotes, double or single.
 ///
 ///     PieceOf("KTS31NR71A226KA01 x2 tolerance=10")   // two of them, ±10 %
+///     PieceOf("'MY PART' tolerance=-20/+80")
 ///
-/// Throws RequestError for words that are none of these or stand there twice, and for a count that is not
-/// from 1 to `MostInParallel` or a tolerance that is not from 0 to `MostTolerance` %.
+/// Throws RequestError for words that are none of these or stand there twice, for a quote that does not end,
+/// and for a count that is not from 1 to `MostInParallel` or a tolerance that is not permitted.
 PieceText PieceOf(std::string_view typed);
 
 /// A ripple current as typed. Without a frequency, that of the conditions counts.
@@ -39,7 +43,8 @@ struct RippleText
 std::vector<RippleText> RippleOf(std::string_view typed);
 
 /// What is asked for. Texts are as typed, in UTF-8; what is left out is 0 V, 25 °C in the EIA code and 20 °C
-/// in the JIS code, and each part's own heat resistance.
+/// in the JIS code, and each part's own heat resistance. Bias, ambient temperature and frequency may be
+/// ranges.
 struct BankRequest
 {
     std::vector<PieceText> Pieces;
@@ -47,6 +52,8 @@ struct BankRequest
     ConditionTexts Conditions = {};
     /// As `RippleOf` takes it.
     std::string Current;
+    /// Of the pieces that name none, as `ToleranceOf` takes it.
+    std::optional<std::string> Tolerance = {};
     CodeView Code = CodeView::Eia;
 };
 
@@ -55,6 +62,7 @@ struct RequestedBank
 {
     BankQuestion Question;
     BankAnswer Answer;
+    std::vector<BankWarning> Warnings;
 };
 
 /// The bank of a request.

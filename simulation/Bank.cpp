@@ -4,6 +4,7 @@
 #include "calc/Capacitance.h"
 #include "calc/CheckedMath.h"
 #include "calc/Conditions.h"
+#include "calc/PermittedRise.h"
 #include "calc/PowerModel.h"
 #include "calc/TemperatureRise.h"
 
@@ -26,27 +27,36 @@ struct PieceState
 {
     int Count;
     double Farads;
-    /// A share of the capacitance.
-    double Tolerance;
+    /// Shares of the capacitance.
+    double Down;
+    double Up;
     PowerModel Model;
 };
 
 /// A piece at its own capacitance, or at an end of its tolerance.
-enum class End : std::int8_t
+enum class End : std::uint8_t
 {
-    Lower = -1,
-    Typical = 0,
-    Upper = 1,
+    Lower,
+    Typical,
+    Upper,
 };
 
 double FaradsOf(const PieceState& piece, End end)
 {
-    return piece.Farads * (1 + static_cast<int>(end) * piece.Tolerance);
+    switch (end)
+    {
+    case End::Lower:
+        return piece.Farads * (1 - piece.Down);
+    case End::Upper:
+        return piece.Farads * (1 + piece.Up);
+    default:
+        return piece.Farads;
+    }
 }
 
 double HertzOf(const RippleCurrent& ripple)
 {
-    return double{ripple.Kilohertz} * KindOf(Quantity::Frequency).StoredPerShown;
+    return double{ripple.Kilohertz.Low} * KindOf(Quantity::Frequency).StoredPerShown;
 }
 
 /// All pieces at one frequency.
@@ -121,7 +131,8 @@ PieceState StateOf(const BankPiece& piece, const OperatingPoint& at)
     const auto point = CapacitancePointAt(part, at.BiasVolts.High, at.AmbientC.High, at.View);
     return {.Count = piece.Count,
             .Farads = CheckedDivisor(point.value_or(CapacitancePoint{}).PicoFarads) * FaradsPerPicoFarad,
-            .Tolerance = piece.TolerancePercent * perPercent,
+            .Down = piece.Tolerance.Down * perPercent,
+            .Up = piece.Tolerance.Up * perPercent,
             .Model = PowerModelOf(part, at.BiasVolts.High, at.AmbientC.High, resistance)};
 }
 
@@ -160,7 +171,9 @@ public:
             answer.Vrms = std::hypot(answer.Vrms, answer.Frequencies.back().Vrms);
         }
         answer.PicoFarads =
-            std::ranges::min_element(answer.Frequencies, {}, &BankAtFrequency::Kilohertz)->PicoFarads;
+            std::ranges::min_element(answer.Frequencies, {},
+                                     [](const BankAtFrequency& at) { return at.Kilohertz.Low; })
+                ->PicoFarads;
         return answer;
     }
 
@@ -173,16 +186,20 @@ private:
     PieceOfBank PieceAnswer(std::size_t piece) const
     {
         const PartRecord& part = *question.Pieces[piece].Part;
-        PieceOfBank answer{
-            .PicoFarads = pieces[piece].Farads / FaradsPerPicoFarad,
-            .PermittedRise = dTallow(part.Data[Value::UpperTemperature], question.At.AmbientC.High),
-            .VoltageBound = AllowableVoltageBound(RatedVoltage(part), question.At.BiasVolts.High),
-            .Frequencies = {}};
+        const PermittedRise permitted{.MaxC = part.Data[Value::UpperTemperature],
+                                      .Wanted = question.Pieces[piece].MostRise};
+        PieceOfBank answer{.PicoFarads = pieces[piece].Farads / FaradsPerPicoFarad,
+                           .PermittedRise = permitted.At(question.At.AmbientC.High),
+                           .VoltageBound =
+                               AllowableVoltageBound(RatedVoltage(part), question.At.BiasVolts.High),
+                           .Frequencies = {}};
         for (std::size_t i = 0; i < sharings.size(); ++i)
         {
             AddFrequency(answer, piece, i);
         }
         answer.Margin = answer.PermittedRise - answer.Rise;
+        answer.WorstMargin = answer.PermittedRise - answer.WorstRise;
+        answer.WorstBody = question.At.AmbientC.High + answer.WorstRise;
         return answer;
     }
 
@@ -258,15 +275,24 @@ std::optional<BankAnswer> SettledFrom(const BankAnswer& cold, const BankQuestion
 }
 } // namespace
 
-BankAnswer BankOf(const BankQuestion& question)
+BankAnswer BankWithoutWarmRise(const BankQuestion& question)
 {
     auto answer = BankLaw(question, StatesOf(question)).Answer();
-    const auto settled = SettledFrom(answer, question);
     for (std::size_t i = 0; i < answer.Pieces.size(); ++i)
     {
         PieceOfBank& piece = answer.Pieces[i];
         piece.WarmPicoFarads = WarmPicoFarads(question.Pieces[i], question.At, piece.Rise);
-        piece.WarmRise = settled ? std::optional(settled->Pieces[i].Rise) : std::nullopt;
+    }
+    return answer;
+}
+
+BankAnswer BankAt(const BankQuestion& question)
+{
+    auto answer = BankWithoutWarmRise(question);
+    const auto settled = SettledFrom(answer, question);
+    for (std::size_t i = 0; i < answer.Pieces.size(); ++i)
+    {
+        answer.Pieces[i].WarmRise = settled ? std::optional(settled->Pieces[i].Rise) : std::nullopt;
     }
     return answer;
 }

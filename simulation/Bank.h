@@ -4,8 +4,10 @@
 ///
 /// Each piece is its capacitance and its loss resistance in series, Y = 1/(R + 1/(jωC)), by the laws of the
 /// charts at the bias and the ambient temperature; a piece bears I·|Y / sum of all Y|. There is no inductance
-/// in the data of parts. Several frequencies heat as the sum of squares.
+/// in the data of parts. Several frequencies heat as the sum of squares. Over ranges of conditions each value
+/// is the worst of all their combinations.
 
+#include "calc/Box.h"
 #include "simulation/BankQuestion.h"
 
 #include <optional>
@@ -14,7 +16,7 @@
 /// A piece at one frequency.
 struct PieceAtFrequency
 {
-    double Kilohertz = 0;
+    ConditionRange Kilohertz = 0;
     /// In mΩ.
     double LossResistance = 0;
     double Arms = 0;
@@ -38,6 +40,17 @@ struct PieceOfBank
     /// With this piece at the upper end of its tolerance and all others at the lower end of theirs.
     double WorstArms = 0;
     double WorstRise = 0;
+    double WorstMargin = 0;
+    /// The temperature that the worst rise brings it to, in °C.
+    double WorstBody = 0;
+    /// Where each of these occurs.
+    Place LeastAt = {};
+    Place RiseAt = {};
+    Place MarginAt = {};
+    Place WorstRiseAt = {};
+    Place WorstMarginAt = {};
+    /// Where the ripple voltage comes nearest to its bound.
+    Place BoundAt = {};
     /// In the order of the ripple currents.
     std::vector<PieceAtFrequency> Frequencies;
 };
@@ -45,7 +58,7 @@ struct PieceOfBank
 /// The whole bank at one frequency.
 struct BankAtFrequency
 {
-    double Kilohertz = 0;
+    ConditionRange Kilohertz = 0;
     double PicoFarads = 0;
     /// In mΩ.
     double LossResistance = 0;
@@ -58,6 +71,7 @@ struct BankAnswer
     double PicoFarads = 0;
     /// The sum of all capacitances at the lower ends of their tolerances.
     double LeastPicoFarads = 0;
+    Place LeastAt = {};
     /// Root of the sum of squares.
     double Vrms = 0;
     /// In the order of the question.
@@ -65,6 +79,9 @@ struct BankAnswer
     std::vector<BankAtFrequency> Frequencies;
 };
 
-/// The bank of a question that the rules let pass. Throws RunTimeError 5, 6 or 11 for a calculation that
-/// faults.
-BankAnswer BankOf(const BankQuestion& question);
+/// The bank of a question without ranges that the rules let pass. Throws RunTimeError 5, 6 or 11 for a
+/// calculation that faults.
+BankAnswer BankAt(const BankQuestion& question);
+
+/// The same without the rises by warm capacitances, which take longer than all the rest.
+BankAnswer BankWithoutWarmRise(const BankQuestion& question);

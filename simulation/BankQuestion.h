@@ -1,9 +1,10 @@
 #pragma once
 
-/// A bank of parts in parallel at its operating point: what is asked of it.
+/// A bank of parts in parallel at its operating point, or anywhere in ranges of it: what is asked of it.
 
 #include "find/OperatingPoint.h"
 
+#include <optional>
 #include <vector>
 
 /// Equal pieces of a bank.
@@ -12,16 +13,17 @@ struct BankPiece
     const PartRecord* Part = nullptr;
     /// How many, from 1 on.
     int Count = 1;
-    /// The capacitance lies within so many percent of what the laws tell, 0 to `MostTolerance`.
-    double TolerancePercent = 0;
+    /// How far the capacitance may lie from what the laws tell.
+    CapacitanceTolerance Tolerance = {};
+    /// The rise in °C that is permitted in place of the recommended one.
+    std::optional<float> MostRise = {};
 };
-
-inline constexpr float MostTolerance = 99;
 
 /// A sine of the ripple current that all pieces share.
 struct RippleCurrent
 {
-    float Kilohertz = 0;
+    /// A range only for the one sine of a question.
+    ConditionRange Kilohertz = 0;
     float Arms = 0;
 };
 
@@ -32,4 +34,11 @@ struct BankQuestion
     /// Bias, ambient temperature, heat resistance and view; its frequency and load do not count.
     OperatingPoint At = {};
     std::vector<RippleCurrent> Ripple;
+
+    /// True when every condition has one value.
+    bool IsPoint() const
+    {
+        const auto& kilohertz = Ripple.front().Kilohertz;
+        return At.BiasVolts.IsPoint() && At.AmbientC.IsPoint() && kilohertz.IsPoint();
+    }
 };

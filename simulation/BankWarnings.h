@@ -32,5 +32,9 @@ struct BankWarning
     double Permitted;
 };
 
-/// All warnings, piece by piece.
+/// All warnings at a point, piece by piece.
 std::vector<BankWarning> WarningsOf(const BankAnswer& answer);
+
+/// All warnings of a question with its answer. Over ranges these are the warnings at the places where each
+/// piece comes nearest to a limit. Throws RunTimeError 5, 6 or 11 for a calculation that faults.
+std::vector<BankWarning> WarningsOf(const BankQuestion& question, const BankAnswer& answer);

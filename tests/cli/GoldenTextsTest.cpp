@@ -122,6 +122,8 @@ void GoldenTextsTest::Answers_data()
     row("bank-table",
         "bank KTS31NR71A226KA01 KTS188R71H104KA01 --dc-bias 5V --ambient 45C --frequency 300kHz "
         "--current 6Arms");
+    row("bank-ranges", "bank KTS31NR71A226KA01 KTS188R71H104KA01 --dc-bias 4.5..5.5V --ambient -10..65C "
+                       "--frequency 270..330kHz --current 2 --tolerance 10");
     row("bank-json", "bank KTS31NR71A226KA01 KTS31NB51A476MA01 --dc-bias 5V --format json --code jis "
                      "--numbering previous --current 300kHz=4");
     row("curve-requests", "curve --requests -", someRequests);

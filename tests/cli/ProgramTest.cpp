@@ -283,6 +283,10 @@ void ProgramTest::EndsBadInputWithOneLine_data()
         "10[V]");
     row("a piece without heating data", "bank KTU033R71E101KA01 --current 100=1", 1,
         "KTU033R71E101KA01: no heating data");
+    row("a bank below and above", "bank KTS31NB51E106MA01 --dc-bias 5..4 --current 100=1", 1,
+        "--dc-bias 5..4: DC Bias Voltage 5..4: the first must not be above the second");
+    row("a bank over an open range", "bank KTS31NB51E106MA01 --dc-bias 5.. --current 100=1", 2,
+        "--dc-bias \"5..\" is not a range: an end is left open");
     row("a bank of an unknown part", "bank KTS --current 100=1", 1, "KTS: there is no part \"KTS\"");
     row("no request file", "curve --requests /nowhere/requests", 1, "/nowhere/requests: cannot be read");
     row("a folder of requests", "curve --requests /", 1, "/: cannot be read");

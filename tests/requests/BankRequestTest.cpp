@@ -36,15 +36,37 @@ TEST(Piece, IsAPartWithItsCountAndTolerance)
     const auto plain = PieceOf("ABC");
     EXPECT_EQ(plain.Part, "ABC");
     EXPECT_EQ(plain.Count, 1);
-    EXPECT_EQ(plain.TolerancePercent, 0);
+    EXPECT_EQ(plain.Tolerance, std::nullopt);
     for (const char* typed : {"ABC x12 tolerance=2.5", "  ABC  TOLERANCE=2.5%  X12 "})
     {
         const auto piece = PieceOf(typed);
         EXPECT_EQ(piece.Part, "ABC");
         EXPECT_EQ(piece.Count, 12);
-        EXPECT_EQ(piece.TolerancePercent, 2.5F);
+        EXPECT_EQ(piece.Tolerance, (CapacitanceTolerance{2.5F, 2.5F}));
     }
     EXPECT_EQ(PieceOf("ABC x100 tolerance=99").Count, 100);
+}
+
+TEST(Piece, MayBearItsPartNumberInQuotes)
+{
+    for (const char* typed : {"\"MY PART 1\" x2", " 'MY PART 1'  x2 "})
+    {
+        EXPECT_EQ(PieceOf(typed).Part, "MY PART 1") << typed;
+        EXPECT_EQ(PieceOf(typed).Count, 2) << typed;
+    }
+    EXPECT_EQ(PieceOf("'ABC'").Part, "ABC");
+    EXPECT_EQ(PieceOf("\"x2\"x3").Count, 3) << "a blank behind a quote may be left out";
+    EXPECT_EQ(PieceOf("AB'C").Part, "AB'C") << "a quote inside stands for itself";
+    EXPECT_EQ(RefusalOf([] { PieceOf("'MY PART"); })->Message(), "'MY PART: the quote does not end");
+    EXPECT_EQ(RefusalOf([] { PieceOf("''"); })->Kind(), RequestErrorKind::UnknownValue);
+    EXPECT_NE(RefusalOf([] { PieceOf("MY PART"); })->Message().find("stands in quotes"), std::string::npos);
+}
+
+TEST(Piece, MayHaveAToleranceOfUnlikeEnds)
+{
+    EXPECT_EQ(PieceOf("ABC tolerance=-20/+80").Tolerance, (CapacitanceTolerance{20, 80}));
+    EXPECT_EQ(RefusalOf([] { PieceOf("ABC tolerance=-100/+80"); })->Kind(), RequestErrorKind::Line);
+    EXPECT_EQ(PieceOf("ABC tolerance=-99/+999").Tolerance, (CapacitanceTolerance{99, 999}));
 }
 
 TEST(Piece, IsRefusedWithTheWordThatIsWrong)
@@ -123,17 +145,17 @@ TEST(BankOfRequest, IsTheBankOfItsWords)
     EXPECT_NEAR(bank.Answer.Pieces[0].Arms, 1.712086173, 1e-8);
     EXPECT_NEAR(bank.Answer.Vrms, 0.06511584747, 1e-9);
     EXPECT_EQ(bank.Question.Pieces[0].Count, 2);
-    EXPECT_EQ(bank.Question.At.AmbientC, 45);
+    EXPECT_EQ(bank.Question.At.AmbientC, 45.0F);
 }
 
 TEST(BankOfRequest, HasTheConditionsThatFindHasWhereTheyAreLeftOut)
 {
     BankRequest request{.Pieces = {PieceOf("KTS188R71H104KA01")}, .Current = "100kHz=0"};
-    EXPECT_EQ(BankOf(request, Parts(), {}).Question.At.AmbientC, 25);
+    EXPECT_EQ(BankOf(request, Parts(), {}).Question.At.AmbientC, 25.0F);
     request.Code = CodeView::Jis;
     const auto bank = BankOf(request, Parts(), {});
-    EXPECT_EQ(bank.Question.At.AmbientC, 20);
-    EXPECT_EQ(bank.Question.At.BiasVolts, 0);
+    EXPECT_EQ(bank.Question.At.AmbientC, 20.0F);
+    EXPECT_EQ(bank.Question.At.BiasVolts, 0.0F);
     EXPECT_FALSE(bank.Question.At.HeatResistance);
 }
 
@@ -222,6 +244,74 @@ TEST(BankFormats, TellTheLossWhereThereIsOneFrequency)
     EXPECT_EQ(two.at("pieces")[0].at("frequencies").size(), 2U);
     EXPECT_EQ(two.at("conditions").at("heatResistance"), 50);
     EXPECT_EQ(two.at("warnings").size(), 2U);
+}
+
+// ---- Ranges ----
+
+BankRequest Ranged()
+{
+    return {.Pieces = {PieceOf("KTS31NR71A226KA01 x2"), PieceOf("KTS31NB51A476MA01 tolerance=-20/+80")},
+            .Conditions = {{Condition::DCBias, "4.5..5.5V"},
+                           {Condition::AmbientTemperature, "-10..65C"},
+                           {Condition::Frequency, "300kHz\u00B110%"}},
+            .Current = "6Arms",
+            .Tolerance = "10"};
+}
+
+TEST(BankOfRequest, TakesRangesAndATolerance)
+{
+    const auto bank = BankOf(Ranged(), Parts(), {});
+    EXPECT_EQ(bank.Question.At.BiasVolts, ConditionRange(4.5F, 5.5F));
+    EXPECT_EQ(bank.Question.At.AmbientC, ConditionRange(-10, 65));
+    EXPECT_EQ(bank.Question.Ripple.front().Kilohertz, ConditionRange(270, 330));
+    EXPECT_EQ(bank.Question.Pieces[0].Tolerance, (CapacitanceTolerance{10, 10}));
+    EXPECT_EQ(bank.Question.Pieces[1].Tolerance, (CapacitanceTolerance{20, 80})) << "its own goes before";
+}
+
+TEST(BankOfRequest, RefusesRangesByEitherEnd)
+{
+    const auto refusalOf = [](Condition condition, const char* typed)
+    {
+        auto request = Ranged();
+        request.Conditions[condition] = typed;
+        return RefusalOf([&] { BankOf(request, Parts(), {}); });
+    };
+    EXPECT_EQ(refusalOf(Condition::DCBias, "5..10.5")->Part(), "KTS31NR71A226KA01");
+    EXPECT_EQ(refusalOf(Condition::DCBias, "-1..5")->Key(), "dcBias");
+    EXPECT_EQ(refusalOf(Condition::DCBias, "5..4")->Kind(), RequestErrorKind::Condition);
+    EXPECT_EQ(refusalOf(Condition::AmbientTemperature, "-60..50")->Key(), "ambient");
+    EXPECT_NE(refusalOf(Condition::AmbientTemperature, "-10..90")->Message().find("from -55 to 85"),
+              std::string::npos);
+    EXPECT_EQ(refusalOf(Condition::AmbientTemperature, "20..85")->Message(), "no permitted rise");
+    EXPECT_EQ(refusalOf(Condition::AmbientTemperature, "-10..15")->Key(), "ambient");
+    EXPECT_EQ(refusalOf(Condition::Frequency, "5..100")->Key(), "frequency");
+    EXPECT_TRUE(IsMistaken(refusalOf(Condition::HeatResistance, "20..30")->Kind()));
+    auto request = Ranged();
+    request.Tolerance = "100";
+    EXPECT_EQ(RefusalOf([&] { BankOf(request, Parts(), {}); })->Key(), "tolerance");
+}
+
+TEST(BankFormats, TellPlacesOverRangesAlone)
+{
+    const auto json = JsonOf(Ranged());
+    EXPECT_EQ(json.at("conditions").at("frequencies")[0].at("frequency").at("high"), 330);
+    EXPECT_EQ(json.at("conditions").at("heatingAmbient").at("low"), 20);
+    EXPECT_EQ(json.at("pieces")[1].at("tolerance").at("up"), 80);
+    EXPECT_EQ(json.at("pieces")[1].at("worstRiseAt").at("ambient"), 20);
+    EXPECT_EQ(json.at("pieces")[1].at("worstRiseAt").at("frequency"), 270);
+    EXPECT_EQ(json.at("bank").at("leastAt").at("dcBias"), 5.5);
+    const auto point = JsonOf(ThreeKinds());
+    EXPECT_FALSE(point.at("pieces")[0].contains("riseAt"));
+    EXPECT_FALSE(point.at("bank").contains("leastAt"));
+    EXPECT_FALSE(point.at("conditions").contains("heatingAmbient"));
+}
+
+TEST(BankFormats, NoteFromWhereHeatingIsJudged)
+{
+    const auto notes = BankNotes(BankOf(Ranged(), Parts(), {}), {});
+    ASSERT_FALSE(notes.empty());
+    EXPECT_EQ(notes.back(), "rise and loads judged from 20 C up, where the heating data begins");
+    EXPECT_TRUE(BankNotes(BankOf(ThreeKinds(), Parts(), {}), {}).empty());
 }
 
 TEST(BankFormats, WarnInWordsOfWhatIsTooMuch)

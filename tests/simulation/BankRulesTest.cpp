@@ -84,7 +84,7 @@ TEST(BankRules, RefuseConditionsThatNoPartPermits)
         const auto refusal = RefuseConditions(question);
         return refusal ? refusal->Key : std::string_view();
     };
-    constexpr RippleCurrent permitted = {.Kilohertz = 1000, .Arms = 0};
+    const RippleCurrent permitted = {.Kilohertz = 1000, .Arms = 0};
     EXPECT_EQ(keyOf(At(0), permitted), "");
     EXPECT_EQ(keyOf(At(-1), permitted), "dcBias");
     auto without = At(0);

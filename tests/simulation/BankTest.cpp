@@ -1,7 +1,7 @@
 /// Banks against values that were worked out from the data file by a script of its own, with complex numbers
 /// of forty digits.
 
-#include "simulation/Bank.h"
+#include "simulation/BankRanges.h"
 
 #include "calc/Capacitance.h"
 #include "files/PartLoading.h"
@@ -24,9 +24,9 @@ const PartRecord& PartNamed(std::string_view name)
 /// Two of 22 µF ±10 %, one of 47 µF ±20 % and one of 0.1 µF ±10 % at 5 V and 45 °C.
 BankQuestion ThreeKinds(std::vector<RippleCurrent> ripple)
 {
-    return {.Pieces = {{.Part = &PartNamed("KTS31NR71A226KA01"), .Count = 2, .TolerancePercent = 10},
-                       {.Part = &PartNamed("KTS31NB51A476MA01"), .Count = 1, .TolerancePercent = 20},
-                       {.Part = &PartNamed("KTS188R71H104KA01"), .Count = 1, .TolerancePercent = 10}},
+    return {.Pieces = {{.Part = &PartNamed("KTS31NR71A226KA01"), .Count = 2, .Tolerance = {10, 10}},
+                       {.Part = &PartNamed("KTS31NB51A476MA01"), .Count = 1, .Tolerance = {20, 20}},
+                       {.Part = &PartNamed("KTS188R71H104KA01"), .Count = 1, .Tolerance = {10, 10}}},
             .At = {.BiasVolts = 5, .AmbientC = 45},
             .Ripple = std::move(ripple)};
 }
@@ -105,10 +105,10 @@ TEST(Bank, HeatsBySumOfSquaresOverFrequencies)
     ExpectNear(answer.Frequencies.at(0).PicoFarads, 49044459.16);
 }
 
-BankQuestion Equal(int count, double tolerance, float amperes)
+BankQuestion Equal(int count, float tolerance, float amperes)
 {
     static const PartRecord part = PlainPart();
-    return {.Pieces = {{.Part = &part, .Count = count, .TolerancePercent = tolerance}},
+    return {.Pieces = {{.Part = &part, .Count = count, .Tolerance = {tolerance, tolerance}}},
             .At = At(0, 25),
             .Ripple = {{.Kilohertz = 100, .Arms = amperes}}};
 }

@@ -56,10 +56,13 @@ answers += found + [json.loads(run(["find", "nothing", "--format", "json"]))]
 assert answers[-1] == []
 for words in (["KTS31NR71A226KA01 x2 tolerance=10", "KTS188R71H104KA01", "--frequency", "300", "--current", "6"],
               [PART, "--current", "300kHz=4 1MHz=1.2", "--heat-resistance", "50", "--code", "jis"],
+              [PART, "KTS188R71H104KA01 tolerance=-20/+80", "--dc-bias", "4.5..5.5V", "--ambient", "-10..65C",
+               "--frequency", "270..330kHz", "--current", "2"],
               [PART, "--current", "1MHz=4"]):
     answers.append(json.loads(run(["bank", *words, "--format", "json"])))
     assert answers[-1]["bank"]["capacitance"] > 0
-assert answers[-1]["warnings"] and not answers[-3]["warnings"]
+assert answers[-1]["warnings"] and not answers[-4]["warnings"]
+assert answers[-2]["conditions"]["heatingAmbient"] == {"low": 20, "high": 65}
 # Converters without and with parts, one of them without a rise.
 BUCK = "vin=12 vout=3.3 iout=5 f=500kHz l=2.2uH"
 ripples = [json.loads(run(["ripple", *words, "--format", "json"])) for words in (
