@@ -1,9 +1,12 @@
 #include "calc/CornerCurrent.h"
 
 #include "calc/Bounds.h"
+#include "calc/SearchBox.h"
 #include "calc/TemperatureRise.h"
 #include "partdata/RunTimeError.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 #include <tuple>
@@ -167,6 +170,66 @@ Extreme CurrentCorners::MostBody(double amperes) const
         [=](const PowerModel& model, double celsius, double hertz)
         { return celsius + RiseAt(model, Quantity::Current, amperes, hertz); },
         [=, this](const Quadratic& heating) { return std::tuple(BodySlope(heating, amperes)); });
+}
+
+/// Over the frequency the heating falls to where its parts that fall and rise are equal, and rises from
+/// there.
+double CurrentCorners::LeastRiseAt(double ambientC, double amperes) const
+{
+    const double t = ambientC - HeatingReferenceC;
+    const double square = ValueOf(perHertz, t) / ValueOf(byHertz, t);
+    const double turn = square > 0 && std::isfinite(square) ? std::sqrt(square) : box.LowestHertz;
+    const auto model = ModelAt(ambientC);
+    double least = std::numeric_limits<double>::infinity();
+    for (const double hertz :
+         {box.LowestHertz, std::clamp(turn, box.LowestHertz, box.HighestHertz), box.HighestHertz})
+    {
+        least = std::min(least, RiseAt(model, Quantity::Current, amperes, hertz));
+    }
+    return least;
+}
+
+/// True when the body grows warmer with the ambient temperature at every frequency: its slope, linear over
+/// the temperature, is least at an end.
+bool CurrentCorners::IsWarmerThroughout(double amperes) const
+{
+    const double perSquare = amperes * amperes * heatResistance / part.Data[Value::HeatResistance];
+    for (const double celsius : {box.AmbientC.Low, box.AmbientC.High})
+    {
+        double least = std::numeric_limits<double>::infinity();
+        const double t = celsius - HeatingReferenceC;
+        const double falling = ValueOf(Derivative(perHertz), t);
+        const double rising = ValueOf(Derivative(byHertz), t);
+        for (const double hertz : {box.LowestHertz, box.HighestHertz})
+        {
+            least = std::min(least, falling / hertz + rising * hertz);
+        }
+        least = std::min(least, falling > 0 && rising > 0 ? 2 * std::sqrt(falling * rising) : least);
+        if (1 + perSquare * (least + ValueOf(Derivative(flat), t)) < 0)
+        {
+            return false;
+        }
+    }
+    return true;
+}
+
+double CurrentCorners::LeastBody(double amperes) const
+{
+    if (IsWarmerThroughout(amperes))
+    {
+        return box.AmbientC.Low + LeastRiseAt(box.AmbientC.Low, amperes);
+    }
+    constexpr int nodes = 9;
+    const auto bodyAt = [&](const std::array<double, 1>& celsius)
+    { return celsius[0] + LeastRiseAt(celsius[0], amperes); };
+    LeastInBox<1> best;
+    for (const double celsius : EvenNodes(box.AmbientC.Low, box.AmbientC.High, nodes))
+    {
+        const double body = bodyAt({celsius});
+        best = body < best.Value ? LeastInBox<1>{{celsius}, body} : best;
+    }
+    const double step = (box.AmbientC.High - box.AmbientC.Low) / (nodes - 1);
+    return RefinedIn<1>(bodyAt, best, {SearchSide{box.AmbientC.Low, box.AmbientC.High, step}}).Value;
 }
 
 Extreme CurrentCorners::LeastMargin(double amperes) const

@@ -27,6 +27,8 @@ public:
     Extreme MostRise(double amperes) const;
     /// The largest body temperature, in °C.
     Extreme MostBody(double amperes) const;
+    /// The least body temperature, in °C.
+    double LeastBody(double amperes) const;
     /// What is least left of the permitted rise, in °C.
     Extreme LeastMargin(double amperes) const;
 
@@ -36,6 +38,8 @@ private:
     void RefuseUnlessPositive(double fromC, double toC, double fromHertz, double toHertz, int depth) const;
     Quadratic HeatingAt(double hertz) const;
     PowerModel ModelAt(double ambientC) const;
+    double LeastRiseAt(double ambientC, double amperes) const;
+    bool IsWarmerThroughout(double amperes) const;
     template <class ValueAt, class TurnsOf>
     Extreme ExtremeOf(int sign, const ValueAt& valueAt, const TurnsOf& turnsOf) const;
     template <class TryAt> void TrySeam(const TryAt& tryAt) const;

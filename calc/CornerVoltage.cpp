@@ -151,6 +151,14 @@ Extreme VoltageCorners::MostBody(double volts) const
     return {place.AmbientC + RiseOf(volts, place), place};
 }
 
+double VoltageCorners::LeastBody(double volts) const
+{
+    const double lnVolts = std::log(volts);
+    const auto place = LeastOf([=](double lnkV, double s3, const Row& row)
+                               { return row.AmbientC + std::exp(lnkV + s3 * lnVolts); });
+    return place.AmbientC + RiseOf(volts, place);
+}
+
 Extreme VoltageCorners::LeastMargin(double volts) const
 {
     const double lnVolts = std::log(volts);

@@ -25,6 +25,8 @@ public:
     Extreme MostRise(double volts) const;
     /// The largest body temperature, in °C.
     Extreme MostBody(double volts) const;
+    /// The least body temperature, in °C.
+    double LeastBody(double volts) const;
     /// What is least left of the permitted rise, in °C.
     Extreme LeastMargin(double volts) const;
 

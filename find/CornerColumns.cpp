@@ -61,3 +61,16 @@ void CornerColumns::FillRise(FoundPart& row, const AcLoad& load, double ofEach) 
         FailOn(load.Kind);
     }
 }
+
+double CornerColumns::LeastBody(const AcLoad& load, double ofEach) const
+{
+    switch (load.Kind)
+    {
+    case Quantity::Current:
+        return current.LeastBody(ofEach);
+    case Quantity::RmsVoltage:
+        return voltage.LeastBody(ofEach);
+    default:
+        FailOn(load.Kind);
+    }
+}

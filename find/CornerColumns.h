@@ -21,6 +21,8 @@ public:
     void FillLoads(FoundPart& row) const;
     /// The largest rise and body temperature and the least margin, under so much of a current or voltage.
     void FillRise(FoundPart& row, const AcLoad& load, double ofEach) const;
+    /// The least body temperature under it, in °C.
+    double LeastBody(const AcLoad& load, double ofEach) const;
 
 private:
     template <class Corners> static void FillRiseBy(FoundPart& row, const Corners& corners, double ofEach);

@@ -59,12 +59,15 @@ void PointColumns::FillAtPoint(FoundPart& row, FilledColumns groups) const
                   if (model && at.Load)
                   {
                       FillRise(row, *model, count);
+                      FillWarmth(row, row.Known(FoundColumn::Body));
                   }
               });
 }
 
 void PointColumns::FillInRanges(FoundPart& row, FilledColumns groups) const
 {
+    // Below the temperatures of the heating data a part is taken for no warmer than what is around it.
+    const bool isColdUnknown = at.HeatingAmbientC() != at.AmbientC;
     std::optional<CornerColumns> corners;
     if (groups.Heating)
     {
@@ -80,7 +83,9 @@ void PointColumns::FillInRanges(FoundPart& row, FilledColumns groups) const
               {
                   if (corners && at.Load)
                   {
-                      corners->FillRise(row, *at.Load, LoadOfEach(count));
+                      const double ofEach = LoadOfEach(count);
+                      corners->FillRise(row, *at.Load, ofEach);
+                      FillWarmth(row, isColdUnknown ? at.AmbientC.Low : corners->LeastBody(*at.Load, ofEach));
                   }
               });
 }
@@ -91,29 +96,26 @@ template <class Warmer> void PointColumns::FillCount(FoundPart& row, const Warme
 {
     int count = CountOf(row);
     fillRise(count);
-    FillWarmth(row);
     const bool isFewest = wanted.Parallel && wanted.Parallel->IsFewest && wanted.LeastWarmCapacitance;
     while (isFewest && count <= MostInParallel &&
            static_cast<float>(count * row.Known(FoundColumn::WarmCapacitance)) < *wanted.LeastWarmCapacitance)
     {
         ++count;
         fillRise(count);
-        FillWarmth(row);
     }
     FillBank(row, count);
 }
 
-/// The least capacitance between the lowest ambient temperature and the highest of the part itself; at a
-/// point, where it works. Empty where the part's characteristic ends below that.
-void PointColumns::FillWarmth(FoundPart& row) const
+/// The least capacitance between the lowest and the highest temperature of the part itself, any of which can
+/// meet any bias. Empty where the part's characteristic ends below that.
+void PointColumns::FillWarmth(FoundPart& row, double coldestC) const
 {
-    const auto body = row.ValueOf(FoundColumn::Body);
-    if (!body || !row.ValueOf(FoundColumn::EffectiveCapacitance))
+    if (!row.ValueOf(FoundColumn::EffectiveCapacitance))
     {
         return;
     }
-    const auto warm = static_cast<float>(*body);
-    const ConditionRange celsius = isPoint ? ConditionRange(warm) : ConditionRange(at.AmbientC.Low, warm);
+    const auto warm = static_cast<float>(row.Known(FoundColumn::Body));
+    const ConditionRange celsius(std::min(static_cast<float>(coldestC), warm), warm);
     row.Clear(FoundColumn::WarmCapacitance);
     if (!IsClassAmbientPermitted(warm, row.Part(), at.View))
     {

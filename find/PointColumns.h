@@ -52,7 +52,7 @@ private:
     void FillLoads(FoundPart& row, const PowerModel& model) const;
     void FillRise(FoundPart& row, const PowerModel& model, int count) const;
     template <class Warmer> void FillCount(FoundPart& row, const Warmer& fillRise) const;
-    void FillWarmth(FoundPart& row) const;
+    void FillWarmth(FoundPart& row, double coldestC) const;
     void FillBank(FoundPart& row, int count) const;
     int CountOf(const FoundPart& row) const;
     int FewestOf(const FoundPart& row) const;

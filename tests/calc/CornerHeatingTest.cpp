@@ -27,6 +27,11 @@ struct Case
     double HeatResistance() const { return Part->Data[Value::HeatResistance]; }
 };
 
+double Between(const ConditionRange& range, int i, int count)
+{
+    return Step(range.Low, range.High, i, count);
+}
+
 std::vector<Case> RandomCases()
 {
     std::mt19937 random(TestSeed(244));
@@ -221,5 +226,55 @@ TEST(CornerCurrent, RefusesALawThatIsLargestBetweenTheFrequencies)
     part.Data[Value::CurrentF] = -1e-7F;
     EXPECT_THROW(CurrentCorners(part, {0, 20, 1e4, 1e6}, {85, {}}, 50), RunTimeError);
     EXPECT_NO_THROW(CurrentCorners(part, {0, 20, 1e5, 1e5}, {85, {}}, 50));
+}
+
+// ---- The coldest body ----
+
+/// The least body temperature under the current of a case that a scan finds.
+double ScannedBody(const Case& tried, int count)
+{
+    double least = 1e9;
+    for (int i = 0; i < count * count; ++i)
+    {
+        const double celsius = Between(tried.Box.AmbientC, i % count, count);
+        const double hertz = Step(tried.Box.LowestHertz, tried.Box.HighestHertz, i / count, count);
+        const auto model = CurrentModelOf(*tried.Part, celsius, tried.HeatResistance());
+        least = std::min(least, celsius + RiseAt(model, Quantity::Current, tried.Amperes, hertz));
+    }
+    return least;
+}
+
+CurrentCorners CornersOf(const Case& tried)
+{
+    return {*tried.Part, tried.Box, tried.Permitted, tried.HeatResistance()};
+}
+
+TEST(CurrentCorners, FindTheColdestBody)
+{
+    for (const Case& tried : RandomCases())
+    {
+        const double told = CornersOf(tried).LeastBody(tried.Amperes);
+        const double scanned = ScannedBody(tried, 31);
+        EXPECT_LE(told, scanned + 1e-9);
+        // What the scan's own steps over the frequency leave.
+        EXPECT_GE(told, scanned - 0.02 * (scanned - tried.Box.AmbientC.Low) - 1e-9);
+    }
+}
+
+/// 1.8 A bring 32.4 °C at 20 °C and a degree and a half less a degree above, up to where the law bends.
+TEST(CurrentCorners, FindTheColdestBodyWhereItIsNotTheColdestAmbient)
+{
+    PartRecord part = SampleParts().PartData[0];
+    part.Data[Value::HeatResistance] = 50;
+    for (std::size_t i = Values::OfPower.First; i < Value::HeatResistance; ++i)
+    {
+        part.Data[i] = 0;
+    }
+    part.Data[Value::Current] = 10;
+    part.Data[Value::CurrentT] = -0.5F;
+    part.Data[Value::CurrentT2] = 0.01F;
+    const Case tried{&part, {0, {20, 60}, 1e5, 1e5}, {125, std::nullopt}, 2, 0};
+    // T + 4·(10 - 0.5·(T - 20) + 0.01·(T - 20)²) is least where 1 - 2 + 0.08·(T - 20) = 0.
+    EXPECT_NEAR(CornersOf(tried).LeastBody(2), 32.5 + 4 * (10 - 6.25 + 1.5625), 1e-6);
 }
 } // namespace

@@ -95,4 +95,36 @@ TEST(WarmCapacitance, IsTheLeastOverRanges)
     ASSERT_EQ(found.size(), 1U);
     EXPECT_NEAR(found[0].Known(FoundColumn::WarmCapacitance), 1000 * (1 - 0.22), 1e-2);
 }
+
+/// Colder ambients than the part itself count for nothing: from 25 °C and 9 °C of rise the most that is lost
+/// is that of 34 °C, where the capacitance rises with the temperature.
+TEST(WarmCapacitance, IsOfThePartsOwnTemperaturesAlone)
+{
+    auto part = CoolingPart();
+    part.Data[Value::TemperatureX] = 0.5F;
+    auto question = Question(1.5F);
+    question.At.AmbientC = {25, 60};
+    EXPECT_NEAR(Found(part, question)[0].Known(FoundColumn::WarmCapacitance), 1000 * (1 + 0.045), 1e-2);
+}
+
+/// Below 20 °C nothing is known of heating: a part may be as cold as what is around it.
+TEST(WarmCapacitance, CountsTheColdWhereHeatingIsNotKnown)
+{
+    auto part = CoolingPart();
+    part.Data[Value::TemperatureX] = 0.5F;
+    auto question = Question(1.5F);
+    question.At.AmbientC = {-15, 60};
+    EXPECT_NEAR(Found(part, question)[0].Known(FoundColumn::WarmCapacitance), 1000 * (1 - 0.2), 1e-2);
+}
+
+TEST(WarmCapacitance, TakesTheLeastHeatOfTheFrequencies)
+{
+    auto part = CoolingPart();
+    part.Data[Value::TemperatureX] = 0.5F;
+    part.Data[Value::CurrentPerF] = 4e5F;
+    auto question = Question(1.5F);
+    question.At.Kilohertz = {100, 400};
+    // kI = 4 + 4E5/f: 8 at 100 kHz, 5 at 400 kHz, which leaves the part at 25 + 11.25 °C.
+    EXPECT_NEAR(Found(part, question)[0].Known(FoundColumn::WarmCapacitance), 1000 * (1 + 0.05625), 1e-2);
+}
 } // namespace
