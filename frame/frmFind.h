@@ -94,6 +94,8 @@ private:
     void cmdFindPlot_Click();
     void ViewChosen();
     void TellOfRowsLeftOut();
+    /// In the window and in the status bar.
+    void Tell(const QString& told);
     void CopyChosen();
     std::vector<std::int32_t> PartsOfChosenRows() const;
     void SaveModelsOfChosen();

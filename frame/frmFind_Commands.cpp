@@ -217,13 +217,16 @@ void frmFind::TellOfRowsLeftOut()
     const auto chosen = ChosenRows().size();
     if (chosen > MostToPlot)
     {
-        const QString told =
-            QStringLiteral("The first %1 of %2 chosen parts are plotted: a chart has room for %1 lines.")
-                .arg(MostToPlot)
-                .arg(chosen);
-        ui->lblFound->setText(told);
-        host.TellInStatusBar(told);
+        Tell(QStringLiteral("The first %1 of %2 chosen parts are plotted: a chart has room for %1 lines.")
+                 .arg(MostToPlot)
+                 .arg(chosen));
     }
+}
+
+void frmFind::Tell(const QString& told)
+{
+    ui->lblFound->setText(told);
+    host.TellInStatusBar(told);
 }
 
 void frmFind::ViewChosen()
@@ -253,7 +256,14 @@ std::vector<std::int32_t> frmFind::PartsOfChosenRows() const
 void frmFind::SaveModelsOfChosen()
 {
     const auto ask = [this](const FileQuestion& question) { return host.AskForFile(this, question); };
-    RunCommand(this, [&] { SaveModels(this, PartsOfChosenRows(), ask); });
+    RunCommand(this,
+               [&]
+               {
+                   if (const auto path = SaveModels(this, PartsOfChosenRows(), ask))
+                   {
+                       Tell(QStringLiteral("Model saved to ") + *path);
+                   }
+               });
 }
 
 void frmFind::ShowMenu(const QPoint& at)

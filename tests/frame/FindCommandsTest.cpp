@@ -226,6 +226,7 @@ void FindCommandsTest::SavesModelsOfChosenRows()
         const WhenShown user({TypePath(folder.filePath("found.lib"))});
         SaveModelEntry(desk)->trigger();
     }
+    QCOMPARE(desk.Line(), "Model saved to " + folder.filePath("found.lib"));
     QFile file(folder.filePath("found.lib"));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const auto text = QString::fromUtf8(file.readAll());
