@@ -11,7 +11,6 @@
 #include <regex>
 #include <set>
 #include <span>
-#include <sstream>
 
 namespace
 {
@@ -21,34 +20,11 @@ constexpr std::array Folders = {"app", "calc", "chart", "files", "formkit", "fra
 constexpr std::array Doors = {"ShowExclamation(", "ShowInformation(", "ShowPlain(",
                               "ShowCritical(",    "AskOkCancel(",     "ShowTold("};
 
-/// The fixed pieces of a message, between its values and line breaks.
-std::vector<std::string> PiecesOf(const std::string& text)
-{
-    const std::string plain = std::regex_replace(text, std::regex("%[0-9]|\\\\r\\\\n|\\\\n"), "\n");
-    std::vector<std::string> pieces;
-    std::istringstream lines(std::regex_replace(plain, std::regex("\\\\\""), "\""));
-    for (std::string line; std::getline(lines, line);)
-    {
-        line = std::regex_replace(line, std::regex("^ +| +$"), "");
-        if (std::regex_search(line, std::regex("[A-Za-z]{2}")))
-        {
-            pieces.push_back(line);
-        }
-    }
-    return pieces;
-}
-
 /// The end of a sentence, but no caption of a menu, which ends with dots.
 bool EndsSentence(const std::string& text)
 {
     static const std::regex sentence("(.*[^.])?[.!?] *");
     return std::regex_match(text, sentence);
-}
-
-bool HasWords(const std::string& text)
-{
-    static const std::regex words(" *[^ ]+ +[^ ]+.*");
-    return std::regex_match(PiecesOf(text).empty() ? "" : text, words);
 }
 
 /// A message is what is shown as one, what describes an error, and a statement that makes a sentence.
@@ -116,6 +92,10 @@ TEST(SourceTexts, AreReadAsTheCompilerReadsThem)
     EXPECT_EQ(texts[0].Before, "f(");
     EXPECT_EQ(texts[3].Text, "two");
     EXPECT_EQ(texts[3].Before, "return ");
+
+    const auto numbers = TextsOfSource("f(1'000, R\"(no \"no\" no)\", \"yes\");");
+    ASSERT_EQ(numbers.size(), 1U);
+    EXPECT_EQ(numbers[0].Text, "yes");
 }
 
 TEST(Messages, AreCollected)

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <cctype>
+#include <optional>
+#include <regex>
+#include <sstream>
 
 namespace
 {
@@ -17,6 +20,20 @@ std::size_t EndOfLiteral(const std::string& source, std::size_t quote)
     return at;
 }
 
+/// Where what begins at a place ends that is no literal though it has a quote: one between the digits of a
+/// number, or a raw text, which holds examples and tables.
+std::optional<std::size_t> EndOfNoLiteral(const std::string& source, std::size_t at)
+{
+    const std::string_view end = ")\"";
+    if (source.compare(at, 3, "R\"(") == 0)
+    {
+        return source.find(end, at) + end.size() - 1;
+    }
+    const bool isInNumber =
+        source[at] == '\'' && at > 0 && std::isxdigit(static_cast<unsigned char>(source[at - 1])) != 0;
+    return isInNumber ? std::optional(at) : std::nullopt;
+}
+
 /// Comments and lines of the preprocessor are taken away, literals kept.
 std::string WithoutComments(const std::string& source)
 {
@@ -26,6 +43,11 @@ std::string WithoutComments(const std::string& source)
         if (source.compare(at, 2, "//") == 0 || source[at] == '#')
         {
             at = std::min(source.find('\n', at), source.size() - 1);
+        }
+        else if (const auto end = EndOfNoLiteral(source, at))
+        {
+            at = *end;
+            continue;
         }
         else if (source[at] == '"' || source[at] == '\'')
         {
@@ -96,4 +118,26 @@ std::vector<std::filesystem::path> SourcesIn(const std::filesystem::path& folder
     }
     std::ranges::sort(sources);
     return sources;
+}
+
+std::vector<std::string> PiecesOf(const std::string& text)
+{
+    const std::string plain = std::regex_replace(text, std::regex("%[0-9]|\\\\r\\\\n|\\\\n"), "\n");
+    std::vector<std::string> pieces;
+    std::istringstream lines(std::regex_replace(plain, std::regex("\\\\\""), "\""));
+    for (std::string line; std::getline(lines, line);)
+    {
+        line = std::regex_replace(line, std::regex("^ +| +$"), "");
+        if (std::regex_search(line, std::regex("[A-Za-z]{2}")))
+        {
+            pieces.push_back(line);
+        }
+    }
+    return pieces;
+}
+
+bool HasWords(const std::string& text)
+{
+    static const std::regex words(" *[^ ]+ +[^ ]+.*");
+    return std::regex_match(PiecesOf(text).empty() ? "" : text, words);
 }

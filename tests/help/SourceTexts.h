@@ -22,3 +22,9 @@ std::vector<SourceText> TextsOfSource(const std::string& source);
 
 /// The sources of a folder, without its subfolders, in order of name.
 std::vector<std::filesystem::path> SourcesIn(const std::filesystem::path& folder);
+
+/// The fixed pieces of a text, between its values and line breaks, each with a word at least.
+std::vector<std::string> PiecesOf(const std::string& text);
+
+/// Whether a text has two words, and more than values in it.
+bool HasWords(const std::string& text);
