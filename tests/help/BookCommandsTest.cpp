@@ -182,7 +182,9 @@ TEST_P(BookCommands, AnswerWhatTheBookShows)
         }
         for (const auto& line : shown.Answer)
         {
-            EXPECT_THAT(told, testing::HasSubstr(line + "\n"));
+            // What a narrow page has no room for.
+            const bool isCut = line.ends_with(" ...");
+            EXPECT_THAT(told, testing::HasSubstr(isCut ? line.substr(0, line.size() - 4) : line + "\n"));
         }
     }
 }

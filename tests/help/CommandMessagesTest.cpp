@@ -22,9 +22,10 @@ constexpr std::array Rooms = {"board",    "cli",           "find",       "ownpar
 
 /// What is written when all is well: reports, pictures, models, and the names of columns.
 constexpr std::array Reports = {
-    "BomFields.cpp",      "BomReport.cpp",   "CurveFormats.cpp", "FileHeader.cpp",     "FitGroups.cpp",
-    "FitSheet.cpp",       "FitText.cpp",     "LikeList.cpp",     "ModelHeader.cpp",    "PeakedNetlist.cpp",
-    "ProductNetlist.cpp", "StressSheet.cpp", "StressText.cpp",   "SimulationModel.cpp"};
+    "BomChart.cpp",       "BomFields.cpp",   "ChartSvg.cpp",    "BomReport.cpp",
+    "CurveFormats.cpp",   "FileHeader.cpp",  "FitGroups.cpp",   "FitSheet.cpp",
+    "FitText.cpp",        "LikeList.cpp",    "ModelHeader.cpp", "PeakedNetlist.cpp",
+    "ProductNetlist.cpp", "StressSheet.cpp", "StressText.cpp",  "SimulationModel.cpp"};
 
 constexpr std::array Commands = {
     "",       "parts", "find", "like",       "curve",       "chart",      "model",    "bank",
