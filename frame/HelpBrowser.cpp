@@ -25,7 +25,8 @@ HelpBrowser::HelpBrowser(QWidget* parent)
 {
     setOpenLinks(false);
     setLineWrapMode(QTextEdit::FixedPixelWidth);
-    document()->documentLayout()->registerHandler(QTextFormat::ImageObject, new HelpPictures(this));
+    document()->documentLayout()->registerHandler(QTextFormat::ImageObject,
+                                                  new HelpPictures(firstPointSize, this));
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this,
             [this]
             {

@@ -1,9 +1,14 @@
 #include "frame/HelpPictures.h"
 
+#include <QAbstractTextDocumentLayout>
+#include <QPaintDevice>
 #include <QPainter>
 #include <QPixmap>
 #include <QTextDocument>
+#include <QTextFrame>
 #include <QUrl>
+
+#include <algorithm>
 
 /// The picture as the book names it; a null one where it is not to be had.
 static QPixmap PictureOf(const QTextDocument& document, const QTextImageFormat& format)
@@ -11,15 +16,38 @@ static QPixmap PictureOf(const QTextDocument& document, const QTextImageFormat& 
     return document.resource(QTextDocument::ImageResource, QUrl(format.name())).value<QPixmap>();
 }
 
-QSizeF HelpPictures::intrinsicSize(QTextDocument* document, int /*place*/, const QTextFormat& format)
+/// Room between the margins of the page, in the pixels that a book counts in; paper has more of its own.
+static qreal PageWidthOf(const QTextDocument& document)
 {
-    const QTextImageFormat image = format.toImageFormat();
+    static constexpr qreal PixelsToTheInch = 96;
+    const auto page = document.rootFrame()->frameFormat();
+    const auto* const device = document.documentLayout()->paintDevice();
+    const qreal scale = device == nullptr ? 1 : device->logicalDpiY() / PixelsToTheInch;
+    return (document.textWidth() - page.leftMargin() - page.rightMargin()) / scale;
+}
+
+static QSizeF SizeInBook(const QTextDocument& document, const QTextImageFormat& image)
+{
     if (image.width() > 0 && image.height() > 0)
     {
         return {image.width(), image.height()};
     }
-    const QPixmap picture = PictureOf(*document, image);
+    const QPixmap picture = PictureOf(document, image);
     return picture.isNull() ? QSizeF(16, 16) : picture.deviceIndependentSize();
+}
+
+HelpPictures::HelpPictures(qreal pointSize, QObject* parent)
+    : QObject(parent)
+    , usualPointSize(pointSize)
+{
+}
+
+QSizeF HelpPictures::intrinsicSize(QTextDocument* document, int /*place*/, const QTextFormat& format)
+{
+    const QSizeF usual = SizeInBook(*document, format.toImageFormat());
+    const qreal growth = std::max(1.0, document->defaultFont().pointSizeF() / usualPointSize);
+    const qreal room = PageWidthOf(*document);
+    return room > 0 ? usual * std::min(growth, room / usual.width()) : usual;
 }
 
 void HelpPictures::drawObject(QPainter* painter, const QRectF& rect, QTextDocument* document, int /*place*/,

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void cleanup();
     void PicturesAreShownPixelForPixelOrSmooth();
     void PicturesTakeTheirPlace();
+    void PicturesGrowWithTheText();
     void NothingIsToBeScrolledSideways_data();
     void NothingIsToBeScrolledSideways();
     void TopicsThatWindowsAskForFitTheirPage_data();
@@ -154,6 +155,26 @@ void HelpPagesTest::PicturesTakeTheirPlace()
     const frmHelp* viewer = Open(BookOfSquares(folder));
     const qreal height = Page(viewer)->document()->size().height();
     QVERIFY2(height >= 50 && height < 100, qPrintable(QString::number(height)));
+}
+
+void HelpPagesTest::PicturesGrowWithTheText()
+{
+    const QTemporaryDir folder;
+    const frmHelp* viewer = Open(BookOfSquares(folder));
+    auto* const page = viewer->findChild<HelpBrowser*>();
+    const qreal pointSize = page->font().pointSizeF();
+    page->ZoomBy(9);
+    const qreal growth = page->font().pointSizeF() / pointSize;
+    const qreal height = page->document()->size().height();
+    QVERIFY2(height >= 50 * growth && height < 100 * growth, qPrintable(QString::number(height)));
+    for (const int narrow : {130, 60})
+    {
+        page->setLineWrapColumnOrWidth(narrow);
+        QVERIFY(page->document()->idealWidth() <= narrow);
+    }
+    page->setLineWrapColumnOrWidth(600);
+    page->ZoomBy(-13);
+    QVERIFY(page->document()->size().height() >= 50);
 }
 
 // ---- Size and place ----
