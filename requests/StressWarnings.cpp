@@ -21,6 +21,15 @@ std::string Percent(double share)
 
 using Warnings = std::vector<std::string>;
 
+std::string FewPeriodsText(const Stretch& stretch)
+{
+    const auto all = std::lround(stretch.PeriodsInRecord());
+    return all < 2 ? "the record holds a single period; whether the current repeats is not known"
+                   : "only the last " + std::to_string(stretch.Periods) + " of " + std::to_string(all) +
+                         (stretch.Alike == Likeness::Repeats ? " periods repeat" : " periods heat alike") +
+                         "; the current may not be settled";
+}
+
 /// Of the record, in their fixed order.
 Warnings WarningsOfRecord(const CurrentLoad& load, double stepError)
 {
@@ -30,12 +39,10 @@ Warnings WarningsOfRecord(const CurrentLoad& load, double stepError)
     constexpr double smallStep = 0.02;
     const Stretch& stretch = load.Record->Counted;
     Warnings lines;
-    const bool wereFound = stretch.Alike != Likeness::AsAsked;
+    const bool wereFound = stretch.Alike != Likeness::AsAsked && !stretch.IsCountAsked;
     if (wereFound && (stretch.Share() < smallShare || stretch.Periods < fewPeriods))
     {
-        lines.push_back("only the last " + std::to_string(stretch.Periods) + " of " +
-                        std::to_string(std::lround(stretch.PeriodsInRecord())) +
-                        " periods repeat; the current may not be settled");
+        lines.push_back(FewPeriodsText(stretch));
     }
     if (stretch.Alike == Likeness::HeatsAlike)
     {

@@ -44,10 +44,15 @@ TimeSpan RecordOf(const Waveform& current, const StretchWishes& wishes)
     const TimeSpan whole = current.Whole();
     const TimeSpan record{wishes.From.value_or(whole.From), wishes.To.value_or(whole.To)};
     const double slack = rounding * whole.Length();
-    if (!(record.From < record.To) || record.From < whole.From - slack || record.To > whole.To + slack)
+    if (record.From < whole.From - slack || record.From > whole.To || record.To > whole.To + slack)
     {
         throw WaveformError("the record runs from " + TimeText(whole.From) + " to " + TimeText(whole.To) +
                             ", which does not hold " + TimeText(record.From) + " to " + TimeText(record.To));
+    }
+    if (!(record.From < record.To))
+    {
+        throw WaveformError("from " + TimeText(record.From) + " to " + TimeText(record.To) +
+                            " there is nothing to look at");
     }
     return {std::max(record.From, whole.From), std::min(record.To, whole.To)};
 }
@@ -257,7 +262,7 @@ Stretch GivenStretch(const Waveform& current, TimeSpan record, double period)
     }
     const auto alike = comparison.HeatingAlike();
     return StretchOfPeriods(current, record, period, alike,
-                            alike > 1 ? Likeness::HeatsAlike : Likeness::AsAsked);
+                            alike > 1 ? Likeness::HeatsAlike : Likeness::Repeats);
 }
 
 Stretch AsWished(const Waveform& current, TimeSpan record, const StretchWishes& wishes)
@@ -268,6 +273,7 @@ Stretch AsWished(const Waveform& current, TimeSpan record, const StretchWishes& 
     }
     auto stretch =
         wishes.Period ? GivenStretch(current, record, *wishes.Period) : FoundStretch(current, record, wishes);
+    stretch.IsCountAsked = wishes.Periods.has_value();
     if (!wishes.Periods || *wishes.Periods == stretch.Periods)
     {
         return stretch;
@@ -277,9 +283,11 @@ Stretch AsWished(const Waveform& current, TimeSpan record, const StretchWishes& 
         throw WaveformError("the record holds less than " + std::to_string(*wishes.Periods) + " periods of " +
                             TimeText(stretch.Period));
     }
-    const bool areCounted = *wishes.Periods < stretch.Periods;
-    return StretchOfPeriods(current, record, stretch.Period, *wishes.Periods,
-                            areCounted ? stretch.Alike : Likeness::AsAsked);
+    const bool areAlike = *wishes.Periods < stretch.Periods;
+    auto asked = StretchOfPeriods(current, record, stretch.Period, *wishes.Periods,
+                                  areAlike ? stretch.Alike : Likeness::AsAsked);
+    asked.IsCountAsked = true;
+    return asked;
 }
 } // namespace
 

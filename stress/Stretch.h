@@ -28,7 +28,7 @@ enum class Likeness
     Repeats,
     /// They do not repeat, but heat alike: jitter, spread spectrum, noise.
     HeatsAlike,
-    /// There is one, or it was asked for so.
+    /// All is one period, or more periods than are alike were asked for.
     AsAsked,
 };
 
@@ -43,6 +43,8 @@ struct Stretch
     /// The r.m.s. of x(t) - x(t-T) as a share of the r.m.s. of x; 0 of a single period.
     double Repeat;
     Likeness Alike;
+    /// So many periods were asked for.
+    bool IsCountAsked = false;
 
     TimeSpan LastPeriod() const { return {Span.To - Period, Span.To}; }
     double PeriodsInRecord() const { return Record.Length() / Period; }

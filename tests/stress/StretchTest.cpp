@@ -119,6 +119,16 @@ TEST(StretchOf, TakesThePeriodThatIsGiven)
     EXPECT_DOUBLE_EQ(stretch.Period, 4e-6);
 }
 
+TEST(StretchOf, CountsTheLastPeriodAloneWhereNoneIsAlike)
+{
+    const auto growing = [wave = Triangle(500e3)](double t) { return wave(t) * std::exp(t / 20e-6); };
+    const auto stretch = StretchOf(Record(growing), {.Period = 2e-6});
+    EXPECT_EQ(stretch.Periods, 1U);
+    EXPECT_EQ(stretch.Alike, Likeness::Repeats);
+    EXPECT_FALSE(stretch.IsCountAsked);
+    EXPECT_TRUE(StretchOf(Record(growing), {.Period = 2e-6, .Periods = 1}).IsCountAsked);
+}
+
 TEST(StretchOf, TakesTheLastPeriodsThatAreAskedFor)
 {
     const auto stretch = StretchOf(Record(Triangle(500e3)), {.Periods = 7});
@@ -139,6 +149,9 @@ TEST(StretchOf, RefusesWhatTheRecordCannotMeet)
 {
     const auto record = Record(Triangle(500e3));
     EXPECT_THAT(RefusalOf(record, {.From = 500e-6}), HasSubstr("the record runs from 0 s to 400 us"));
+    EXPECT_THAT(RefusalOf(record, {.To = -1e-6}), HasSubstr("there is nothing to look at"));
+    EXPECT_THAT(RefusalOf(record, {.From = 300e-6, .To = 100e-6}),
+                HasSubstr("from 300 us to 100 us there is nothing to look at"));
     EXPECT_THAT(RefusalOf(record, {.Period = 1e-3}), HasSubstr("a period of 1 ms is longer than the record"));
     EXPECT_THAT(RefusalOf(record, {.Periods = 201}), HasSubstr("less than 201 periods"));
     EXPECT_THAT(RefusalOf(Record([](double) { return 2.0; })), HasSubstr("does not change"));
