@@ -102,10 +102,40 @@ private:
         {
             fault = "--voltage and --dc-bias are two biases: leave one out";
         }
+        else if (typed.IsWhole && (TextOf("period") || TextOf("periods")))
+        {
+            fault = "--whole is one period: leave out --period and --periods";
+        }
         if (!fault.empty())
         {
             throw RequestError(RequestErrorKind::Syntax, "", fault);
         }
+        RefuseVain(isConverter);
+    }
+
+    /// What is asked of the other kind of source would change nothing.
+    void RefuseVain(bool isConverter) const
+    {
+        for (const RippleKey& key : keys)
+        {
+            const bool isOfRecord = key.Group == recordGroup;
+            const bool isVain = isConverter ? isOfRecord : key.Group == converterGroup;
+            if (isVain && TextOf(key.Key))
+            {
+                RefuseVain(key.Key, isOfRecord);
+            }
+        }
+        if (typed.IsWhole && isConverter)
+        {
+            RefuseVain("whole", true);
+        }
+    }
+
+    [[noreturn]] static void RefuseVain(std::string_view key, bool isOfRecord)
+    {
+        throw RequestError(RequestErrorKind::Syntax, std::string(key),
+                           isOfRecord ? "is for a waveform, not for a converter"
+                                      : "is for a converter, not for a waveform");
     }
 
     std::optional<double> Seconds(const char* key) const
@@ -234,8 +264,10 @@ StressReport ReportOfRecord(std::string bytes, RippleRequest& request)
     if (request.Voltage)
     {
         const auto voltage = table.WaveformOf(ColumnOf(table, request.Voltage));
+        // The way round in which it was probed does not matter, as with the current.
         request.Stress.Conditions[Condition::DCBias] =
-            BiasText(voltage.FiguresOf(load.Record->Counted.Span).Mean);
+            BiasText(std::abs(voltage.FiguresOf(load.Record->Counted.Span).Mean));
+        request.Stress.BiasColumn = *request.Voltage;
     }
     return {.Name = column.Name, .Load = load};
 }

@@ -1,5 +1,6 @@
 #include "requests/StressFormats.h"
 
+#include "calc/CheckedMath.h"
 #include "calc/NumberText.h"
 #include "partdata/AnswersVersion.h"
 
@@ -11,10 +12,12 @@ using Json = nlohmann::ordered_json;
 
 constexpr double hertzPerKilohertz = 1e3;
 
-/// The number as a single, in its shortest text.
+/// The number as a single, in its shortest text. Throws RunTimeError 6 for one that no single holds.
 Json Number(double value)
 {
-    return Json::parse(NumberText(static_cast<float>(value)));
+    const auto single = static_cast<float>(value);
+    CheckedFinite(single);
+    return Json::parse(NumberText(single));
 }
 
 Json NumberIf(const std::optional<double>& value)

@@ -52,6 +52,11 @@ float JudgedValue(const StressRequest& request, const JudgedCondition& condition
     const auto entry = EntryOf(request, kind, part);
     if (const auto refusal = condition.Refuse(entry, part, request.Code, {.CommaIsDecimal = false}))
     {
+        if (condition.Id == Condition::DCBias && !request.BiasColumn.empty())
+        {
+            throw RequestError(RequestErrorKind::Condition, "voltage", OnOneLine(*refusal))
+                .Of(request.BiasColumn + ", whose mean is " + entry + " V");
+        }
         throw RequestError(RequestErrorKind::Condition, std::string(kind.Key), OnOneLine(*refusal))
             .Of(request.Conditions[kind.Id].value_or(entry));
     }

@@ -17,6 +17,8 @@ struct StressRequest
     std::vector<std::string> Parts;
     /// Frequency and parameter do not count.
     ConditionTexts Conditions = {};
+    /// The column whose mean is the DC bias among them; empty for one that was typed.
+    std::string BiasColumn = {};
     /// In °C; the recommended rise where it is left out.
     std::optional<float> MostRise = {};
     /// Equal parts that share the current.

@@ -13,8 +13,8 @@
 namespace
 {
 constexpr std::size_t fewestRows = 8;
-/// Squares of what is larger, over many rows, would not be numbers.
-constexpr double largestValue = 1e30;
+/// The square of what is larger, times a frequency, would fit no single.
+constexpr double largestValue = 1e12;
 /// In s; nothing that is recorded is shorter.
 constexpr double shortestRecord = 1e-12;
 

@@ -27,6 +27,8 @@ private Q_SLOTS:
     void TakesTheBiasOfAConvertersSide();
     void TellsNoRiseOutsideTheData();
     void WarnsInTheReport();
+    void WarnsWhereFewPeriodsRepeat_data();
+    void WarnsWhereFewPeriodsRepeat();
     void WritesARowALine();
     void DrawsThePicture();
     void WritesPictureAndReportOrNeither();
@@ -56,6 +58,24 @@ static QByteArray Rows(double hertz, int periods)
     return text;
 }
 
+/// Triangles of 500 kHz, each larger by a tenth than the one before.
+static QByteArray GrowingRows()
+{
+    QByteArray text = "time\tI(C1)\n";
+    double amperes = 1e-3;
+    for (int period = 0; period < 50; ++period)
+    {
+        for (int step = 0; step < 20; ++step)
+        {
+            const double current = amperes * (step < 10 ? step / 5.0 - 1 : 3 - step / 5.0);
+            text += QByteArray::number((period + step / 20.0) * 2e-6, 'g', 17) + '\t' +
+                    QByteArray::number(current, 'g', 17) + '\n';
+        }
+        amperes *= 1.1;
+    }
+    return text + "1e-4\t0\n";
+}
+
 static void Write(const QString& name, const QByteArray& text)
 {
     QFile file(name);
@@ -76,6 +96,9 @@ void RippleTest::initTestCase()
     Write(File("once.txt"),
           "time\tI(C1)\n" + QByteArray("0\t0\n1\t1\n2\t0\n3\t-1\n4\t0\n5\t2\n6\t1\n7\t-3\n"));
     Write(File("two.txt"), Rows(200e3, 1) + Rows(200e3, 1).mid(17));
+    Write(File("growing.txt"), GrowingRows());
+    Write(File("reversed.txt"), Rows(200e3, 50).replace("\t12\n", "\t-12\n"));
+    Write(File("high.txt"), Rows(200e3, 50).replace("\t12\n", "\t26\n"));
     Write(File("buck.raw"), "Title: buck\nBinary:\n");
 }
 
@@ -151,6 +174,8 @@ void RippleTest::TakesTheBiasFromAVoltage()
     QCOMPARE(FirstPart(answer)["dcBias"].toDouble(), 12.0);
     const auto typed = Answer({File("wave.txt"), "--column", "2", "--dc-bias", "12", "--part", part});
     QCOMPARE(FirstPart(answer)["rippleVoltage"], FirstPart(typed)["rippleVoltage"]);
+    const auto reversed = Answer({File("reversed.txt"), "--column", "2", "--voltage", "3", "--part", part});
+    QCOMPARE(FirstPart(reversed)["dcBias"].toDouble(), 12.0);
 }
 
 void RippleTest::SharesTheCurrent()
@@ -205,6 +230,29 @@ void RippleTest::WarnsInTheReport()
         run.Output.startsWith("buck input: 12 V to 3.3 V, 5 A, 500 kHz, 2.2 uH; continuous, 27.5 % on\n"));
     QVERIFY2(run.Output.contains("\nwarning: 15."), run.Output.constData());
     QVERIFY(run.Output.contains("of the rise is above 1 MHz, where the part has no data"));
+}
+
+void RippleTest::WarnsWhereFewPeriodsRepeat_data()
+{
+    QTest::addColumn<QStringList>("words");
+    QTest::addColumn<QString>("warning");
+    QTest::newRow("one of many") << QStringList{File("growing.txt"), "--period", "2us"}
+                                 << "only the last 1 of 50 periods repeat; the current may not be settled";
+    QTest::newRow("one in the record")
+        << QStringList{File("wave.txt"), "--column", "2", "--period", "240us"}
+        << "the record holds a single period; whether the current repeats is not known";
+    QTest::newRow("as many as asked for")
+        << QStringList{File("wave.txt"), "--column", "2", "--periods", "2"} << "";
+    QTest::newRow("all as one") << QStringList{File("wave.txt"), "--column", "2", "--whole"} << "";
+}
+
+void RippleTest::WarnsWhereFewPeriodsRepeat()
+{
+    QFETCH(const QStringList, words);
+    QFETCH(const QString, warning);
+    const auto warnings = Answer(words + QStringList{"--part", part})["warnings"].toArray();
+    const auto first = warnings.isEmpty() ? QString() : warnings.first().toString();
+    QCOMPARE(first, warning);
 }
 
 void RippleTest::WritesARowALine()
@@ -265,6 +313,21 @@ void RippleTest::RefusesWithOneLine_data()
     row("no part", {File("wave.txt")}, 2, "ripple wants --part");
     row("two biases", QStringList{File("wave.txt"), "--voltage", "3", "--dc-bias", "12"} + bearer, 2,
         "--voltage and --dc-bias are two biases: leave one out");
+    row("of a waveform", QStringList{"--buck", buck, "--from", "1us"}, 2,
+        "--from is for a waveform, not for a converter");
+    row("whole", QStringList{"--buck", buck, "--whole"}, 2, "--whole is for a waveform, not for a converter");
+    row("of a converter", QStringList{File("wave.txt"), "--side", "input"} + bearer, 2,
+        "--side is for a converter, not for a waveform");
+    row("two periods", QStringList{File("wave.txt"), "--whole", "--period", "5us"} + bearer, 2,
+        "--whole is one period: leave out --period and --periods");
+    row("nothing to look at",
+        QStringList{File("wave.txt"), "--column", "2", "--from", "200us", "--to", "100us"} + bearer, 1,
+        File("wave.txt") + ": from 200 us to 100 us there is nothing to look at");
+    row("too large a number", {"--buck", "vin=12 vout=3.3 iout=1e30 f=500kHz l=2.2uH", "--format", "json"}, 1,
+        "Run-time error '6': Overflow");
+    row("bias of a column", QStringList{File("high.txt"), "--column", "2", "--voltage", "3"} + bearer, 1,
+        "KTS32XB51E106MA01: --voltage 3, whose mean is 26 V: DC Bias Voltage is invalid! Please enter a "
+        "Number from 0 to 25[V]");
     row("two converters", {"--buck", buck, "--boost", buck}, 2,
         "--buck, --boost and --flyback are several converters: leave one");
     row("no frequency", {"--buck", "vin=12 vout=3 iout=5 l=2.2uH"}, 2,

@@ -429,6 +429,7 @@ void WaveformWindowTest::LongReadingShowsProgressAndCanBeCancelled()
     QVERIFY(!progress->isVisible());
     QVERIFY(QTest::qWaitFor([&] { return progress->isVisible(); }, 5000));
     QVERIFY(desk.Told().isEmpty());
+    desk.Grab("reading");
     QTest::keyClick(desk.wave, Qt::Key_Escape);
     QVERIFY(desk.wave->isVisible());
     QVERIFY(!progress->isVisible());
