@@ -24,6 +24,12 @@ Emptiness ReasonUnless(bool isMet, LeftOutReason reason)
     return isMet ? Emptiness() : Emptiness(reason);
 }
 
+/// True when a rule holds at both ends of a range.
+template <class Rule> bool HoldsAtEnds(const ConditionRange& range, const Rule& rule)
+{
+    return rule(range.Low) && (range.IsPoint() || rule(range.High));
+}
+
 /// The reason for each group of columns.
 struct Empty
 {
@@ -88,27 +94,27 @@ private:
 
     Emptiness CapacitanceEmptiness(const PartRecord& part) const
     {
-        return First(ReasonUnless(HasCapacitanceData(part), LeftOutReason::NoCapacitanceData),
-                     First(ReasonUnless(IsBiasPermitted(part), LeftOutReason::BiasTooHigh),
-                           ReasonUnless(IsClassAmbientPermitted(at.AmbientC.Low, part, at.View) &&
-                                            IsClassAmbientPermitted(at.AmbientC.High, part, at.View),
-                                        LeftOutReason::TemperatureOutOfRange)));
+        return First(
+            ReasonUnless(HasCapacitanceData(part), LeftOutReason::NoCapacitanceData),
+            First(ReasonUnless(IsBiasPermitted(part), LeftOutReason::BiasTooHigh),
+                  ReasonUnless(HoldsAtEnds(at.AmbientC, [&](float celsius)
+                                           { return IsClassAmbientPermitted(celsius, part, at.View); }),
+                               LeftOutReason::TemperatureOutOfRange)));
     }
 
     bool IsBiasPermitted(const PartRecord& part) const
     {
-        return IsDCBiasPermitted(at.BiasVolts.Low, part) && IsDCBiasPermitted(at.BiasVolts.High, part);
+        return HoldsAtEnds(at.BiasVolts, [&](float volts) { return IsDCBiasPermitted(volts, part); });
     }
 
     /// As without data where no frequency is given; nothing then needs the group.
     Emptiness HeatingEmptiness(const PartRecord& part) const
     {
-        const auto heatingC = at.HeatingAmbientC();
         const bool hasData = at.Kilohertz && HasHeatingData(part);
         return First(ReasonUnless(hasData, LeftOutReason::NoHeatingData),
                      First(ReasonUnless(IsBiasPermitted(part), LeftOutReason::BiasTooHigh),
-                           ReasonUnless(IsHeatingAmbientPermitted(heatingC.Low, part) &&
-                                            IsHeatingAmbientPermitted(heatingC.High, part),
+                           ReasonUnless(HoldsAtEnds(at.HeatingAmbientC(), [&](float celsius)
+                                                    { return IsHeatingAmbientPermitted(celsius, part); }),
                                         LeftOutReason::TemperatureOutOfRange)));
     }
 
