@@ -118,6 +118,8 @@ void Bare(const PartTable& parts, const FindQuestion& question)
         if (at.Load)
         {
             BareHeating(row, part, at);
+            const double warm = BareChange(part, at.BiasVolts.Low, at.AmbientC.Low + row[7]);
+            row[8] = part.Data[Value::NominalCapacitance] * (1 + warm / 100);
         }
     }
     lastValue = rows.back()[0];

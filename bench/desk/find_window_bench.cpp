@@ -58,6 +58,16 @@ static void Compare(const FindDesk& desk, BareFind& bare, const Typed& typed)
     QTest::keyClick(box, typed.Key);
 }
 
+/// A rail with its tolerance, an ambient from winter to summer, and a converter's own frequency.
+static void TypeRanges(const FindDesk& desk)
+{
+    desk.Control<QCheckBox>("chkFindParallel")->setChecked(false);
+    desk.Control<QLineEdit>("txtFindDCBiasVol")->setText(QStringLiteral("4.5..5.5"));
+    desk.Control<QLineEdit>("txtFindAmbientTemp")->setText(QStringLiteral("-20..60"));
+    desk.Control<QLineEdit>("txtFindFrequency")->setText(QStringLiteral("270..330"));
+    Settle();
+}
+
 int main(int argc, char* argv[])
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
@@ -82,8 +92,13 @@ int main(int argc, char* argv[])
     }
     desk.Control<QCheckBox>("chkFindParallel")->setChecked(true);
     Compare(desk, bare, {"parallel", "txtFindCurrent", "0.1", '2'});
+    const QSize size = desk.window->size();
     desk.window->resize(1920, 1040);
     bare.resize(desk.window->size());
     Compare(desk, bare, {"large", "txtFindCurrent", "0.1", '2'});
+    desk.window->resize(size);
+    bare.resize(size);
+    TypeRanges(desk);
+    Compare(desk, bare, {"ranges", "txtFindCurrent", "0.1", '2'});
     return 0;
 }
