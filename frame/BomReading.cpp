@@ -86,11 +86,11 @@ private:
     std::vector<std::string> LinesOf(const std::vector<BomRemark>& remarks) const
     {
         std::vector<std::string> lines;
-        for (const auto& [note, isOfConditions] : remarks)
+        for (const auto& [note, isOfConditions, isOfOptions] : remarks)
         {
             const auto line = note.Line > 0 ? ": line " + std::to_string(note.Line) : "";
-            lines.push_back(NameOf(isOfConditions ? files.Conditions : files.Bill) + line + ": " +
-                            WithoutControls(note.Text));
+            const auto place = NameOf(isOfConditions ? files.Conditions : files.Bill) + line + ": ";
+            lines.push_back((isOfOptions ? "" : place) + WithoutControls(note.Text));
         }
         return lines;
     }
