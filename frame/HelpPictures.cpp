@@ -1,9 +1,11 @@
 #include "frame/HelpPictures.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QGuiApplication>
 #include <QPaintDevice>
 #include <QPainter>
 #include <QPixmap>
+#include <QScreen>
 #include <QTextDocument>
 #include <QTextFrame>
 #include <QUrl>
@@ -16,14 +18,19 @@ static QPixmap PictureOf(const QTextDocument& document, const QTextImageFormat& 
     return document.resource(QTextDocument::ImageResource, QUrl(format.name())).value<QPixmap>();
 }
 
-/// Room between the margins of the page, in the pixels that a book counts in; paper has more of its own.
+/// Pixels of the device to one of the screen, which a book counts in: paper has more to the inch.
+static qreal DeviceScale(const QTextDocument& document)
+{
+    const auto* const device = document.documentLayout()->paintDevice();
+    const auto* const screen = QGuiApplication::primaryScreen();
+    return device == nullptr || screen == nullptr ? 1 : device->logicalDpiY() / screen->logicalDotsPerInchY();
+}
+
+/// Room between the margins of the page.
 static qreal PageWidthOf(const QTextDocument& document)
 {
-    static constexpr qreal PixelsToTheInch = 96;
     const auto page = document.rootFrame()->frameFormat();
-    const auto* const device = document.documentLayout()->paintDevice();
-    const qreal scale = device == nullptr ? 1 : device->logicalDpiY() / PixelsToTheInch;
-    return (document.textWidth() - page.leftMargin() - page.rightMargin()) / scale;
+    return document.textWidth() - page.leftMargin() - page.rightMargin();
 }
 
 static QSizeF SizeInBook(const QTextDocument& document, const QTextImageFormat& image)
@@ -44,7 +51,7 @@ HelpPictures::HelpPictures(qreal pointSize, QObject* parent)
 
 QSizeF HelpPictures::intrinsicSize(QTextDocument* document, int /*place*/, const QTextFormat& format)
 {
-    const QSizeF usual = SizeInBook(*document, format.toImageFormat());
+    const QSizeF usual = SizeInBook(*document, format.toImageFormat()) * DeviceScale(*document);
     const qreal growth = std::max(1.0, document->defaultFont().pointSizeF() / usualPointSize);
     const qreal room = PageWidthOf(*document);
     return room > 0 ? usual * std::min(growth, room / usual.width()) : usual;

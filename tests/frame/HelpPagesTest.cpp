@@ -2,8 +2,10 @@
 /// several scales of the screen.
 
 #include "frame/HelpBrowser.h"
+#include "frame/HelpPictures.h"
 #include "frame/frmHelp.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QAction>
 #include <QApplication>
 #include <QFile>
@@ -29,6 +31,7 @@ private Q_SLOTS:
     void PicturesAreShownPixelForPixelOrSmooth();
     void PicturesTakeTheirPlace();
     void PicturesGrowWithTheText();
+    void PicturesAreAsLargeOnPaper();
     void NothingIsToBeScrolledSideways_data();
     void NothingIsToBeScrolledSideways();
     void TopicsThatWindowsAskForFitTheirPage_data();
@@ -175,6 +178,25 @@ void HelpPagesTest::PicturesGrowWithTheText()
     page->setLineWrapColumnOrWidth(600);
     page->ZoomBy(-13);
     QVERIFY(page->document()->size().height() >= 50);
+}
+
+void HelpPagesTest::PicturesAreAsLargeOnPaper()
+{
+    static constexpr int ScreenDots = 96;
+    QImage paper(8, 8, QImage::Format_RGB32);
+    paper.setDotsPerMeterX(qRound(10 * ScreenDots / 0.0254));
+    paper.setDotsPerMeterY(qRound(10 * ScreenDots / 0.0254));
+    QTextDocument document;
+    document.setDocumentMargin(0);
+    document.setHtml("<img width=\"100\" height=\"50\" src=\"squares.png\"/>");
+    auto* const layout = document.documentLayout();
+    layout->registerHandler(QTextFormat::ImageObject,
+                            new HelpPictures(document.defaultFont().pointSizeF(), layout));
+    layout->setPaintDevice(&paper);
+    document.setTextWidth(5000);
+    QVERIFY2(std::abs(document.idealWidth() - 1000) < 20, qPrintable(QString::number(document.idealWidth())));
+    document.setTextWidth(800);
+    QVERIFY2(document.idealWidth() <= 800, qPrintable(QString::number(document.idealWidth())));
 }
 
 // ---- Size and place ----
