@@ -26,11 +26,11 @@ static qreal DeviceScale(const QTextDocument& document)
     return device == nullptr || screen == nullptr ? 1 : device->logicalDpiY() / screen->logicalDotsPerInchY();
 }
 
-/// Room between the margins of the page.
+/// Room between the margins of the page, which are counted in pixels of the screen.
 static qreal PageWidthOf(const QTextDocument& document)
 {
     const auto page = document.rootFrame()->frameFormat();
-    return document.textWidth() - page.leftMargin() - page.rightMargin();
+    return document.textWidth() - (page.leftMargin() + page.rightMargin()) * DeviceScale(document);
 }
 
 static QSizeF SizeInBook(const QTextDocument& document, const QTextImageFormat& image)

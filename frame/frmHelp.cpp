@@ -6,6 +6,7 @@
 #include "formkit/RunCommand.h"
 #include "frame/AskForPrinter.h"
 #include "frame/HelpBook.h"
+#include "frame/HelpPaper.h"
 #include "frame/HelpTopics.h"
 #include "frame/PrintJob.h"
 #include "frame/PrinterHost.h"
@@ -293,7 +294,8 @@ void frmHelp::Print()
                    {
                        const HourglassScope hourglass;
                        PrintPages(
-                           printer, [this](QPrinter& pages) { ui->txtBook->print(&pages); }, windowTitle());
+                           printer, [this](QPrinter& pages) { PrintBook(*ui->txtBook->document(), pages); },
+                           windowTitle());
                    }
                });
 }

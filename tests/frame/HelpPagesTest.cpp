@@ -2,6 +2,7 @@
 /// several scales of the screen.
 
 #include "frame/HelpBrowser.h"
+#include "frame/HelpPaper.h"
 #include "frame/HelpPictures.h"
 #include "frame/frmHelp.h"
 
@@ -32,6 +33,8 @@ private Q_SLOTS:
     void PicturesTakeTheirPlace();
     void PicturesGrowWithTheText();
     void PicturesAreAsLargeOnPaper();
+    void PagesKeepTogetherWhatBelongsTogether_data();
+    void PagesKeepTogetherWhatBelongsTogether();
     void NothingIsToBeScrolledSideways_data();
     void NothingIsToBeScrolledSideways();
     void TopicsThatWindowsAskForFitTheirPage_data();
@@ -197,6 +200,39 @@ void HelpPagesTest::PicturesAreAsLargeOnPaper()
     QVERIFY2(std::abs(document.idealWidth() - 1000) < 20, qPrintable(QString::number(document.idealWidth())));
     document.setTextWidth(800);
     QVERIFY2(document.idealWidth() <= 800, qPrintable(QString::number(document.idealWidth())));
+}
+
+void HelpPagesTest::PagesKeepTogetherWhatBelongsTogether_data()
+{
+    QTest::addColumn<QString>("kept");
+    QTest::newRow("heading and text") << "<h2>first</h2><h3>A heading</h3><p>last</p>";
+    QTest::newRow("table")
+        << "<table><tr><td>first</td></tr><tr><td>2</td></tr><tr><td>last</td></tr></table>";
+    QTest::newRow("heading and table")
+        << "<h3>first</h3><table><tr><td>1</td></tr><tr><td>last</td></tr></table>";
+    QTest::newRow("code") << "<pre>first\nmore\nlast</pre>";
+}
+
+void HelpPagesTest::PagesKeepTogetherWhatBelongsTogether()
+{
+    QFETCH(QString, kept);
+    bool isCutWithoutBreaks = false;
+    for (int lines = 1; lines < 30; ++lines)
+    {
+        QTextDocument document;
+        document.setHtml(QString("<p>line</p>").repeated(lines) + kept + QString("<p>line</p>").repeated(9));
+        document.setPageSize(QSizeF(400, 300));
+        const auto pageOf = [&document](const char* text)
+        {
+            const auto block = document.find(text).block();
+            const qreal top = document.documentLayout()->blockBoundingRect(block).top();
+            return static_cast<int>((top + block.layout()->lineAt(0).rect().center().y()) / 300);
+        };
+        isCutWithoutBreaks = isCutWithoutBreaks || pageOf("first") != pageOf("last");
+        BreakPages(document);
+        QCOMPARE(pageOf("first"), pageOf("last"));
+    }
+    QVERIFY(isCutWithoutBreaks);
 }
 
 // ---- Size and place ----
