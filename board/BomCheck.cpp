@@ -58,6 +58,10 @@ std::unique_ptr<const CheckedBom> CheckBom(BomTexts texts, const BomAsked& asked
     {
         checked->Judged = JudgeBom(checked->Joined, parts, asked.Settings, asked.Waveforms);
         checked->Faults = checked->Judged.Faults;
+        for (const auto& note : checked->Judged.Notes)
+        {
+            checked->Warnings.push_back({.Note = {.Text = note}, .IsOfOptions = true});
+        }
     }
     return checked;
 }

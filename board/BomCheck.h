@@ -46,7 +46,7 @@ struct CheckedBom
     JoinedBom Joined = {};
     /// Empty where there are faults.
     JudgedBom Judged = {};
-    /// What is not taken of either file, and conditions of what the bill has not.
+    /// What is not taken of either file, conditions of what the bill has not, and notes on the board.
     std::vector<BomRemark> Warnings = {};
     /// Of the first step that has any: reading, joining, judging.
     std::vector<BomRemark> Faults = {};

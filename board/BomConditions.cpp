@@ -51,6 +51,7 @@ public:
 
     JoinedBom Join()
     {
+        joined.Bill = &bill;
         TakeConditions();
         for (std::size_t row = 0; row < bill.Rows.size(); ++row)
         {

@@ -32,7 +32,7 @@ struct BomRemark
 {
     BomNote Note;
     bool IsOfConditions = false;
-    /// About an option of the command rather than a file.
+    /// About an option, or the whole board, rather than a file.
     bool IsOfOptions = false;
 };
 
@@ -40,6 +40,8 @@ struct JoinedBom
 {
     /// In the order of the bill.
     std::vector<BomItem> Items;
+    /// What was joined; it must outlive the answer.
+    const BomTable* Bill = nullptr;
     /// Conditions of what the bill has not.
     std::vector<BomRemark> Warnings;
     std::vector<BomRemark> Faults;

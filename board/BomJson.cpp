@@ -193,7 +193,7 @@ Json NetOf(const JudgedNet& net, const JudgedBom& bom, const BomSettings& settin
     }
     return {{"net", net.Name},
             {"pieces", pieces},
-            {"nominal", Number(net.Answer.Nominal)},
+            {"nominal", net.Answer.Nominal > 0 ? Number(net.Answer.Nominal) : Json()},
             {"leastCapacitance", Number(net.Answer.Least)},
             {"leastAt", net.Answer.Least ? CapacitancePlace(net.Answer.LeastAt) : Json()},
             {"wanted", Number(net.Wanted)},

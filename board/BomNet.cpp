@@ -7,6 +7,7 @@
 #include "partdata/Windows1252.h"
 #include "simulation/BankRanges.h"
 #include "simulation/BankRules.h"
+#include "simulation/BankWarnings.h"
 
 #include <algorithm>
 #include <cmath>
@@ -133,6 +134,24 @@ private:
         if (answer.Refusal.empty() && answer.Unknown.empty() && !RefusePieces(question))
         {
             TakeWorstShares(answer, BankRanges(question));
+            TakeWarnings(answer, WarningsOf(question, BankOf(question)));
+        }
+    }
+
+    static void TakeWarnings(NetAnswer& answer, const std::vector<BankWarning>& warnings)
+    {
+        for (const BankWarning& warning : warnings)
+        {
+            if (warning.Kind == BankWarningKind::Ripple)
+            {
+                auto& most = answer.Shares[warning.Piece].RippleAbove;
+                most = std::max(most.value_or(0), warning.Value);
+            }
+            else if (warning.Kind == BankWarningKind::Inductance)
+            {
+                auto& least = answer.InductiveKilohertz;
+                least = std::min(least.value_or(warning.Value), warning.Value);
+            }
         }
     }
 

@@ -31,11 +31,13 @@ struct NetShare
     Place MarginAt;
     /// The highest temperature, in °C.
     double Body = 0;
+    /// Where it is above what the part may have on top of the bias: the most ripple voltage in Vrms.
+    std::optional<double> RippleAbove = {};
 };
 
 struct NetAnswer
 {
-    /// In pF.
+    /// In pF; 0 where not all parts are known.
     double Nominal = 0;
     /// Of the sum, with all tolerances; nothing where `Refusal` tells why.
     std::optional<double> Least;
@@ -46,6 +48,8 @@ struct NetAnswer
     std::string Unknown;
     /// Of the current that is shared, in Arms; nothing where none is.
     std::optional<double> Arms;
+    /// The lowest frequency at which an inductance that parts have would decide, in kHz.
+    std::optional<double> InductiveKilohertz;
     /// In the order of the pieces; empty where nothing is shared.
     std::vector<NetShare> Shares;
 };

@@ -54,32 +54,13 @@ std::vector<RippleCurrent> RippleOf(const CurrentLoad& load)
     return ripple;
 }
 
-/// The load of "buck vin=12 vout=3.3 iout=5 f=500kHz l=2.2uH side=input".
-CurrentLoad LoadOfConverterText(const std::string& text)
-{
-    const auto blank = std::min(text.find(' '), text.size());
-    std::vector<std::string_view> names;
-    std::ranges::transform(ConverterNames, std::back_inserter(names), &ConverterName::Name);
-    const auto& name = ConverterNames.at(IndexOfName(text.substr(0, blank), names, "converter", "converter"));
-    constexpr std::string_view sideWord = "side=";
-    auto data = text.substr(blank);
-    auto side = name.PulsedSide;
-    if (const auto place = data.find(sideWord); place != std::string::npos)
-    {
-        const auto end = std::min(data.find(' ', place), data.size());
-        side = ConverterSideOf(data.substr(place + sideWord.size(), end - place - sideWord.size()));
-        data.erase(place, end - place);
-    }
-    return LoadOfConverter(ConverterOf(name.Id, data), side);
-}
-
 class QuestionReading
 {
 public:
-    QuestionReading(const BomItem& read, CodeView view, const WaveformSource& source,
+    QuestionReading(const BomItem& read, CodeView view, BomLoads& loadsOfBoard,
                     std::vector<BomRemark>& remarks)
         : item(read)
-        , waveforms(source)
+        , loads(loadsOfBoard)
         , faults(remarks)
     {
         question.Asked.At.View = view;
@@ -179,13 +160,10 @@ private:
         }
     }
 
-    CurrentLoad LoadOfWaveform(const std::string& text, BomField field) const
+    BomLoads::Load LoadOfWaveform(const std::string& text, BomField field)
     {
-        const auto colon = text.find(':');
-        const auto column = colon == std::string::npos ? std::nullopt : std::optional(text.substr(colon + 1));
         const auto& cell = item.Cells[static_cast<std::size_t>(field)];
-        const auto table = waveforms(text.substr(0, colon), cell && cell->IsOfConditions);
-        return LoadOfRecord(table.WaveformOf(ColumnOf(table, column)), {});
+        return loads.OfWaveform(text, cell && cell->IsOfConditions);
     }
 
     void ReadLoad()
@@ -198,7 +176,7 @@ private:
                  at.Load =
                      AcLoad{.Kind = Quantity::Current, .Value = ValueInUnit(text, Quantity::Current, "")};
              });
-        Read(BomField::Converter, [&](const std::string& text) { TakeLoad(LoadOfConverterText(text)); });
+        Read(BomField::Converter, [&](const std::string& text) { TakeLoad(loads.OfConverter(text)); });
         Read(BomField::Waveform,
              [&](const std::string& text) { TakeLoad(LoadOfWaveform(text, BomField::Waveform)); });
         const auto isGiven = [&](BomField field) { return !item.TextOf(field).empty(); };
@@ -209,9 +187,10 @@ private:
     }
 
     /// The sine that heats as the load does.
-    void TakeLoad(const CurrentLoad& load)
+    void TakeLoad(const BomLoads::Load& load)
     {
-        const auto sine = load.Lines.Moments.Total().Sine();
+        question.Load = load;
+        const auto sine = load->Lines.Moments.Total().Sine();
         const auto kilohertz = static_cast<float>(sine.Hertz / hertzPerKilohertz);
         question.IsLoadOutside = !IsInside(sine.Hertz);
         if (!question.IsLoadOutside)
@@ -226,9 +205,9 @@ private:
     {
         Read(BomField::NetCurrent, [&](const std::string& text) { TakeNetCurrent(text); });
         Read(BomField::NetConverter,
-             [&](const std::string& text) { question.NetRipple = RippleOf(LoadOfConverterText(text)); });
+             [&](const std::string& text) { question.NetRipple = RippleOf(*loads.OfConverter(text)); });
         Read(BomField::NetWaveform, [&](const std::string& text)
-             { question.NetRipple = RippleOf(LoadOfWaveform(text, BomField::NetWaveform)); });
+             { question.NetRipple = RippleOf(*LoadOfWaveform(text, BomField::NetWaveform)); });
         ReadValue(BomField::NetMinCapacitance, question.NetMinCapacitance);
         if (!question.NetRipple.empty() && question.Asked.At.Load)
         {
@@ -288,16 +267,15 @@ private:
     }
 
     const BomItem& item;
-    const WaveformSource& waveforms;
+    BomLoads& loads;
     std::vector<BomRemark>& faults;
     BomQuestion question;
 };
 } // namespace
 
-BomQuestion QuestionOf(const BomItem& item, CodeView view, const WaveformSource& waveforms,
-                       std::vector<BomRemark>& faults)
+BomQuestion QuestionOf(const BomItem& item, CodeView view, BomLoads& loads, std::vector<BomRemark>& faults)
 {
-    return QuestionReading(item, view, waveforms, faults).Read();
+    return QuestionReading(item, view, loads, faults).Read();
 }
 
 void CheckCell(BomField field, const std::string& text)

@@ -3,19 +3,14 @@
 /// What is asked of the parts of one item: their conditions, their limits, and the load that they bear.
 
 #include "board/BomConditions.h"
+#include "board/BomLoads.h"
 #include "find/Wants.h"
 #include "partdata/PartTable.h"
 #include "simulation/BankQuestion.h"
-#include "stress/CurrentLoad.h"
-#include "stress/WaveformTable.h"
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
-
-/// The rows of a waveform that a cell names, as "FILE"; throws what tells why there are none.
-using WaveformSource = std::function<WaveformTable(const std::string& name, bool isOfConditions)>;
 
 struct BomQuestion
 {
@@ -23,6 +18,8 @@ struct BomQuestion
     /// `Wanted`.
     FindQuestion Asked;
     bool HasBias = false;
+    /// Of a waveform or converter, for which the load asked for is the sine that heats alike.
+    BomLoads::Load Load = {};
     /// A load is asked for that lies outside the frequencies that parts have data of.
     bool IsLoadOutside = false;
     /// How much of the rated voltage may be used, in percent.
@@ -38,5 +35,4 @@ struct BomQuestion
 void CheckCell(BomField field, const std::string& text);
 
 /// Reads the cells of an item, and adds a remark to `faults` for each that makes no sense.
-BomQuestion QuestionOf(const BomItem& item, CodeView view, const WaveformSource& waveforms,
-                       std::vector<BomRemark>& faults);
+BomQuestion QuestionOf(const BomItem& item, CodeView view, BomLoads& loads, std::vector<BomRemark>& faults);

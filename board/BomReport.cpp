@@ -87,7 +87,7 @@ std::string NetRow(const JudgedNet& net)
 {
     const auto& answer = net.Answer;
     return "<tr>" + VerdictCell(net.Verdict) + Cell(net.Name) + Cell(std::to_string(net.Parts()), "number") +
-           Cell(FaradsText(answer.Nominal), "number") +
+           Cell(answer.Nominal > 0 ? FaradsText(answer.Nominal) : "", "number") +
            Cell(answer.Least ? FaradsText(*answer.Least) : "", "number") +
            Cell(answer.Least ? PlaceText(answer.LeastAt) : "") +
            Cell(net.Wanted ? FaradsText(double{*net.Wanted}) : "", "number") +
@@ -140,9 +140,7 @@ std::string NotesOf(const std::vector<BomRemark>& warnings)
     std::string html;
     for (const BomRemark& warning : warnings)
     {
-        const auto line = warning.Note.Line > 0 ? ", line " + std::to_string(warning.Note.Line) : "";
-        html += "<li>" + std::string(warning.IsOfConditions ? "Conditions" : "Bill") + line + ": " +
-                HtmlText(warning.Note.Text) + "</li>\n";
+        html += "<li>" + HtmlText(RemarkText(warning, {"bill", "conditions"})) + "</li>\n";
     }
     return html.empty() ? "" : "<h2>Notes</h2>\n<ul>\n" + html + "</ul>\n";
 }

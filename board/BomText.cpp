@@ -97,9 +97,9 @@ std::string NumberOf(const PartRecord& part, const BomSettings& settings)
         part.PartNum[static_cast<std::size_t>(settings.View) + settings.NumberingOffset]);
 }
 
-std::string PartText(const JudgedItem& item, const BomSettings& /*settings*/)
+std::string PartText(const JudgedItem& item, const BomSettings& settings)
 {
-    return item.Item->TextOf(BomField::Part);
+    return item.IsByValue ? NumberOf(*item.Part, settings) : item.Item->TextOf(BomField::Part);
 }
 
 std::string FaradsText(double picofarads)

@@ -13,7 +13,7 @@ std::string BomText(const JudgedBom& bom, const BomSettings& settings);
 /// verdict is as it is, part numbers near an unknown one, and what passes instead.
 std::string ReasonsText(const JudgedItem& item, const BomSettings& settings);
 
-/// The number of the part, as the bill has it.
+/// The number of the part as the bill has it, or of the part that the bill tells by its values.
 std::string PartText(const JudgedItem& item, const BomSettings& settings);
 
 /// The number of a part in the form on display.

@@ -1,10 +1,13 @@
 #include "board/BomVerdict.h"
 
+#include "board/BomParts.h"
 #include "board/PartSuggestion.h"
 #include "board/References.h"
+#include "board/RowWarnings.h"
+#include "find/LeftOut.h"
 #include "partdata/RunTimeError.h"
-#include "partdata/Windows1252.h"
 #include "requests/CurveRequest.h"
+#include "requests/FourDigits.h"
 #include "requests/RequestError.h"
 
 #include <algorithm>
@@ -20,24 +23,6 @@ namespace
 constexpr double percent = 100;
 const std::vector<BomLimit> noLimits;
 
-/// Letters to change, add or drop from one name to another.
-std::size_t StepsTo(const std::string& name, std::string_view other)
-{
-    std::vector<std::size_t> row(other.size() + 1);
-    std::iota(row.begin(), row.end(), std::size_t{0});
-    for (std::size_t i = 0; i < name.size(); ++i)
-    {
-        std::size_t diagonal = std::exchange(row[0], i + 1);
-        for (std::size_t j = 0; j < other.size(); ++j)
-        {
-            const auto changed = diagonal + (name[i] == other[j] ? 0 : 1);
-            diagonal = row[j + 1];
-            row[j + 1] = std::min({changed, row[j] + 1, row[j + 1] + 1});
-        }
-    }
-    return row.back();
-}
-
 class BomJudge
 {
 public:
@@ -46,7 +31,8 @@ public:
         : joined(joinedBom)
         , parts(partTable)
         , settings(bomSettings)
-        , waveforms(source)
+        , loads(source)
+        , meant(joinedBom.Bill, partTable, bomSettings)
     {
     }
 
@@ -61,6 +47,7 @@ public:
         {
             JudgeNets();
             std::ranges::for_each(bom.Items, [this](JudgedItem& item) { JudgeItem(item); });
+            Note();
             Order();
         }
         return std::move(bom);
@@ -71,7 +58,7 @@ private:
 
     void Take(const BomItem& item)
     {
-        const PartRecord* part = PartOf(item);
+        const auto [part, isByValue] = meant.PartOf(item);
         const bool isOther = part == nullptr && !IsCounted(item);
         if (isOther || !item.IsFitted())
         {
@@ -82,57 +69,17 @@ private:
         JudgedItem& judged = bom.Items.emplace_back();
         judged.Item = &item;
         judged.Part = part;
-        judged.Question = QuestionOf(item, settings.View, waveforms, bom.Faults);
+        judged.IsByValue = isByValue;
+        judged.Question = QuestionOf(item, settings.View, loads, bom.Faults);
         if (part == nullptr)
         {
-            judged.Near = NearOf(item.TextOf(BomField::Part));
+            judged.Near = meant.NearOf(item.TextOf(BomField::Part));
         }
     }
 
     static bool IsCounted(const BomItem& item)
     {
         return std::ranges::any_of(item.References, IsCapacitorReference);
-    }
-
-    const PartRecord* PartOf(const BomItem& item) const
-    {
-        const auto key = Windows1252FromUtf8(item.TextOf(BomField::Part));
-        const auto first = static_cast<std::size_t>(settings.View) + settings.NumberingOffset;
-        for (std::size_t i = 0; i < PartNumForms && !key.empty(); ++i)
-        {
-            const auto* found = parts.PartIndex[(first + i) % PartNumForms].Find(key);
-            if (found != nullptr)
-            {
-                return &parts.PartData[static_cast<std::size_t>(*found)];
-            }
-        }
-        return nullptr;
-    }
-
-    /// At most three part numbers of the same prefix that differ in two letters, the nearest first.
-    std::vector<std::string> NearOf(const std::string& name) const
-    {
-        constexpr std::size_t most = 3;
-        constexpr std::size_t mostSteps = 2;
-        constexpr std::size_t prefix = 3;
-        const auto form = static_cast<std::size_t>(settings.View) + settings.NumberingOffset;
-        std::vector<std::pair<std::size_t, std::string>> near;
-        for (const PartRecord& part : parts.PartData)
-        {
-            const auto number = Utf8FromWindows1252(part.PartNum[form]);
-            const auto longer = std::max(number.size(), name.size()) - std::min(number.size(), name.size());
-            const bool isLike = longer <= mostSteps && number.starts_with(name.substr(0, prefix));
-            const auto steps = isLike ? StepsTo(name, number) : mostSteps + 1;
-            if (steps <= mostSteps)
-            {
-                near.emplace_back(steps, number);
-            }
-        }
-        std::ranges::stable_sort(near, {}, &std::pair<std::size_t, std::string>::first);
-        near.resize(std::min(near.size(), most));
-        std::vector<std::string> names;
-        std::ranges::transform(near, std::back_inserter(names), &std::pair<std::size_t, std::string>::second);
-        return names;
     }
 
     // ---- Nets ----
@@ -243,7 +190,7 @@ private:
             item.Reserve = deciding->Reserve;
             item.Decides = deciding->Name;
         }
-        const auto warnings = WarningsOf(item);
+        const auto warnings = RowWarnings(item);
         item.Verdict = judged.IsFailing()        ? BomVerdict::Fail
                        : !judged.Unknown.empty() ? BomVerdict::Unknown
                        : !warnings.empty()       ? BomVerdict::Warn
@@ -255,26 +202,6 @@ private:
             item.Suggestion =
                 item.WasSuggested ? SuggestionFor(*item.Part, item.Question, parts, settings) : std::nullopt;
         }
-    }
-
-    static std::vector<std::string> WarningsOf(const JudgedItem& item)
-    {
-        std::vector<std::string> warnings;
-        const auto& quantity = item.Item->TextOf(BomField::Quantity);
-        const auto count = std::to_string(item.Item->ReferencesOfRow);
-        if (!quantity.empty() && item.Item->ReferencesOfRow > 0 && quantity != count)
-        {
-            warnings.push_back("quantity " + quantity + ", but " + count + " references");
-        }
-        const auto& figures = item.Judged->Figures;
-        const auto ripple = figures.ValueOf(FoundColumn::Ripple);
-        const double peak = item.Question.Asked.At.BiasVolts.High + ripple.value_or(0) * std::sqrt(2.0);
-        const double rated = item.Part->Data[Value::RatedVoltage];
-        if (ripple && peak > rated && item.Question.Asked.At.BiasVolts.High <= rated)
-        {
-            warnings.emplace_back("bias and ripple reach above the rated voltage");
-        }
-        return warnings;
     }
 
     /// What is missed, or cannot be judged; the limit of the least reserve where all are held.
@@ -294,6 +221,33 @@ private:
         if (const auto* deciding = judged.Deciding(); deciding != nullptr && item.Reasons.empty())
         {
             item.Reasons.push_back(deciding->Text);
+        }
+        if (item.IsByValue)
+        {
+            item.Reasons.emplace_back("by value");
+        }
+    }
+
+    /// What bears on more than a row.
+    void Note()
+    {
+        for (const JudgedItem& item : bom.Items)
+        {
+            auto at = item.Question.Asked.At;
+            at.Kilohertz = item.IsLoaded() ? std::optional(at.Kilohertz.value_or(0)) : std::nullopt;
+            const std::string note(NoteOnHeating(at));
+            if (!note.empty() && bom.Notes.empty())
+            {
+                bom.Notes.push_back(note);
+            }
+        }
+        for (const JudgedNet& net : bom.Nets)
+        {
+            if (const auto& kilohertz = net.Answer.InductiveKilohertz)
+            {
+                bom.Notes.push_back("net " + net.Name + ": at " + FourDigits(static_cast<float>(*kilohertz)) +
+                                    " kHz an inductance of 1 nH would decide currents and ripple voltage");
+            }
         }
     }
 
@@ -344,7 +298,8 @@ private:
     const JoinedBom& joined;
     const PartTable& parts;
     const BomSettings& settings;
-    const WaveformSource& waveforms;
+    BomLoads loads;
+    BomParts meant;
     JudgedBom bom;
 };
 } // namespace

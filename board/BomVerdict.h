@@ -87,6 +87,8 @@ struct JudgedBom
     /// What is not judged, in the order of the bill; whether it is fitted tells why.
     std::vector<const BomItem*> Unjudged;
     std::vector<BomRemark> Faults;
+    /// What is told of the board beside its verdicts, a line each.
+    std::vector<std::string> Notes;
 
     bool Has(BomVerdict verdict) const;
 };

@@ -100,6 +100,11 @@ private:
         {
             noCapacitance = noHeating = LeftOutReason::CannotBeCalculated;
         }
+        // The sine that heats as another current does not make its voltage.
+        if (question.Load)
+        {
+            answer.Figures.Clear(FoundColumn::Ripple);
+        }
         if (noCapacitance == LeftOutReason::TemperatureOutOfRange)
         {
             answer.Missed.emplace_back("the ambient temperature is outside the range of the characteristic");

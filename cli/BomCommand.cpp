@@ -165,6 +165,10 @@ void AddBomCommand(CLI::App& app)
                        ->type_name("FILE"));
     AddReadOption(command, {"--column", "NAME=HEADING", "What a column of the bill is", "Reading"},
                   [options](const std::string& typed) { options->Columns.push_back(ColumnOf(typed)); });
+    command
+        .add_flag("--by-value", options->Settings.IsByValue,
+                  "Take parts by size, characteristic, capacitance and rated voltage, too")
+        ->group("Reading");
     AddCells(command, *options);
     AddReadOption(command, {"--warn", "%", "A reserve below this is a warning (left out: 10)", "Result"},
                   [options](const std::string& typed)

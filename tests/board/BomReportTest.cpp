@@ -87,7 +87,7 @@ TEST(BomReport, TellsTextsOfABillAsTheyStand)
                                   "&#39;&amp;amp;&lt;a href=&quot;//h.test&quot;&gt;</td>"));
     EXPECT_THAT(report, HasSubstr("<td>C1,C2&lt;b&gt;</td>"));
     EXPECT_THAT(report, HasSubstr("<td>N\\x0A&lt;i&gt;</td>"));
-    EXPECT_THAT(report, HasSubstr("<li>Conditions, line 2: no part is on net &lt;script&gt;"));
+    EXPECT_THAT(report, HasSubstr("<li>conditions: line 2: no part is on net &lt;script&gt;"));
 }
 
 TEST(BomReport, HasNetsBeforeRowsAndTheWorstRowFirst)

@@ -66,13 +66,6 @@ TEST(BomVerdict, JudgesTheRiseOfALoad)
     EXPECT_EQ(failing.Item().Decides, "rise");
 }
 
-TEST(BomVerdict, WarnsOfAnotherQuantityThanReferences)
-{
-    const Board board("Ref,MPN,Qty,Bias\n\"C1,C2\"," + Part + ",3,5V\n");
-    EXPECT_EQ(board.Item().Verdict, BomVerdict::Warn);
-    EXPECT_THAT(board.Item().Reasons, ElementsAre("quantity 3, but 2 references"));
-}
-
 TEST(BomVerdict, CountsWhatIsNotJudged)
 {
     const Board board("Ref,MPN,Bias,DNP\nC1,OTHER,5V,\nR1,R-10K,,\nU1," + Part + ",5V,\nC2," + Part +
