@@ -13,6 +13,8 @@ struct MeasuredCapacitance
     double Volts = 0;
     double Celsius = 0;
     double Picofarads = 0;
+    /// As how many points it counts.
+    double Weight = 1;
 };
 
 /// Rise of temperature over the ambient under one load.

@@ -1,5 +1,7 @@
 #include "fit/PeakFit.h"
 
+#include "fit/Crowds.h"
+
 #include <unsupported/Eigen/NonLinearOptimization>
 
 #include <algorithm>
@@ -107,7 +109,8 @@ struct Misses
             const double r = point.Volts / RatedVolts;
             const double change =
                 amplitude * (1 - LossAt(fit.Losses, r)) * BellAt(fit, r, point.Celsius) + fit.Offset;
-            misses[i++] = Percent * (fit.Picofarads * (1 + change / Percent) / point.Picofarads - 1);
+            misses[i++] = std::sqrt(point.Weight) * Percent *
+                          (fit.Picofarads * (1 + change / Percent) / point.Picofarads - 1);
         }
         misses[i++] = UsualExponent.PullOn(fit.Below.Exponent);
         misses[i++] = UsualExponent.PullOn(fit.Above.Exponent);
@@ -176,9 +179,10 @@ std::vector<MeasuredCapacitance> Some(std::span<const MeasuredCapacitance> point
 }
 } // namespace
 
-PeakFit FitPeak(std::span<const MeasuredCapacitance> points, double ratedVolts,
+PeakFit FitPeak(std::span<const MeasuredCapacitance> measured, double ratedVolts,
                 const std::optional<PeakByBias>& known)
 {
+    const auto points = Uncrowded(measured, ratedVolts);
     const auto some = Some(points);
     Vector best;
     double bestCost = std::numeric_limits<double>::infinity();

@@ -1,5 +1,6 @@
 #include "fit/PolynomialFit.h"
 
+#include "fit/Crowds.h"
 #include "fit/Steps.h"
 
 #include <algorithm>
@@ -61,7 +62,7 @@ public:
     double LeftOut(const PolynomialFit& fit, std::span<const Step> temperatures) const
     {
         double sum = 0;
-        std::size_t count = 0;
+        double count = 0;
         for (const auto& step : temperatures.subspan(1, temperatures.size() - 2))
         {
             auto without = fit;
@@ -71,12 +72,13 @@ public:
             {
                 if (step.Holds(point.Celsius))
                 {
-                    sum += std::pow(LawAt(without, ratedVolts, point) / point.Picofarads - 1, 2);
-                    ++count;
+                    sum +=
+                        point.Weight * std::pow(LawAt(without, ratedVolts, point) / point.Picofarads - 1, 2);
+                    count += point.Weight;
                 }
             }
         }
-        return std::sqrt(sum / static_cast<double>(count));
+        return std::sqrt(sum / count);
     }
 
 private:
@@ -84,16 +86,20 @@ private:
     void FitBias(PolynomialFit& fit) const
     {
         std::vector<Row> basis;
+        Row target;
         for (const auto& point : points)
         {
-            const double factor = (1 + ValueOf(fit.Change, Position(point.Celsius))) / point.Picofarads;
+            const double root = std::sqrt(point.Weight);
+            const double factor =
+                root * (1 + ValueOf(fit.Change, Position(point.Celsius))) / point.Picofarads;
+            target.push_back(root);
             Row& row = basis.emplace_back(1, factor * scale);
             for (const double piece : RisingPiecesAt(point.Volts / ratedVolts))
             {
                 row.push_back(-piece * factor * scale);
             }
         }
-        const auto weights = NonNegativeLeastSquares(basis, Row(points.size(), 1.0));
+        const auto weights = NonNegativeLeastSquares(basis, target);
         fit.Picofarads = weights[0] * scale;
         for (std::size_t k = 0; k < fit.Losses.size(); ++k)
         {
@@ -106,6 +112,7 @@ private:
     {
         std::vector<Row> basis;
         Row target;
+        Row weights;
         for (const auto& point : points)
         {
             if (!counts(point))
@@ -115,6 +122,7 @@ private:
             const double still = fit.Picofarads * (1 - LossAt(fit.Losses, point.Volts / ratedVolts));
             double power = still / point.Picofarads;
             target.push_back(1 - power);
+            weights.push_back(point.Weight);
             Row& row = basis.emplace_back();
             for (std::size_t j = 0; j < fit.Degree; ++j)
             {
@@ -123,7 +131,7 @@ private:
             }
         }
         OriginPolynomial change{};
-        std::ranges::copy(LeastSquares(basis, target, Row(basis.size(), 1.0)), change.begin());
+        std::ranges::copy(LeastSquares(basis, target, weights), change.begin());
         return change;
     }
 
@@ -142,8 +150,9 @@ private:
 };
 } // namespace
 
-PolynomialFit FitPolynomial(std::span<const MeasuredCapacitance> points, double ratedVolts)
+PolynomialFit FitPolynomial(std::span<const MeasuredCapacitance> measured, double ratedVolts)
 {
+    const auto points = Uncrowded(measured, ratedVolts);
     std::vector<double> temperatures;
     for (const auto& point : points)
     {
