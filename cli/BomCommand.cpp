@@ -5,12 +5,10 @@
 #include "board/FilesBeside.h"
 #include "cli/Command.h"
 #include "cli/Commands.h"
-#include "cli/DataTables.h"
 #include "cli/FileArguments.h"
 #include "cli/FilterOptions.h"
 #include "cli/Output.h"
 #include "cli/RequestOptions.h"
-#include "files/InputFile.h"
 #include "requests/Names.h"
 #include "requests/RequestWords.h"
 #include "requests/UnitEntry.h"
@@ -103,6 +101,7 @@ static void TellBom(BomOptions options)
     {
         inputs.insert(inputs.end(), file.empty() ? 0 : 1, file);
     }
+    RefuseStreamTwice({options.Bill, options.Conditions});
     RefuseInputAsOutput(options.OutputFile, inputs);
     options.Settings.NumberingOffset = options.Numbering.NumberingOffset;
     const auto parts = LoadParts(options.DataFolder);

@@ -47,14 +47,16 @@ void RefuseOutputs(const FitOptions& options)
     {
         throw UsageError("--replace wants --table");
     }
-    if (!options.Output.empty())
-    {
-        RefuseInputAsOutput(options.Output, {options.Measurements});
-    }
+    RefuseStreamTwice({options.Measurements, options.Table});
+    const auto lenders = options.Like.empty() ? std::vector<std::filesystem::path>()
+                                              : PartFilesOf(PartFolder(options.DataFolder));
+    RefuseInputAsOutput(options.Output, lenders);
+    RefuseInputAsOutput(options.Output, {options.Measurements});
     if (!options.Picture.empty())
     {
         RequirePictureName(options.Picture);
-        RefuseInputAsOutput(options.Picture, {options.Measurements, options.Table, options.Output});
+        RefuseOneOutput(options.Output, options.Picture);
+        RefuseInputAsOutput(options.Picture, {options.Measurements, options.Table});
     }
 }
 
@@ -130,6 +132,8 @@ void Fit(const FitOptions& options)
     auto picture = Written(options.Picture, [&] { return PictureOf(fitted, options.Picture); });
     Output report("");
     report.Write(options.Format == "json" ? JsonOf(fitted) : TextOf(fitted));
+    // Whoever could not be told of a fit finds no file of it either.
+    report.Finish();
     for (auto* output : {&tableFile, &picture})
     {
         if (*output)
@@ -137,11 +141,11 @@ void Fit(const FitOptions& options)
             (*output)->Finish();
         }
     }
-    report.Finish();
 }
 
 void Merge(const MergeOptions& options)
 {
+    RefuseStreamTwice(options.Tables);
     RefuseInputAsOutput(options.Output, {options.Tables.begin(), options.Tables.end()});
     std::vector<NamedTable> tables;
     for (const auto& file : options.Tables)

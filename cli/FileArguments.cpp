@@ -1,12 +1,16 @@
 #include "cli/FileArguments.h"
 
 #include "cli/CommandError.h"
+#include "files/InputFile.h"
 #include "files/InputsAndOutputs.h"
 #include "files/PartFiles.h"
 #include "files/StagedPair.h"
 #include "partdata/RunTimeError.h"
 
 #include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <iostream>
 
 namespace fs = std::filesystem;
 
@@ -59,20 +63,41 @@ void TakeOutputPair(CLI::Option& option)
     Judge(option, FaultOfOutputPair);
 }
 
-/// What a stream is called where it stands for a file.
-static std::string NameOf(const fs::path& file, const char* stream)
-{
-    return file == StandardStream ? stream : file.string();
-}
-
 void RefuseInputAsOutput(const std::string& output, const std::vector<fs::path>& inputs)
 {
-    const auto* const input = InputThatIs(output.empty() ? StandardStream : output, inputs);
+    const bool isStream = output.empty() || output == StandardStream;
+    const auto* const input = InputThatIs(isStream ? StandardStream : output, inputs);
     if (input != nullptr)
     {
-        throw Failure(NameOf(output.empty() ? StandardStream : output, "standard output") + ": is " +
-                      NameOf(*input, "standard input") + ", which this command reads");
+        throw Failure((isStream ? "standard output" : output) + ": is " + ShownName(input->string()) +
+                      ", which this command reads");
     }
+}
+
+void RefuseOneOutput(const std::string& output, const std::string& picture)
+{
+    if (IsOnePlace(output, picture))
+    {
+        throw UsageError("--output and --picture name one file");
+    }
+}
+
+void RefuseStreamTwice(const std::vector<std::string>& inputs)
+{
+    if (std::ranges::count(inputs, StandardStream) > 1)
+    {
+        throw UsageError("standard input can be read only once; name a file for all else");
+    }
+}
+
+std::string ShownName(const std::string& file)
+{
+    return file == StandardStream ? "standard input" : file;
+}
+
+std::string ReadInput(const std::string& file, std::uintmax_t most)
+{
+    return file == StandardStream ? ReadBytes(std::cin, ShownName(file), most) : ReadBytes(file, most);
 }
 
 std::vector<fs::path> PartFilesOf(const std::string& pair)

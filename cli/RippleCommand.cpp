@@ -18,6 +18,7 @@
 #include <CLI/CLI.hpp>
 
 #include <iostream>
+#include <iterator>
 
 namespace
 {
@@ -80,7 +81,7 @@ static StressReport ReportOfFile(const std::string& file, RippleRequest& request
     }
     catch (const WaveformError& error)
     {
-        throw Failure((file == StandardStream ? "standard input" : file) + ": " + error.what());
+        throw Failure(ShownName(file) + ": " + error.what());
     }
 }
 
@@ -114,10 +115,7 @@ static void TellRipple(const RippleOptions& options)
     {
         RequirePictureName(options.Picture);
         RefuseInputAsOutput(options.Picture, inputs);
-        if (options.Picture == options.OutputFile)
-        {
-            throw UsageError("--output and --picture name one file");
-        }
+        RefuseOneOutput(options.OutputFile, options.Picture);
     }
     const auto parts = texts.Parts.empty() ? PartTable() : LoadParts(options.DataFolder);
     auto reports =

@@ -3,6 +3,7 @@
 #include "partdata/RunTimeError.h"
 
 #include <cerrno>
+#include <istream>
 #include <utility>
 
 #include <fcntl.h>
@@ -78,4 +79,23 @@ std::string ReadBytes(const std::filesystem::path& file, std::uintmax_t most)
 {
     InputFile input(file);
     return ReadBytes(input, most);
+}
+
+std::string ReadBytes(std::istream& stream, const std::string& name, std::uintmax_t most)
+{
+    std::string bytes;
+    std::string piece(std::size_t{64} * 1024, '\0');
+    while (stream.read(piece.data(), static_cast<std::streamsize>(piece.size())) || stream.gcount() > 0)
+    {
+        bytes.append(piece, 0, static_cast<std::size_t>(stream.gcount()));
+        if (bytes.size() > most)
+        {
+            throw RunTimeError(RunTimeErrorNumber::Overflow).At(name);
+        }
+    }
+    if (stream.bad())
+    {
+        throw RunTimeError(RunTimeErrorNumber::PathFileAccessError).At(name);
+    }
+    return bytes;
 }

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <iosfwd>
 #include <span>
 #include <string>
 
@@ -47,6 +48,10 @@ private:
 
 /// The bytes that are left of an opened file. Throws RunTimeError 75, and 6 for more than the most bytes.
 std::string ReadBytes(InputFile& input, std::uintmax_t most);
+
+/// All bytes of a stream that messages call by a name. Throws RunTimeError 75 when reading fails, and 6 for
+/// more than the most bytes, of which it reads little more.
+std::string ReadBytes(std::istream& stream, const std::string& name, std::uintmax_t most);
 
 /// All bytes of a file. Throws RunTimeError 53 or 75, and 6 for more than the most bytes.
 std::string ReadBytes(const std::filesystem::path& file, std::uintmax_t most);

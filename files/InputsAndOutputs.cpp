@@ -28,3 +28,14 @@ const fs::path* InputThatIs(const fs::path& output, std::span<const fs::path> in
     const auto found = std::ranges::find_if(inputs, isWritten);
     return found == inputs.end() ? nullptr : &*found;
 }
+
+static fs::path PlaceOf(const fs::path& name)
+{
+    std::error_code fault;
+    return fs::weakly_canonical(fs::absolute(name, fault), fault);
+}
+
+bool IsOnePlace(const fs::path& one, const fs::path& other)
+{
+    return !one.empty() && !other.empty() && PlaceOf(one) == PlaceOf(other);
+}

@@ -10,3 +10,6 @@
 /// count: two names of a device or a terminal may well be one.
 const std::filesystem::path* InputThatIs(const std::filesystem::path& output,
                                          std::span<const std::filesystem::path> inputs);
+
+/// True where two names, neither of them empty, lead to one place, whether a file stands there or not.
+bool IsOnePlace(const std::filesystem::path& one, const std::filesystem::path& other);

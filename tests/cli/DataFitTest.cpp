@@ -141,6 +141,34 @@ TEST_F(DataFit, WritesAllFilesOrNone)
     EXPECT_EQ(run.Output, "");
 }
 
+TEST_F(DataFit, WritesNoFileOfAReportThatNobodyGot)
+{
+    const auto run = RunDataIntoFullOutput({"fit", Measurements, "--output", File("one.csv")});
+    EXPECT_EQ(run.Failure, "standard output: cannot be written");
+    EXPECT_FALSE(Has("one.csv"));
+}
+
+TEST_F(DataFit, RefusesOneNameForTwoFiles)
+{
+    const auto twice =
+        RunData({"fit", Measurements, "--output", File("one.svg"), "--picture", File("./one.svg")});
+    EXPECT_EQ(twice.Failure, "--output and --picture name one file");
+    EXPECT_FALSE(Has("one.svg"));
+    EXPECT_THAT(RunData({"fit", "-", "--table", "-"}).Failure, HasSubstr("can be read only once"));
+    EXPECT_THAT(RunData({"merge", "-", "-", "--output", File("all.csv")}).Failure,
+                HasSubstr("can be read only once"));
+}
+
+TEST_F(DataFit, KeepsThePartFilesThatLend)
+{
+    ASSERT_FALSE(RunData({"build", File("range.csv"), "--output", File("own")}).HasFailed);
+    const auto before = BytesOf(File("own.dat"));
+    const auto run = RunData({"fit", Measurements, "--like", "KTS21JB51E106MA01", "--data", File(""),
+                              "--output", File("own.dat")});
+    EXPECT_THAT(run.Failure, HasSubstr("which this command reads"));
+    EXPECT_EQ(BytesOf(File("own.dat")), before);
+}
+
 TEST_F(DataFit, TablesMergeIntoOne)
 {
     ASSERT_FALSE(RunData({"fit", Measurements, "--output", File("one.csv")}).HasFailed);

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void TellsThatStandardOutputIsFull();
     void TellsThatADeviceIsFull();
     void WritesIntoAPipe();
+    void ReadsNoEndlessInput();
 
     void HasHelpAndVersion();
     void WritesTheDateAsked();
@@ -319,6 +320,8 @@ void ProgramTest::EndsBadInputWithOneLine_data()
     row("picture beyond all measure",
         "chart KTS31NB51E106MA01 --chart capacitance-dc-voltage --format png --scale 1e9", 1,
         "a picture is from 1 to 20000 pixels wide and high");
+    row("standard input for two files", "bom - --conditions -", 2,
+        "standard input can be read only once; name a file for all else");
     row("help on no command", "help chrt", 2,
         "there is no command \"chrt\"; did you mean \"chart\"? (see tavik-cli --help)");
     row("misspelt option", "curve KTS31NB51E106MA01 more --chrt x", 2,
@@ -440,6 +443,14 @@ void ProgramTest::WritesIntoAPipe()
 }
 
 // ---- Manners ----
+
+void ProgramTest::ReadsNoEndlessInput()
+{
+    const QByteArray input((16 << 20) + 1, ' ');
+    const Run run = RunCommandLine({QStringLiteral("bom"), QStringLiteral("-")}, input);
+    QCOMPARE(run.Status, 1);
+    QCOMPARE(run.Messages, QByteArray("tavik-cli: Run-time error '6': Overflow: standard input\n"));
+}
 
 void ProgramTest::HasHelpAndVersion()
 {
