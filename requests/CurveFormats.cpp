@@ -8,6 +8,7 @@
 #include "partdata/OneLine.h"
 #include "requests/CurveJson.h"
 #include "requests/ListText.h"
+#include "requests/PlaceHeading.h"
 
 #include <array>
 
@@ -40,14 +41,14 @@ static std::string EndHeading(const ChartRecord& line, std::string_view end)
     return line.XAxisName + ' ' + std::string(end) + " [" + StoredUnitOf(line.XAxisName) + ']';
 }
 
-/// "least [pF],least at dcBias,least at ambient".
+/// "least [pF],least at bias [V],least at ambient [°C]".
 static void AddHeadings(ListRow& row, std::string_view extreme, const CurveExtreme& found,
                         const ChartRecord& line)
 {
     row.push_back(std::string(extreme) + " [" + StoredUnitOf(line.YAxisName) + ']');
     for (const CurveCondition& condition : found.At)
     {
-        row.push_back(std::string(extreme) + " at " + std::string(condition.Key));
+        row.push_back(PlaceHeading(extreme, condition.Measures));
     }
 }
 

@@ -25,6 +25,7 @@ constexpr int refinements = 3;
 struct Dimension
 {
     std::string_view Key;
+    Quantity Measures;
     /// Null for the X.
     float ChartRecord::*Member;
     /// What is told to one unit that is kept.
@@ -51,12 +52,13 @@ public:
         {
             if (sweep.Uses(kind.Id) && kind.Measures != Quantity::HeatResistance && kind.Measures)
             {
-                Add(kind.Key, kind.Value, 1, {ends.Low.*kind.Value, ends.High.*kind.Value});
+                Add(kind.Key, *kind.Measures, kind.Value, 1, {ends.Low.*kind.Value, ends.High.*kind.Value});
             }
         }
         const auto conditions = ConditionKinds();
         const auto own = std::ranges::find(conditions, std::optional(xQuantity), &ConditionKind::Measures);
-        Add(own != conditions.end() ? own->Key : "x", nullptr, KindOf(xQuantity).StoredPerShown, x);
+        Add(own != conditions.end() ? own->Key : "x", xQuantity, nullptr, KindOf(xQuantity).StoredPerShown,
+            x);
     }
 
     /// Throws RunTimeError where the curve has no value.
@@ -69,7 +71,8 @@ public:
 private:
     using Extremes = std::pair<CurveExtreme, CurveExtreme>;
 
-    void Add(std::string_view key, float ChartRecord::*member, float keptPerTold, const ConditionRange& range)
+    void Add(std::string_view key, Quantity measures, float ChartRecord::*member, float keptPerTold,
+             const ConditionRange& range)
     {
         auto nodes = EvenNodes(range.Low, range.High, nodesASide);
         const float seam = PermittedRise{.MaxC = part.Data[Value::UpperTemperature]}.FallsFrom();
@@ -77,7 +80,7 @@ private:
         {
             nodes.push_back(seam);
         }
-        dimensions.push_back({key, member, keptPerTold, range, std::move(nodes)});
+        dimensions.push_back({key, measures, member, keptPerTold, range, std::move(nodes)});
     }
 
     bool IsOfCapacitance() const
@@ -102,8 +105,8 @@ private:
         {
             const bool isChange = yQuantity == Quantity::CapacitanceChange;
             return CurveExtreme{static_cast<float>(isChange ? place.Point.Change : place.Point.PicoFarads),
-                                {{"dcBias", static_cast<float>(place.At.BiasVolts)},
-                                 {"ambient", static_cast<float>(place.At.AmbientC)}}};
+                                {{"dcBias", Quantity::DCVoltage, static_cast<float>(place.At.BiasVolts)},
+                                 {"ambient", Quantity::Temperature, static_cast<float>(place.At.AmbientC)}}};
         };
         return Extremes{told(found->Least), told(found->Most)};
     }
@@ -202,7 +205,8 @@ private:
         for (std::size_t i = 0; i < dimensions.size(); ++i)
         {
             const auto kept = static_cast<float>(values[i]);
-            extreme.At.push_back({dimensions[i].Key, kept / dimensions[i].KeptPerTold});
+            extreme.At.push_back(
+                {dimensions[i].Key, dimensions[i].Measures, kept / dimensions[i].KeptPerTold});
         }
         return extreme;
     }

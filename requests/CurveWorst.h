@@ -4,6 +4,7 @@
 
 #include "calc/Box.h"
 #include "calc/ChartRecord.h"
+#include "calc/Quantities.h"
 #include "partdata/PartRecord.h"
 
 #include <optional>
@@ -16,6 +17,7 @@ struct CurveCondition
 {
     /// "dcBias", "ambient", "frequency", or "x" for a load.
     std::string_view Key;
+    Quantity Measures;
     /// In the unit that it is entered in.
     float Value;
 };

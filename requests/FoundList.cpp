@@ -5,6 +5,7 @@
 #include "requests/FourDigits.h"
 #include "requests/ListJson.h"
 #include "requests/ListText.h"
+#include "requests/PlaceHeading.h"
 #include "requests/RequestError.h"
 #include "requests/SortKeys.h"
 
@@ -28,12 +29,6 @@ constexpr std::array<std::string_view, FoundColumnCount> tableHeadings = {
 std::string_view ConditionKeyOf(Quantity quantity)
 {
     return std::ranges::find(ConditionKinds(), std::optional(quantity), &ConditionKind::Measures)->Key;
-}
-
-/// "bias", "ambient", "frequency": what a heading calls it.
-std::string_view ShortNameOf(Quantity condition)
-{
-    return condition == Quantity::DCVoltage ? "bias" : ConditionKeyOf(condition);
 }
 
 /// Stands in the table where a column is empty.
@@ -208,13 +203,6 @@ std::string CsvHeading(const FoundColumnKind& column)
     return column.Unit.empty() ? heading : heading + " [" + std::string(column.Unit) + ']';
 }
 
-/// "least at ambient [\u00B0C]".
-std::string CsvHeading(const FoundPlaceKind& place, Quantity condition)
-{
-    return std::string(place.Key) + " at " + std::string(ShortNameOf(condition)) + " [" +
-           ShownUnitOf(condition) + ']';
-}
-
 } // namespace
 
 std::vector<std::string> FoundHeadings()
@@ -225,8 +213,8 @@ std::vector<std::string> FoundHeadings()
         headings.push_back(CsvHeading(column));
         for (const auto* place : PlacesBehind(column.Id))
         {
-            headings.push_back(CsvHeading(*place, place->Conditions[0]));
-            headings.push_back(CsvHeading(*place, place->Conditions[1]));
+            headings.push_back(PlaceHeading(place->Key, place->Conditions[0]));
+            headings.push_back(PlaceHeading(place->Key, place->Conditions[1]));
         }
     }
     return headings;

@@ -175,8 +175,19 @@ TEST(CurveWorst, IsARowOfCsv)
     const auto csv = FormatNamed(CurveFormats(), "csv")
                          .Write(CurveOf(OfCapacitance("-20..85C", {"12V"}), Parts(), {}), {});
     EXPECT_NE(csv.find("# Ambient Temperature: -20..85 "), std::string::npos) << csv;
-    EXPECT_NE(csv.find("DC Bias Voltage low [V],DC Bias Voltage high [V],least [pF],least at dcBias,"
-                       "least at ambient,most [pF],most at dcBias,most at ambient\n12,12,627"),
+    EXPECT_NE(csv.find("DC Bias Voltage low [V],DC Bias Voltage high [V],least [pF],least at bias [V],"
+                       "least at ambient [°C],most [pF],most at bias [V],most at ambient [°C]\n12,12,627"),
+              std::string::npos)
+        << csv;
+}
+
+TEST(CurveWorst, TellsTheUnitsOfPlacesInCsv)
+{
+    auto request = OfCapacitance("20..65", {"270..330"});
+    request.Chart = "loss-resistance";
+    const auto csv = FormatNamed(CurveFormats(), "csv").Write(CurveOf(request, Parts(), {}), {});
+    EXPECT_NE(csv.find("Frequency low [Hz],Frequency high [Hz],least [mOhm],least at ambient [°C],"
+                       "least at frequency [kHz],most [mOhm],"),
               std::string::npos)
         << csv;
 }
