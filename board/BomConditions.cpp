@@ -8,7 +8,8 @@
 
 namespace
 {
-constexpr std::size_t mostReferences = 100'000;
+/// More faults than these tell nothing more about a file.
+constexpr std::size_t mostFaults = 1000;
 
 std::string LowerCased(std::string text)
 {
@@ -53,12 +54,16 @@ public:
     {
         joined.Bill = &bill;
         TakeConditions();
-        for (std::size_t row = 0; row < bill.Rows.size(); ++row)
+        references = 0;
+        for (std::size_t row = 0; row < bill.Rows.size() && !isEnded; ++row)
         {
             TakeRow(row);
         }
-        TellStale();
-        RefuseContraryNets();
+        if (!isEnded)
+        {
+            TellStale();
+            RefuseContraryNets();
+        }
         return std::move(joined);
     }
 
@@ -68,12 +73,31 @@ private:
         joined.Faults.push_back({{line, text}, isOfConditions});
     }
 
+    /// Counts a reference; false, for good, in a file with more than any board has or with little but faults.
+    bool TakesReference(std::size_t line, bool isOfConditions)
+    {
+        const bool isTooLong = ++references > MostReferences;
+        if (!isEnded && (isTooLong || joined.Faults.size() >= mostFaults))
+        {
+            isEnded = true;
+            Fault(line,
+                  isTooLong ? "there are more than 100,000 references"
+                            : "too many errors: the rest of the file was not read",
+                  isOfConditions);
+        }
+        return !isEnded;
+    }
+
     // ---- Conditions ----
 
     void TakeConditions()
     {
         for (const TableRow& row : conditions.Rows)
         {
+            if (isEnded)
+            {
+                return;
+            }
             auto cells = conditions.CellsOf(row);
             const auto names = At(cells, BomField::Reference);
             const auto net = At(cells, BomField::Net);
@@ -105,6 +129,10 @@ private:
     {
         for (const auto& name : names)
         {
+            if (!TakesReference(line, true))
+            {
+                return;
+            }
             const auto [known, isNew] = byReference.try_emplace(LowerCased(name), rows.size(), name);
             if (!isNew)
             {
@@ -153,20 +181,24 @@ private:
         const TableRow& row = bill.Rows[index];
         const auto cells = bill.CellsOf(row);
         const auto list = At(cells, BomField::Reference);
-        const auto references = list ? ReferencesIn(list->Text) : std::vector<std::string>();
+        const auto names = list ? ReferencesIn(list->Text) : std::vector<std::string>();
         const auto first = joined.Items.size();
-        for (const auto& reference : references)
+        for (const auto& reference : names)
         {
+            if (!TakesReference(row.Line, false))
+            {
+                return;
+            }
             CheckOnce(reference, row.Line);
             Place(reference, CellsFor(reference, cells), first, index);
         }
-        if (references.empty())
+        if (names.empty())
         {
             Place("", CellsFor("", cells), first, index);
         }
         for (auto item = first; item < joined.Items.size(); ++item)
         {
-            joined.Items[item].ReferencesOfRow = references.size();
+            joined.Items[item].ReferencesOfRow = names.size();
         }
     }
 
@@ -176,10 +208,6 @@ private:
         if (!isNew)
         {
             Fault(line, reference + " stands in line " + std::to_string(known->second) + " already", false);
-        }
-        if (isNew && linesByReference.size() == mostReferences + 1)
-        {
-            Fault(line, "there are more than 100,000 references", false);
         }
     }
 
@@ -260,6 +288,9 @@ private:
     const BomTable& conditions;
     const BomCells& options;
     JoinedBom joined;
+    /// Of the table at hand.
+    std::size_t references = 0;
+    bool isEnded = false;
     std::vector<ConditionRow> rows;
     /// By the reference in small letters: the row, and the reference as written.
     std::map<std::string, std::pair<std::size_t, std::string>> byReference;
@@ -291,7 +322,7 @@ std::size_t BomItem::Parts() const
     std::size_t count = 0;
     const auto read = std::from_chars(quantity.data(), quantity.data() + quantity.size(), count);
     const bool isCount = read.ec == std::errc() && read.ptr == quantity.data() + quantity.size() &&
-                         count > 0 && count <= mostReferences;
+                         count > 0 && count <= MostReferences;
     return !References.empty() ? References.size() : (isCount ? count : 1);
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstdint>
 #include <optional>
 
 namespace
@@ -62,7 +63,8 @@ std::vector<std::string> ReferencesIn(std::string_view list)
 {
     constexpr std::string_view separators = " \t\r\n,;";
     std::vector<std::string> references;
-    for (auto from = list.find_first_not_of(separators); from != std::string_view::npos;
+    for (auto from = list.find_first_not_of(separators);
+         from != std::string_view::npos && references.size() <= MostReferences;
          from = list.find_first_not_of(separators, from))
     {
         const auto end = std::min(list.find_first_of(separators, from), list.size());
@@ -87,7 +89,7 @@ std::string ReferenceText(const std::vector<std::string>& references)
         const auto first = NumberedOf(references[from]);
         for (to = from + 1; first && to < references.size(); ++to)
         {
-            const int number = first->Number + static_cast<int>(to - from);
+            const auto number = std::int64_t{first->Number} + static_cast<std::int64_t>(to - from);
             if (references[to] != std::string(first->Prefix) + std::to_string(number))
             {
                 break;

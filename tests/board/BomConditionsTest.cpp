@@ -102,3 +102,25 @@ TEST(BomConditions, TellWhatIsNotFitted)
     EXPECT_FALSE(Join("Ref,MPN,Fitted\nC1,P,No\n").Items.at(0).IsFitted());
     EXPECT_TRUE(Join("Ref,MPN,Populate\nC1,P,\n").Items.at(0).IsFitted());
 }
+
+TEST(BomConditions, AreNotReadOnBeyondAnyBoard)
+{
+    std::string bill = "Ref,MPN\n";
+    std::string twice = "Ref,MPN\n";
+    for (int i = 0; i < 500; ++i)
+    {
+        const auto first = std::to_string(1000 * i);
+        bill += "C" + first + "-" + std::to_string(1000 * i + 999) + ",P\n";
+        twice += "C0-C999,P\n";
+    }
+    const auto joined = Join(bill);
+    ASSERT_THAT(joined.Faults, SizeIs(1));
+    EXPECT_EQ(joined.Faults[0].Note.Text, "there are more than 100,000 references");
+    EXPECT_EQ(joined.Faults[0].Note.Line, 102U);
+    const auto faulty = Join(twice);
+    ASSERT_THAT(faulty.Faults, SizeIs(1001));
+    EXPECT_THAT(faulty.Faults.back().Note.Text, HasSubstr("the rest of the file was not read"));
+    const auto conditions = Join("Ref,MPN\nC1,P\n", "reference" + bill.substr(3));
+    ASSERT_THAT(conditions.Faults, SizeIs(1));
+    EXPECT_THAT(conditions.Warnings, IsEmpty());
+}

@@ -114,4 +114,7 @@ TEST(FilesBeside, LieInTheFolderOfTheFileThatNamesThem)
     EXPECT_THROW(read("../tavik_beside_other.csv"), std::runtime_error);
     EXPECT_THROW(read("link.csv"), std::runtime_error);
     EXPECT_THROW(read("/etc/hostname"), std::runtime_error);
+    EXPECT_THROW(read("none.csv"), std::runtime_error);
+    EXPECT_THROW(read("waves"), std::runtime_error);
+    EXPECT_THROW(read(std::string(10000, 'x')), std::runtime_error);
 }

@@ -63,3 +63,19 @@ TEST(References, AreToldWithLongRunsAsRanges)
     EXPECT_EQ(ReferenceText({"C3", "C4", "C5", "C6", "C9"}), "C3-C6,C9");
     EXPECT_EQ(ReferenceText({"C1", "X", "C2"}), "C1,X,C2");
 }
+
+TEST(References, OfOneListAreNoMoreThanOfABoard)
+{
+    std::string list;
+    for (int i = 0; i < 200; ++i)
+    {
+        list += "C1-C1001 ";
+    }
+    EXPECT_THAT(ReferencesIn(list), SizeIs(testing::Lt(MostReferences + 1100)));
+}
+
+TEST(References, ReachToTheLargestNumber)
+{
+    EXPECT_EQ(ReferenceText({"C2147483646", "C2147483647", "C-2147483648", "X"}),
+              "C2147483646,C2147483647,C-2147483648,X");
+}
