@@ -245,6 +245,9 @@ private:
         auto* rows = board.findChild<QTableView*>(QStringLiteral("tblBom"));
         const bool isRead = QTest::qWaitFor([&] { return rows->model()->rowCount() > 0; });
         rows->selectRow(0);
+        // Rows of entries that come and go are laid out a few events later.
+        constexpr int restMilliSeconds = 100;
+        QTest::qWait(restMilliSeconds);
         return isRead;
     }
 
