@@ -1,5 +1,6 @@
 #include "board/BomTable.h"
 
+#include "partdata/OneLine.h"
 #include "separatedtext/Encoding.h"
 #include "separatedtext/LineCells.h"
 #include "separatedtext/Separator.h"
@@ -115,8 +116,24 @@ private:
                                                      { return Trimmed(heading) == Trimmed(column.Heading); });
             if (!isThere)
             {
-                table.Faults.push_back({line, "there is no column \"" + column.Heading + '"'});
+                Fault(line, "there is no column \"" + column.Heading + '"');
             }
+        }
+    }
+
+    void Note(std::size_t line, std::string text)
+    {
+        if (table.Notes.size() < MostBomNotes)
+        {
+            table.Notes.push_back({line, std::move(text)});
+        }
+    }
+
+    void Fault(std::size_t line, std::string text)
+    {
+        if (table.Faults.size() < MostBomNotes)
+        {
+            table.Faults.push_back({line, std::move(text)});
         }
     }
 
@@ -124,11 +141,11 @@ private:
     {
         const auto& heading = table.Headings[index];
         const auto field = FieldOf(heading);
+        const auto told = OneLine(heading);
         if (!field && IsAmbiguousHeading(heading))
         {
-            table.Notes.push_back(
-                {line, "column \"" + heading +
-                           "\" is not taken; if it is the bias, say --column \"dc bias=" + heading + '"'});
+            Note(line, "column \"" + told +
+                           "\" is not taken; if it is the bias, say --column \"dc bias=" + told + '"');
         }
         if (!field)
         {
@@ -137,9 +154,8 @@ private:
         auto& column = table.Columns[static_cast<std::size_t>(*field)];
         if (column && *field != BomField::Value)
         {
-            table.Notes.push_back({line, "column \"" + heading + "\" is not taken; the " +
-                                             std::string(KindOf(*field).Name) + " stands in \"" +
-                                             table.Headings[*column] + '"'});
+            Note(line, "column \"" + told + "\" is not taken; the " + std::string(KindOf(*field).Name) +
+                           " stands in \"" + OneLine(table.Headings[*column]) + '"');
         }
         column = column ? column : std::optional(index);
     }
@@ -165,8 +181,25 @@ private:
         }
         else if (!field && table.Kind == BomTableKind::Conditions)
         {
-            table.Notes.push_back({number, "\"" + Trimmed(line.substr(1, colon - 1)) +
-                                               "\" is the name of nothing that a condition is"});
+            Note(number, '"' + OneLine(Trimmed(line.substr(1, colon - 1))) +
+                             "\" is the name of nothing that a condition is");
+        }
+    }
+
+    void CheckRow(const TableRow& row, std::size_t line)
+    {
+        if (!row.Fault.empty())
+        {
+            Fault(line, row.Fault);
+        }
+        for (std::size_t i = 0; i < BomFieldCount; ++i)
+        {
+            const auto column = table.Columns[i];
+            const bool isList = static_cast<BomField>(i) == BomField::Reference;
+            if (!isList && column && *column < row.Cells.size() && row.Cells[*column].size() > LongestBomCell)
+            {
+                Fault(line, std::string(KindOf(static_cast<BomField>(i)).Name) + ": longer than 1,000 bytes");
+            }
         }
     }
 
@@ -174,16 +207,14 @@ private:
     {
         TableCells cells(rest, table.Separator);
         TableRow row;
-        for (cells.Read(row); cells.Read(row);)
+        cells.Read(row);
+        for (CheckRow(row, firstLine); cells.Read(row);)
         {
             row.Line += firstLine - 1;
-            if (!row.Fault.empty())
-            {
-                table.Faults.push_back({row.Line, row.Fault});
-            }
+            CheckRow(row, row.Line);
             if (table.Rows.size() == MostBomRows)
             {
-                table.Faults.push_back({row.Line, "there are more than 100,000 rows"});
+                Fault(row.Line, "there are more than 100,000 rows");
                 return;
             }
             if (std::ranges::any_of(row.Cells, [](const auto& cell) { return !Trimmed(cell).empty(); }))

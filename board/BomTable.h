@@ -15,6 +15,10 @@
 
 inline constexpr std::size_t MostBomBytes = std::size_t{16} << 20;
 inline constexpr std::size_t MostBomRows = 100'000;
+/// What is told of a file at most.
+inline constexpr std::size_t MostBomNotes = 1000;
+/// A cell that means anything but references has so many bytes at most.
+inline constexpr std::size_t LongestBomCell = 1000;
 /// The heading stands among so many lines.
 inline constexpr std::size_t MostLinesToHeading = 50;
 

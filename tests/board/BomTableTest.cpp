@@ -139,6 +139,40 @@ TEST(BomTable, RefusesWhatIsNoTableOfParts)
     EXPECT_EQ(table.Faults.front().Line, 2U);
 }
 
+TEST(BomTable, TellsOpenQuotesOfTheHeading)
+{
+    const auto table = Bill("first\nRef,MPN,\"Note\nC1,P,\nC2,Q,\n");
+    ASSERT_THAT(table.Faults, SizeIs(1));
+    EXPECT_EQ(table.Faults.front().Line, 2U);
+    EXPECT_EQ(table.Faults.front().Text, "no closing quote");
+}
+
+TEST(BomTable, RefusesLongCellsButListsOfReferences)
+{
+    const std::string longText(1001, 'x');
+    EXPECT_THAT(Bill("Ref,MPN,Note\n" + longText + ",P," + longText + "\n").Faults, IsEmpty());
+    EXPECT_THAT(Bill("Ref,MPN\nC1," + longText.substr(1) + "\n").Faults, IsEmpty());
+    const auto table = Bill("Ref,MPN\nC1," + longText + "\n");
+    ASSERT_THAT(table.Faults, SizeIs(1));
+    EXPECT_EQ(table.Faults.front().Line, 2U);
+    EXPECT_EQ(table.Faults.front().Text, "part: longer than 1,000 bytes");
+}
+
+TEST(BomTable, TellsNoMoreThanAPersonReads)
+{
+    std::string headings = "Ref,MPN [" + std::string(100'000, 'x') + ']';
+    std::string faults = "Ref,MPN\n";
+    for (int i = 0; i < 2000; ++i)
+    {
+        headings += ",MPN";
+        faults += "C1,\"P\"x\n";
+    }
+    const auto notes = Bill(headings + "\nC1,P\n").Notes;
+    EXPECT_THAT(notes, SizeIs(MostBomNotes));
+    EXPECT_LT(notes.back().Text.size(), 200U);
+    EXPECT_THAT(Bill(faults).Faults, SizeIs(MostBomNotes));
+}
+
 TEST(BomTable, LooksForTheHeadingInFiftyLines)
 {
     const std::string heading = "Ref,MPN\nC1,P\n";
