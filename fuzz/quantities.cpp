@@ -1,9 +1,12 @@
-/// Values with units, as engineers type them on a command line: refused by name, or worth what they say.
+/// Values with units and ranges of them, as engineers type them on a command line: refused by name, or worth
+/// what they say.
 
 #include "calc/NumberText.h"
 #include "fuzz/Require.h"
 #include "partdata/RunTimeError.h"
+#include "requests/RangeEntry.h"
 #include "requests/RequestError.h"
+#include "requests/ToleranceEntry.h"
 #include "requests/UnitEntry.h"
 
 #include <array>
@@ -134,6 +137,46 @@ static void TryQuantity(const Unit& unit, std::string_view typed)
     }
 }
 
+static void RequireRange(std::string_view typed, Quantity quantity)
+{
+    const auto range = ConditionRangeOf(typed, quantity);
+    Require(range.Low <= range.High, "the first end of a range is not above the second");
+    const auto ends = RangeTypedAs(typed, quantity);
+    Require(ends.has_value() == IsTypedAsRange(typed), "the sign of a range makes one");
+    const float low = ends ? ValueInUnit(ends->Low, quantity) : ValueInUnit(typed, quantity);
+    const float high = ends ? ValueInUnit(ends->High, quantity) : low;
+    Require(range.Low == low && range.High == high, "a range has the values of its ends");
+    if (std::isfinite(low) && std::isfinite(high))
+    {
+        Require(ConditionRangeOf(NumberText(low) + ".." + NumberText(high), quantity) == range,
+                "a range reads back");
+    }
+}
+
+/// A range, a single value, or what is refused; and the same as a tolerance.
+static void TryRange(std::string_view typed, Quantity quantity)
+{
+    try
+    {
+        RequireRange(typed, quantity);
+    }
+    catch (const RequestError& error)
+    {
+        Require(IsMistaken(error.Kind()) || error.Kind() == RequestErrorKind::Condition,
+                "a wrong range is a mistaken request, or one whose ends are the wrong way round");
+        Require(!error.Message().empty(), "a refusal is told");
+    }
+    try
+    {
+        const auto tolerance = ToleranceOf(typed);
+        Require(!std::isnan(tolerance.Down) && !std::isnan(tolerance.Up), "a tolerance is two numbers");
+    }
+    catch (const RequestError& error)
+    {
+        Require(IsMistaken(error.Kind()), "a wrong tolerance is a mistaken request");
+    }
+}
+
 static void TryQuantityName(std::string_view typed)
 {
     try
@@ -159,6 +202,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (choice < Units.size())
     {
         TryQuantity(Units[choice], typed);
+        TryRange(typed, Units[choice].Measures);
     }
     else
     {
