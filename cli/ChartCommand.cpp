@@ -20,7 +20,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <ranges>
 
 namespace
 {
@@ -86,8 +85,7 @@ static const PictureFormat& FormatOf(const ChartOptions& options)
     if (format == formats.end())
     {
         throw UsageError("--output \"" + options.OutputFile + "\" ends in none of: ." +
-                         ListOf(formats | std::views::transform(&PictureFormat::Name), ", .") +
-                         "; say which with --format");
+                         ListOf(formats, ", .", &PictureFormat::Name) + "; say which with --format");
     }
     return *format;
 }

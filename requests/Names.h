@@ -3,6 +3,7 @@
 /// Names as requests spell them, and lists of names in messages.
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -18,13 +19,14 @@ constexpr char LowerCase(char c)
 /// What requests call a name of the form: "effective-power" of "Effective Power".
 std::string RequestNameOf(std::string_view name);
 
-/// The names with a separator between them: "eia, jis".
-template <class Names> std::string ListOf(const Names& names, std::string_view separator = ", ")
+/// The names, or those of what bears them, with a separator between them: "eia, jis".
+template <class Names, class NameOf = std::identity>
+std::string ListOf(const Names& names, std::string_view separator = ", ", NameOf nameOf = {})
 {
     std::string list;
     for (const auto& name : names)
     {
-        list.append(list.empty() ? "" : separator).append(name);
+        list.append(list.empty() ? "" : separator).append(std::invoke(nameOf, name));
     }
     return list;
 }
