@@ -4,6 +4,7 @@
 #include "find/LeftOut.h"
 #include "partdata/AnswersVersion.h"
 #include "requests/FourDigits.h"
+#include "requests/ListJson.h"
 #include "requests/ListText.h"
 
 #include <nlohmann/json.hpp>
@@ -186,33 +187,27 @@ std::string Table(const RequestedBank& bank, const CurveSettings& settings)
 
 // ---- JSON ----
 
-/// The number as a single, in its shortest text.
-Json Number(double value)
-{
-    return Json::parse(NumberText(static_cast<float>(value)));
-}
-
 /// A number, or both ends of a range.
 Json RangeJson(const ConditionRange& range)
 {
-    return range.IsPoint() ? Number(range.Low)
-                           : Json{{"low", Number(range.Low)}, {"high", Number(range.High)}};
+    return range.IsPoint() ? JsonNumber(range.Low)
+                           : Json{{"low", JsonNumber(range.Low)}, {"high", JsonNumber(range.High)}};
 }
 
 /// A number, or both ends where they differ.
 Json ToleranceJson(const CapacitanceTolerance& tolerance)
 {
     return tolerance.Down == tolerance.Up
-               ? Number(tolerance.Up)
-               : Json{{"down", Number(tolerance.Down)}, {"up", Number(tolerance.Up)}};
+               ? JsonNumber(tolerance.Up)
+               : Json{{"down", JsonNumber(tolerance.Down)}, {"up", JsonNumber(tolerance.Up)}};
 }
 
 Json PlaceJson(const RequestedBank& bank, const Place& place, bool isOfHeating)
 {
-    Json object = {{"dcBias", Number(place.BiasVolts)}, {"ambient", Number(place.AmbientC)}};
+    Json object = {{"dcBias", JsonNumber(place.BiasVolts)}, {"ambient", JsonNumber(place.AmbientC)}};
     if (isOfHeating && HasOneFrequency(bank))
     {
-        object["frequency"] = Number(KilohertzOf(place));
+        object["frequency"] = JsonNumber(KilohertzOf(place));
     }
     return object;
 }
@@ -223,12 +218,12 @@ Json ConditionsJson(const BankQuestion& question)
                        {"ambient", RangeJson(question.At.AmbientC)}};
     if (question.At.HeatResistance)
     {
-        conditions["heatResistance"] = Number(*question.At.HeatResistance);
+        conditions["heatResistance"] = JsonNumber(*question.At.HeatResistance);
     }
     for (const RippleCurrent& ripple : question.Ripple)
     {
         conditions["frequencies"].push_back(
-            {{"frequency", RangeJson(ripple.Kilohertz)}, {"current", Number(ripple.Arms)}});
+            {{"frequency", RangeJson(ripple.Kilohertz)}, {"current", JsonNumber(ripple.Arms)}});
     }
     if (const auto heating = question.At.HeatingAmbientC(); heating != question.At.AmbientC)
     {
@@ -244,24 +239,24 @@ Json PieceJson(const RequestedBank& bank, std::size_t index, const CurveSettings
     Json object = {{"part", NameOf(bank, index, settings)},
                    {"count", asked.Count},
                    {"tolerance", ToleranceJson(asked.Tolerance)},
-                   {"capacitance", Number(piece.PicoFarads)},
-                   {"warmCapacitance", piece.WarmPicoFarads ? Number(*piece.WarmPicoFarads) : Json()},
-                   {"current", Number(piece.Arms)},
-                   {"rise", Number(piece.Rise)},
-                   {"permittedRise", Number(piece.PermittedRise)},
-                   {"margin", Number(piece.Margin)},
-                   {"voltageBound", Number(piece.VoltageBound)},
-                   {"worstCurrent", Number(piece.WorstArms)},
-                   {"worstRise", Number(piece.WorstRise)}};
+                   {"capacitance", JsonNumber(piece.PicoFarads)},
+                   {"warmCapacitance", piece.WarmPicoFarads ? JsonNumber(*piece.WarmPicoFarads) : Json()},
+                   {"current", JsonNumber(piece.Arms)},
+                   {"rise", JsonNumber(piece.Rise)},
+                   {"permittedRise", JsonNumber(piece.PermittedRise)},
+                   {"margin", JsonNumber(piece.Margin)},
+                   {"voltageBound", JsonNumber(piece.VoltageBound)},
+                   {"worstCurrent", JsonNumber(piece.WorstArms)},
+                   {"worstRise", JsonNumber(piece.WorstRise)}};
     for (const PieceAtFrequency& at : piece.Frequencies)
     {
         object["frequencies"].push_back({{"frequency", RangeJson(at.Kilohertz)},
-                                         {"lossResistance", Number(at.LossResistance)},
-                                         {"current", Number(at.Arms)}});
+                                         {"lossResistance", JsonNumber(at.LossResistance)},
+                                         {"current", JsonNumber(at.Arms)}});
     }
     if (HasOneFrequency(bank))
     {
-        object["lossResistance"] = Number(piece.Frequencies.front().LossResistance);
+        object["lossResistance"] = JsonNumber(piece.Frequencies.front().LossResistance);
     }
     if (!bank.Question.IsPoint())
     {
@@ -275,19 +270,19 @@ Json PieceJson(const RequestedBank& bank, std::size_t index, const CurveSettings
 
 Json WholeJson(const RequestedBank& bank)
 {
-    Json object = {{"capacitance", Number(bank.Answer.PicoFarads)},
-                   {"leastCapacitance", Number(bank.Answer.LeastPicoFarads)},
-                   {"rippleVoltage", Number(bank.Answer.Vrms)}};
+    Json object = {{"capacitance", JsonNumber(bank.Answer.PicoFarads)},
+                   {"leastCapacitance", JsonNumber(bank.Answer.LeastPicoFarads)},
+                   {"rippleVoltage", JsonNumber(bank.Answer.Vrms)}};
     for (const BankAtFrequency& at : bank.Answer.Frequencies)
     {
         object["frequencies"].push_back({{"frequency", RangeJson(at.Kilohertz)},
-                                         {"capacitance", Number(at.PicoFarads)},
-                                         {"lossResistance", Number(at.LossResistance)},
-                                         {"rippleVoltage", Number(at.Vrms)}});
+                                         {"capacitance", JsonNumber(at.PicoFarads)},
+                                         {"lossResistance", JsonNumber(at.LossResistance)},
+                                         {"rippleVoltage", JsonNumber(at.Vrms)}});
     }
     if (HasOneFrequency(bank))
     {
-        object["lossResistance"] = Number(bank.Answer.Frequencies.front().LossResistance);
+        object["lossResistance"] = JsonNumber(bank.Answer.Frequencies.front().LossResistance);
     }
     if (!bank.Question.IsPoint())
     {

@@ -265,11 +265,6 @@ std::string JsonKey(const FoundColumnKind& column)
     return key;
 }
 
-nlohmann::ordered_json JsonNumber(float value)
-{
-    return nlohmann::json::parse(NumberText(value));
-}
-
 void AddPlaces(nlohmann::ordered_json& object, const FoundPart& part, FoundColumn column,
                const FindQuestion& question)
 {
@@ -286,8 +281,8 @@ void AddPlaces(nlohmann::ordered_json& object, const FoundPart& part, FoundColum
     }
 }
 
-std::string Json(std::span<const FoundPart> found, const FindQuestion& question,
-                 const CurveSettings& settings)
+std::string JsonOf(std::span<const FoundPart> found, const FindQuestion& question,
+                   const CurveSettings& settings)
 {
     JsonList list;
     for (const FoundPart& part : found)
@@ -356,7 +351,7 @@ std::span<const FoundListFormat> FoundListFormats()
     static constexpr std::array<FoundListFormat, 3> formats = {{
         {{"table", "if left out"}, Table},
         {{"csv", ""}, Csv},
-        {{"json", ""}, Json},
+        {{"json", ""}, JsonOf},
     }};
     return formats;
 }

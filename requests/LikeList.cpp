@@ -151,15 +151,9 @@ std::string Csv(const LikeParts& found, const LikeQuestion& question, const Curv
     return CsvOf(rows);
 }
 
-Json NumberOf(float value)
-{
-    return Json::parse(NumberText(value));
-}
-
 Json PlaceOf(const Extreme& extreme)
 {
-    return {{"dcBias", NumberOf(static_cast<float>(extreme.At.BiasVolts))},
-            {"ambient", NumberOf(static_cast<float>(extreme.At.AmbientC))}};
+    return {{"dcBias", JsonNumber(extreme.At.BiasVolts)}, {"ambient", JsonNumber(extreme.At.AmbientC)}};
 }
 
 Json ObjectOf(const LikePart& like, const LikeQuestion& question, const CurveSettings& settings)
@@ -167,7 +161,7 @@ Json ObjectOf(const LikePart& like, const LikeQuestion& question, const CurveSet
     const auto number = [&](LikeColumn column)
     {
         const auto value = ValueOf(like, column);
-        return value ? NumberOf(*value) : Json();
+        return value ? JsonNumber(*value) : Json();
     };
     Json object;
     for (const LikeColumn column : nameColumns)
@@ -182,8 +176,8 @@ Json ObjectOf(const LikePart& like, const LikeQuestion& question, const CurveSet
     object["mostRatio"] = number(LikeColumn::MostRatio);
     object["mostAt"] = PlaceOf(like.Most);
     object["lossRatio"] = number(LikeColumn::LossRatio);
-    object["lossAt"] = like.Loss ? Json{{"ambient", NumberOf(static_cast<float>(like.Loss->At.AmbientC))},
-                                        {"frequency", NumberOf(KilohertzOf(*like.Loss))}}
+    object["lossAt"] = like.Loss ? Json{{"ambient", JsonNumber(like.Loss->At.AmbientC)},
+                                        {"frequency", JsonNumber(KilohertzOf(*like.Loss))}}
                                  : Json();
     object["area"] = number(LikeColumn::Area);
     return object;
@@ -192,7 +186,7 @@ Json ObjectOf(const LikePart& like, const LikeQuestion& question, const CurveSet
 std::string JsonOf(const LikeParts& found, const LikeQuestion& question, const CurveSettings& settings)
 {
     const auto range = [](const ConditionRange& ends) {
-        return Json{{"low", NumberOf(ends.Low)}, {"high", NumberOf(ends.High)}};
+        return Json{{"low", JsonNumber(ends.Low)}, {"high", JsonNumber(ends.High)}};
     };
     const auto list = [&](const std::vector<LikePart>& parts)
     {

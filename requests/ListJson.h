@@ -1,10 +1,13 @@
 #pragma once
 
-/// Lists in JSON.
+/// Lists in JSON, and the numbers in them.
 
 #include <nlohmann/json_fwd.hpp>
 
 #include <string>
+
+/// The number as a single, in its shortest text.
+nlohmann::ordered_json JsonNumber(double value);
 
 /// An object a line within the brackets of the list. UTF-8; what is not is replaced.
 class JsonList

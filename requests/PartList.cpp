@@ -81,8 +81,8 @@ static ListRow RowOf(const PartRecord& part, CodeView code, const CurveSettings&
     return row;
 }
 
-static std::string Json(const std::vector<const PartRecord*>& parts, CodeView code,
-                        const CurveSettings& settings)
+static std::string JsonOf(const std::vector<const PartRecord*>& parts, CodeView code,
+                          const CurveSettings& settings)
 {
     JsonList list;
     for (const PartRecord* part : parts)
@@ -139,7 +139,7 @@ std::span<const PartListFormat> PartListFormats()
     static constexpr std::array<PartListFormat, 3> formats = {{
         {{"table", "if left out"}, Table},
         {{"csv", ""}, Csv},
-        {{"json", ""}, Json},
+        {{"json", ""}, JsonOf},
     }};
     return formats;
 }
