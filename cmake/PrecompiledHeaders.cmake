@@ -50,5 +50,6 @@ add_layer_headers(core HEADERS ${standard_headers})
 add_layer_headers(form LIBRARIES Qt6::Widgets HEADERS ${standard_headers}
   <QApplication> <QComboBox> <QDialog> <QFile> <QGroupBox> <QLabel> <QLineEdit> <QMainWindow> <QMdiArea>
   <QMdiSubWindow> <QMenuBar> <QMessageBox> <QPainter> <QPushButton> <QRadioButton> <QSettings> <QTimer>)
-add_layer_headers(command LIBRARIES Qt6::Core CLI11::CLI11 nlohmann_json::nlohmann_json
+set(command_options $<$<CONFIG:Release>:-O1>)
+add_layer_headers(command LIBRARIES Qt6::Core CLI11::CLI11 nlohmann_json::nlohmann_json OPTIONS ${command_options}
   HEADERS ${standard_headers} <CLI/CLI.hpp> <nlohmann/json.hpp>)
