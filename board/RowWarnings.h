@@ -2,7 +2,7 @@
 
 /// What makes a row of a board a warning though all its limits are held.
 
-#include "board/BomVerdict.h"
+#include "board/JudgedItem.h"
 
 #include <string>
 #include <vector>
