@@ -187,7 +187,7 @@ private:
         {
             if (!TakesReference(row.Line, false))
             {
-                return;
+                break;
             }
             CheckOnce(reference, row.Line);
             Place(reference, CellsFor(reference, cells), first, index);
