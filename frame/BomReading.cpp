@@ -6,6 +6,7 @@
 #include "partdata/RunTimeError.h"
 
 #include <algorithm>
+#include <iterator>
 #include <new>
 #include <stdexcept>
 #include <utility>
@@ -14,7 +15,7 @@ namespace
 {
 std::string NameOf(const std::string& file)
 {
-    return WithoutControls(std::filesystem::path(file).filename().string());
+    return std::filesystem::path(file).filename().string();
 }
 
 class Reader
@@ -60,7 +61,7 @@ private:
         }
         catch (const RunTimeError& error)
         {
-            board.Faults.push_back(NameOf(file) + ": " + error.Description());
+            board.Faults.push_back(WithoutControls(NameOf(file)) + ": " + error.Description());
             return {};
         }
     }
@@ -86,12 +87,10 @@ private:
     std::vector<std::string> LinesOf(const std::vector<BomRemark>& remarks) const
     {
         std::vector<std::string> lines;
-        for (const auto& [note, isOfConditions, isOfOptions] : remarks)
-        {
-            const auto line = note.Line > 0 ? ": line " + std::to_string(note.Line) : "";
-            const auto place = NameOf(isOfConditions ? files.Conditions : files.Bill) + line + ": ";
-            lines.push_back((isOfOptions ? "" : place) + WithoutControls(note.Text));
-        }
+        const BomNames names = {.Bill = NameOf(files.Bill), .Conditions = NameOf(files.Conditions)};
+        std::ranges::transform(remarks, std::back_inserter(lines),
+                               [&](const BomRemark& remark)
+                               { return WithoutControls(RemarkText(remark, names)); });
         return lines;
     }
 

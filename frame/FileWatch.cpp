@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <utility>
 
 /// Editors take a few steps to save a file.
@@ -14,7 +15,6 @@ FileWatch::FileWatch(QObject* parent)
     rest.setSingleShot(true);
     rest.setInterval(RestMilliSeconds);
     const auto begin = qOverload<>(&QTimer::start);
-    connect(&watcher, &QFileSystemWatcher::fileChanged, this, [this] { hasChanged = true; });
     connect(&watcher, &QFileSystemWatcher::fileChanged, &rest, begin);
     connect(&watcher, &QFileSystemWatcher::directoryChanged, &rest, begin);
     connect(&rest, &QTimer::timeout, this, &FileWatch::LookAgain);
@@ -31,7 +31,7 @@ static QString FolderOf(const QFileInfo& file)
     return folder.absolutePath();
 }
 
-/// A file that was replaced is no longer watched by itself, so all paths are given anew.
+/// The name of a file may belong to another one by now, which only a path that is given anew leads to.
 void FileWatch::AddPaths()
 {
     QStringList paths;
@@ -41,16 +41,14 @@ void FileWatch::AddPaths()
         paths << FolderOf(info);
         if (info.exists())
         {
-            paths << info.absoluteFilePath();
+            paths << info.absoluteFilePath() << QFileInfo(info.canonicalFilePath()).absolutePath();
         }
     }
     paths.removeDuplicates();
-    for (const QString& former : watcher.files() + watcher.directories())
+    const QStringList former = watcher.files() + watcher.directories();
+    if (!former.isEmpty())
     {
-        if (paths.removeAll(former) == 0)
-        {
-            watcher.removePath(former);
-        }
+        watcher.removePaths(former);
     }
     if (!paths.isEmpty())
     {
@@ -77,7 +75,7 @@ void FileWatch::Watch(std::vector<WatchedFile> readFiles)
 void FileWatch::LookAgain()
 {
     AddPaths();
-    if (std::exchange(hasChanged, false) || !std::ranges::all_of(files, IsAsRead))
+    if (!std::ranges::all_of(files, IsAsRead))
     {
         Q_EMIT Changed();
     }

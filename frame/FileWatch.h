@@ -45,6 +45,4 @@ private:
     QFileSystemWatcher watcher;
     QTimer rest;
     std::vector<WatchedFile> files;
-    /// A file has told a change, however small.
-    bool hasChanged = false;
 };

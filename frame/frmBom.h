@@ -79,6 +79,7 @@ private:
     // The answer.
     void Read();
     bool ReadDefaults(BomCells& cells);
+    void BeginReading(const BomAsked& asked);
     void TakeBoard(const ReadBoard& read);
     void ShowRows();
     void ShowFaults(const QString& text);

@@ -6,7 +6,6 @@
 #include "frame/BomRows.h"
 #include "frame/frmBom.h"
 #include "partdata/OneLine.h"
-#include "requests/RequestError.h"
 #include "ui_frmBom.h"
 
 #include <QHeaderView>
@@ -18,32 +17,39 @@ static constexpr std::size_t MostLinesShown = 1000;
 
 // ---- Reading ----
 
+/// Why an entry that holds for all parts is refused; empty for one that is not.
+static QString RefusalOf(BomField field, const std::string& typed)
+{
+    BomItem item;
+    item.Cells[static_cast<std::size_t>(field)] = BomCell{.Text = typed};
+    std::vector<BomRemark> faults;
+    const WaveformSource noWaveforms;
+    BomLoads noLoads(noWaveforms);
+    QuestionOf(item, GetCodeView(), noLoads, faults);
+    return faults.empty() ? QString() : QString::fromStdString(faults.front().Note.Text);
+}
+
 /// The defaults as they are typed; false for one that is refused, which is then told.
 bool frmBom::ReadDefaults(BomCells& cells)
 {
     for (const auto& [field, box] : DefaultBoxes())
     {
         auto typed = box->text().trimmed().toStdString();
-        if (typed.empty())
-        {
-            continue;
-        }
         if (CommaIsDecimal())
         {
             std::ranges::replace(typed, ',', '.');
         }
-        try
+        const auto refusal = typed.empty() ? QString() : RefusalOf(field, typed);
+        if (!refusal.isEmpty())
         {
-            CheckCell(field, typed);
-        }
-        catch (const RequestError& error)
-        {
-            const auto message = QString::fromStdString(OneLine(error.Message()));
-            MarkRefused(box, message);
-            ShowFaults(message);
+            MarkRefused(box, refusal);
+            ShowFaults(refusal.left(1).toUpper() + refusal.mid(1));
             return false;
         }
-        cells[static_cast<std::size_t>(field)] = BomCell{.Text = typed};
+        if (!typed.empty())
+        {
+            cells[static_cast<std::size_t>(field)] = BomCell{.Text = typed};
+        }
     }
     return true;
 }
@@ -55,27 +61,39 @@ void frmBom::Read()
              .Conditions = ui->txtBomConditions->text().trimmed().toStdString()};
     BomAsked asked{.Columns = chosenColumns[files.Bill],
                    .Settings = {.View = GetCodeView(),
-                                .NumberingOffset = static_cast<std::size_t>(GetNumberingOffset()),
-                                .IsSuggesting = true},
+                                .NumberingOffset = static_cast<std::size_t>(GetNumberingOffset())},
                    .Waveforms = {}};
+    work.Stop();
     if (files.Bill.empty())
     {
-        work.Stop();
         ShowFaults(QStringLiteral("Open the bill of materials that a schematic program exported."));
-        return;
     }
-    if (!ReadDefaults(asked.Options))
+    else if (ReadDefaults(asked.Options))
     {
-        work.Stop();
-        return;
+        BeginReading(asked);
     }
+}
+
+/// Verdicts come first. Looking for parts that would pass takes longer, and follows where parts fail.
+void frmBom::BeginReading(const BomAsked& asked)
+{
     work.Begin(
         [this, asked, from = files](const SideWork::Pause& pause) -> SideWork::Answer
         {
             auto question = asked;
             question.Pause = pause;
             const auto read = std::make_shared<const ReadBoard>(ReadBoardOf(from, question, mdlPublic.Parts));
-            return [this, read] { TakeBoard(*read); };
+            return [this, asked, read]
+            {
+                TakeBoard(*read);
+                if (read->Faults.empty() && shown->Judged.Has(BomVerdict::Fail) &&
+                    !asked.Settings.IsSuggesting)
+                {
+                    auto further = asked;
+                    further.Settings.IsSuggesting = true;
+                    BeginReading(further);
+                }
+            };
         });
 }
 
@@ -200,13 +218,30 @@ static bool IsMissed(const CheckedBom& bom, BomField field)
     return !isFound && (field == BomField::DCBias ? hasHeading && IsWithoutBias(bom) : !hasHeading);
 }
 
+static QString NameOf(BomField field)
+{
+    switch (field)
+    {
+    case BomField::Part:
+        return QStringLiteral("Part");
+    case BomField::Reference:
+        return QStringLiteral("Reference");
+    default:
+        return QStringLiteral("Bias");
+    }
+}
+
 void frmBom::ShowColumnLines(const CheckedBom* bom)
 {
     const auto& chosen = chosenColumns[files.Bill];
     for (const auto& [field, label, list] : ColumnLines())
     {
         const auto own = std::ranges::find(chosen, field, &ChosenColumn::Field);
-        const bool isShown = own != chosen.end() || (bom != nullptr && IsMissed(*bom, field));
+        const bool isChosen = own != chosen.end();
+        label->setText(
+            QStringLiteral("%1%2").arg(NameOf(field), isChosen ? QStringLiteral(" in column")
+                                                               : QStringLiteral(": none; choose a column")));
+        const bool isShown = isChosen || (bom != nullptr && IsMissed(*bom, field));
         label->setVisible(isShown);
         list->setVisible(isShown);
         list->clear();
@@ -216,8 +251,8 @@ void frmBom::ShowColumnLines(const CheckedBom* bom)
             list->addItem(QString::fromStdString(WithoutControls(bom->Bill.Headings[i])),
                           QString::fromStdString(bom->Bill.Headings[i]));
         }
-        list->setCurrentIndex(
-            own == chosen.end() ? 0 : std::max(0, list->findData(QString::fromStdString(own->Heading))));
+        list->setCurrentIndex(!isChosen ? 0
+                                        : std::max(0, list->findData(QString::fromStdString(own->Heading))));
     }
     ui->fraBomColumns->setVisible(
         std::ranges::any_of(ColumnLines(), [](const ColumnLine& line) { return !line.List->isHidden(); }));

@@ -90,6 +90,7 @@ const JudgedItem* frmBom::ChosenItem() const
 void frmBom::ShowPicture()
 {
     ui->picBom->SetItem(shown, ChosenItem());
+    ui->cmdBomPlot->setEnabled(ui->cmdBomReport->isEnabled() && !ChosenParts().empty());
 }
 
 static std::int16_t IndexOf(const PartRecord& part)

@@ -101,7 +101,10 @@ struct BomDesk : Desk
     {
         QApplication::setActiveWindow(window);
         Table()->setFocus();
-        Table()->selectRow(RowOf(references));
+        // Whatever keys are held down.
+        Table()->selectionModel()->setCurrentIndex(Table()->model()->index(RowOf(references), 0),
+                                                   QItemSelectionModel::ClearAndSelect |
+                                                       QItemSelectionModel::Rows);
     }
     QString Chosen() const
     {
@@ -123,7 +126,7 @@ struct BomDesk : Desk
         QFile::remove(File(name));
         QVERIFY(QFile::rename(File(name + "~"), File(name)));
     }
-    QByteArray Text(const QString& name) const
+    QByteArray Bytes(const QString& name) const
     {
         QFile file(File(name));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
