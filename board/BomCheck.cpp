@@ -1,5 +1,6 @@
 #include "board/BomCheck.h"
 
+#include <algorithm>
 #include <utility>
 
 /// Reads one of the tables, with what is told of it.
@@ -56,8 +57,11 @@ std::unique_ptr<const CheckedBom> CheckBom(BomTexts texts, const BomAsked& asked
     }
     if (checked->Faults.empty())
     {
-        checked->Judged = JudgeBom(checked->Joined, parts, asked.Settings, asked.Waveforms);
+        checked->Judged = JudgeBom(checked->Joined, parts, asked.Settings, asked.Waveforms, asked.Pause);
         checked->Faults = checked->Judged.Faults;
+        // What many parts share, such as an option, is told once.
+        const auto again = std::ranges::unique(checked->Faults);
+        checked->Faults.erase(again.begin(), again.end());
         for (const auto& note : checked->Judged.Notes)
         {
             checked->Warnings.push_back({.Note = {.Text = note}, .IsOfOptions = true});

@@ -34,7 +34,7 @@ struct BomAsked
     BomCells Options = {};
     BomSettings Settings = {};
     WaveformSource Waveforms;
-    /// Called between the steps; ends the check by an exception.
+    /// Called now and then; ends the check by an exception.
     std::function<void()> Pause = [] {};
 };
 

@@ -34,6 +34,8 @@ struct BomRemark
     bool IsOfConditions = false;
     /// About an option, or the whole board, rather than a file.
     bool IsOfOptions = false;
+
+    bool operator==(const BomRemark&) const = default;
 };
 
 struct JoinedBom

@@ -27,6 +27,8 @@ struct BomNote
 {
     std::size_t Line = 0;
     std::string Text;
+
+    bool operator==(const BomNote&) const = default;
 };
 
 /// A value as it stands in a file.

@@ -26,12 +26,13 @@ class BomJudge
 {
 public:
     BomJudge(const JoinedBom& joinedBom, const PartTable& partTable, const BomSettings& bomSettings,
-             const WaveformSource& source)
+             const WaveformSource& source, const std::function<void()>& betweenItems)
         : joined(joinedBom)
         , parts(partTable)
         , settings(bomSettings)
         , loads(source)
         , meant(joinedBom.Bill, partTable, bomSettings)
+        , pause(betweenItems)
     {
     }
 
@@ -40,12 +41,17 @@ public:
         bom.Items.reserve(joined.Items.size());
         for (const BomItem& item : joined.Items)
         {
+            pause();
             Take(item);
         }
         if (bom.Faults.empty())
         {
             JudgeNets();
-            std::ranges::for_each(bom.Items, [this](JudgedItem& item) { JudgeItem(item); });
+            for (JudgedItem& item : bom.Items)
+            {
+                pause();
+                JudgeItem(item);
+            }
             Note();
             Order();
         }
@@ -299,6 +305,7 @@ private:
     const BomSettings& settings;
     BomLoads loads;
     BomParts meant;
+    const std::function<void()>& pause;
     JudgedBom bom;
 };
 } // namespace
@@ -321,7 +328,7 @@ bool JudgedBom::Has(BomVerdict verdict) const
 }
 
 JudgedBom JudgeBom(const JoinedBom& joined, const PartTable& parts, const BomSettings& settings,
-                   const WaveformSource& waveforms)
+                   const WaveformSource& waveforms, const std::function<void()>& pause)
 {
-    return BomJudge(joined, parts, settings, waveforms).Judge();
+    return BomJudge(joined, parts, settings, waveforms, pause).Judge();
 }

@@ -6,6 +6,7 @@
 #include "board/JudgedItem.h"
 
 #include <array>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -46,6 +47,8 @@ struct JudgedBom
     bool Has(BomVerdict verdict) const;
 };
 
-/// Judges a bill that is joined without faults; it and the parts must outlive the answer.
-JudgedBom JudgeBom(const JoinedBom& joined, const PartTable& parts, const BomSettings& settings,
-                   const WaveformSource& waveforms);
+/// Judges a bill that is joined without faults; it and the parts must outlive the answer. What `pause` throws
+/// between two items ends it.
+JudgedBom JudgeBom(
+    const JoinedBom& joined, const PartTable& parts, const BomSettings& settings,
+    const WaveformSource& waveforms, const std::function<void()>& pause = [] {});

@@ -89,6 +89,31 @@ TEST(BomCheck, EndsAtTheFirstStepWithFaults)
     EXPECT_EQ(judged->Faults[0].Note.Line, 2U);
 }
 
+TEST(BomCheck, TellsWhatManyPartsShareOnce)
+{
+    BomAsked asked{.Waveforms = NoWaveform};
+    asked.Options[static_cast<std::size_t>(BomField::MaxBias)] = BomCell{.Text = "150%"};
+    const auto checked = Check(Bill + "C2,KTS31NB51C226MA01\n", {}, asked);
+    EXPECT_THAT(Told(checked->Faults), ElementsAre("bill 0: max bias: not above 0, up to 100 %"));
+}
+
+TEST(BomCheck, IsLeftBetweenTwoParts)
+{
+    struct Unwanted
+    {
+    };
+    int count = 0;
+    const BomAsked asked{.Waveforms = NoWaveform,
+                         .Pause = [&]
+                         {
+                             if (++count == 4)
+                             {
+                                 throw Unwanted();
+                             }
+                         }};
+    EXPECT_THROW(Check(Bill + "C2,KTS31NB51C226MA01\n", "reference,dc bias\nC1,12V\n", asked), Unwanted);
+}
+
 TEST(BomCheck, IsLeftWhenItIsNoLongerWanted)
 {
     struct Unwanted
