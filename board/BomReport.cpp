@@ -26,7 +26,7 @@ h2 { font-size: 16px; }
 table { border-collapse: collapse; width: 100%; }
 thead { display: table-header-group; }
 tr { break-inside: avoid; }
-th, td { border-bottom: 1px solid #bbb; padding: 3px 8px; text-align: left; vertical-align: top; max-width: 16em; overflow-wrap: break-word; }
+th, td { border-bottom: 1px solid #bbb; padding: 3px 6px; text-align: left; vertical-align: top; max-width: 16em; overflow-wrap: break-word; }
 th, .verdict, .number { overflow-wrap: normal; white-space: nowrap; }
 .number { text-align: right; }
 .part { min-width: 12em; }
