@@ -3,26 +3,6 @@
 #include "partdata/Windows1252.h"
 
 #include <algorithm>
-#include <numeric>
-#include <utility>
-
-/// Letters to change, add or drop from one name to another.
-static std::size_t StepsTo(const std::string& name, std::string_view other)
-{
-    std::vector<std::size_t> row(other.size() + 1);
-    std::iota(row.begin(), row.end(), std::size_t{0});
-    for (std::size_t i = 0; i < name.size(); ++i)
-    {
-        std::size_t diagonal = std::exchange(row[0], i + 1);
-        for (std::size_t j = 0; j < other.size(); ++j)
-        {
-            const auto changed = diagonal + (name[i] == other[j] ? 0 : 1);
-            diagonal = row[j + 1];
-            row[j + 1] = std::min({changed, row[j] + 1, row[j + 1] + 1});
-        }
-    }
-    return row.back();
-}
 
 BomParts::BomParts(const BomTable* billTable, const PartTable& partTable, const BomSettings& bomSettings)
     : bill(billTable)
@@ -76,27 +56,22 @@ const PartRecord* BomParts::ValuedPart(const BomItem& item) const
     return PartOfValues(values, parts, settings.View);
 }
 
-std::vector<std::string> BomParts::NearOf(const std::string& name) const
+const std::vector<std::string>& BomParts::NearOf(const std::string& name)
 {
-    constexpr std::size_t most = 3;
-    constexpr std::size_t mostSteps = 2;
-    constexpr std::size_t prefix = 3;
-    const auto form = static_cast<std::size_t>(settings.View) + settings.NumberingOffset;
-    std::vector<std::pair<std::size_t, std::string>> near;
-    for (const PartRecord& part : parts.PartData)
+    if (!near)
     {
-        const auto number = Utf8FromWindows1252(part.PartNum[form]);
-        const auto longer = std::max(number.size(), name.size()) - std::min(number.size(), name.size());
-        const bool isLike = longer <= mostSteps && number.starts_with(name.substr(0, prefix));
-        const auto steps = isLike ? StepsTo(name, number) : mostSteps + 1;
-        if (steps <= mostSteps)
-        {
-            near.emplace_back(steps, number);
-        }
+        near.emplace(NumbersShown());
     }
-    std::ranges::stable_sort(near, {}, &std::pair<std::size_t, std::string>::first);
-    near.resize(std::min(near.size(), most));
-    std::vector<std::string> names;
-    std::ranges::transform(near, std::back_inserter(names), &std::pair<std::size_t, std::string>::second);
-    return names;
+    return near->Of(name);
+}
+
+std::vector<std::string> BomParts::NumbersShown() const
+{
+    const auto form = static_cast<std::size_t>(settings.View) + settings.NumberingOffset;
+    std::vector<std::string> numbers;
+    numbers.reserve(parts.PartData.size());
+    std::ranges::transform(parts.PartData, std::back_inserter(numbers),
+                           [form](const PartRecord& part)
+                           { return Utf8FromWindows1252(part.PartNum[form]); });
+    return numbers;
 }

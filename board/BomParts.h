@@ -4,9 +4,11 @@
 
 #include "board/BomConditions.h"
 #include "board/BomSettings.h"
+#include "board/NearNames.h"
 #include "board/PartValues.h"
 #include "partdata/PartTable.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,14 +30,17 @@ public:
 
     MeantPart PartOf(const BomItem& item) const;
     /// At most three part numbers of the same prefix that differ in two letters, the nearest first.
-    std::vector<std::string> NearOf(const std::string& name) const;
+    const std::vector<std::string>& NearOf(const std::string& name);
 
 private:
     const PartRecord* NumberedPart(const BomItem& item) const;
     const PartRecord* ValuedPart(const BomItem& item) const;
+    std::vector<std::string> NumbersShown() const;
 
     const BomTable* bill;
     const PartTable& parts;
     const BomSettings& settings;
     PartWords words;
+    /// Made for the first part that is not in the range.
+    std::optional<NearNames> near;
 };
