@@ -4,7 +4,6 @@
 #include "requests/RequestError.h"
 #include "requests/UnitEntry.h"
 
-#include <array>
 #include <charconv>
 #include <cmath>
 
@@ -31,6 +30,11 @@ static std::optional<Pieces> SplitAt(std::string_view typed, std::string_view si
 static bool IsBlank(std::string_view text)
 {
     return text.find_first_not_of(' ') == std::string_view::npos;
+}
+
+static bool IsRangeIn(const Pieces& pieces)
+{
+    return IsTypedAsRange(pieces.First) || IsTypedAsRange(pieces.Second);
 }
 
 [[noreturn]] static void RefuseRange(std::string_view typed, std::string_view key, std::string_view why)
@@ -69,7 +73,7 @@ static double DistanceOf(const Pieces& pieces, Quantity quantity, std::string_vi
 
 static std::optional<Pieces> SplitAtSpread(std::string_view typed)
 {
-    for (const std::string_view sign : std::array<std::string_view, 2>{"\u00B1", "+-"})
+    for (const auto sign : SpreadSigns)
     {
         if (const auto pieces = SplitAt(typed, sign))
         {
@@ -79,15 +83,10 @@ static std::optional<Pieces> SplitAtSpread(std::string_view typed)
     return std::nullopt;
 }
 
-bool IsTypedAsRange(std::string_view typed)
-{
-    return typed.find("..") != std::string_view::npos || SplitAtSpread(typed);
-}
-
 static TypedEnds SpreadOf(const Pieces& pieces, std::string_view typed, Quantity quantity,
                           std::string_view key)
 {
-    if (IsBlank(pieces.First) || IsBlank(pieces.Second))
+    if (IsBlank(pieces.First) || IsBlank(pieces.Second) || IsRangeIn(pieces))
     {
         RefuseRange(typed, key, "a value stands on either side of the sign");
     }
@@ -102,7 +101,7 @@ std::optional<TypedEnds> RangeTypedAs(std::string_view typed, Quantity quantity,
     {
         return SpreadOf(*spread, typed, quantity, key);
     }
-    const auto ends = SplitAt(typed, "..");
+    const auto ends = SplitAt(typed, EndsSign);
     if (!ends)
     {
         return std::nullopt;
@@ -114,6 +113,10 @@ std::optional<TypedEnds> RangeTypedAs(std::string_view typed, Quantity quantity,
     if (IsBlank(ends->First) || IsBlank(ends->Second))
     {
         RefuseRange(typed, key, "an end is left open");
+    }
+    if (IsRangeIn(*ends))
+    {
+        RefuseRange(typed, key, "a value stands on either side of the sign");
     }
     const auto unit = UnitTypedIn(ends->First).empty() ? UnitTypedIn(ends->Second) : std::string_view();
     TypedEnds range{std::string(ends->First).append(unit), std::string(ends->Second)};

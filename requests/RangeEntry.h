@@ -4,6 +4,7 @@
 
 #include "calc/Box.h"
 #include "calc/Quantities.h"
+#include "requests/RangeSigns.h"
 
 #include <optional>
 #include <string>
@@ -15,9 +16,6 @@ struct TypedEnds
     std::string Low;
     std::string High;
 };
-
-/// True for a text with the sign of a range in it, well formed or not.
-bool IsTypedAsRange(std::string_view typed);
 
 /// The ends of "A..B", where the unit behind B is A's too unless A bears its own, and of "M±P%" and "M±D",
 /// where "+-" stands for the sign as well and a bare D has the unit of M; nothing for any other text.

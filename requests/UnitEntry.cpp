@@ -2,6 +2,7 @@
 
 #include "calc/NumberText.h"
 #include "requests/Names.h"
+#include "requests/RangeSigns.h"
 #include "requests/RequestError.h"
 
 #include <algorithm>
@@ -183,8 +184,29 @@ std::string EntryInUnit(std::string_view typed, Quantity quantity, std::string_v
     return std::string(text.substr(0, mantissa)) + 'E' + std::to_string(shifted);
 }
 
+/// What grows with the range in which it lies is judged at its largest.
+static bool IsWorstAtItsLargest(Quantity quantity)
+{
+    static constexpr std::array<Quantity, 5> quantities = {Quantity::Current, Quantity::RmsVoltage,
+                                                           Quantity::ApparentPower, Quantity::EffectivePower,
+                                                           Quantity::HeatResistance};
+    return std::ranges::find(quantities, quantity) != quantities.end();
+}
+
+static void RefuseRangeOf(Quantity quantity, std::string_view typed, std::string_view key)
+{
+    if (IsTypedAsRange(typed))
+    {
+        const std::string_view what = IsWorstAtItsLargest(quantity) ? "the largest" : "one value";
+        throw RequestError(RequestErrorKind::NotANumber, std::string(key),
+                           '"' + std::string(typed) + "\" is a range, which is not taken here: enter " +
+                               std::string(what));
+    }
+}
+
 float ValueInUnit(std::string_view typed, Quantity quantity, std::string_view key)
 {
+    RefuseRangeOf(quantity, typed, key);
     const auto value = ReadEntry(EntryInUnit(typed, quantity, key));
     if (!value)
     {

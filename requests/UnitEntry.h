@@ -22,8 +22,8 @@ std::string EntryInUnit(std::string_view typed, Quantity quantity, std::string_v
 /// begin with a number.
 std::string_view UnitTypedIn(std::string_view typed);
 
-/// The value as a number. Throws RequestError that bears the key for a unit that does not fit and for a text
-/// that is no number.
+/// The value as a number. Throws RequestError that bears the key for a unit that does not fit, for a range,
+/// and for a text that is no number.
 float ValueInUnit(std::string_view typed, Quantity quantity, std::string_view key = {});
 
 /// The value in the unit that points are kept in: 300,000 Hz of "300" for a frequency. Throws as

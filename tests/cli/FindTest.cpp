@@ -375,7 +375,10 @@ void FindTest::RefusesWithOneLine_data()
         "--dc-bias -1..5V: DC Bias Voltage is invalid! Please enter a Number from 0 to 25[V]");
     row("range with an open end", "--ambient 20..", 2,
         "--ambient \"20..\" is not a range: an end is left open");
-    row("range of a load", "--frequency 100 --current 1..2A", 2, "--current \"1..2A\" is not a number");
+    row("range of a load", "--frequency 100 --current 1..2A", 2,
+        "--current \"1..2A\" is a range, which is not taken here: enter the largest");
+    row("range of a want", "--min-left 50+-10%", 2,
+        "--min-left \"50+-10%\" is a range, which is not taken here: enter one value");
     row("power in a range", "--frequency 100..200 --parameter effective-power=1", 2,
         "--parameter effective-power takes no ranges of conditions: leave one out");
     row("tolerance", "--tolerance 100", 1,

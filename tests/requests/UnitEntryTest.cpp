@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <string>
 
 namespace
 {
@@ -104,6 +105,29 @@ TEST(Quantities, LeaveWhatIsNoNumberToTheRules)
         EXPECT_EQ(EntryInUnit(typed, Quantity::DCVoltage), typed);
         EXPECT_THROW(ValueInUnit(typed, Quantity::DCVoltage), RequestError) << typed;
     }
+}
+
+TEST(Quantities, TellWhatToEnterForARange)
+{
+    const auto refusal = [](const char* typed, Quantity quantity)
+    {
+        try
+        {
+            ValueInUnit(typed, quantity, "parameter");
+        }
+        catch (const RequestError& error)
+        {
+            return error.Key() + ' ' + error.Message();
+        }
+        return std::string("taken");
+    };
+    const std::string load = " is a range, which is not taken here: enter the largest";
+    EXPECT_EQ(refusal("1..2A", Quantity::Current), "parameter \"1..2A\"" + load);
+    EXPECT_EQ(refusal("1A..2A", Quantity::Current), "parameter \"1A..2A\"" + load);
+    EXPECT_EQ(refusal("2V\u00B110%", Quantity::RmsVoltage), "parameter \"2V\u00B110%\"" + load);
+    EXPECT_EQ(refusal("40+-5", Quantity::HeatResistance), "parameter \"40+-5\"" + load);
+    EXPECT_EQ(refusal("5..10", Quantity::TemperatureRise),
+              "parameter \"5..10\" is a range, which is not taken here: enter one value");
 }
 
 TEST(Quantities, KeepTheDigitsAsTyped)
