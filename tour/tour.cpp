@@ -13,18 +13,22 @@
 #include "frame/ProgramIcon.h"
 #include "frame/frmMain.h"
 #include "partdata/RunTimeError.h"
+#include "tour/Board.h"
 #include "tour/CallOuts.h"
+#include "tour/Entries.h"
 #include "tour/PictureText.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTabWidget>
 #include <QTableView>
 #include <QTest>
 #include <QTimer>
@@ -52,28 +56,10 @@ constexpr QSize ViewSize(900, 600);
 /// The window that finds parts, with room for what a load does.
 constexpr QSize FindSize(1150, 560);
 
+/// The window for waveforms, low enough for a printed page beside its text.
+constexpr QSize WaveformSize(820, 620);
 /// The window that checks boards, with room for its reasons.
 constexpr QSize BoardSize(1150, 560);
-
-/// A board of a few parts, whose numbers stand as "%1" to "%4".
-constexpr const char* BoardBill = "Reference,Qty,MPN\n\"C1,C2\",2,%1\nC3-C6,4,%2\nC9,1,%3\nC10,1,%4\n"
-                                  "R1,1,RX0402-10K\n";
-constexpr std::array<const char*, 4> BoardParts = {"KTS32XB51E106MA01", "KTS31NR71A226KA01",
-                                                   "KTS21JB51C106MA01", "KTS188R71H104KA01"};
-constexpr const char* BoardRails =
-    "# ambient: -10..65C\n# tolerance: 10%\nnet,reference,dc bias,net converter,min capacitance\n"
-    "+12V,\"C1,C2\",10.8..13.2V,buck vin=12 vout=3.3 iout=5 f=500kHz l=2.2uH side=input,\n"
-    "+3V3,C3-C6,3.3V±3%,,\n+5V,C9,4.75..5.25V,,6uF\n";
-
-/// "Which 10 µF part runs less than 20 °C hot at 12 V and 1.5 Arms of 300 kHz?"
-constexpr std::array<std::pair<const char*, const char*>, 6> FindEntries = {{
-    {"txtFindCap", "10"},
-    {"txtFindDCBiasVol", "12"},
-    {"txtFindAmbientTemp", "25"},
-    {"txtFindFrequency", "300"},
-    {"txtFindCurrent", "1.5"},
-    {"txtFindMaxRise", "20"},
-}};
 
 /// A user at the main window: finds controls by name and works them with keys and clicks.
 class User
@@ -176,13 +162,10 @@ public:
         {
             if (find->objectName() == u"frmFind")
             {
-                for (const auto& [box, entry] : FindEntries)
-                {
-                    find->findChild<QLineEdit*>(QString::fromLatin1(box))
-                        ->setText(QString::fromLatin1(entry));
-                }
+                EnterAll(*find, FindEntries);
                 find->resize(FindSize);
                 Save(PictureForHelp(*find, find->size()), *find, name);
+                SaveWaveform(*find, "waveform");
                 find->close();
                 return;
             }
@@ -218,6 +201,18 @@ public:
     bool AllSaved() const { return allSaved; }
 
 private:
+    /// The window before the search that makes a sine of a converter's current.
+    void SaveWaveform(const QWidget& find, const char* name)
+    {
+        find.findChild<QPushButton*>(QStringLiteral("cmdFindWaveform"))->click();
+        auto* waveform = find.findChild<QDialog*>(QStringLiteral("frmWaveform"));
+        waveform->findChild<QTabWidget*>(QStringLiteral("tabWaveform"))->setCurrentIndex(1);
+        EnterAll(*waveform, ConverterEntries);
+        waveform->resize(WaveformSize);
+        Save(PictureForHelp(*waveform, waveform->size()), *waveform, name);
+        waveform->close();
+    }
+
     template <class Control> Control* Find(const QString& name) const
     {
         auto* control = window.findChild<Control*>(name);
