@@ -160,6 +160,15 @@ std::string Cell(const char* attributes, const std::string& text)
     return "<td " + std::string(attributes) + ">" + text + "</td>";
 }
 
+/// Indents a formula alike on the screen and on paper, where the margin of a paragraph counts dots of the
+/// printer.
+std::string FormulaTable(const std::string& rows)
+{
+    return "<table border=\"0\" cellspacing=\"0\" cellpadding=\"1\" style=\"margin-left:24px; "
+           "margin-top:8px\">" +
+           rows + "</table>";
+}
+
 } // namespace
 
 std::string FormulaHtml(const std::string& formula)
@@ -184,12 +193,10 @@ std::string FormulaHtml(const std::string& formula)
     }
     if (lower.empty())
     {
-        return "<p style=\"margin-left:24px\">" + text + "</p>";
+        return FormulaTable("<tr><td>" + text + "</td></tr>");
     }
     upper += Cell("rowspan=\"2\" valign=\"middle\"", "&nbsp;" + text.substr(at));
-    return "<table border=\"0\" cellspacing=\"0\" cellpadding=\"1\" style=\"margin-left:24px; "
-           "margin-top:8px\"><tr>" +
-           upper + "</tr><tr>" + lower + "</tr></table>";
+    return FormulaTable("<tr>" + upper + "</tr><tr>" + lower + "</tr>");
 }
 
 std::vector<IndexWord> ReadIndexWords(const std::string& text)
