@@ -153,6 +153,10 @@ QVariant BomNetRows::data(const QModelIndex& index, int role) const
 
 QVariant BomNetRows::headerData(int section, Qt::Orientation orientation, int role) const
 {
+    if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole)
+    {
+        return HeadingAlignment(section == Reason);
+    }
     return orientation == Qt::Horizontal && role == Qt::DisplayRole
                ? QString::fromUtf8(headings.at(static_cast<std::size_t>(section)))
                : QVariant();

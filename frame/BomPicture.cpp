@@ -10,6 +10,9 @@
 
 namespace
 {
+/// What is left of the ink of a chart that does not hold any more.
+constexpr double paleOpacity = 0.35;
+
 QPointF Position(const Point& at)
 {
     return {at.X, at.Y};
@@ -74,6 +77,7 @@ void BomPicture::paintEvent(QPaintEvent* /*event*/)
     {
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setFont(ChartFont());
+        painter.setOpacity(isEnabled() ? 1 : paleOpacity);
         DrawShapes(*chart, painter);
         DrawLabels(*chart, painter);
     }

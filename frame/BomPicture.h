@@ -8,7 +8,7 @@
 
 #include <memory>
 
-/// As large as there is room; white on every desktop, as charts are.
+/// As large as there is room; white on every desktop, as charts are. Pale while it is disabled.
 class BomPicture : public QWidget
 {
     Q_OBJECT

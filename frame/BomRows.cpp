@@ -238,6 +238,10 @@ QVariant BomRows::data(const QModelIndex& index, int role) const
 
 QVariant BomRows::headerData(int section, Qt::Orientation orientation, int role) const
 {
+    if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole)
+    {
+        return HeadingAlignment(section == columnCount() - 1);
+    }
     return orientation == Qt::Horizontal && role == Qt::DisplayRole
                ? WithDegreeSign(headings.at(static_cast<std::size_t>(section)).Shown)
                : QVariant();

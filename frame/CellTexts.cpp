@@ -10,6 +10,11 @@ QString WithDegreeSign(const char* text)
     return QString::fromUtf8(text).replace(QStringLiteral("%1"), FromAnsi(mdlPublic.DegreeSign));
 }
 
+QVariant HeadingAlignment(bool isOfSentences)
+{
+    return QVariant(Qt::AlignVCenter | (isOfSentences ? Qt::AlignLeft : Qt::AlignHCenter));
+}
+
 QString CapacitanceText(float picofarads)
 {
     constexpr int unitLength = 2;

@@ -5,11 +5,15 @@
 #include "calc/Quantities.h"
 
 #include <QString>
+#include <QVariant>
 
 #include <array>
 
 /// A heading with the degree sign of the system where "%1" stands.
 QString WithDegreeSign(const char* text);
+
+/// How a heading stands: that of sentences where they begin, for their column may be wider than its table.
+QVariant HeadingAlignment(bool isOfSentences);
 
 /// A capacitance in pF in four digits: "10.46 µF".
 QString CapacitanceText(float picofarads);

@@ -141,6 +141,7 @@ void frmBom::ShowRows()
 {
     rows->SetAnswer(shown, shownSettings);
     nets->SetAnswer(shown);
+    ui->picBom->setEnabled(true);
     FitColumns(*ui->tblBom);
     FitColumns(*ui->tblBomNets);
     OfferCommands(true);
@@ -153,6 +154,7 @@ void frmBom::ShowFaults(const QString& text)
 {
     rows->SetStale(true);
     nets->SetStale(true);
+    ui->picBom->setEnabled(false);
     OfferCommands(false);
     ShowText(text);
 }
@@ -209,13 +211,14 @@ static bool IsWithoutBias(const CheckedBom& bom)
            std::ranges::none_of(items, [](const JudgedItem& item) { return item.Question.HasBias; });
 }
 
-/// A meaning that no column has, while it is missed.
+/// A meaning that no column has, while it is missed and there are columns to choose from.
 static bool IsMissed(const CheckedBom& bom, BomField field)
 {
-    const bool isFound = bom.Bill.Columns[static_cast<std::size_t>(field)].has_value();
+    const bool isOffered =
+        !bom.Bill.Headings.empty() && !bom.Bill.Columns[static_cast<std::size_t>(field)].has_value();
     const bool hasHeading =
         !std::ranges::any_of(bom.Bill.Faults, [](const BomNote& fault) { return fault.Line == 0; });
-    return !isFound && (field == BomField::DCBias ? hasHeading && IsWithoutBias(bom) : !hasHeading);
+    return isOffered && (field == BomField::DCBias ? hasHeading && IsWithoutBias(bom) : !hasHeading);
 }
 
 static QString NameOf(BomField field)

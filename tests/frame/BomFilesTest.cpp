@@ -40,6 +40,21 @@ static QColor Ink(const BomDesk& desk, int row)
     return desk.Table()->model()->index(row, 1).data(Qt::ForegroundRole).value<QBrush>().color();
 }
 
+/// How dark the darkest place of the chart is: 255 for white.
+static int DarkestOfChart(const BomDesk& desk)
+{
+    const QImage chart = desk.Control<QWidget>("picBom")->grab().toImage();
+    int darkest = 255;
+    for (int y = 0; y < chart.height(); ++y)
+    {
+        for (int x = 0; x < chart.width(); ++x)
+        {
+            darkest = std::min(darkest, qGray(chart.pixel(x, y)));
+        }
+    }
+    return darkest;
+}
+
 static bool IsGreyed(const BomDesk& desk)
 {
     return Ink(desk, 0) == desk.window->palette().color(QPalette::Disabled, QPalette::Text) &&
@@ -79,10 +94,12 @@ void BomFilesTest::KeepsTheVerdictsWhileAFileIsGone()
     QVERIFY2(desk.Tells("rails.csv: File not found"), qPrintable(desk.Line()));
     QCOMPARE(desk.Rows(), 12);
     QVERIFY(IsGreyed(desk));
+    QVERIFY2(DarkestOfChart(desk) > 128, qPrintable(QString::number(DarkestOfChart(desk))));
     Grab(desk, "gone");
     desk.Write("rails.csv", rails);
     QVERIFY2(desk.Tells("4 fail, 2 unknown, 0 warn, 6 ok"), qPrintable(desk.Line()));
     QVERIFY(!IsGreyed(desk));
+    QVERIFY2(DarkestOfChart(desk) < 64, qPrintable(QString::number(DarkestOfChart(desk))));
     QVERIFY(desk.Control<QPushButton>("cmdBomReport")->isEnabled());
 }
 

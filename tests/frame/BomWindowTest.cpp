@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPointer>
+#include <QScrollArea>
 
 class BomWindowTest : public QObject
 {
@@ -21,6 +22,9 @@ private Q_SLOTS:
     void StandsBesideTheMainWindow();
     void OpensByKey();
     void ShowsTheSampleBoard();
+    void HeadingsStandWhereTheirColumnsBegin();
+    void ChartTypeIsReadInFullWhereThereIsRoom();
+    void EmptyBillOffersNoColumns();
     void DefaultsHoldForAllPartsWithoutTheirOwn();
     void ColumnIsChosenWhereNoHeadingTellsIt();
     void RowOpensTheSearchUnderItsConditions();
@@ -34,6 +38,7 @@ private Q_SLOTS:
     void ForeignTextsStayTexts();
     void KeysLeadThroughTheWindow();
     void FitsTheLeastSize();
+    void ColumnsAreChosenInTheLeastSize();
     void ControlsHaveNames();
 };
 
@@ -90,6 +95,42 @@ void BomWindowTest::ShowsTheSampleBoard()
     QCOMPARE(desk.Cell("tblBomNets", 0, "Verdict"), QString("warn"));
     QCOMPARE(desk.Cell("tblBomNets", 0, "Least"), QString("10.87 µF"));
     QCOMPARE(desk.Cell("tblBomNets", 0, "At"), QString("13.2 V, -10 °C"));
+}
+
+/// The reasons are longer than the lists are wide.
+void BomWindowTest::HeadingsStandWhereTheirColumnsBegin()
+{
+    const BomDesk desk;
+    desk.OpenSample();
+    for (const char* table : {"tblBom", "tblBomNets"})
+    {
+        const auto* model = desk.Control<QTableView>(table)->model();
+        const auto alignment = [&](const char* heading) {
+            return model->headerData(desk.Column(table, heading), Qt::Horizontal, Qt::TextAlignmentRole)
+                .toInt();
+        };
+        QCOMPARE(alignment("Reasons"), static_cast<int>(Qt::AlignVCenter | Qt::AlignLeft));
+        QCOMPARE(alignment("Least"), static_cast<int>(Qt::AlignVCenter | Qt::AlignHCenter));
+    }
+}
+
+void BomWindowTest::ChartTypeIsReadInFullWhereThereIsRoom()
+{
+    const BomDesk desk;
+    const auto* list = desk.Control<QComboBox>("cmbBomChartType");
+    Settle();
+    QVERIFY2(list->width() > list->fontMetrics().horizontalAdvance(list->currentText()),
+             qPrintable(QString::number(list->width())));
+}
+
+void BomWindowTest::EmptyBillOffersNoColumns()
+{
+    const BomDesk desk;
+    desk.Write("board.csv", "");
+    desk.Key("txtBomFile", desk.File("board.csv"));
+    QVERIFY2(desk.Tells("board.csv: there is no heading"), qPrintable(desk.Line()));
+    QVERIFY(!desk.Control<QComboBox>("cmbBomColumnPart")->isVisible());
+    QVERIFY(!desk.Control<QComboBox>("cmbBomColumnReference")->isVisible());
 }
 
 void BomWindowTest::DefaultsHoldForAllPartsWithoutTheirOwn()
@@ -292,6 +333,26 @@ void BomWindowTest::FitsTheLeastSize()
         const QRect place(control->mapTo(desk.window, QPoint()), control->size());
         QVERIFY2(desk.window->rect().contains(place), name);
         QVERIFY2(control->height() >= desk.window->fontMetrics().height(), name);
+    }
+    // What is told is read beside the chart type.
+    QVERIFY(desk.Control<QWidget>("scrBom")->width() >= 200);
+}
+
+void BomWindowTest::ColumnsAreChosenInTheLeastSize()
+{
+    const BomDesk desk;
+    desk.Write("board.csv", "Where,What\nC1,KTS21JB51C106MA01\n");
+    desk.Key("txtBomFile", desk.File("board.csv"));
+    QVERIFY2(desk.Tells("board.csv: there is no heading"), qPrintable(desk.Line()));
+    desk.window->resize(600, 400);
+    Settle();
+    Grab(desk, "smallcolumns");
+    const QRect seen = desk.Control<QScrollArea>("scrBomEntries")->viewport()->rect();
+    for (const char* name : {"cmbBomColumnPart", "cmbBomColumnReference", "cmdBomOpen", "txtBomMaxRise"})
+    {
+        const auto* control = desk.Control<QWidget>(name);
+        const QPoint place = control->mapTo(desk.Control<QScrollArea>("scrBomEntries")->viewport(), QPoint());
+        QVERIFY2(control->isVisible() && place.x() + control->width() <= seen.width(), name);
     }
 }
 
