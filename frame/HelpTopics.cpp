@@ -34,6 +34,7 @@ constexpr std::array Topics = {
     Topic{"frmPicture", "windows-view"},
     Topic{"frmSetAxis", "windows-range"},
     Topic{"frmFind", "find-window"},
+    Topic{"frmWaveform", "find-waveform"},
     Topic{"frmBom", "board-window"},
     Topic{"frmPrinting", "windows-print"},
     Topic{"frmAbout", "news"},

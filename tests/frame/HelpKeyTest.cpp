@@ -320,8 +320,8 @@ void HelpKeyTest::BooksHaveEveryPage()
     {
         anchors << HelpTopicOf(*control);
     }
-    for (const char* window :
-         {"frmGraph", "frmChartView", "frmPicture", "frmSetAxis", "frmFind", "frmPrinting", "frmAbout"})
+    for (const char* window : {"frmGraph", "frmChartView", "frmPicture", "frmSetAxis", "frmFind",
+                               "frmWaveform", "frmBom", "frmPrinting", "frmAbout"})
     {
         QWidget control;
         control.setObjectName(window);
