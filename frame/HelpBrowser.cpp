@@ -13,6 +13,8 @@
 
 static constexpr int SmallestZoom = -4;
 static constexpr int LargestZoom = 16;
+/// Pixels to the left of lists at the first size; the numbers of their items stand there.
+static constexpr qreal ListIndent = 40;
 /// More places than a reader looks through; marking them all would only cost time.
 static constexpr int MostMarks = 1000;
 /// The columns of a table are rounded to whole pixels each, and together wider than the page by that.
@@ -206,7 +208,12 @@ void HelpBrowser::ZoomBy(int steps)
     zoomSteps = std::clamp(zoomSteps + steps, SmallestZoom, LargestZoom);
     auto zoomed = font();
     zoomed.setPointSizeF(firstPointSize + zoomSteps);
-    KeepPlace([&] { setFont(zoomed); });
+    KeepPlace(
+        [&]
+        {
+            setFont(zoomed);
+            document()->setIndentWidth(ListIndent * zoomed.pointSizeF() / firstPointSize);
+        });
 }
 
 void HelpBrowser::ResetZoom()

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void PicturesAreShownPixelForPixelOrSmooth();
     void PicturesTakeTheirPlace();
     void PicturesGrowWithTheText();
+    void NumbersOfListsHaveRoomAtEverySize();
     void PicturesAreAsLargeOnPaper();
     void PagesKeepTogetherWhatBelongsTogether_data();
     void PagesKeepTogetherWhatBelongsTogether();
@@ -181,6 +182,19 @@ void HelpPagesTest::PicturesGrowWithTheText()
     page->setLineWrapColumnOrWidth(600);
     page->ZoomBy(-13);
     QVERIFY(page->document()->size().height() >= 50);
+}
+
+void HelpPagesTest::NumbersOfListsHaveRoomAtEverySize()
+{
+    const QTemporaryDir folder;
+    const frmHelp* viewer = Open(BookOfSquares(folder));
+    auto* const page = viewer->findChild<HelpBrowser*>();
+    for (const int steps : {0, 10, 6, -20})
+    {
+        page->ZoomBy(steps);
+        const qreal needed = QFontMetricsF(page->font()).horizontalAdvance(QStringLiteral("24. "));
+        QVERIFY2(page->document()->indentWidth() >= needed, qPrintable(QString::number(needed)));
+    }
 }
 
 void HelpPagesTest::PicturesAreAsLargeOnPaper()
