@@ -22,8 +22,7 @@ class BookFigures : public testing::TestWithParam<const char*>
 {
 protected:
     BookFigures()
-        : table(
-              ReadPartPair(std::string(PART_FILES) + "/halvex.idx", std::string(PART_FILES) + "/halvex.dat"))
+        : table(ReadPartPair(PART_FILES "/halvex.idx", PART_FILES "/halvex.dat"))
     {
         std::ifstream file(std::string(BOOKS) + "/" + GetParam(), std::ios::binary);
         std::ostringstream text;

@@ -26,8 +26,7 @@ class FindAnswers : public testing::TestWithParam<const char*>
 {
 protected:
     FindAnswers()
-        : table(
-              ReadPartPair(std::string(PART_FILES) + "/halvex.idx", std::string(PART_FILES) + "/halvex.dat"))
+        : table(ReadPartPair(PART_FILES "/halvex.idx", PART_FILES "/halvex.dat"))
     {
         std::ifstream file(GetParam(), std::ios::binary);
         const std::string text{std::istreambuf_iterator<char>(file), {}};

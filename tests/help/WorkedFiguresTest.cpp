@@ -33,8 +33,7 @@ class WorkedFigures : public testing::TestWithParam<const char*>
 protected:
     WorkedFigures()
         : book(BookText(GetParam()))
-        , table(
-              ReadPartPair(std::string(PART_FILES) + "/halvex.idx", std::string(PART_FILES) + "/halvex.dat"))
+        , table(ReadPartPair(PART_FILES "/halvex.idx", PART_FILES "/halvex.dat"))
     {
     }
 
