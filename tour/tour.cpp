@@ -377,7 +377,8 @@ int main(int argc, char* argv[])
     {
         mdlPublic.Parts = LoadPartData(QApplication::applicationDirPath().toStdString());
         mdlPublic.DegreeSign = "\xB0";
-        const QDir folder(QString::fromLocal8Bit(argv[1]));
+        // Whole, since the tour works in this folder for a while.
+        const QDir folder(QDir(QString::fromLocal8Bit(argv[1])).absolutePath());
         bool allSaved = true;
         for (const HelpLanguageRow& language : HelpLanguages)
         {
